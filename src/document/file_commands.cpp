@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "document/file_commands.h"
+
+#include "document/file_filters.h"
+#include "document/win32_doc.h"
+#include "platform/file_chooser.h"
+#include "platform/user_prompt.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+CFileCommands::CFileCommands(
+    CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser)
+    : m_document(document), m_texts(texts), m_prompt(prompt), m_chooser(chooser)
+{
+}
+
+bool CFileCommands::MayDiscard()
+{
+    if (!m_document.IsModified()) {
+        return true;
+    }
+    const QString name =
+        m_document.Path().isEmpty() ? m_texts.Get(Text::Unnamed) : QFileInfo(m_document.Path()).fileName();
+    switch (m_prompt.Ask(m_texts.Prompt(Text::SaveChanges, {name}), PromptIcon::Warning,
+        PromptButtons::YesNoCancel, PromptAnswer::Yes)) {
+    case PromptAnswer::Yes:
+        return Save();
+    case PromptAnswer::No:
+        return true;
+    case PromptAnswer::Cancel:
+        return false;
+    }
+    return false;
+}
+
+bool CFileCommands::New()
+{
+    if (!MayDiscard()) {
+        return false;
+    }
+    m_document.OnNewDocument();
+    return true;
+}
+
+bool CFileCommands::Open()
+{
+    if (!MayDiscard()) {
+        return false;
+    }
+    const QString path = m_chooser.ChooseFileToOpen({.title = m_texts.Get(Text::OpenTitle),
+        .filters = FileFilters(m_texts.Get(Text::OpenFilters)),
+        .start = StartFolder()});
+    if (path.isEmpty()) {
+        return false;
+    }
+    m_lastFolder = QFileInfo(path).path();
+    return m_document.OpenDocument(path);
+}
+
+bool CFileCommands::OpenFile(const QString &path)
+{
+    return MayDiscard() && m_document.OpenDocument(path);
+}
+
+bool CFileCommands::Save()
+{
+    return m_document.Path().isEmpty() ? SaveAs() : m_document.OnSaveDocument(m_document.Path());
+}
+
+bool CFileCommands::SaveAs()
+{
+    const QString name = m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls")
+                                                     : QFileInfo(m_document.Path()).fileName();
+    const QString path = m_chooser.ChooseFileToSave({.title = m_texts.Get(Text::SaveAsTitle),
+        .filters = FileFilters(m_texts.Get(Text::OpenFilters)).mid(0, 1),
+        .start = QDir(StartFolder()).filePath(name),
+        .defaultSuffix = QStringLiteral("gls")});
+    if (path.isEmpty()) {
+        return false;
+    }
+    m_lastFolder = QFileInfo(path).path();
+    return m_document.OnSaveDocument(path);
+}
+
+QString CFileCommands::StartFolder() const
+{
+    if (!m_document.Path().isEmpty()) {
+        return QFileInfo(m_document.Path()).absolutePath();
+    }
+    return m_lastFolder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                  : m_lastFolder;
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class CTexts;
+class CWin32Doc;
+class IFileChooser;
+class IUserPrompt;
+
+/// The commands New, Open, Save and Save as, with the question before unsaved changes would be lost. Each
+/// returns false when it was cancelled or failed; nothing is lost then.
+class CFileCommands
+{
+public:
+    /// Nothing is owned.
+    CFileCommands(CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser);
+
+    bool New();
+    /// Asks for a file and opens it.
+    bool Open();
+    /// Opens a file that is known already.
+    bool OpenFile(const QString &path);
+    /// Saves to the list's own file, and asks for a name where it has none.
+    bool Save();
+    bool SaveAs();
+    /// Asks what to do with unsaved changes. True when the list may be given up.
+    bool MayDiscard();
+
+private:
+    QString StartFolder() const;
+
+    CWin32Doc &m_document;
+    const CTexts &m_texts;
+    IUserPrompt &m_prompt;
+    IFileChooser &m_chooser;
+    QString m_lastFolder;
+};

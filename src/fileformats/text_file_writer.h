@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "fileformats/text_encoding.h"
+
+#include <QByteArray>
+#include <QSaveFile>
+#include <QString>
+
+/// Writes a text file with CR LF line ends. The file at `path` is replaced as a whole when Close() succeeds and
+/// left alone otherwise; a symbolic link stays and its target is replaced. Only where the folder allows no new
+/// file is the old one overwritten in place.
+class CTextFileWriter
+{
+public:
+    CTextFileWriter() = default;
+    CTextFileWriter(const CTextFileWriter &) = delete;
+    CTextFileWriter &operator=(const CTextFileWriter &) = delete;
+
+    /// Begins a file with the byte-order mark of its encoding. Returns false when it can't be created.
+    [[nodiscard]] bool Open(const QString &path, TextEncoding encoding);
+    /// Writes to an open device, which the caller keeps.
+    void Open(QIODevice &device, TextEncoding encoding);
+
+    /// Text that the code page lacks sets the lossy mark in an ANSI file.
+    void Write(QStringView text);
+    void WriteChar(QChar character) { Write(QStringView(&character, 1)); }
+    void NewLine() { Write(u"\r\n"); }
+    bool Lossy() const { return m_lossy; }
+
+    /// Writes out what is buffered and puts the file in place. Returns false when anything failed since Open().
+    [[nodiscard]] bool Close();
+
+private:
+    void Flush();
+
+    static constexpr qsizetype BufferSize = 1024;
+
+    QSaveFile m_file;
+    QIODevice *m_device = nullptr;
+    TextEncoding m_encoding = TextEncoding::Ansi;
+    QByteArray m_buffer;
+    bool m_failed = false;
+    bool m_lossy = false;
+};

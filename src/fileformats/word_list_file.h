@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <atomic>
+
+class CWordList;
+class QIODevice;
+
+/// What became of reading a file.
+enum class ReadResult {
+    CannotOpen = 0, ///< Not opened, or a foreign file without a vocabulary.
+    Read = 1,
+    /// Read; a header line held characters that the code page lacks.
+    ReadLossy = 2,
+    /// A newer version, read by the layout of version 2.3.
+    NewerVersion = 3,
+    /// Not a word-list file: read as plain text, one term a line.
+    PlainText = 4,
+};
+
+/// Clears to false, from any thread, to stop a reading between two records.
+using KeepGoing = std::atomic<bool>;
+
+/// Replaces the content of `list` by that of a glossary file of any version, of a foreign vocabulary file or of
+/// plain text; `keepGoing` may be null. Neither counts nor lengths in the file are trusted.
+[[nodiscard]] ReadResult ReadWordListFile(
+    CWordList &list, const QString &path, const KeepGoing *keepGoing = nullptr);
+/// The same from an open, random-access device.
+[[nodiscard]] ReadResult ReadWordList(CWordList &list, QIODevice &device, const KeepGoing *keepGoing = nullptr);
+
+struct WriteOptions
+{
+    /// Write the oldest of the written versions, which has no notes, no question templates and one flag.
+    bool forceOldFormat = false;
+    /// Write UTF-16 even where the code page holds every text.
+    bool forceUnicode = false;
+};
+
+/// Writes the smallest version that holds the list, in the code page when it holds every text and in UTF-16
+/// little endian otherwise, and sets the list's saved mark. Returns false when anything failed; the file and
+/// the mark are then what they were.
+[[nodiscard]] bool WriteWordListFile(CWordList &list, const QString &path, const WriteOptions &options = {});
+/// The same to an open device.
+[[nodiscard]] bool WriteWordList(CWordList &list, QIODevice &device, const WriteOptions &options = {});

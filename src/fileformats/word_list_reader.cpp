@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "fileformats/foreign_reader.h"
+#include "fileformats/glossary_reader.h"
+#include "fileformats/glossary_version.h"
+#include "fileformats/text_file_reader.h"
+#include "fileformats/word_list_file.h"
+#include "model/word_list.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The first line decides who reads the rest.
+ReadResult Dispatch(CWordList &list, CTextFileReader &reader, const KeepGoing *keepGoing)
+{
+    QString header;
+    reader.ReadLine(header);
+    const auto *const version = std::ranges::find(Glossary::Versions, header, &GlossaryVersion::header);
+    if (version != Glossary::Versions.end()) {
+        ReadGlossaryBody(list, reader, *version, keepGoing);
+        return reader.Lossy() ? ReadResult::ReadLossy : ReadResult::Read;
+    }
+    if (header.startsWith(Glossary::ProgramName)) {
+        ReadGlossaryBody(list, reader, Glossary::Version23, keepGoing);
+        return ReadResult::NewerVersion;
+    }
+    if (header == ForeignHeader) {
+        return ReadForeignVocabulary(list, reader, keepGoing);
+    }
+    ReadPlainText(list, reader, keepGoing);
+    return ReadResult::PlainText;
+}
+
+}
+
+ReadResult ReadWordListFile(CWordList &list, const QString &path, const KeepGoing *keepGoing)
+{
+    list.Reset();
+    CTextFileReader reader;
+    return reader.Open(path) ? Dispatch(list, reader, keepGoing) : ReadResult::CannotOpen;
+}
+
+ReadResult ReadWordList(CWordList &list, QIODevice &device, const KeepGoing *keepGoing)
+{
+    list.Reset();
+    CTextFileReader reader;
+    reader.Open(device);
+    return Dispatch(list, reader, keepGoing);
+}

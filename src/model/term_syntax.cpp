@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "model/term_syntax.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QChar Separator = u'*';
+constexpr QChar CommentOpener = u'[';
+constexpr QChar CommentCloser = u']';
+
+bool IsControl(QChar unit)
+{
+    return unit < u' ' || unit == u'\x7F';
+}
+
+/// True when CleanSpaces() would leave the text as it is; most texts are, and are not copied then.
+bool IsClean(QStringView text)
+{
+    bool afterSpace = true; // A space at the start counts as a second one.
+    for (const QChar unit : text) {
+        const bool space = unit == u' ';
+        if (IsControl(unit) || (space && afterSpace)) {
+            return false;
+        }
+        afterSpace = space;
+    }
+    return text.isEmpty() || !afterSpace;
+}
+
+}
+
+void CleanSpaces(QString &text)
+{
+    if (IsClean(text)) {
+        return;
+    }
+    QString clean;
+    clean.reserve(text.size());
+    for (const QChar unit : std::as_const(text)) {
+        const QChar cleaned = IsControl(unit) ? QChar(u' ') : unit;
+        if (cleaned != u' ' || (!clean.isEmpty() && clean.back() != u' ')) {
+            clean.append(cleaned);
+        }
+    }
+    if (clean.endsWith(u' ')) {
+        clean.chop(1);
+    }
+    text = clean;
+}
+
+void RemoveEmptyComments(QString &text)
+{
+    if (!text.contains(CommentOpener)) {
+        return;
+    }
+    // The part of the text already scanned, reversed: its end is what follows the character at hand.
+    QString following;
+    following.reserve(text.size());
+    for (qsizetype i = text.size() - 1; i >= 0; --i) {
+        const QChar unit = text.at(i);
+        if (unit == CommentOpener) {
+            qsizetype closer = following.size() - 1;
+            while (closer >= 0 && following.at(closer) == u' ') {
+                --closer;
+            }
+            if (closer >= 0 && following.at(closer) == CommentCloser) {
+                following.truncate(closer);
+                continue;
+            }
+        }
+        following.append(unit);
+    }
+    std::reverse(following.begin(), following.end());
+    text = following;
+}
+
+bool NextToken(QString &source, QString &token, QChar separator)
+{
+    const qsizetype found = source.indexOf(separator);
+    if (found < 0) {
+        token = source;
+        source.clear();
+        return false;
+    }
+    token = source.left(found);
+    source.remove(0, found + 1);
+    return true;
+}
+
+QStringList SplitAlternatives(const QString &text)
+{
+    QStringList alternatives;
+    for (const QStringView piece : QStringView(text).split(Separator)) {
+        QString alternative = piece.toString();
+        RemoveEmptyComments(alternative);
+        CleanSpaces(alternative);
+        if (!alternative.isEmpty()) {
+            alternatives.append(alternative);
+        }
+    }
+    return alternatives;
+}
+
+bool IsSimpleTerm(QStringView text)
+{
+    return !text.contains(Separator) && !text.contains(CommentOpener) && IsClean(text);
+}
+
+QString NormalizeTerm(const QString &text)
+{
+    return IsSimpleTerm(text) ? text : SplitAlternatives(text).join(AlternativeJoint);
+}
+
+QString StripComments(const QString &text)
+{
+    // As in RemoveEmptyComments(), the text is scanned from its end and what follows is kept reversed.
+    QString following;
+    following.reserve(text.size());
+    qsizetype i = text.size() - 1;
+    for (; i >= 0; --i) {
+        const QChar unit = text.at(i);
+        if (unit == CommentOpener) {
+            const qsizetype closer = following.lastIndexOf(CommentCloser);
+            if (closer < 0) {
+                break;
+            }
+            following.truncate(closer);
+            continue;
+        }
+        following.append(unit);
+    }
+    std::reverse(following.begin(), following.end());
+    return NormalizeTerm(text.left(i + 1) + following);
+}
+
+std::optional<QString> SuggestTermCorrection(const QString &text)
+{
+    QString corrected = text;
+    int depth = 0;
+    for (QChar &unit : corrected) {
+        if (unit == u'(') {
+            unit = CommentOpener;
+        } else if (unit == u')') {
+            unit = CommentCloser;
+        }
+        if (unit == u',' && depth == 0) {
+            unit = Separator; // Depth is 0 already, so this separator has nothing to reset.
+        } else if (unit == CommentOpener) {
+            ++depth;
+        } else if (unit == CommentCloser) {
+            depth = std::max(depth - 1, 0);
+        } else if (unit == Separator) {
+            depth = 0;
+        }
+    }
+    if (corrected == text) {
+        return std::nullopt;
+    }
+    return NormalizeTerm(corrected);
+}

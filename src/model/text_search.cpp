@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "model/text_search.h"
+
+#include "platform/letters.h"
+
+namespace {
+
+/// The code point that begins, or that ends, at a position; lone surrogates are themselves.
+char32_t CharacterAt(QStringView field, qsizetype position)
+{
+    const QChar unit = field.at(position);
+    return unit.isHighSurrogate() && position + 1 < field.size() && field.at(position + 1).isLowSurrogate()
+        ? QChar::surrogateToUcs4(unit, field.at(position + 1))
+        : char32_t(unit.unicode());
+}
+
+char32_t CharacterBefore(QStringView field, qsizetype position)
+{
+    const QChar unit = field.at(position - 1);
+    return unit.isLowSurrogate() && position > 1 && field.at(position - 2).isHighSurrogate()
+        ? QChar::surrogateToUcs4(field.at(position - 2), unit)
+        : char32_t(unit.unicode());
+}
+
+bool BoundaryBefore(QStringView field, qsizetype position)
+{
+    return position == 0 || !IsWordCharacter(CharacterBefore(field, position));
+}
+
+bool BoundaryAfter(QStringView field, qsizetype position)
+{
+    return position == field.size() || !IsWordCharacter(CharacterAt(field, position));
+}
+
+}
+
+CTextMatcher::CTextMatcher(const TextSearch &search)
+    : m_folding(search.matchCase ? nullptr : CaseFolding()), m_wholeWord(search.wholeWord), m_text(search.text)
+{
+    if (search.wildcard && (m_text.contains(u'*') || m_text.contains(u'?'))) {
+        m_segments.emplace_back();
+        for (const QChar unit : std::as_const(m_text)) {
+            if (unit == u'*') {
+                m_segments.emplace_back();
+                continue;
+            }
+            Segment &segment = m_segments.back();
+            segment.text.append(QChar(Fold(unit)));
+            segment.any.push_back(unit == u'?');
+        }
+    }
+    for (QChar &unit : m_text) {
+        unit = QChar(Fold(unit));
+    }
+}
+
+std::optional<CTextMatcher::Range> CTextMatcher::Find(QStringView field) const
+{
+    if (m_text.isEmpty()) {
+        return Range{};
+    }
+    return m_segments.empty() ? FindPlain(field) : FindWildcard(field);
+}
+
+bool CTextMatcher::EqualAt(QStringView field, qsizetype position) const
+{
+    for (qsizetype i = 0; i < m_text.size(); ++i) {
+        if (Fold(field[position + i]) != m_text[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool CTextMatcher::IsPrefixOf(QStringView field) const
+{
+    return field.size() >= m_text.size() && EqualAt(field, 0);
+}
+
+qsizetype CTextMatcher::IndexOf(QStringView field, qsizetype from) const
+{
+    if (m_folding == nullptr) {
+        return field.indexOf(m_text, from);
+    }
+    const char16_t first = m_text[0].unicode();
+    for (qsizetype position = from; position + m_text.size() <= field.size(); ++position) {
+        if (m_folding[field[position].unicode()] == first && EqualAt(field, position)) {
+            return position;
+        }
+    }
+    return -1;
+}
+
+std::optional<CTextMatcher::Range> CTextMatcher::FindPlain(QStringView field) const
+{
+    const qsizetype length = m_text.size();
+    for (qsizetype position = IndexOf(field, 0); position >= 0; position = IndexOf(field, position + 1)) {
+        if (!m_wholeWord || (BoundaryBefore(field, position) && BoundaryAfter(field, position + length))) {
+            return Range{position, length};
+        }
+    }
+    return std::nullopt;
+}
+
+qsizetype CTextMatcher::EndOfSegment(const Segment &segment, QStringView field, qsizetype position) const
+{
+    for (qsizetype i = 0; i < segment.text.size(); ++i) {
+        if (position >= field.size()) {
+            return -1;
+        }
+        if (segment.any[size_t(i)]) {
+            position += QChar::requiresSurrogates(CharacterAt(field, position)) ? 2 : 1;
+        } else if (Fold(field[position]) == segment.text[i]) {
+            ++position;
+        } else {
+            return -1;
+        }
+    }
+    return position;
+}
+
+std::optional<std::pair<qsizetype, qsizetype>> CTextMatcher::FindSegment(
+    const Segment &segment, QStringView field, qsizetype from, bool boundaryBefore, bool boundaryAfter) const
+{
+    for (qsizetype position = from; position <= field.size(); ++position) {
+        const qsizetype end = EndOfSegment(segment, field, position);
+        if (end >= 0 && (!boundaryBefore || BoundaryBefore(field, position))
+            && (!boundaryAfter || BoundaryAfter(field, end))) {
+            return std::pair(position, end);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<CTextMatcher::Range> CTextMatcher::FindWildcard(QStringView field) const
+{
+    // Each segment's first place behind the one before leaves the most room for the others and makes the runs
+    // between them the shortest, so nothing is ever tried twice; only the last one must keep the end boundary.
+    qsizetype start = 0;
+    qsizetype end = 0;
+    for (size_t i = 0; i < m_segments.size(); ++i) {
+        const bool first = i == 0;
+        const bool last = i + 1 == m_segments.size();
+        const auto place = FindSegment(m_segments[i], field, end, first && m_wholeWord, last && m_wholeWord);
+        if (!place) {
+            return std::nullopt;
+        }
+        if (first) {
+            start = place->first;
+        }
+        end = place->second;
+    }
+    return Range{start, end - start};
+}

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include "model/word_entry.h"
+
+#include "model/term_syntax.h"
+#include "platform/collation.h"
+
+#include <utility>
+
+namespace {
+
+const QString &EmptyText()
+{
+    static const QString empty;
+    return empty;
+}
+
+bool IsLanguage(int index)
+{
+    return index >= 0 && index < CWordEntry::LanguageCount;
+}
+
+bool IsField(int field)
+{
+    return field >= 0 && field < CWordEntry::FieldCount;
+}
+
+}
+
+CWordEntry::CWordEntry(QString term1, QString term2, QString note, bool flag1, bool flag2)
+    : m_terms{std::move(term1), std::move(term2)}, m_note(std::move(note)), m_flags{flag1, flag2}
+{
+    ParseTerm(0);
+    ParseTerm(1);
+    CleanSpaces(m_note);
+}
+
+const QString &CWordEntry::GetText(int index) const
+{
+    return IsLanguage(index) ? m_terms[size_t(index)] : EmptyText();
+}
+
+const QString &CWordEntry::GetField(int field) const
+{
+    return field == NoteField ? m_note : GetText(field);
+}
+
+void CWordEntry::SetTerm(const QString &text, int index)
+{
+    if (IsLanguage(index)) {
+        m_terms[size_t(index)] = text;
+        ParseTerm(index);
+    }
+}
+
+void CWordEntry::SetNote(const QString &text)
+{
+    m_note = text;
+    CleanSpaces(m_note);
+}
+
+void CWordEntry::SetField(const QString &text, int field)
+{
+    if (field == NoteField) {
+        SetNote(text);
+    } else {
+        SetTerm(text, field);
+    }
+}
+
+void CWordEntry::ParseTerm(int index)
+{
+    QString &term = m_terms[size_t(index)];
+    QStringList &alternatives = m_alternatives[size_t(index)];
+    alternatives.clear();
+    if (IsSimpleTerm(term)) {
+        return;
+    }
+    alternatives = SplitAlternatives(term);
+    term = alternatives.join(AlternativeJoint);
+    if (alternatives.size() < 2) {
+        alternatives.clear();
+    }
+}
+
+bool CWordEntry::GetFlag(int index) const
+{
+    return IsLanguage(index) && m_flags[size_t(index)];
+}
+
+void CWordEntry::SetFlag(int index, bool value)
+{
+    if (IsLanguage(index)) {
+        m_flags[size_t(index)] = value;
+    }
+}
+
+void CWordEntry::CycleFlags()
+{
+    const int state = ((m_flags[0] ? 1 : 0) + (m_flags[1] ? 2 : 0) + 1) % 4;
+    m_flags = {state % 2 == 1, state >= 2};
+}
+
+int CWordEntry::AlternativeCount(int index) const
+{
+    return IsLanguage(index) && !m_alternatives[size_t(index)].isEmpty()
+        ? int(m_alternatives[size_t(index)].size()) - 1
+        : 0;
+}
+
+QString CWordEntry::GetAlternative(int index, int k, bool stripComments) const
+{
+    if (!IsLanguage(index)) {
+        return {};
+    }
+    const QStringList &alternatives = m_alternatives[size_t(index)];
+    const QString alternative =
+        alternatives.isEmpty() && k == 0 ? m_terms[size_t(index)] : alternatives.value(k);
+    return stripComments ? StripComments(alternative) : alternative;
+}
+
+QString CWordEntry::GetCleanTerm(int index) const
+{
+    return StripComments(GetText(index));
+}
+
+void CWordEntry::AppendAlternative(const QString &text, int index)
+{
+    if (!IsLanguage(index)) {
+        return;
+    }
+    QString &term = m_terms[size_t(index)];
+    QStringList &alternatives = m_alternatives[size_t(index)];
+    if (alternatives.isEmpty() && !term.isEmpty()) {
+        alternatives.append(term);
+    }
+    if (!term.isEmpty()) {
+        term += AlternativeJoint;
+    }
+    term += text;
+    alternatives.append(text);
+}
+
+void CWordEntry::MergeAlternatives(const CWordEntry &other)
+{
+    for (int index = 0; index < LanguageCount; ++index) {
+        for (int k = 0; k <= other.AlternativeCount(index); ++k) {
+            const QString alternative = other.GetAlternative(index, k, false);
+            if (!HasAlternative(alternative, index, false)) {
+                AppendAlternative(alternative, index);
+            }
+        }
+    }
+}
+
+bool CWordEntry::HasAlternative(const QString &text, int index, bool caseInsensitive) const
+{
+    const auto equal = [&](const QString &alternative) {
+        return caseInsensitive ? CSwedishCollator::ForThisThread().Equal(alternative, text)
+                               : alternative == text;
+    };
+    const int last = AlternativeCount(index);
+    if (last == 0 && equal(GetText(index))) {
+        return true;
+    }
+    for (int k = 0; k <= last; ++k) {
+        if (equal(GetAlternative(index, k, false))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool CWordEntry::SharesAlternative(const CWordEntry &other, int index, bool caseInsensitive) const
+{
+    for (int k = 0; k <= other.AlternativeCount(index); ++k) {
+        if (HasAlternative(other.GetAlternative(index, k, false), index, caseInsensitive)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void CWordEntry::SwapFields(bool swapTexts, bool swapFlags, int a, int b)
+{
+    if (!IsField(a) || !IsField(b)) {
+        return;
+    }
+    if (swapTexts) {
+        std::swap(Field(a), Field(b));
+        for (const int field : {a, b}) {
+            if (IsLanguage(field)) {
+                ParseTerm(field);
+            }
+        }
+    }
+    if (swapFlags && IsLanguage(a) && IsLanguage(b)) {
+        std::swap(m_flags[size_t(a)], m_flags[size_t(b)]);
+    }
+}
+
+void CWordEntry::SwapFieldWith(CWordEntry &other, int field)
+{
+    if (!IsField(field)) {
+        return;
+    }
+    std::swap(Field(field), other.Field(field));
+    if (IsLanguage(field)) {
+        std::swap(m_alternatives[size_t(field)], other.m_alternatives[size_t(field)]);
+        std::swap(m_flags[size_t(field)], other.m_flags[size_t(field)]);
+    }
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+
+/// One entry of a word list: a term in each of two languages, a note, and a flag per language ("learnt").
+/// Text fields are numbered: 0 and 1 are the terms, 2 is the note. Flags exist for 0 and 1. An index outside
+/// that range gives an empty text or false, and sets nothing.
+class CWordEntry
+{
+public:
+    static constexpr int LanguageCount = 2;
+    static constexpr int NoteField = 2;
+    static constexpr int FieldCount = 3;
+
+    CWordEntry() = default;
+    explicit CWordEntry(
+        QString term1, QString term2 = {}, QString note = {}, bool flag1 = false, bool flag2 = false);
+
+    /// The term in normal form, comments included.
+    const QString &GetText(int index) const;
+    const QString &GetNote() const { return m_note; }
+    /// A term (0, 1) or the note (2).
+    const QString &GetField(int field) const;
+
+    void SetTerm(const QString &text, int index);
+    void SetNote(const QString &text);
+    /// SetTerm() for fields 0 and 1, SetNote() for 2.
+    void SetField(const QString &text, int field);
+
+    bool GetFlag(int index) const;
+    void SetFlag(int index, bool value);
+    void ToggleFlag(int index) { SetFlag(index, !GetFlag(index)); }
+    /// none, language 1, language 2, both, and none again.
+    void CycleFlags();
+
+    bool HasNote() const { return !m_note.isEmpty(); }
+    /// True when the oldest file format with flags can hold what the entry has beside its terms.
+    bool FitsOldFormat() const { return m_note.isEmpty() && !m_flags[1]; }
+
+    /// The number of alternatives less one, and 0 for a term without any: callers go from 0 to this, inclusive.
+    int AlternativeCount(int index) const;
+    QString GetAlternative(int index, int k, bool stripComments) const;
+    /// The whole term without its comments.
+    QString GetCleanTerm(int index) const;
+
+    /// Adds `text`, as it is, behind the alternatives of the term.
+    void AppendAlternative(const QString &text, int index);
+    /// Appends the alternatives of `other` that this entry does not have, for both languages.
+    void MergeAlternatives(const CWordEntry &other);
+    /// Alternatives are compared with their comments.
+    bool HasAlternative(const QString &text, int index, bool caseInsensitive) const;
+    bool SharesAlternative(const CWordEntry &other, int index, bool caseInsensitive) const;
+
+    /// Exchanges text fields `a` and `b` (0 to 2), and their flags when both have one.
+    void SwapFields(bool swapTexts, bool swapFlags, int a, int b);
+    /// Exchanges a text field, and its flag when it has one, with another entry.
+    void SwapFieldWith(CWordEntry &other, int field);
+
+private:
+    QString &Field(int field) { return field == NoteField ? m_note : m_terms[size_t(field)]; }
+    void ParseTerm(int index);
+
+    std::array<QString, LanguageCount> m_terms;
+    QString m_note;
+    // Left empty when the term has one alternative, which is the term itself: most entries need no list.
+    std::array<QStringList, LanguageCount> m_alternatives;
+    std::array<bool, LanguageCount> m_flags = {};
+};

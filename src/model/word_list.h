@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/text_search.h"
+#include "model/word_entry.h"
+
+#include <QExplicitlySharedDataPointer>
+
+#include <array>
+#include <optional>
+#include <span>
+#include <vector>
+
+class CRandom;
+
+/// How entries are put in order. The factory values of the program's own sort options differ.
+struct SortOptions
+{
+    bool ascending = true;
+    /// Entries flagged in the key language stand together: first when ascending, last otherwise.
+    bool groupFlagged = true;
+    /// By the number of code units of the key field, then alphabetically.
+    bool byLength = false;
+};
+
+struct InsertOptions
+{
+    static constexpr int AtEnd = -1;
+
+    /// Look for a similar entry; when one is found, `sortAfter` has no effect.
+    bool checkSimilar = false;
+    /// The new entry stands before this one; AtEnd, or anything beyond the last, appends.
+    int position = AtEnd;
+    bool sortAfter = false;
+    SortOptions sort = {};
+};
+
+/// The properties that several callers set at once; a text that is missing is left unchanged.
+struct ListProperties
+{
+    std::optional<QString> language1 = {};
+    std::optional<QString> language2 = {};
+    std::optional<QString> author = {};
+    std::optional<QString> comments = {};
+    bool adaptQuestion1 = false;
+    bool adaptQuestion2 = false;
+    std::optional<QString> questionTemplate1 = {};
+    std::optional<QString> questionTemplate2 = {};
+};
+
+/// What MoveEntries() moves when it moves whole entries.
+inline constexpr int WholeEntry = -1;
+
+/// The numbers of SetFlags().
+enum class FlagMode { Clear = 0, Set = 1, Cycle = 2, Toggle = 3 };
+
+/// The content of one document: entries in display order and the list's own properties. Every change clears the
+/// saved mark. Copies share the entries that neither has changed since, so a copy costs a pointer per entry; a
+/// list is used by one thread at a time, copies may be used by different threads. A selection is a sequence of
+/// ascending entry indices. Indices out of range are skipped.
+class CWordList
+{
+public:
+    using Selection = std::span<const int>;
+
+    // Properties; `index` is 0 or 1. A setter clears the saved mark only when the value differs.
+    const QString &GetLanguage(int index) const { return m_language[size_t(index)]; }
+    const QString &GetAuthor() const { return m_author; }
+    const QString &GetComments() const { return m_comments; }
+    /// Whether the question from language `index` is built from its template; never true without one.
+    bool GetAdaptQuestion(int index) const { return m_adaptQuestion[size_t(index)]; }
+    const QString &GetQuestionTemplate(int index) const { return m_questionTemplate[size_t(index)]; }
+    void SetLanguage(int index, const QString &text);
+    void SetAuthor(const QString &text);
+    void SetComments(const QString &text);
+    void SetAdaptQuestion(int index, bool value);
+    /// An empty template switches its adapt mark off.
+    void SetQuestionTemplate(int index, const QString &text);
+    void SetProperties(const ListProperties &properties);
+
+    /// True while the content equals what was last loaded or saved.
+    bool IsSaved() const { return m_saved; }
+    void SetSaved(bool saved) { m_saved = saved; }
+
+    // Contents
+    int Count() const { return int(m_entries.size()); }
+    /// An empty entry for an index out of range.
+    const CWordEntry &Entry(int index) const;
+    /// Deletes the entries, comments and templates and marks the list saved. Language names and author stay.
+    void Reset();
+    void DeleteAll();
+    void Reserve(int count);
+
+    /// Returns the index of a similar entry, as it is after the insertion, or -1. `outIndex`, when given,
+    /// receives the new entry's index after a sort, and the index of the last entry otherwise.
+    int Insert(CWordEntry entry, const InsertOptions &options = {}, int *outIndex = nullptr);
+    /// Both return the index of another, similar entry or -1; it is reported also when nothing changed.
+    int ReplaceEntry(
+        int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar);
+    int SetEntryField(const QString &text, int field, int index, bool checkSimilar);
+    void DeleteEntries(Selection selection);
+    /// CWordEntry::SwapFields() on every selected entry: moves the contents of a column to the left or right.
+    void SwapInEntries(Selection selection, bool swapTexts, bool swapFlags, int a, int b);
+    /// Moves entries, or one text field of them with its flag, one place. An index at the end stays where it
+    /// is.
+    void MoveEntries(Selection selection, bool up, int field = WholeEntry);
+    void SetFlags(int language, Selection selection, FlagMode mode);
+
+    /// Entries flagged in language `which`; 2 counts both, an entry flagged twice counting twice.
+    int CountFlagged(int which) const;
+    bool AnyNote() const;
+
+    /// A similar entry has exactly the same note and, in the language asked for (any other number: in one of
+    /// the two), an alternative in common, case and comments counting.
+    bool FindSimilar(const CWordEntry &candidate, int &outIndex, int excludeIndex, int language) const;
+
+    // Order (word_list_sort.cpp)
+    /// `key` is a text field; a negative one shuffles. Entries equal in all fields come in any order.
+    void Sort(int key, const SortOptions &options, CRandom &random);
+
+    // Text search (word_list_search.cpp)
+    /// The next matching entry after (`downward`) or before `start`, wrapping, `start` itself tried last; a
+    /// start of -1 means from the first or the last entry.
+    TextMatch FindNext(const TextSearch &search, int start, bool downward) const;
+    /// All matching entries, ascending.
+    std::vector<int> FindAll(const TextSearch &search) const;
+    /// The first entry from `start` on, wrapping, with a term that begins with `prefix`, case ignored; `column`
+    /// 0 or 1 looks at that term alone. -1 when there is none.
+    int FindPrefix(const QString &prefix, int column, int start) const;
+
+    // Duplicates (word_list_merge.cpp); see CDuplicateSearch for finding them
+    /// Joins the others into the first selected entry and removes them: alternatives that it does not have,
+    /// notes that its note does not contain, and a flag only where all have it. Returns how many entries
+    /// disappeared.
+    int MergeEntries(Selection selection);
+    /// Merges all entries that share an alternative, in either language, directly or through others. Returns
+    /// how many entries disappeared.
+    int MergeAll();
+
+private:
+    struct SharedEntry : QSharedData
+    {
+        explicit SharedEntry(CWordEntry &&source) : entry(std::move(source)) { }
+        CWordEntry entry;
+    };
+    using EntryPointer = QExplicitlySharedDataPointer<SharedEntry>;
+
+    void Assign(QString &member, const QString &text);
+    bool IsIndex(int index) const { return index >= 0 && index < Count(); }
+    /// The entry for changing: a copy of its own when another list shares it.
+    CWordEntry &Mutable(int index);
+    void SortByKey(int key, const SortOptions &options);
+    void MergeGroup(Selection group);
+
+    std::array<QString, 2> m_language;
+    QString m_author;
+    QString m_comments;
+    std::array<bool, 2> m_adaptQuestion = {};
+    std::array<QString, 2> m_questionTemplate;
+    std::vector<EntryPointer> m_entries;
+    bool m_saved = true;
+};

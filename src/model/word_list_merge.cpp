@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "model/word_list.h"
+
+#include "model/duplicate_search.h"
+#include "model/term_syntax.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+/// Collects notes into one, leaving out what it already contains.
+class CNoteCollector
+{
+public:
+    void Add(const QString &note)
+    {
+        if (note.isEmpty() || Contains(note)) {
+            return;
+        }
+        if (!m_joined.isEmpty()) {
+            m_joined += u"; ";
+        }
+        m_joined += note;
+    }
+    const QString &Joined() const { return m_joined; }
+
+private:
+    static constexpr qsizetype RunLength = 6;
+
+    /// A long collection is looked through only for notes all of whose short runs occur in it, so that joining
+    /// the notes of a hundred thousand entries doesn't scan the collection a hundred thousand times.
+    bool Contains(const QString &note)
+    {
+        if (m_joined.size() < 4096 || note.size() < RunLength) {
+            return m_joined.contains(note);
+        }
+        for (; m_indexed + RunLength <= m_joined.size(); ++m_indexed) {
+            m_runs.insert(qHash(QStringView(m_joined).mid(m_indexed, RunLength)));
+        }
+        for (qsizetype start = 0; start + RunLength <= note.size(); ++start) {
+            if (!m_runs.contains(qHash(QStringView(note).mid(start, RunLength)))) {
+                return false;
+            }
+        }
+        return m_joined.contains(note);
+    }
+
+    QString m_joined;
+    QSet<size_t> m_runs;
+    qsizetype m_indexed = 0;
+};
+
+/// Disjoint groups of entries; the lowest entry of a group is its root.
+class CGroups
+{
+public:
+    explicit CGroups(int count) : m_parent(size_t(count)) { std::iota(m_parent.begin(), m_parent.end(), 0); }
+
+    int Root(int entry)
+    {
+        while (Parent(entry) != entry) {
+            Parent(entry) = Parent(Parent(entry));
+            entry = Parent(entry);
+        }
+        return entry;
+    }
+    void Join(int a, int b)
+    {
+        const auto [low, high] = std::minmax({Root(a), Root(b)});
+        Parent(high) = low;
+    }
+
+private:
+    int &Parent(int entry) { return m_parent[size_t(entry)]; }
+
+    std::vector<int> m_parent;
+};
+
+}
+
+void CWordList::MergeGroup(Selection group)
+{
+    const CWordEntry &first = Entry(group.front());
+    std::array<QStringList, CWordEntry::LanguageCount> alternatives;
+    CNoteCollector notes;
+    std::array<bool, CWordEntry::LanguageCount> flags = {true, true};
+    std::array<QSet<QString>, CWordEntry::LanguageCount> known;
+    for (const int index : group) {
+        const CWordEntry &entry = Entry(index);
+        for (size_t language = 0; language < alternatives.size(); ++language) {
+            for (int k = 0; k <= entry.AlternativeCount(int(language)); ++k) {
+                const QString alternative = entry.GetAlternative(int(language), k, false);
+                // The first entry keeps its alternatives as they are, repeated ones too.
+                const bool isKnown = known[language].contains(alternative);
+                if (!alternative.isEmpty() && (&entry == &first || !isKnown)) {
+                    known[language].insert(alternative);
+                    alternatives[language].append(alternative);
+                }
+            }
+            flags[language] = flags[language] && entry.GetFlag(int(language));
+        }
+        notes.Add(entry.GetNote());
+    }
+    CWordEntry &merged = Mutable(group.front());
+    for (size_t language = 0; language < alternatives.size(); ++language) {
+        merged.SetTerm(alternatives[language].join(AlternativeJoint), int(language));
+        merged.SetFlag(int(language), flags[language]);
+    }
+    merged.SetNote(notes.Joined());
+}
+
+int CWordList::MergeEntries(Selection selection)
+{
+    std::vector<int> group(selection.begin(), selection.end());
+    std::erase_if(group, [this](int index) { return !IsIndex(index); });
+    if (group.size() < 2) {
+        return 0;
+    }
+    MergeGroup(group);
+    DeleteEntries(Selection(group).subspan(1));
+    return int(group.size()) - 1;
+}
+
+int CWordList::MergeAll()
+{
+    CGroups groups(Count());
+    CDuplicateSearch(*this).ForEachShared([&](int a, int b) { groups.Join(a, b); });
+
+    // Members of groups of two and more, each group's together and ascending.
+    std::vector<std::pair<int, int>> members;
+    std::vector<bool> isRoot(m_entries.size(), false);
+    for (int index = 0; index < Count(); ++index) {
+        const int root = groups.Root(index);
+        if (root != index) {
+            members.emplace_back(root, index);
+            isRoot[size_t(root)] = true;
+        }
+    }
+    if (members.empty()) {
+        return 0;
+    }
+    std::vector<int> disappearing;
+    disappearing.reserve(members.size());
+    for (const auto &member : members) {
+        disappearing.push_back(member.second);
+    }
+    for (int index = 0; index < Count(); ++index) {
+        if (isRoot[size_t(index)]) {
+            members.emplace_back(index, index);
+        }
+    }
+    std::ranges::sort(members);
+    std::vector<int> group;
+    for (auto member = members.begin(); member != members.end();) {
+        group.clear();
+        const int root = member->first;
+        for (; member != members.end() && member->first == root; ++member) {
+            group.push_back(member->second);
+        }
+        MergeGroup(group);
+    }
+    DeleteEntries(disappearing);
+    return int(disappearing.size());
+}

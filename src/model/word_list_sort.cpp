@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "model/word_list.h"
+
+#include "platform/collation.h"
+#include "platform/random.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+/// One entry on its way to its place. The rank decides; where it is equal and a key is given, the key does.
+struct SortItem
+{
+    quint64 rank = 0;
+    size_t key = 0; // Offset into the sort keys.
+    int index = 0;
+};
+using SortItems = std::span<SortItem>;
+
+/// The first eight bytes of a sort key as a number that orders like them.
+quint64 Prefix(const char *key)
+{
+    char bytes[sizeof(quint64)] = {};
+    std::strncpy(bytes, key, sizeof bytes);
+    return qFromBigEndian<quint64>(bytes);
+}
+
+/// Calls `visit` for every run of items that `equal` takes for the same.
+template<class Equal, class Visit>
+void ForEachTie(SortItems items, Equal equal, Visit visit)
+{
+    for (auto begin = items.begin(); begin != items.end();) {
+        const auto end =
+            std::find_if(begin + 1, items.end(), [&](const SortItem &item) { return !equal(*begin, item); });
+        if (end - begin > 1) {
+            visit(SortItems(begin, end));
+        }
+        begin = end;
+    }
+}
+
+/// Orders items ascending by texts that `textOf(level, index)` gives: level 0 first, the next where texts tie.
+/// Sort keys are made once for each text that is needed at all.
+template<class TextOf>
+void SortByTexts(SortItems items, const TextOf &textOf, int level, int levels)
+{
+    if (level == levels) {
+        return;
+    }
+    const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+    std::vector<char> keys;
+    keys.reserve(items.size() * 24);
+    for (SortItem &item : items) {
+        item.key = keys.size();
+        collator.AppendSortKey(textOf(level, item.index), keys);
+        item.rank = Prefix(keys.data() + item.key);
+    }
+    const auto compare = [&keys](const SortItem &a, const SortItem &b) {
+        return std::strcmp(keys.data() + a.key, keys.data() + b.key);
+    };
+    std::sort(items.begin(), items.end(), [&](const SortItem &a, const SortItem &b) {
+        return a.rank != b.rank ? a.rank < b.rank : compare(a, b) < 0;
+    });
+    const auto equal = [&](const SortItem &a, const SortItem &b) {
+        return a.rank == b.rank && compare(a, b) == 0;
+    };
+    ForEachTie(items, equal, [&](SortItems tie) { SortByTexts(tie, textOf, level + 1, levels); });
+}
+
+}
+
+void CWordList::Sort(int key, const SortOptions &options, CRandom &random)
+{
+    if (Count() < 2) {
+        return;
+    }
+    if (key < 0) {
+        m_saved = false;
+        Shuffle(m_entries, random);
+    } else {
+        SortByKey(key, options);
+    }
+}
+
+void CWordList::SortByKey(int key, const SortOptions &options)
+{
+    if (Count() < 2) {
+        return;
+    }
+    m_saved = false;
+    const int keyField = std::min(key, CWordEntry::NoteField);
+    const int order[CWordEntry::FieldCount] = {keyField, keyField == 0 ? 1 : 0, keyField == 2 ? 1 : 2};
+    const bool grouped = options.groupFlagged && keyField != CWordEntry::NoteField;
+
+    // Always sorted as for `ascending`; descending is the exact reverse of it.
+    std::vector<SortItem> items(m_entries.size());
+    for (int index = 0; index < Count(); ++index) {
+        const CWordEntry &entry = Entry(index);
+        SortItem &item = items[size_t(index)];
+        item.index = index;
+        item.rank = quint64(grouped && !entry.GetFlag(keyField)) << 32;
+        if (options.byLength) {
+            item.rank |= quint64(entry.GetField(keyField).size());
+        }
+    }
+    const auto textOf = [&](int level, int index) { return QStringView(Entry(index).GetField(order[level])); };
+    const auto sameRank = [](const SortItem &a, const SortItem &b) { return a.rank == b.rank; };
+    if (grouped || options.byLength) {
+        std::ranges::sort(items, {}, &SortItem::rank);
+    }
+    ForEachTie(items, sameRank, [&](SortItems tie) { SortByTexts(tie, textOf, 0, CWordEntry::FieldCount); });
+    if (!options.ascending) {
+        std::ranges::reverse(items);
+    }
+
+    std::vector<EntryPointer> sorted;
+    sorted.reserve(m_entries.size());
+    for (const SortItem &item : items) {
+        sorted.push_back(std::move(m_entries[size_t(item.index)]));
+    }
+    m_entries = std::move(sorted);
+}

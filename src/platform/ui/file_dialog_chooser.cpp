@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ui/file_dialog_chooser.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace {
+
+QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
+{
+    QFileDialog dialog(QApplication::activeWindow(), choice.title);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(fileMode);
+    dialog.setNameFilters(choice.filters);
+    dialog.setDefaultSuffix(choice.defaultSuffix);
+    const QFileInfo start(choice.start);
+    if (start.isDir()) {
+        dialog.setDirectory(choice.start);
+    } else {
+        dialog.setDirectory(start.path());
+        dialog.selectFile(start.fileName());
+    }
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+}
+
+QString CFileDialogChooser::ChooseFileToOpen(const FileChoice &choice)
+{
+    return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
+}
+
+QString CFileDialogChooser::ChooseFileToSave(const FileChoice &choice)
+{
+    return Choose(choice, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+}

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/file_chooser.h"
+
+/// Asks for files in the desktop's own dialogs, over the active window.
+class CFileDialogChooser : public IFileChooser
+{
+public:
+    QString ChooseFileToOpen(const FileChoice &choice) override;
+    QString ChooseFileToSave(const FileChoice &choice) override;
+};

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ui/message_box_prompt.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon BoxIcon(PromptIcon icon)
+{
+    switch (icon) {
+    case PromptIcon::Information:
+        return QMessageBox::Information;
+    case PromptIcon::Question:
+        return QMessageBox::Question;
+    case PromptIcon::Warning:
+        return QMessageBox::Warning;
+    case PromptIcon::Error:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton BoxButton(PromptAnswer answer)
+{
+    switch (answer) {
+    case PromptAnswer::Yes:
+        return QMessageBox::Yes;
+    case PromptAnswer::No:
+        return QMessageBox::No;
+    case PromptAnswer::Cancel:
+        return QMessageBox::Cancel;
+    }
+    return QMessageBox::NoButton;
+}
+
+int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons buttons,
+    QMessageBox::StandardButton defaultButton)
+{
+    QMessageBox box(BoxIcon(icon), QApplication::applicationDisplayName(), text.text, buttons,
+        QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("prompt%1").arg(text.number));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(defaultButton);
+    box.setWindowModality(Qt::WindowModal);
+    return box.exec();
+}
+
+}
+
+void CMessageBoxPrompt::Tell(const PromptText &text, PromptIcon icon)
+{
+    Show(text, icon, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+PromptAnswer CMessageBoxPrompt::Ask(
+    const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer)
+{
+    QMessageBox::StandardButtons boxButtons = QMessageBox::Yes | QMessageBox::No;
+    boxButtons.setFlag(QMessageBox::Cancel, buttons == PromptButtons::YesNoCancel);
+    switch (Show(text, icon, boxButtons, BoxButton(defaultAnswer))) {
+    case QMessageBox::Yes:
+        return PromptAnswer::Yes;
+    case QMessageBox::No:
+        return PromptAnswer::No;
+    default:
+        return buttons == PromptButtons::YesNoCancel ? PromptAnswer::Cancel : PromptAnswer::No;
+    }
+}

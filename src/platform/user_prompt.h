@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// A text to show: its number in the string table, and the text with its placeholders filled.
+struct PromptText
+{
+    int number = 0;
+    QString text;
+};
+
+enum class PromptIcon { Information, Question, Warning, Error };
+enum class PromptButtons { YesNo, YesNoCancel };
+enum class PromptAnswer { Yes, No, Cancel };
+
+/// Tells the user something or asks something, and waits for the answer. Whatever decides is handed one of
+/// these; the one in tests answers by script. Texts are plain text: nothing in them is taken as markup.
+class IUserPrompt
+{
+public:
+    IUserPrompt() = default;
+    virtual ~IUserPrompt() = default;
+    IUserPrompt(const IUserPrompt &) = delete;
+    IUserPrompt &operator=(const IUserPrompt &) = delete;
+
+    virtual void Tell(const PromptText &text, PromptIcon icon) = 0;
+    /// Closing the question without an answer is Cancel, or No where there is no such button.
+    virtual PromptAnswer Ask(
+        const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer) = 0;
+
+    /// For questions on which any answer but Yes leaves everything as it is: true for Yes alone.
+    bool Confirm(const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer)
+    {
+        return Ask(text, icon, buttons, defaultAnswer) == PromptAnswer::Yes;
+    }
+};

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/answer_check.h"
+
+#include "model/term_syntax.h"
+#include "platform/letters.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+#include "settings/quiz_settings.h"
+
+QString normalizeForCheck(const QString &text, const CheckingOptions &options)
+{
+    const QString kept = options.characterCheck == CharacterCheck::AllCharacters
+        ? text
+        : KeepLetters(text, options.characterCheck == CharacterCheck::LettersAndSpaces);
+    return options.ignoreCase ? ToLowerCase(kept) : kept;
+}
+
+bool answersMatch(const QString &typed, const QString &expected, const CheckingOptions &options)
+{
+    if (typed == expected) {
+        return true;
+    }
+    const QString answer = normalizeForCheck(typed, options);
+    const auto matches = [&](const QString &candidate) {
+        return answer == normalizeForCheck(candidate, options);
+    };
+    if (!expected.contains(u'[')) {
+        return matches(expected);
+    }
+    const auto withoutBrackets = [&] {
+        QString text = expected;
+        return text.removeIf([](QChar unit) { return unit == u'[' || unit == u']'; });
+    };
+    return matches(StripComments(expected)) || matches(withoutBrackets()) || matches(expected);
+}
+
+AnswerVerdict checkAnswer(
+    const CWordEntry &entry, int answerColumn, const QString &typed, const CheckingOptions &options)
+{
+    if (typed.isEmpty()) {
+        return AnswerVerdict::Wrong;
+    }
+    if (answersMatch(typed, entry.GetText(answerColumn), options)) {
+        return AnswerVerdict::Right;
+    }
+    const int last = entry.AlternativeCount(answerColumn);
+    for (int k = 0; k <= last; ++k) {
+        if (answersMatch(typed, entry.GetAlternative(answerColumn, k, false), options)) {
+            return last == 0 ? AnswerVerdict::Right : AnswerVerdict::RightOneOfSeveral;
+        }
+    }
+    return AnswerVerdict::Wrong;
+}
+
+QString expandEntryVariables(const QString &questionTemplate, const QuizQuestion &question)
+{
+    const int answerColumn = question.AnswerColumn();
+    QString text = questionTemplate;
+    text.replace(QStringLiteral("%word"), question.entry.GetText(question.questionColumn));
+    text.replace(QStringLiteral("%answer"), question.entry.GetText(answerColumn));
+    text.replace(QStringLiteral("%note"), question.entry.GetNote());
+    text.replace(QStringLiteral("%from"), question.languages[size_t(question.questionColumn)]);
+    text.replace(QStringLiteral("%to"), question.languages[size_t(answerColumn)]);
+    return text;
+}
+
+std::optional<FeedbackText> feedbackText(const CTexts &texts, const QuizSettings &settings,
+    AnswerVerdict verdict, const QuizQuestion &question, const QString &typed)
+{
+    int number = 0;
+    if (verdict == AnswerVerdict::RightOneOfSeveral && settings.showAnswerIfOneCorrect) {
+        number = Text::AllRightAnswers;
+    } else if (verdict == AnswerVerdict::Wrong && settings.showAnswer) {
+        number = typed.isEmpty() ? Text::AnswerAfterSkip : Text::AnswerAfterWrong;
+    } else {
+        return std::nullopt;
+    }
+    QString text = expandEntryVariables(texts.Get(number), question);
+    text.replace(QStringLiteral("%useranswer"), typed);
+    return FeedbackText{number, text};
+}

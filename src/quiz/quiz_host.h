@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+/// How a quiz meets the editor and the main window, which it does not know.
+class IQuizHost
+{
+public:
+    IQuizHost() = default;
+    virtual ~IQuizHost() = default;
+    IQuizHost(const IQuizHost &) = delete;
+    IQuizHost &operator=(const IQuizHost &) = delete;
+
+    /// The entries selected in the view, ascending.
+    virtual std::vector<int> SelectedEntries() const = 0;
+    virtual void SelectEntries(const std::vector<int> &entries) = 0;
+    virtual void ShowMainWindow(bool show) = 0;
+};

@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/quiz_session.h"
+
+#include "document/win32_doc.h"
+#include "platform/random.h"
+#include "settings/quiz_settings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <numeric>
+#include <ranges>
+
+namespace {
+
+// The values of the settings `order`, `wordsToQuiz`, `includeFlaggedWords` and `requiz`.
+enum Order { Backwards = 1, Random = 2 };
+enum Words { FixedNumber = 1, FixedShare = 2, Selected = 3 };
+enum Flagged { Never = 0, Always = 1, Sometimes = 2 };
+enum Requiz { RoundsAfter = 1 };
+
+int RequizLimit(const QuizSettings &settings)
+{
+    if (settings.requiz != RoundsAfter) {
+        return 0;
+    }
+    return settings.requizMax ? settings.requizNumber : -1;
+}
+
+}
+
+CQuizSession::CQuizSession(
+    CWin32Doc &document, const QuizSettings &settings, CRandom &random, std::span<const int> selected)
+    : m_document(document), m_settings(settings), m_random(random),
+      m_questionColumn(settings.showLanguage), m_options{settings.ignoreCase,
+                                                   CharacterCheck(settings.characterCheck)},
+      m_requizLimit(RequizLimit(settings))
+{
+    selectWords(selected, random);
+    m_records.resize(m_candidates.size());
+    startRound();
+}
+
+void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
+{
+    const CWordList &list = m_document.List();
+    if (m_settings.wordsToQuiz == Selected && !selected.empty()) {
+        m_candidates.assign(selected.begin(), selected.end());
+    } else {
+        m_candidates.resize(size_t(list.Count()));
+        std::iota(m_candidates.begin(), m_candidates.end(), 0);
+    }
+
+    const auto flagged = [&](int index) { return list.Entry(index).GetFlag(m_questionColumn); };
+    if (m_settings.includeFlaggedWords != Always && !std::ranges::all_of(m_candidates, flagged)) {
+        const auto kept = [&](int index) {
+            return !flagged(index)
+                || (m_settings.includeFlaggedWords == Sometimes
+                    && m_settings.includeFlaggedProbability
+                        >= random.Next() * 100.0 / double(CRandom::Maximum));
+        };
+        // From the last to the first, which is the order of the draws.
+        std::vector<int> remaining;
+        std::ranges::copy_if(m_candidates | std::views::reverse, std::back_inserter(remaining), kept);
+        std::ranges::reverse(remaining);
+        m_candidates = std::move(remaining);
+    }
+
+    const qint64 available = qint64(m_candidates.size());
+    qint64 wanted = available;
+    if (m_settings.wordsToQuiz == FixedNumber) {
+        wanted = std::clamp<qint64>(m_settings.numberOfWords, 0, available);
+    } else if (m_settings.wordsToQuiz == FixedShare && m_settings.partOfWords >= 0
+        && m_settings.partOfWords <= 100) {
+        wanted = std::min(std::max<qint64>((available * m_settings.partOfWords + 50) / 100, 1), available);
+    }
+    if (wanted < available) {
+        Shuffle(m_candidates, random);
+        m_candidates.resize(size_t(wanted));
+        std::ranges::sort(m_candidates);
+    }
+}
+
+void CQuizSession::shuffleAvoiding(int last)
+{
+    Shuffle(m_roundOrder, m_random);
+    while (m_roundOrder.size() >= 2 && m_roundOrder.front() == last) {
+        std::swap(m_roundOrder.front(), m_roundOrder[size_t(m_random.Next()) % m_roundOrder.size()]);
+    }
+}
+
+bool CQuizSession::startRound()
+{
+    const int last = m_roundOrder.empty() ? -1 : m_roundOrder.back();
+    const bool requiz =
+        m_requizLimit != 0 && !m_wrongList.empty() && (m_requizLimit < 0 || m_requizRound < m_requizLimit);
+    if (requiz) {
+        m_roundOrder = m_wrongList;
+        ++m_requizRound;
+    } else {
+        if (++m_baseRound > m_settings.quizNumber) {
+            return false;
+        }
+        m_roundOrder.resize(m_candidates.size());
+        std::iota(m_roundOrder.begin(), m_roundOrder.end(), 0);
+        if (m_settings.order == Backwards) {
+            std::ranges::reverse(m_roundOrder);
+        }
+        m_requizRound = 0;
+    }
+    if (m_settings.order == Random) {
+        shuffleAvoiding(last);
+    }
+    for (QuizWordRecord &record : m_records) {
+        record.askedThisRound = false;
+    }
+    m_wrongList.clear();
+    return true;
+}
+
+QuizQuestion CQuizSession::questionAt(int position) const
+{
+    const CWordList &list = m_document.List();
+    return {list.Entry(m_candidates[size_t(position)]), m_questionColumn,
+        {list.GetLanguage(0), list.GetLanguage(1)}};
+}
+
+QuizQuestion CQuizSession::questionOfRound(int roundPosition) const
+{
+    return questionAt(m_roundOrder[size_t(roundPosition)]);
+}
+
+QString CQuizSession::questionText(int roundPosition, const QString &defaultTemplate) const
+{
+    const CWordList &list = m_document.List();
+    const QString &own = list.GetQuestionTemplate(m_questionColumn);
+    const bool useOwn = list.GetAdaptQuestion(m_questionColumn) && !own.isEmpty();
+    return expandEntryVariables(useOwn ? own : defaultTemplate, questionOfRound(roundPosition));
+}
+
+AnswerVerdict CQuizSession::judge(int position, const QString &answer) const
+{
+    const CWordEntry &entry = m_document.List().Entry(m_candidates[size_t(position)]);
+    return checkAnswer(entry, 1 - m_questionColumn, answer, m_options);
+}
+
+void CQuizSession::count(int position, AnswerVerdict verdict)
+{
+    if (verdict == AnswerVerdict::Wrong) {
+        ++m_totalWrong;
+    } else {
+        ++m_totalRight;
+        ++m_records[size_t(position)].rightCount;
+    }
+}
+
+AnswerVerdict CQuizSession::recordAnswer(int roundPosition, const QString &text)
+{
+    const int position = m_roundOrder[size_t(roundPosition)];
+    QuizWordRecord &record = m_records[size_t(position)];
+    record.answers.append(text);
+    record.askedThisRound = true;
+    const AnswerVerdict verdict = judge(position, text);
+    count(position, verdict);
+    if (verdict == AnswerVerdict::Wrong && std::ranges::find(m_wrongList, position) == m_wrongList.end()) {
+        m_wrongList.push_back(position);
+    }
+    return verdict;
+}
+
+void CQuizSession::recheckAll()
+{
+    m_totalRight = 0;
+    m_totalWrong = 0;
+    m_wrongList.clear();
+    for (int position = 0; position < wordCount(); ++position) {
+        QuizWordRecord &record = m_records[size_t(position)];
+        record.rightCount = 0;
+        AnswerVerdict verdict = AnswerVerdict::Right;
+        for (const QString &answer : std::as_const(record.answers)) {
+            verdict = judge(position, answer);
+            count(position, verdict);
+        }
+        if (record.askedThisRound && verdict == AnswerVerdict::Wrong) {
+            m_wrongList.push_back(position);
+        }
+    }
+}
+
+double CQuizSession::percentRight(int position) const
+{
+    const QuizWordRecord &word = record(position);
+    return word.answers.isEmpty() ? 0.0 : word.rightCount * 100.0 / double(word.answers.size());
+}
+
+double CQuizSession::totalPercent() const
+{
+    const int total = m_totalRight + m_totalWrong;
+    return total == 0 ? 0.0 : m_totalRight * 100.0 / total;
+}
+
+QStringList CQuizSession::wrongAnswers(int position) const
+{
+    QStringList wrong = record(position).answers;
+    wrong.removeIf([&](const QString &answer) { return judge(position, answer) != AnswerVerdict::Wrong; });
+    return wrong;
+}
+
+int CQuizSession::flagDecision(int position, const FlagLimits &limits) const
+{
+    enum { Unflag = 2, Flag = 3 };
+    const int current = int(m_document.List().Entry(m_candidates[size_t(position)]).GetFlag(m_questionColumn));
+    int decision = current;
+    if (record(position).answers.isEmpty()) {
+        if (limits.unasked != -1) {
+            decision = limits.unasked + Unflag;
+        }
+    } else {
+        const int percent = int(std::floor(percentRight(position) + 0.5));
+        if (limits.unflag != -1 && limits.unflag >= percent) {
+            decision = Unflag;
+        }
+        if (limits.flag != -1 && limits.flag <= percent) {
+            decision = Flag;
+        }
+    }
+    return decision == current + Unflag ? current : decision;
+}
+
+int CQuizSession::applyFlags(const FlagLimits &limits)
+{
+    std::vector<int> flag;
+    std::vector<int> unflag;
+    for (int position = 0; position < wordCount(); ++position) {
+        const int decision = flagDecision(position, limits);
+        if (decision >= 2) {
+            (decision == 3 ? flag : unflag).push_back(m_candidates[size_t(position)]);
+        }
+    }
+    if (!flag.empty() || !unflag.empty()) {
+        CWordList &list = m_document.BeginChange();
+        list.SetFlags(m_questionColumn, flag, FlagMode::Set);
+        list.SetFlags(m_questionColumn, unflag, FlagMode::Clear);
+    }
+    return int(flag.size() + unflag.size());
+}

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/ui/quiz_dialog.h"
+
+#include "platform/user_prompt.h"
+#include "quiz/quiz_form.h"
+#include "quiz/ui/quiz_result_dialog.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+void ShowProgress(QLabel &label, QProgressBar &bar, const QuizProgress &progress)
+{
+    label.setText(progress.text);
+    // A range from 0 to 0 would show a bar of unknown length.
+    bar.setRange(0, std::max(progress.maximum, 1));
+    bar.setValue(progress.value);
+}
+
+}
+
+CQuizDialog::CQuizDialog(QuizWindowServices services, CQuizForm &form) : m_services(services), m_form(form)
+{
+    setWindowTitle(texts().Get(Text::QuizTitle));
+    setWindowModality(Qt::WindowModal);
+    setWindowFlags(Qt::Window | Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint
+        | Qt::WindowMaximizeButtonHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+
+    m_fields = new QVBoxLayout;
+    auto *left = new QVBoxLayout;
+    left->addLayout(m_fields, 1);
+    left->addWidget(makeStatistics());
+
+    auto *buttons = new QVBoxLayout;
+    auto *skip = addButton(*buttons, Text::SkipButton, "skipButton");
+    m_answer = addButton(*buttons, Text::AnswerButton, "answerButton");
+    m_answer->setDefault(true);
+    auto *cancel = addButton(*buttons, Text::Cancel, "cancelButton");
+    auto *result = addButton(*buttons, Text::ResultButton, "resultButton");
+    buttons->addStretch(1);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->addLayout(left, 1);
+    layout->addLayout(buttons);
+
+    connect(skip, &QPushButton::clicked, this, [this] { proceed(m_form.skip()); });
+    connect(cancel, &QPushButton::clicked, this, &CQuizDialog::reject);
+    connect(result, &QPushButton::clicked, this, &CQuizDialog::showResult);
+}
+
+QPushButton *CQuizDialog::addButton(QVBoxLayout &column, int text, const char *name)
+{
+    auto *button = new QPushButton(texts().Get(text), this);
+    button->setObjectName(QLatin1StringView(name));
+    button->setAutoDefault(false);
+    column.addWidget(button);
+    return button;
+}
+
+QWidget *CQuizDialog::makeStatistics()
+{
+    auto *frame = new QGroupBox(texts().Get(Text::Statistics), this);
+    frame->setObjectName(QStringLiteral("statistics"));
+    const auto makeLabel = [&](const char *name) {
+        auto *label = new QLabel(frame);
+        label->setObjectName(QLatin1StringView(name));
+        label->setTextFormat(Qt::PlainText);
+        return label;
+    };
+    const auto makeBar = [&](const char *name, int accessibleName) {
+        auto *bar = new QProgressBar(frame);
+        bar->setObjectName(QLatin1StringView(name));
+        bar->setAccessibleName(texts().Get(accessibleName));
+        bar->setTextVisible(false);
+        return bar;
+    };
+    m_roundText = makeLabel("roundText");
+    m_wordText = makeLabel("wordText");
+    m_rightText = makeLabel("rightText");
+    m_wordBar = makeBar("wordBar", Text::QuizWordProgress);
+    m_rightBar = makeBar("rightBar", Text::QuizRightProgress);
+
+    auto *grid = new QGridLayout(frame);
+    grid->addWidget(m_roundText, 0, 0, 1, 2);
+    grid->addWidget(m_wordText, 1, 0);
+    grid->addWidget(m_wordBar, 1, 1);
+    grid->addWidget(m_rightText, 2, 0);
+    grid->addWidget(m_rightBar, 2, 1);
+    grid->setColumnStretch(1, 1);
+    return frame;
+}
+
+void CQuizDialog::updateStatistics()
+{
+    m_roundText->setText(m_form.roundText());
+    ShowProgress(*m_wordText, *m_wordBar, m_form.wordProgress());
+    ShowProgress(*m_rightText, *m_rightBar, m_form.rightProgress());
+}
+
+void CQuizDialog::proceed(bool more)
+{
+    if (more) {
+        showCurrentWord();
+    } else {
+        accept();
+    }
+}
+
+void CQuizDialog::reject()
+{
+    if (prompt().Confirm(texts().Prompt(Text::ReallyEndQuiz), PromptIcon::Question, PromptButtons::YesNoCancel,
+            PromptAnswer::No)) {
+        QDialog::reject();
+    }
+}
+
+void CQuizDialog::showResult()
+{
+    auto *dialog = new CQuizResultDialog(m_form.session(), texts(), CQuizResultDialog::Mode::DuringQuiz, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/ui/standard_quiz.h"
+
+#include "platform/user_prompt.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+CStandardQuiz::CStandardQuiz(QuizWindowServices services, CQuizSession &session, const QuizSettings &settings)
+    : CQuizDialog(services, m_form), m_form(session, settings, services.texts),
+      m_question(new QPlainTextEdit(this)), m_answerField(new QLineEdit(this))
+{
+    m_question->setObjectName(QStringLiteral("question"));
+    m_question->setAccessibleName(texts().Get(Text::QuizQuestion));
+    m_question->setReadOnly(true);
+    m_question->setTabChangesFocus(true);
+    m_answerField->setObjectName(QStringLiteral("answer"));
+    m_answerField->setAccessibleName(texts().Get(Text::QuizAnswer));
+    m_answerField->setPlaceholderText(texts().Get(Text::QuizAnswer));
+
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    m_question->setFont(large);
+    m_answerField->setFont(large);
+    m_question->setMinimumHeight(QFontMetrics(large).lineSpacing() * 3);
+    fields()->addWidget(m_question, 1);
+    fields()->addWidget(m_answerField);
+    resize(sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 80, 0)));
+
+    connect(answerButton(), &QPushButton::clicked, this, &CStandardQuiz::answer);
+    showCurrentWord();
+}
+
+void CStandardQuiz::showCurrentWord()
+{
+    m_question->setPlainText(m_form.question());
+    updateStatistics();
+    m_answerField->setText(m_form.prefilledAnswer());
+    m_answerField->selectAll();
+    m_answerField->setFocus();
+}
+
+void CStandardQuiz::answer()
+{
+    const CStandardQuizForm::Outcome outcome = m_form.answer(m_answerField->text());
+    if (outcome.feedback) {
+        prompt().Tell({outcome.feedback->number, outcome.feedback->text}, PromptIcon::Information);
+    }
+    proceed(m_form.advance(outcome.verdict));
+}

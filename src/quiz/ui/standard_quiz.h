@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quiz/standard_quiz_form.h"
+#include "quiz/ui/quiz_dialog.h"
+
+class QLineEdit;
+class QPlainTextEdit;
+
+/// The window of the standard quiz.
+class CStandardQuiz : public CQuizDialog
+{
+    Q_OBJECT
+
+public:
+    CStandardQuiz(QuizWindowServices services, CQuizSession &session, const QuizSettings &settings);
+
+protected:
+    void showCurrentWord() override;
+
+private:
+    void answer();
+
+    CStandardQuizForm m_form;
+    QPlainTextEdit *m_question;
+    QLineEdit *m_answerField;
+};

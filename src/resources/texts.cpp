@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "resources/texts.h"
+
+#include <QFile>
+
+QString FillText(const QString &format, const QStringList &values)
+{
+    QString text;
+    qsizetype used = 0;
+    for (qsizetype i = 0; i < format.size(); ++i) {
+        const QChar next = format.at(i) == u'%' && i + 1 < format.size() ? format.at(i + 1) : QChar();
+        if (next == u'%') {
+            text += u'%';
+            ++i;
+        } else if (next == u's' || next == u'd') {
+            text += values.value(used++);
+            ++i;
+        } else {
+            text += format.at(i);
+        }
+    }
+    return text;
+}
+
+CTexts::CTexts()
+{
+    Q_INIT_RESOURCE(texts); // A static library's resources are linked only when asked for.
+    QFile own(QStringLiteral(":/texts/swedish.ordmod"));
+    if (!own.open(QIODevice::ReadOnly) || !m_own.Load(own.readAll())) {
+        qFatal("The program's own texts are missing.");
+    }
+}
+
+bool CTexts::LoadModule(const QByteArray &module)
+{
+    return m_module.Load(module);
+}
+
+QString CTexts::Get(int number) const
+{
+    return m_module.Contains(number) ? m_module.Text(number) : m_own.Text(number);
+}

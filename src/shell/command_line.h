@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the command line asks for.
+struct CommandLine
+{
+    /// The file to open; empty for a new list.
+    QString file = {};
+    /// The number of the text that says what is wrong with the command line, 0 when nothing is.
+    int error = 0;
+    /// The argument that is wrong.
+    QString wrongArgument = {};
+};
+
+/// `arguments` without the program's name: at most one file, a path or a file: URL. "--" ends the switches.
+CommandLine parseCommandLine(const QStringList &arguments);

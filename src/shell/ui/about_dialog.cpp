@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/about_dialog.h"
+
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+
+CAboutDialog::CAboutDialog(const CTexts &texts, QWidget *parent) : QDialog(parent)
+{
+    setWindowTitle(texts.Get(Text::AboutTitle));
+    setWindowModality(Qt::WindowModal);
+
+    auto *picture = new QLabel(this);
+    picture->setPixmap(QApplication::windowIcon().pixmap(64));
+    picture->setAccessibleName(texts.Get(Text::ApplicationTitle));
+    auto *layout = new QGridLayout(this);
+    layout->addWidget(picture, 0, 0, 3, 1, Qt::AlignTop);
+    layout->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
+    layout->setVerticalSpacing(fontMetrics().lineSpacing() / 2);
+
+    const auto addText = [&](int row, const QString &text, const char *name) {
+        auto *label = new QLabel(text, this);
+        label->setObjectName(QLatin1StringView(name));
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+        layout->addWidget(label, row, 1);
+        return label;
+    };
+    auto *name = addText(0, texts.Fill(Text::AboutName, {QApplication::applicationVersion()}), "name");
+    QFont large = name->font();
+    large.setPointSizeF(large.pointSizeF() * 1.6);
+    name->setFont(large);
+    addText(1, texts.Get(Text::AboutPurpose), "purpose");
+    addText(2, texts.Get(Text::AboutLicence), "licence");
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    buttons->setObjectName(QStringLiteral("buttons"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    layout->addWidget(buttons, 3, 0, 1, 2);
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QObject>
+
+#include <functional>
+
+class CTexts;
+class QAction;
+class QMenu;
+class QToolBar;
+struct Command;
+
+/// The actions of all commands, made from the table of commands. Owns them.
+class CCommandActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CCommandActions(const CTexts &texts, QObject *parent);
+
+    QAction *Action(int id) const { return m_actions.value(id); }
+    const QHash<int, QAction *> &All() const { return m_actions; }
+    void SetHandler(int id, std::function<void()> handler);
+    /// Refreshes what can be chosen.
+    void UpdateEnabled(bool listHasEntries);
+
+private:
+    QHash<int, QAction *> m_actions;
+};

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/main_frame.h"
+
+#include "document/file_commands.h"
+#include "document/win32_doc.h"
+#include "editor/ui/win32_view.h"
+#include "quiz/ui/quiz_launch.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+#include "shell/commands.h"
+#include "shell/ui/about_dialog.h"
+#include "shell/ui/command_actions.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace {
+
+/// Adds the actions of commands to a menu or a tool bar.
+template<class Bar>
+void AddCommands(Bar &bar, const QList<int> &commands, const CCommandActions &actions)
+{
+    for (const int id : commands) {
+        if (id == CommandId::Separator) {
+            bar.addSeparator();
+        } else {
+            bar.addAction(actions.Action(id));
+        }
+    }
+}
+
+}
+
+CMainFrame::CMainFrame(const FrameServices &services)
+    : m_services(services), m_actions(new CCommandActions(services.texts, this)),
+      m_view(new CWin32View(services.document, services.editorSettings, services.texts, this)),
+      m_statusText(new QLabel(this)),
+      m_quizLaunch(new CQuizLaunch(services.document, {services.texts, services.prompt}, services.quizSettings,
+          services.random, *this, *this))
+{
+    setObjectName(QStringLiteral("mainFrame"));
+    setCentralWidget(m_view);
+    MakeMenus();
+    ConnectCommands();
+
+    m_statusText->setObjectName(QStringLiteral("statusText"));
+    m_statusText->setTextFormat(Qt::PlainText);
+    m_statusText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(m_statusText, 1);
+
+    connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &QLabel::setText);
+    connect(&services.document, &CWin32Doc::ListReplaced, this, &CMainFrame::Refresh);
+    connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::Refresh);
+    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
+    m_view->RefreshAll();
+    m_view->setFocus();
+    Refresh();
+}
+
+void CMainFrame::MakeMenus()
+{
+    for (const CommandMenu &menu : commandMenus()) {
+        AddCommands(
+            *menuBar()->addMenu(m_services.texts.Get(menu.title)), menu.commands, *m_actions);
+    }
+    auto *bar = addToolBar(m_services.texts.Get(Text::StandardToolBar));
+    bar->setObjectName(QStringLiteral("standardToolBar"));
+    AddCommands(*bar, standardToolBar(), *m_actions);
+}
+
+void CMainFrame::ConnectCommands()
+{
+    using namespace CommandId;
+    CFileCommands &files = m_services.files;
+    m_actions->SetHandler(NewFile, [&files] { files.New(); });
+    m_actions->SetHandler(OpenFile, [&files] { files.Open(); });
+    m_actions->SetHandler(SaveFile, [&files] { files.Save(); });
+    m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
+    m_actions->SetHandler(Exit, [this] { close(); });
+    m_actions->SetHandler(StandardQuiz, [this] { m_quizLaunch->startQuiz(); });
+    m_actions->SetHandler(About, [this] {
+        auto *dialog = new CAboutDialog(m_services.texts, this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->open();
+    });
+}
+
+void CMainFrame::Refresh()
+{
+    setWindowTitle(m_services.document.Title());
+    m_actions->UpdateEnabled(m_services.document.List().Count() > 0);
+}
+
+std::vector<int> CMainFrame::SelectedEntries() const
+{
+    return m_view->SelectedEntries();
+}
+
+void CMainFrame::SelectEntries(const std::vector<int> &entries)
+{
+    m_view->SelectEntries(entries);
+    m_view->setFocus();
+}
+
+void CMainFrame::ShowMainWindow(bool show)
+{
+    setVisible(show);
+    if (show) {
+        activateWindow();
+    }
+}
+
+void CMainFrame::closeEvent(QCloseEvent *event)
+{
+    if (!m_services.files.MayDiscard()) {
+        event->ignore();
+        return;
+    }
+    QMainWindow::closeEvent(event);
+    Q_EMIT Closed();
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quiz/quiz_host.h"
+
+#include <QMainWindow>
+
+class CCommandActions;
+class CFileCommands;
+class CQuizLaunch;
+class CRandom;
+class CTexts;
+class CWin32Doc;
+class CWin32View;
+class IUserPrompt;
+class QLabel;
+struct EditorSettings;
+struct QuizSettings;
+
+/// What the main window is handed; none of it is owned.
+struct FrameServices
+{
+    CWin32Doc &document;
+    CFileCommands &files;
+    const CTexts &texts;
+    const EditorSettings &editorSettings;
+    const QuizSettings &quizSettings;
+    IUserPrompt &prompt;
+    CRandom &random;
+};
+
+/// The main window: menus, tool bar and status line around the view. It hands every command on.
+class CMainFrame : public QMainWindow, public IQuizHost
+{
+    Q_OBJECT
+
+public:
+    explicit CMainFrame(const FrameServices &services);
+
+    CWin32View &View() const { return *m_view; }
+
+    std::vector<int> SelectedEntries() const override;
+    void SelectEntries(const std::vector<int> &entries) override;
+    void ShowMainWindow(bool show) override;
+
+Q_SIGNALS:
+    /// The window was closed and nothing stands against ending the program.
+    void Closed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void MakeMenus();
+    void ConnectCommands();
+    void Refresh();
+
+    FrameServices m_services;
+    CCommandActions *m_actions;
+    CWin32View *m_view;
+    QLabel *m_statusText;
+    CQuizLaunch *m_quizLaunch;
+};

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "document/file_commands.h"
+#include "document/file_filters.h"
+#include "resources/text_numbers.h"
+#include "support/test_document.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+class FileCommandsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unsavedChanges_data();
+    void unsavedChanges();
+    void savingWithAndWithoutAName();
+    void openingByDialog();
+    void filters();
+};
+
+void FileCommandsTest::unsavedChanges_data()
+{
+    QTest::addColumn<PromptAnswer>("answer");
+    QTest::addColumn<QString>("chosenName"); // For saving the unnamed list.
+    QTest::addColumn<bool>("discarded");
+    QTest::addColumn<bool>("saved");
+    QTest::newRow("no") << PromptAnswer::No << "" << true << false;
+    QTest::newRow("cancel") << PromptAnswer::Cancel << "" << false << false;
+    QTest::newRow("yes") << PromptAnswer::Yes << "x.gls" << true << true;
+    QTest::newRow("yes, but no name chosen") << PromptAnswer::Yes << "" << false << false;
+    QTest::newRow("yes, but saving fails") << PromptAnswer::Yes << "no/folder/x.gls" << false << false;
+}
+
+void FileCommandsTest::unsavedChanges()
+{
+    QFETCH(PromptAnswer, answer);
+    QFETCH(QString, chosenName);
+    QFETCH(bool, discarded);
+    QFETCH(bool, saved);
+    const QTemporaryDir folder;
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    test.document.BeginChange().SetSaved(false);
+    CScriptedChooser chooser;
+    chooser.paths = {chosenName.isEmpty() ? QString() : folder.filePath(chosenName)};
+    test.prompt.answers = {answer};
+    CFileCommands files(test.document, test.texts, test.prompt, chooser);
+    QCOMPARE(files.New(), discarded);
+    QCOMPARE(test.document.List().Count(), discarded ? 0 : 1);
+    QCOMPARE(test.prompt.texts.value(0), QStringLiteral("Vill du spara ändringarna i Namnlös?"));
+    QCOMPARE(QFile::exists(folder.filePath(QStringLiteral("x.gls"))), saved);
+}
+
+void FileCommandsTest::savingWithAndWithoutAName()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("lista.gls"));
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    test.settings.standardFilename = QStringLiteral("%language2 av mig");
+    CScriptedChooser chooser;
+    chooser.paths = {path, QString()};
+    CFileCommands files(test.document, test.texts, test.prompt, chooser);
+    QVERIFY(files.Save());
+    QCOMPARE(chooser.asked.size(), 1);
+    QCOMPARE(chooser.asked[0].filters, QStringList{QStringLiteral("Glosfil (*.gls)")});
+    QCOMPARE(chooser.asked[0].defaultSuffix, QStringLiteral("gls"));
+    QVERIFY(chooser.asked[0].start.endsWith(QStringLiteral("/Engelska av mig.gls")));
+    test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Set);
+    QVERIFY(files.Save());
+    QCOMPARE(chooser.asked.size(), 1);
+    QVERIFY(!files.SaveAs()); // Cancelled.
+    QCOMPARE(chooser.asked[1].start, path);
+    QCOMPARE(test.document.Path(), path);
+}
+
+void FileCommandsTest::openingByDialog()
+{
+    const QTemporaryDir folder;
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    CScriptedChooser chooser;
+    chooser.paths = {QString(), folder.filePath(QStringLiteral("missing.gls"))};
+    CFileCommands files(test.document, test.texts, test.prompt, chooser);
+    QVERIFY(!files.Open());
+    QCOMPARE(test.document.List().Count(), 1);
+    QVERIFY(!files.Open());
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotOpen});
+    QCOMPARE(chooser.asked[1].filters.size(), 3);
+}
+
+void FileCommandsTest::filters()
+{
+    QCOMPARE(FileFilters(QStringLiteral("Glosfil|*.gls|Bilder|*.png;*.jpg|Alla filer (*.*)|*.*||\n")),
+        QStringList({QStringLiteral("Glosfil (*.gls)"), QStringLiteral("Bilder (*.png *.jpg)"),
+            QStringLiteral("Alla filer (*)")}));
+}
+
+QTEST_GUILESS_MAIN(FileCommandsTest)
+#include "file_commands_test.moc"

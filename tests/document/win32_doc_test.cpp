@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "resources/text_numbers.h"
+#include "support/test_document.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+class Win32DocTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newDocument();
+    void newKeepsNamesWhenAllAreGiven();
+    void opening_data();
+    void opening();
+    void saving();
+    void placeholders();
+
+private:
+    QTemporaryDir m_folder;
+    QString Write(const QByteArray &bytes)
+    {
+        const QString path = m_folder.filePath(QStringLiteral("list.gls"));
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? path : QString();
+    }
+};
+
+void Win32DocTest::newDocument()
+{
+    TestDocument test;
+    const CWordList &list = test.document.List();
+    QCOMPARE(list.GetLanguage(0) + u'/' + list.GetLanguage(1), QStringLiteral("Svenska/Engelska"));
+    QVERIFY(list.GetComments().startsWith(QStringLiteral("Skapad "))
+        && list.GetComments().contains(QStringLiteral("2004")));
+    QVERIFY(list.IsSaved());
+    QCOMPARE(test.document.Title(), QStringLiteral("Namnlös"));
+    // Properties alone make no list worth saving.
+    test.document.BeginChange().SetAuthor(QStringLiteral("x"));
+    QVERIFY(!test.document.IsModified());
+    QCOMPARE(test.document.Title(), QStringLiteral("* Namnlös"));
+}
+
+void Win32DocTest::newKeepsNamesWhenAllAreGiven()
+{
+    TestDocument test;
+    test.settings.language1 = QStringLiteral("Finska");
+    test.settings.author = QStringLiteral("Ny");
+    const CWordList &list = test.document.List();
+    test.document.BeginChange().SetProperties({.language1 = QStringLiteral("Tyska"),
+        .language2 = QStringLiteral("Franska"),
+        .author = QStringLiteral("Jag"),
+        .questionTemplate1 = QStringLiteral("t")});
+    test.document.OnNewDocument();
+    QCOMPARE(list.GetLanguage(0) + list.GetLanguage(1) + list.GetAuthor(), QStringLiteral("TyskaFranskaJag"));
+    QCOMPARE(list.GetQuestionTemplate(0), QString());
+    test.document.BeginChange().SetProperties({.language1 = QString(), .author = QString()});
+    test.document.OnNewDocument();
+    QCOMPARE(list.GetLanguage(0) + list.GetLanguage(1) + list.GetAuthor(), QStringLiteral("FinskaFranskaNy"));
+}
+
+void Win32DocTest::opening_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QList<int>>("shown");
+    QTest::addColumn<bool>("keepsPath");
+    QTest::addColumn<bool>("modified");
+    QTest::addColumn<int>("count");
+    QTest::newRow("own file") << QByteArray("Ordelin 2.0\n\n\nA\nB\n1\n\n1\na\nb\n") << QList<int>{} << true
+                              << false << 1;
+    QTest::newRow("lossy header") << QByteArray("\xEF\xBB\xBFOrdelin 2.0\n\n\nA\nB\n1\xCE\xB1\n\n1\na\nb\n")
+                                  << QList<int>{} << true << false << 1;
+    QTest::newRow("newer version") << QByteArray("Ordelin 3\n\n\nA\nB\n1\n0\n\n0\n\n\n1\na\nb\n\n")
+                                   << QList<int>{Text::NewerVersion} << false << false << 1;
+    QTest::newRow("plain text") << QByteArray("a\nb\n") << QList<int>{Text::ReadAsPlainText} << false << true
+                                << 1;
+    QTest::newRow("foreign file without vocabulary")
+        << QByteArray("WordQuiz\n") << QList<int>{Text::CannotOpen} << false << false << 0;
+}
+
+void Win32DocTest::opening()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QList<int>, shown);
+    QFETCH(bool, keepsPath);
+    QFETCH(bool, modified);
+    QFETCH(int, count);
+    TestDocument test(QStringList{QStringLiteral("old|list")});
+    const QSignalSpy replaced(&test.document, &CWin32Doc::ListReplaced);
+    const QString path = Write(bytes);
+    QCOMPARE(test.document.OpenDocument(path), count > 0);
+    QCOMPARE(test.prompt.numbers, shown);
+    QCOMPARE(test.document.Path(), keepsPath ? path : QString());
+    QCOMPARE(test.document.IsModified(), modified);
+    QCOMPARE(test.document.List().Count(), count);
+    QCOMPARE(replaced.count(), 1);
+}
+
+void Win32DocTest::saving()
+{
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Set);
+    const QString bad = m_folder.filePath(QStringLiteral("no/folder.gls"));
+    QVERIFY(!test.document.OnSaveDocument(bad));
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotSave});
+    QVERIFY(test.prompt.texts.first().contains(bad));
+    QCOMPARE(test.document.Path(), QString());
+    QCOMPARE(test.document.Title(), QStringLiteral("* Namnlös"));
+
+    const QString good = m_folder.filePath(QStringLiteral("min lista.gls"));
+    test.settings.alwaysSaveInUnicode = true;
+    QVERIFY(test.document.OnSaveDocument(good));
+    QCOMPARE(test.document.Title(), QStringLiteral("min lista.gls"));
+    QVERIFY(!test.document.IsModified());
+    QFile file(good);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().startsWith("\xFF\xFE"));
+}
+
+void Win32DocTest::placeholders()
+{
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    test.document.BeginChange().SetProperties({.language1 = QStringLiteral("%author"),
+        .author = QStringLiteral("A/B"),
+        .comments = QStringLiteral("c")});
+    QCOMPARE(test.document.ExpandPlaceholders(QStringLiteral("%language1 %language2 %comments %nwords %none")),
+        QStringLiteral("A/B Engelska c 1 %none"));
+    test.settings.standardFilename = QStringLiteral("%language2: av %author?*");
+    QCOMPARE(test.document.SuggestFileName(), QStringLiteral("Engelska av AB"));
+}
+
+QTEST_GUILESS_MAIN(Win32DocTest)
+#include "win32_doc_test.moc"

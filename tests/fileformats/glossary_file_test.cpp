@@ -1,0 +1,331 @@
+// SPDX-License-Identifier: MIT
+#include "fileformats/word_list_file.h"
+#include "platform/windows_1252.h"
+#include "support/lists.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+Q_DECLARE_METATYPE(ReadResult)
+
+namespace {
+
+QByteArray CrLf(QByteArray text)
+{
+    return text.replace("\n", "\r\n");
+}
+
+/// The bytes of a file text, which is given in UTF-8 with LF line ends.
+QByteArray Ansi(const char *text)
+{
+    QByteArray bytes;
+    AppendWindows1252(QString::fromUtf8(CrLf(text)), bytes);
+    return bytes;
+}
+
+QByteArray Utf16(const char *text, bool bigEndian)
+{
+    QByteArray bytes = bigEndian ? QByteArray("\xFE\xFF") : QByteArray("\xFF\xFE");
+    for (const QChar unit : QString::fromUtf8(CrLf(text))) {
+        const char low = char(unit.unicode() & 0xFF);
+        const char high = char(unit.unicode() >> 8);
+        bytes.append(bigEndian ? high : low).append(bigEndian ? low : high);
+    }
+    return bytes;
+}
+
+QByteArray Utf8(const char *text)
+{
+    return QByteArray("\xEF\xBB\xBF") + CrLf(text);
+}
+
+ReadResult Read(CWordList &list, const QByteArray &bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return ReadWordList(list, buffer);
+}
+
+QByteArray Write(CWordList &list, const WriteOptions &options = {})
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return WriteWordList(list, buffer, options) ? buffer.data() : QByteArray();
+}
+
+/// Every property and entry, one a line.
+QString DescribeAll(const CWordList &list)
+{
+    QStringList lines = {list.GetAuthor(), list.GetComments(), list.GetLanguage(0), list.GetLanguage(1)};
+    for (const int direction : {0, 1}) {
+        lines.append((list.GetAdaptQuestion(direction) ? u'1' : u'0') + list.GetQuestionTemplate(direction));
+    }
+    return (lines + Describe(list)).join(u'\n');
+}
+
+}
+
+class GlossaryFileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void versions_data();
+    void versions();
+    void readOnlyVersions_data();
+    void readOnlyVersions();
+    void smallestVersion_data();
+    void smallestVersion();
+    void recordsAtTheEnd();
+    void oneOddCharacterMakesUnicode_data();
+    void oneOddCharacterMakesUnicode();
+    void lineBreaksInHeaders();
+    void lossyHeaders();
+    void strangeTextsSurvive();
+    void savingReplacesTheFile();
+    void failedSaves();
+    void stopsBetweenRecords();
+};
+
+void GlossaryFileTest::versions_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("content");
+    const char *const full = "Ordelin 2.3\nÅsa €\n“Djur” …\nSvenska\nEngelska\n2\n1\nVad är %word?\n0\n\n\n"
+                             "1 0\nhund * vovve\ndog\n\n0 1\nkatt [tam]\ncat\nšelma – djur\n";
+    const QString fullContent = QStringLiteral("Åsa €\n“Djur” …\nSvenska\nEngelska\n1Vad är %word?\n0\n"
+                                               "hund * vovve|dog||1\nkatt [tam]|cat|šelma – djur|2");
+    const char *const greek =
+        "Ordelin 2.3\nΆννα\nζώα\nSvenska\nΕλληνικά\n1\n0\n\n1\n%word;\n\n1 1\nhund\nσκύλος\n犬\n";
+    const QString greekContent = QStringLiteral("Άννα\nζώα\nSvenska\nΕλληνικά\n0\n1%word;\nhund|σκύλος|犬|12");
+    QTest::newRow("2.3 ANSI") << Ansi(full) << fullContent;
+    QTest::newRow("2.3 UTF-16") << Utf16(greek, false) << greekContent;
+    QTest::newRow("2.3-mini ANSI") << Ansi("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nŽ\n€\n")
+                                   << QStringLiteral("\n\nA\nB\n0\n0\nå|Ž|€");
+    QTest::newRow("2.3-mini UTF-16") << Utf16("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nя\nω\n", false)
+                                     << QStringLiteral("\n\nA\nB\n0\n0\nå|я|ω");
+    QTest::newRow("2.3-micro ANSI") << Ansi("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nœ?\n0\n\n\nå\nŽ\n")
+                                    << QStringLiteral("\n\nA\nB\n0œ?\n0\nå|Ž");
+    QTest::newRow("2.3-micro UTF-16") << Utf16("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nω?\n0\n\n\nå\nя\n", false)
+                                      << QStringLiteral("\n\nA\nB\n0ω?\n0\nå|я");
+    QTest::newRow("2.0 ANSI") << Ansi("Ordelin 2.0\nŒ\n\nA\nB\n2\n\n1\nå\nŽ\n0\nb\nc\n")
+                              << QStringLiteral("Œ\n\nA\nB\n0\n0\nå|Ž||1\nb|c");
+    QTest::newRow("2.0 UTF-16") << Utf16("Ordelin 2.0\n\n\nA\nB\n1\n\n0\nå\nя\n", false)
+                                << QStringLiteral("\n\nA\nB\n0\n0\nå|я");
+    QTest::newRow("2.0 empty") << Ansi("Ordelin 2.0\n\n\nA\nB\n0\n\n") << QStringLiteral("\n\nA\nB\n0\n0");
+}
+
+void GlossaryFileTest::versions()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, content);
+    CWordList list;
+    QCOMPARE(Read(list, bytes), ReadResult::Read);
+    QVERIFY(list.IsSaved());
+    QCOMPARE(DescribeAll(list), content);
+    list.SetSaved(false);
+    QCOMPARE(Write(list), bytes);
+    QVERIFY(list.IsSaved());
+}
+
+void GlossaryFileTest::readOnlyVersions_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<ReadResult>("result");
+    const char *const old = "Ordelin 1\nŽ\nC\nA\nB\n2\n\n!hund\ndog\nå\n!Œ\n";
+    const QString oldContent = QStringLiteral("Ž\nC\nA\nB\n0\n0\nhund|dog||1\nå|Œ||1");
+    QTest::newRow("1 ANSI") << Ansi(old) << oldContent << ReadResult::Read;
+    QTest::newRow("1 UTF-16 big endian") << Utf16(old, true) << oldContent << ReadResult::Read;
+    QTest::newRow("1.2 UTF-8") << Utf8(old).replace("Ordelin 1", "Ordelin 1.2") << oldContent
+                               << ReadResult::Read;
+    const char *const full =
+        "Ordelin 2.3\nŽ\n\nA\nB\n-5\n\nT1\nx\nT2\nignored\n1\nя\nb\n\nx y\nc*d\ne\nn\n 1\n*\n\n\n";
+    const QString fullContent = QStringLiteral("Ž\n\nA\nB\n0T1\n1T2\nя|b||1\nc * d|e|n|12\n|||2");
+    QTest::newRow("2.3 UTF-8") << Utf8(full) << fullContent << ReadResult::Read;
+    QTest::newRow("2.3 UTF-16 big endian") << Utf16(full, true) << fullContent << ReadResult::Read;
+    QTest::newRow("newer version") << Utf8(full).replace("2.3", "9.9") << fullContent
+                                   << ReadResult::NewerVersion;
+    QTest::newRow("program's name alone")
+        << QByteArray("Ordelinista\na\nb\n") << QStringLiteral("a\nb\n\n\n0\n0") << ReadResult::NewerVersion;
+    QTest::newRow("adapt mark without a template") << QByteArray("Ordelin 2.3-micro\n\n\nA\nB\n0\n1\n\n1\n")
+                                                   << QStringLiteral("\n\nA\nB\n0\n0") << ReadResult::Read;
+    QTest::newRow("header cut off") << QByteArray("Ordelin 2.0\nauthor\ncomm")
+                                    << QStringLiteral("author\ncomm\n\n\n0\n0") << ReadResult::Read;
+    QTest::newRow("both terms empty") << QByteArray("Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n\n\na\n\n\nb\n")
+                                      << QStringLiteral("\n\n\n\n0\n0\na\n|b") << ReadResult::Read;
+}
+
+void GlossaryFileTest::readOnlyVersions()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, content);
+    QFETCH(ReadResult, result);
+    CWordList list = MakeList({QStringLiteral("old|content")});
+    QCOMPARE(Read(list, bytes), result);
+    QCOMPARE(DescribeAll(list), content);
+    QVERIFY(list.IsSaved());
+}
+
+void GlossaryFileTest::smallestVersion_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("questionTemplate");
+    QTest::addColumn<bool>("old");
+    QTest::addColumn<QByteArray>("header");
+    QTest::newRow("flag 1 only") << "a|b||1"
+                                 << "" << false << QByteArray("Ordelin 2.0");
+    QTest::newRow("flag 2") << "a|b||2"
+                            << "" << false << QByteArray("Ordelin 2.3");
+    QTest::newRow("note") << "a|b|n"
+                          << "" << false << QByteArray("Ordelin 2.3-mini");
+    QTest::newRow("note and flag 1") << "a|b|n|1"
+                                     << "" << false << QByteArray("Ordelin 2.3");
+    QTest::newRow("template") << "a|b"
+                              << "t" << false << QByteArray("Ordelin 2.3-micro");
+    QTest::newRow("template and flag 1") << "a|b||1"
+                                         << "t" << false << QByteArray("Ordelin 2.3");
+    QTest::newRow("forced old format") << "a|b|n|2"
+                                       << "t" << true << QByteArray("Ordelin 2.0");
+}
+
+void GlossaryFileTest::smallestVersion()
+{
+    QFETCH(QString, entry);
+    QFETCH(QString, questionTemplate);
+    QFETCH(bool, old);
+    QFETCH(QByteArray, header);
+    CWordList list = MakeList({QStringLiteral("x|y"), entry});
+    list.SetQuestionTemplate(1, questionTemplate);
+    const QByteArray bytes = Write(list, {.forceOldFormat = old});
+    QCOMPARE(bytes.left(bytes.indexOf('\r')), header);
+}
+
+void GlossaryFileTest::recordsAtTheEnd()
+{
+    // A record needs all its lines; the last line needs no line end, and nothing follows the last line end.
+    const QByteArray micro = "Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n";
+    const QByteArray full = "Ordelin 2.3\n\n\n\n\n0\n0\n\n0\n\n\n";
+    CWordList list;
+    const auto count = [&](const QByteArray &bytes) {
+        return Read(list, bytes) == ReadResult::Read ? list.Count() : -1;
+    };
+    QCOMPARE(count(micro + "a\nb\nc\n"), 1);
+    QCOMPARE(count(micro + "a\nb"), 1);
+    QCOMPARE(count(full + "0 0\na\nb\n"), 0);
+    QCOMPARE(count(full + "0 0\na\nb\n\n"), 1);
+}
+
+void GlossaryFileTest::oneOddCharacterMakesUnicode_data()
+{
+    QTest::addColumn<int>("place");
+    for (int place = 0; place < 9; ++place) {
+        QTest::addRow("text %d", place) << place;
+    }
+}
+
+void GlossaryFileTest::oneOddCharacterMakesUnicode()
+{
+    QFETCH(int, place);
+    QStringList texts(9, QStringLiteral("€"));
+    texts[place] = QStringLiteral("α");
+    CWordList list = MakeList({QStringLiteral("å|b|c"), texts[6] + u'|' + texts[7] + u'|' + texts[8]});
+    list.SetProperties({.language1 = texts[0],
+        .language2 = texts[1],
+        .author = texts[2],
+        .comments = texts[3],
+        .questionTemplate1 = texts[4],
+        .questionTemplate2 = texts[5]});
+    QVERIFY(Write(list).startsWith("\xFF\xFE"));
+    CWordList ansi = MakeList({QStringLiteral("€|å|“")});
+    QVERIFY(Write(ansi).startsWith("Ordelin"));
+    QVERIFY(Write(ansi, {.forceUnicode = true}).startsWith("\xFF\xFE"));
+}
+
+void GlossaryFileTest::lineBreaksInHeaders()
+{
+    CWordList list = MakeList({QStringLiteral("a|b")});
+    list.SetProperties(
+        {.author = QStringLiteral("one\r\ntwo\nthree\rfour"), .questionTemplate1 = QStringLiteral("x\ny")});
+    CWordList read;
+    QCOMPARE(Read(read, Write(list)), ReadResult::Read);
+    QCOMPARE(read.GetAuthor(), QStringLiteral("one two three four"));
+    QCOMPARE(DescribeAll(read).section(u'\n', 4), QStringLiteral("0x y\n0\na|b"));
+}
+
+void GlossaryFileTest::lossyHeaders()
+{
+    CWordList list;
+    QCOMPARE(Read(list, Utf8("Ordelin 2.0\nα\n\n\n\n1β\n\n1\na\nb\n")), ReadResult::ReadLossy);
+    QCOMPARE(list.Count(), 1);
+    QCOMPARE(Read(list, Utf8("Ordelin 2.3\n\n\n\n\n1\nβ\nt\n0\n\n\n")), ReadResult::ReadLossy);
+    QVERIFY(list.GetAdaptQuestion(0));
+    // Texts and flag lines lose nothing.
+    QCOMPARE(Read(list, Utf8("Ordelin 2.0\nα\nβ\nγ\nδ\n1\n\nω\na\nb\n")), ReadResult::Read);
+    QVERIFY(list.Entry(0).GetFlag(0));
+}
+
+void GlossaryFileTest::strangeTextsSurvive()
+{
+    CWordList list;
+    list.SetAuthor(QString(u"a\0b\xD800"_qs));
+    const QString huge = QStringLiteral("åäö ").repeated(300000) + u'x';
+    list.Insert(CWordEntry(huge, u"\xDC00 lone \xD83D"_qs, u"\u0085\u2028"_qs));
+    CWordList read;
+    QCOMPARE(Read(read, Write(list)), ReadResult::Read);
+    QCOMPARE(DescribeAll(read), DescribeAll(list));
+    QCOMPARE(read.Entry(0).GetText(0), huge);
+}
+
+void GlossaryFileTest::savingReplacesTheFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("lista å.gls"));
+    const QString link = folder.filePath(QStringLiteral("link.gls"));
+    CWordList list = MakeList({QStringLiteral("a|b")});
+    QVERIFY(WriteWordListFile(list, path));
+    QVERIFY(QFile::link(path, link));
+    list.Insert(MakeEntry(QStringLiteral("c|d")));
+    QVERIFY(WriteWordListFile(list, link));
+    QVERIFY(QFileInfo(link).isSymLink());
+    CWordList read;
+    QCOMPARE(ReadWordListFile(read, path), ReadResult::Read);
+    QCOMPARE(Describe(read).join(u','), QStringLiteral("a|b,c|d"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 2);
+    QCOMPARE(ReadWordListFile(read, folder.filePath(QStringLiteral("missing"))), ReadResult::CannotOpen);
+}
+
+void GlossaryFileTest::failedSaves()
+{
+    const QTemporaryDir folder;
+    CWordList list = MakeList({QStringLiteral("a|b")});
+    list.SetSaved(false);
+    QVERIFY(!WriteWordListFile(list, folder.filePath(QStringLiteral("no/such/folder.gls"))));
+    QVERIFY(!WriteWordListFile(list, folder.path()));
+    QVERIFY(!list.IsSaved());
+    if (QFile::exists(QStringLiteral("/dev/full"))) {
+        QFile full(QStringLiteral("/dev/full"));
+        QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        QVERIFY(!WriteWordList(list, full));
+        QVERIFY(!list.IsSaved());
+    }
+}
+
+void GlossaryFileTest::stopsBetweenRecords()
+{
+    QBuffer buffer;
+    buffer.setData("Ordelin 2.0\nauthor\n\n\n\n1\n\n1\na\nb\n");
+    buffer.open(QIODevice::ReadOnly);
+    CWordList list;
+    const KeepGoing stopped = false;
+    QCOMPARE(ReadWordList(list, buffer, &stopped), ReadResult::Read);
+    QCOMPARE(list.GetAuthor(), QStringLiteral("author"));
+    QCOMPARE(list.Count(), 0);
+}
+
+QTEST_APPLESS_MAIN(GlossaryFileTest)
+#include "glossary_file_test.moc"

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "fileformats/text_file_reader.h"
+#include "fileformats/text_file_writer.h"
+
+#include <QBuffer>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QStringList Lines(const QByteArray &bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    CTextFileReader reader;
+    reader.Open(buffer);
+    QStringList lines;
+    for (QString line; reader.ReadLine(line);) {
+        lines.append(line);
+    }
+    return lines;
+}
+
+QByteArray Written(TextEncoding encoding, const QString &text)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    CTextFileWriter writer;
+    writer.Open(buffer, encoding);
+    writer.Write(text);
+    writer.NewLine();
+    return writer.Close() ? buffer.data() : QByteArray();
+}
+
+}
+
+class TextFileReaderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lineEnds_data();
+    void lineEnds();
+    void encodings_data();
+    void encodings();
+    void charactersAcrossPieces();
+    void narrowLines();
+    void filesThatCannotBeRead();
+    void writtenBytes();
+};
+
+void TextFileReaderTest::lineEnds_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("lines"); // Each line ended by "/".
+    QTest::newRow("empty file") << QByteArray() << "";
+    QTest::newRow("CR LF") << QByteArray("a\r\nb\r\n") << "a/b/";
+    QTest::newRow("LF alone") << QByteArray("a\nb") << "a/b/";
+    QTest::newRow("CR alone") << QByteArray("a\rb\r") << "a/b/";
+    QTest::newRow("LF CR is two") << QByteArray("a\n\rb") << "a//b/";
+    QTest::newRow("CR CR LF is two") << QByteArray("a\r\r\nb") << "a//b/";
+    QTest::newRow("empty lines at the start") << QByteArray("\r\n\n\na") << "///a/";
+    QTest::newRow("only a line end") << QByteArray("\r\n") << "/";
+    QTest::newRow("NUL is a character") << QByteArray("a\0b\n", 4) << QString(u"a\0b/"_qs);
+}
+
+void TextFileReaderTest::lineEnds()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, lines);
+    QString joined;
+    for (const QString &line : Lines(bytes)) {
+        joined += line + u'/';
+    }
+    QCOMPARE(joined, lines);
+}
+
+void TextFileReaderTest::encodings_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("ANSI") << QByteArray("\xE5\x80\x8A\x81") << u"å€Š\u0081"_qs;
+    QTest::newRow("UTF-16 little endian") << QByteArray("\xFF\xFE\xB1\x03\x3D\xD8", 6) << u"α\xD83D"_qs;
+    QTest::newRow("UTF-16 big endian") << QByteArray("\xFE\xFF\x03\xB1\x20\xAC", 6) << u"α€"_qs;
+    QTest::newRow("UTF-16 cut inside a character") << QByteArray("\xFF\xFE\x61\x00\x62", 5) << u"a"_qs;
+    QTest::newRow("UTF-8") << QByteArray("\xEF\xBB\xBFå\xCE\xB1€") << u"åα€"_qs;
+    QTest::newRow("UTF-8 surrogates as three bytes each")
+        << QByteArray("\xEF\xBB\xBF\xED\xA0\xBD\xED\xB8\x80") << u"\xD83D\xDE00"_qs;
+    QTest::newRow("UTF-8 four-byte lead and its rest")
+        << QByteArray("\xEF\xBB\xBF\xF0\x9F\x98\x80z") << u"\uFFFD\uFFFD\uFFFD\uFFFDz"_qs;
+    QTest::newRow("UTF-8 unchecked continuation") << QByteArray("\xEF\xBB\xBF\xC3zx") << u"\u00FAx"_qs;
+    QTest::newRow("UTF-8 cut inside a character") << QByteArray("\xEF\xBB\xBF"
+                                                                "a\xE2\x82")
+                                                  << u"a"_qs;
+    QTest::newRow("two bytes of the UTF-8 mark are ANSI") << QByteArray("\xEF\xBB\x62") << u"ï»b"_qs;
+    QTest::newRow("one byte") << QByteArray("\xFF") << u"ÿ"_qs;
+}
+
+void TextFileReaderTest::encodings()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, line);
+    QCOMPARE(Lines(bytes), QStringList({line}));
+}
+
+void TextFileReaderTest::charactersAcrossPieces()
+{
+    // Lines, characters and line ends over every offset of the reader's pieces.
+    for (int shift = 0; shift < 4; ++shift) {
+        const QString start(1018 + shift, u'x');
+        const QString line = start + QStringLiteral("å€αβγ");
+        for (const TextEncoding encoding :
+            {TextEncoding::Utf8, TextEncoding::Utf16BigEndian, TextEncoding::Utf16LittleEndian}) {
+            const QByteArray bytes = Written(encoding, line + QStringLiteral("\r\n") + line);
+            QCOMPARE(Lines(bytes), QStringList({line, line}));
+        }
+        QCOMPARE(Lines(start.toLatin1() + "\r\n" + start.toLatin1()), QStringList({start, start}));
+    }
+}
+
+void TextFileReaderTest::narrowLines()
+{
+    QBuffer buffer;
+    buffer.setData(QByteArray("\xEF\xBB\xBF") + "12\nα\r\nfin");
+    buffer.open(QIODevice::ReadOnly);
+    CTextFileReader reader;
+    reader.Open(buffer);
+    QByteArray line;
+    QVERIFY(reader.ReadNarrowLine(line));
+    QCOMPARE(line, QByteArray("12"));
+    QVERIFY(!reader.Lossy());
+    QVERIFY(reader.ReadNarrowLine(line));
+    QCOMPARE(line, QByteArray("?"));
+    QVERIFY(reader.Lossy());
+    QVERIFY(!reader.AtEnd());
+    QVERIFY(reader.ReadNarrowLine(line));
+    QVERIFY(reader.AtEnd());
+    QVERIFY(!reader.ReadNarrowLine(line));
+    reader.Rewind();
+    QString first;
+    QVERIFY(reader.ReadLine(first));
+    QCOMPARE(first, QStringLiteral("12"));
+}
+
+void TextFileReaderTest::filesThatCannotBeRead()
+{
+    const QTemporaryDir folder;
+    CTextFileReader reader;
+    QVERIFY(!reader.Open(folder.filePath(QStringLiteral("missing"))));
+    QVERIFY(!reader.Open(folder.path()));
+    QVERIFY(!reader.Open(QStringLiteral("/dev/zero"))); // Would never end.
+    QVERIFY(!reader.IsOpen());
+}
+
+void TextFileReaderTest::writtenBytes()
+{
+    QCOMPARE(Written(TextEncoding::Ansi, u"å€α"_qs), QByteArray("\xE5\x80?\r\n"));
+    QCOMPARE(Written(TextEncoding::Utf16LittleEndian, u"aα"_qs),
+        QByteArray("\xFF\xFE"
+                   "a\0\xB1\x03\r\0\n\0",
+            10));
+    QCOMPARE(Written(TextEncoding::Utf16BigEndian, u"aα"_qs), QByteArray("\xFE\xFF\0a\x03\xB1\0\r\0\n", 10));
+    QCOMPARE(Written(TextEncoding::Utf8, u"aå€"_qs),
+        QByteArray("\xEF\xBB\xBF"
+                   "a\xC3\xA5\xE2\x82\xAC\r\n"));
+
+    QBuffer full; // Not open: every write fails.
+    CTextFileWriter writer;
+    writer.Open(full, TextEncoding::Ansi);
+    QTest::ignoreMessage(QtWarningMsg, "QIODevice::write (QBuffer): device not open");
+    writer.Write(u"x");
+    QVERIFY(!writer.Close());
+}
+
+QTEST_APPLESS_MAIN(TextFileReaderTest)
+#include "text_file_reader_test.moc"

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "model/duplicate_search.h"
+#include "support/lists.h"
+
+#include <QTest>
+
+#include <set>
+
+namespace {
+
+QStringList RandomEntries(CRandom &random)
+{
+    QStringList entries;
+    for (int count = random.Next() % 9; count > 0; --count) {
+        const auto term = [&] {
+            QStringList words;
+            for (int k = random.Next() % 3; k >= 0; --k) {
+                words.append(RandomText(random, u"abcdB", 1) + RandomText(random, u"xy", 1));
+            }
+            return words.join(u'*');
+        };
+        entries.append(
+            term() + u'|' + term() + u'|' + RandomText(random, u"mn", 3) + u'|' + RandomText(random, u"12", 2));
+    }
+    return entries;
+}
+
+/// All pairs that share an alternative, by comparing each entry with each.
+std::vector<DuplicatePair> AllPairs(const CWordList &list)
+{
+    std::vector<DuplicatePair> pairs;
+    for (const int language : {0, 1}) {
+        for (int a = 0; a < list.Count(); ++a) {
+            for (int b = a + 1; b < list.Count(); ++b) {
+                if (!list.Entry(b).GetText(language).isEmpty()
+                    && list.Entry(a).SharesAlternative(list.Entry(b), language, false)) {
+                    pairs.push_back({language, a, b});
+                }
+            }
+        }
+    }
+    return pairs;
+}
+
+}
+
+class DuplicatesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsWhatAllPairsFind();
+    void whatCountsAsShared();
+    void mergesIntoTheFirst();
+    void mergingAgreesWithAllPairs();
+    void mergesManyNotesQuickly();
+    void nothingToMerge();
+};
+
+void DuplicatesTest::findsWhatAllPairsFind()
+{
+    CRandom random(21);
+    for (int round = 0; round < 500; ++round) {
+        const CWordList list = MakeList(RandomEntries(random));
+        const CDuplicateSearch search(list);
+        const std::vector<DuplicatePair> pairs = AllPairs(list);
+        DuplicatePair found;
+        if (pairs.empty()) {
+            QVERIFY(!search.FindNext({}, found));
+            continue;
+        }
+        // From every position: the pair at or after it, and behind the last one the first again.
+        for (const int language : {0, 1, 2}) {
+            for (int entry = 0; entry <= list.Count(); ++entry) {
+                for (int other = 0; other <= list.Count(); ++other) {
+                    const DuplicatePair from = {language, entry, other};
+                    const auto expected = std::ranges::lower_bound(pairs, from);
+                    QVERIFY(search.FindNext(from, found));
+                    QCOMPARE(found, expected == pairs.end() ? pairs.front() : *expected);
+                }
+            }
+        }
+    }
+}
+
+void DuplicatesTest::whatCountsAsShared()
+{
+    const auto shares = [](const char *a, const char *b) {
+        const CWordList list = MakeList({QString::fromUtf8(a), QString::fromUtf8(b)});
+        DuplicatePair found;
+        return CDuplicateSearch(list).FindNext({}, found) ? found.language : -1;
+    };
+    QCOMPARE(shares("hus*hem|house", "hem|home"), 0);
+    QCOMPARE(shares("a|house", "b|home * house"), 1);
+    QCOMPARE(shares("sie|she", "Sie|you"), -1);
+    QCOMPARE(shares("bank [pengar]|x", "bank|y"), -1);
+    QCOMPARE(shares("a|x|note", "a|y|another"), 0);
+    QCOMPARE(shares("a|", "b|"), -1);
+}
+
+void DuplicatesTest::mergesIntoTheFirst()
+{
+    CWordList list =
+        MakeList({QStringLiteral("x|y"), QStringLiteral("hus|house|djur|12"), QStringLiteral("hem|||1"),
+            QStringLiteral("hus * bostad|home|djur; tamt|12"), QStringLiteral("z|z|jur|12")});
+    QCOMPARE(list.MergeEntries(std::vector<int>{1, 2, 3, 4, 77}), 3);
+    QCOMPARE(Describe(list).join(u','),
+        QStringLiteral("x|y,hus * hem * bostad * z|house * home * z|djur; djur; tamt|1"));
+    QVERIFY(!list.IsSaved());
+}
+
+void DuplicatesTest::mergingAgreesWithAllPairs()
+{
+    CRandom random(4);
+    for (int round = 0; round < 500; ++round) {
+        const CWordList before = MakeList(RandomEntries(random));
+        // Groups by spreading the lowest number along all pairs until nothing changes.
+        std::vector<int> group(size_t(before.Count()));
+        std::iota(group.begin(), group.end(), 0);
+        const std::vector<DuplicatePair> pairs = AllPairs(before);
+        for (bool changed = true; changed;) {
+            changed = false;
+            for (const DuplicatePair &pair : pairs) {
+                int &a = group[size_t(pair.entry)];
+                int &b = group[size_t(pair.other)];
+                changed = changed || a != b;
+                a = b = std::min(a, b);
+            }
+        }
+        CWordList expected = before;
+        for (int root = before.Count() - 1; root >= 0; --root) {
+            std::vector<int> members;
+            for (int index = 0; index < before.Count(); ++index) {
+                if (group[size_t(index)] == root) {
+                    members.push_back(index);
+                }
+            }
+            // Merged from the last root to the first: entries before a root still stand where they stood.
+            std::vector<int> now;
+            for (const int member : members) {
+                int gone = 0;
+                for (int index = root + 1; index < member; ++index) {
+                    gone += int(group[size_t(index)] > root && group[size_t(index)] != index);
+                }
+                now.push_back(member - gone);
+            }
+            expected.MergeEntries(now);
+        }
+        CWordList merged = before;
+        QCOMPARE(merged.MergeAll(), before.Count() - int(std::set<int>(group.begin(), group.end()).size()));
+        QCOMPARE(Describe(merged), Describe(expected));
+        QCOMPARE(merged.IsSaved(), merged.Count() == before.Count());
+        // What is left shares nothing.
+        QVERIFY(AllPairs(merged).empty());
+    }
+}
+
+void DuplicatesTest::mergesManyNotesQuickly()
+{
+    constexpr int Count = 30000;
+    CWordList list;
+    for (int i = 0; i < Count; ++i) {
+        list.Insert(CWordEntry(
+            QStringLiteral("same * w%1").arg(i), {}, QStringLiteral("note number %1 of all").arg(i)));
+    }
+    list.Insert(CWordEntry(QStringLiteral("same"), {}, QStringLiteral("number 77 of")));
+    QCOMPARE(list.MergeAll(), Count);
+    QCOMPARE(list.Entry(0).AlternativeCount(0), Count);
+    QCOMPARE(list.Entry(0).GetNote().count(QStringLiteral("; ")), Count - 1);
+}
+
+void DuplicatesTest::nothingToMerge()
+{
+    CWordList list = MakeList({QStringLiteral("a|b"), QStringLiteral("c|")});
+    QCOMPARE(list.MergeAll(), 0);
+    QCOMPARE(list.MergeEntries(std::vector<int>{1}), 0);
+    QCOMPARE(list.MergeEntries({}), 0);
+    QVERIFY(list.IsSaved());
+    QCOMPARE(CWordList().MergeAll(), 0);
+}
+
+QTEST_APPLESS_MAIN(DuplicatesTest)
+#include "duplicates_test.moc"

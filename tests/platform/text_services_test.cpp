@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "platform/collation.h"
+#include "platform/letters.h"
+#include "platform/random.h"
+#include "platform/windows_1252.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+#include <set>
+#include <thread>
+
+class TextServicesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void swedishOrder();
+    void sortKeysOrderLikeComparison();
+    void collatorsOfSeveralThreads();
+    void lettersAndCase();
+    void codePageByBytes();
+    void codePageRefusesLookAlikes();
+    void shuffleKeepsEveryElement();
+};
+
+void TextServicesTest::swedishOrder()
+{
+    QStringList words = {QStringLiteral("ö"), QStringLiteral("ä"), QStringLiteral("å"), QStringLiteral("Zebra"),
+        QStringLiteral("e"), QStringLiteral("É"), QStringLiteral("f"), QStringLiteral("wok"),
+        QStringLiteral("vy"), QStringLiteral("c-d"), QStringLiteral("cd"), QStringLiteral("ab c"),
+        QStringLiteral("abb")};
+    const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+    std::ranges::sort(words, [&](const QString &a, const QString &b) { return collator.Compare(a, b) < 0; });
+    QCOMPARE(words.join(u','), QStringLiteral("ab c,abb,c-d,cd,e,É,f,vy,wok,Zebra,å,ä,ö"));
+
+    QVERIFY(collator.Equal(u"ÅSA", u"åsa"));
+    QVERIFY(!collator.Equal(u"e", u"é"));
+    QVERIFY(!collator.Equal(u"å", u"a"));
+    QVERIFY(!collator.Equal(u"to be", u"to-be"));
+}
+
+void TextServicesTest::sortKeysOrderLikeComparison()
+{
+    CRandom random(7);
+    const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+    const QString alphabet = QStringLiteral("aAåÅäöÖeéÉz -'Ωж\u0301");
+    const auto draw = [&] {
+        QString text;
+        for (int length = random.Next() % 9; length > 0; --length) {
+            text.append(alphabet.at(random.Next() % alphabet.size()));
+        }
+        return text;
+    };
+    for (int i = 0; i < 3000; ++i) {
+        const QString a = draw();
+        const QString b = draw();
+        std::vector<char> keys;
+        collator.AppendSortKey(a, keys);
+        const size_t second = keys.size();
+        collator.AppendSortKey(b, keys);
+        const int byKey = std::strcmp(keys.data(), keys.data() + second);
+        const int byText = collator.Compare(a, b);
+        QVERIFY2((byKey < 0) == (byText < 0) && (byKey == 0) == (byText == 0), qPrintable(a + u'|' + b));
+    }
+}
+
+void TextServicesTest::collatorsOfSeveralThreads()
+{
+    std::vector<std::thread> threads;
+    std::array<bool, 4> right = {};
+    for (bool &result : right) {
+        threads.emplace_back([&result] {
+            const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+            result = true;
+            for (int i = 0; i < 200; ++i) {
+                result = result && collator.Compare(u"zon", u"ål") < 0 && FitsWindows1252(u"ål")
+                    && CaseFolding()[u'Å'] == u'å';
+            }
+        });
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    QVERIFY(std::ranges::all_of(right, std::identity()));
+}
+
+void TextServicesTest::lettersAndCase()
+{
+    QCOMPARE(KeepLetters(u"Å-ä 1ö'é\tж", false), QStringLiteral("Åäöéж"));
+    QCOMPARE(KeepLetters(u"to-be or\tnot", true), QStringLiteral("tobe ornot"));
+    // A letter outside the basic plane stays whole, a lone surrogate is no letter.
+    QCOMPARE(KeepLetters(u"a\U00010400\xD800", false), QStringLiteral("a\U00010400"));
+    QCOMPARE(ToLowerCase(u"ÅÄÖ É \U00010400\xDC00"), QStringLiteral("åäö é \U00010428\xDC00"));
+    QCOMPARE(CaseFolding()[u'Σ'], u'σ');
+    QCOMPARE(CaseFolding()[u'ς'], u'σ');
+    QCOMPARE(CaseFolding()[u'ß'], u'ß'); // Its full folding is two letters and would shift positions.
+    QCOMPARE(CaseFolding()[0xD801], char16_t(0xD801));
+}
+
+void TextServicesTest::codePageByBytes()
+{
+    QByteArray all;
+    for (int byte = 0; byte < 256; ++byte) {
+        all.append(char(byte));
+    }
+    const QString decoded = DecodeWindows1252(all);
+    QCOMPARE(decoded.at(0x80), QChar(u'€'));
+    QCOMPARE(decoded.at(0x8A), QChar(u'Š'));
+    QCOMPARE(decoded.at(0x9F), QChar(u'Ÿ'));
+    QCOMPARE(decoded.at(0xE5), QChar(u'å'));
+    for (const int undefined : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) {
+        QCOMPARE(decoded.at(undefined).unicode(), char16_t(undefined));
+    }
+    QByteArray back;
+    QVERIFY(AppendWindows1252(decoded, back));
+    QCOMPARE(back, all);
+}
+
+void TextServicesTest::codePageRefusesLookAlikes()
+{
+    QByteArray bytes;
+    // U+0080 is not the euro, full-width a is not a, a surrogate pair is one character.
+    QVERIFY(!AppendWindows1252(u"a\u0080\uFF41\U0001F600\xD83Dz", bytes));
+    QCOMPARE(bytes, QByteArray("a????z"));
+    QVERIFY(!FitsWindows1252(u"α"));
+    QVERIFY(!FitsWindows1252(u"e\u0301"));
+    QVERIFY(FitsWindows1252(u"“Smörgås” – 5 €"));
+}
+
+void TextServicesTest::shuffleKeepsEveryElement()
+{
+    std::vector<int> numbers(40000);
+    std::iota(numbers.begin(), numbers.end(), 0);
+    CRandom random(1);
+    Shuffle(numbers, random);
+    QVERIFY(!std::ranges::is_sorted(numbers));
+    // Beyond 32767 elements the draws are widened, so that late elements reach late places too.
+    QVERIFY(std::any_of(numbers.begin() + 35000, numbers.end(), [](int number) { return number < 20000; }));
+    QCOMPARE(std::set<int>(numbers.begin(), numbers.end()).size(), numbers.size());
+
+    // Two elements: the first exchange decides, the second puts element 1 in front of element 0.
+    for (quint32 seed = 0; seed < 20; ++seed) {
+        CRandom draws(seed);
+        const bool swapped = draws.Next() % 2 == 1;
+        CRandom same(seed);
+        std::vector<int> pair = {0, 1};
+        Shuffle(pair, same);
+        QCOMPARE(pair, swapped ? (std::vector<int>{0, 1}) : (std::vector<int>{1, 0}));
+    }
+}
+
+QTEST_APPLESS_MAIN(TextServicesTest)
+#include "text_services_test.moc"

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "resources/string_table.h"
+#include "resources/texts.h"
+#include "shell/commands.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+const QByteArray FirstLine = QByteArrayLiteral("Ordelin-spr\xC3\xA5kmodul\n");
+
+CStringTable LoadFile(const QString &path)
+{
+    CStringTable table;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !table.Load(file.readAll())) {
+        qWarning("%s is no language module", qPrintable(path));
+    }
+    return table;
+}
+
+/// The placeholders of a text in their order; those filled by position must keep it, the others only occur.
+QStringList Placeholders(const QString &text, const QString &pattern)
+{
+    QStringList found;
+    for (auto match = QRegularExpression(pattern).globalMatch(text); match.hasNext();) {
+        found.append(match.next().captured());
+    }
+    return found;
+}
+
+QChar Mnemonic(const QString &text)
+{
+    const qsizetype ampersand = text.indexOf(u'&');
+    return ampersand < 0 ? QChar() : text.at(ampersand + 1).toLower();
+}
+
+}
+
+class TextsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void modules();
+    void damagedModules();
+    void filling();
+    void ownTextsBehindAModule();
+    void shippedModulesAreComplete();
+    void mnemonicsAreUnique();
+};
+
+void TextsTest::modules()
+{
+    CStringTable table;
+    QVERIFY(table.Load(
+        FirstLine + "# comment=1\r\n5=a\\nb\\\\n\\t=x\n7=first\n7=second\n8=\nno number=x\n9\n10=last\\"));
+    QCOMPARE(table.Text(5), QStringLiteral("a\nb\\n\t=x"));
+    QCOMPARE(table.Text(7), QStringLiteral("second"));
+    QVERIFY(table.Contains(8) && !table.Contains(9) && !table.Contains(1));
+    QCOMPARE(table.Text(10), QStringLiteral("last\\"));
+}
+
+void TextsTest::damagedModules()
+{
+    CStringTable table;
+    QVERIFY(!table.Load({}));
+    QVERIFY(!table.Load("7=x\n"));
+    QVERIFY(!table.Load(QByteArray(1000, '\0')));
+    QVERIFY(table.Load(FirstLine));
+    QVERIFY(table.Numbers().isEmpty());
+    QVERIFY(table.Load(FirstLine + "1=" + QByteArray(1000001, '\\')));
+    QCOMPARE(table.Text(1).size(), 500001);
+    QVERIFY(table.Load(FirstLine + "99999999999=x\n3=\xFF\xFE\n"));
+    QCOMPARE(table.Numbers(), QList<int>{3});
+}
+
+void TextsTest::filling()
+{
+    QCOMPARE(FillText(QStringLiteral("%s av %s (%s%%)"),
+                 {QStringLiteral("%s"), QStringLiteral("%%"), QStringLiteral("3")}),
+        QStringLiteral("%s av %% (3%)"));
+    QCOMPARE(FillText(QStringLiteral("border=%d%s%"), {QStringLiteral("1")}), QStringLiteral("border=1%"));
+    QCOMPARE(FillText(QStringLiteral("%word %s"), {QStringLiteral("x")}), QStringLiteral("%word x"));
+}
+
+void TextsTest::ownTextsBehindAModule()
+{
+    CTexts texts;
+    QVERIFY(!texts.LoadModule("nonsense"));
+    QCOMPARE(texts.Get(62800), QStringLiteral("Avbryt"));
+    QVERIFY(texts.LoadModule(FirstLine + "62800=Cancel\n"));
+    QCOMPARE(texts.Get(62800), QStringLiteral("Cancel"));
+    QCOMPARE(texts.Get(62801), QStringLiteral("Stäng"));
+    QCOMPARE(texts.Get(-1), QString());
+}
+
+void TextsTest::shippedModulesAreComplete()
+{
+    const QString byPosition = QStringLiteral("%[sd%](?![a-z])");
+    const QString byName = QStringLiteral("%[1-9n](?![a-z])|%[a-z]{2,}[0-9]?|\\$[a-z]+");
+    const QDir source(QStringLiteral(ORDELIN_SOURCE_DIR));
+    const CStringTable own = LoadFile(source.filePath(QStringLiteral("src/resources/swedish.ordmod")));
+    QList<int> numbers = own.Numbers();
+    std::ranges::sort(numbers);
+    QVERIFY(numbers.size() > 200);
+    const QDir modules(source.filePath(QStringLiteral("modules")));
+    const QStringList names = modules.entryList({QStringLiteral("*.ordmod")});
+    QVERIFY(!names.isEmpty());
+    for (const QString &name : names) {
+        const CStringTable module = LoadFile(modules.filePath(name));
+        QList<int> translated = module.Numbers();
+        std::ranges::sort(translated);
+        QCOMPARE(translated, numbers);
+        for (const int number : std::as_const(numbers)) {
+            const QString a = own.Text(number);
+            const QString b = module.Text(number);
+            const QString what = QStringLiteral("%1 %2: %3").arg(name).arg(number).arg(b);
+            QVERIFY2(Placeholders(a, byPosition) == Placeholders(b, byPosition), qPrintable(what));
+            QStringList namesInA = Placeholders(a, byName);
+            QStringList namesInB = Placeholders(b, byName);
+            namesInA.sort();
+            namesInB.sort();
+            QVERIFY2(namesInA == namesInB, qPrintable(what));
+            QVERIFY2(a.count(u'\n') == b.count(u'\n') && a.count(u'|') == b.count(u'|'), qPrintable(what));
+            QVERIFY2(number == 62616 || a.count(u'&') == b.count(u'&'), qPrintable(what));
+            QVERIFY2(a.isEmpty() == b.isEmpty(), qPrintable(what));
+        }
+    }
+}
+
+void TextsTest::mnemonicsAreUnique()
+{
+    QList<QList<int>> windows = {
+        {63070, 63071, 62800, 63073, 63074, 63075}, {63070, 63101, 62800, 63073, 63074, 63075}};
+    QList<int> titles;
+    for (const CommandMenu &menu : commandMenus()) {
+        titles.append(menu.title);
+        QList<int> captions;
+        for (const int id : menu.commands) {
+            if (id != CommandId::Separator) {
+                captions.append(100000 + id);
+            }
+        }
+        windows.append(captions);
+    }
+    windows.append(titles);
+    const QDir source(QStringLiteral(ORDELIN_SOURCE_DIR));
+    for (const char *path : {"src/resources/swedish.ordmod", "modules/english.ordmod"}) {
+        const CStringTable table = LoadFile(source.filePath(QLatin1StringView(path)));
+        for (const QList<int> &window : std::as_const(windows)) {
+            QString used;
+            for (const int number : window) {
+                const QChar mnemonic = Mnemonic(table.Text(number));
+                if (!mnemonic.isNull()) {
+                    QVERIFY2(!used.contains(mnemonic), qPrintable(table.Text(number)));
+                    used += mnemonic;
+                }
+            }
+        }
+    }
+}
+
+QTEST_APPLESS_MAIN(TextsTest)
+#include "texts_test.moc"
