@@ -36,9 +36,9 @@ void ReadHeader(CWordList &list, CTextFileReader &reader, const GlossaryVersion 
     list.SetComments(HeaderLine(reader));
     list.SetLanguage(0, HeaderLine(reader));
     list.SetLanguage(1, HeaderLine(reader));
-    // No record takes less than three bytes, and most take many more; the count is only a hint.
+    // The count only reserves room, and no more than a file of this size can fill.
     const qint64 count = std::atoll(NarrowHeaderLine(reader).constData());
-    list.Reserve(int(std::clamp<qint64>(count, 0, reader.Size() / 8)));
+    list.Reserve(int(std::clamp<qint64>(count, 0, reader.Size() / 2)));
     if (version.hasQuestions) {
         for (const int direction : {0, 1}) {
             const QByteArray mark = NarrowHeaderLine(reader);

@@ -34,6 +34,7 @@ public:
     bool AtEnd() const { return m_atEnd; }
     /// True once ReadNarrowLine() met a character that is not in the code page.
     bool Lossy() const { return m_lossy; }
+
     /// The length of the file in bytes.
     qint64 Size() const { return m_device->size(); }
 

@@ -93,6 +93,7 @@ QStringList SplitAlternatives(const QString &text)
     QStringList alternatives;
     for (const QStringView piece : QStringView(text).split(Separator)) {
         QString alternative = piece.toString();
+        // Kept: in this order, so a comment of control characters alone stays, as one of a space.
         RemoveEmptyComments(alternative);
         CleanSpaces(alternative);
         if (!alternative.isEmpty()) {

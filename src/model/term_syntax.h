@@ -18,7 +18,8 @@ QStringList SplitAlternatives(const QString &text);
 /// True for a text that is one clean alternative without comments: it is in normal form as it stands.
 bool IsSimpleTerm(QStringView text);
 
-/// `text` in normal form: its alternatives joined by AlternativeJoint.
+/// `text` in normal form: its alternatives joined by AlternativeJoint. The normal form of a normal form is the
+/// same, unless a comment of control characters alone became one of a space, which goes the second time.
 QString NormalizeTerm(const QString &text);
 
 /// `text` without its comments, in normal form. An unmatched "[" ends the removal, which runs from the end of

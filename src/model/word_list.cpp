@@ -2,7 +2,6 @@
 #include "model/word_list.h"
 
 #include <algorithm>
-#include <ranges>
 
 void CWordList::Assign(QString &member, const QString &text)
 {
@@ -64,19 +63,12 @@ void CWordList::SetProperties(const ListProperties &properties)
 const CWordEntry &CWordList::Entry(int index) const
 {
     static const CWordEntry empty;
-    return IsIndex(index) ? m_entries[size_t(index)]->entry : empty;
-}
-
-CWordEntry &CWordList::Mutable(int index)
-{
-    EntryPointer &pointer = m_entries[size_t(index)];
-    pointer.detach();
-    return pointer->entry;
+    return m_entries.IsIndex(index) ? m_entries.At(index) : empty;
 }
 
 void CWordList::Reset()
 {
-    m_entries.clear();
+    m_entries.Clear();
     m_comments.clear();
     m_adaptQuestion = {};
     m_questionTemplate = {};
@@ -85,15 +77,10 @@ void CWordList::Reset()
 
 void CWordList::DeleteAll()
 {
-    if (!m_entries.empty()) {
+    if (Count() > 0) {
         m_saved = false;
-        m_entries.clear();
+        m_entries.Clear();
     }
-}
-
-void CWordList::Reserve(int count)
-{
-    m_entries.reserve(size_t(std::max(count, 0)));
 }
 
 int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIndex)
@@ -103,22 +90,22 @@ int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIn
     if (options.checkSimilar) {
         FindSimilar(entry, similar, -1, -1);
     }
-    EntryPointer inserted(new SharedEntry(std::move(entry)));
-    if (options.position >= 0 && options.position < Count()) {
-        m_entries.insert(m_entries.begin() + options.position, inserted);
-        if (options.position <= similar) {
-            ++similar;
-        }
-    } else {
-        m_entries.push_back(inserted);
+    const bool inside = m_entries.IsIndex(options.position);
+    m_entries.Insert(options.position, std::move(entry));
+    if (inside && options.position <= similar) {
+        ++similar;
     }
+    const CWordEntry *const inserted = &Entry(inside ? options.position : Count() - 1);
     const bool sort = options.sortAfter && similar < 0;
     if (sort) {
         SortByKey(0, options.sort);
     }
     if (outIndex != nullptr) {
         // Kept: without a sort this is the last entry, wherever the new one was inserted.
-        *outIndex = sort ? int(std::ranges::find(m_entries, inserted) - m_entries.begin()) : Count() - 1;
+        *outIndex = Count() - 1;
+        while (sort && &Entry(*outIndex) != inserted) {
+            --*outIndex;
+        }
     }
     return similar;
 }
@@ -126,7 +113,7 @@ int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIn
 int CWordList::ReplaceEntry(
     int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar)
 {
-    if (!IsIndex(index)) {
+    if (!m_entries.IsIndex(index)) {
         return -1;
     }
     int similar = -1;
@@ -135,7 +122,7 @@ int CWordList::ReplaceEntry(
     }
     const CWordEntry &stored = Entry(index);
     if (stored.GetText(0) != term1 || stored.GetText(1) != term2 || stored.GetNote() != note) {
-        CWordEntry &entry = Mutable(index);
+        CWordEntry &entry = m_entries.Mutable(index);
         entry.SetTerm(term1, 0);
         entry.SetTerm(term2, 1);
         entry.SetNote(note);
@@ -146,7 +133,7 @@ int CWordList::ReplaceEntry(
 
 int CWordList::SetEntryField(const QString &text, int field, int index, bool checkSimilar)
 {
-    if (!IsIndex(index) || field < 0) {
+    if (!m_entries.IsIndex(index) || field < 0) {
         return -1;
     }
     const int target = std::min(field, CWordEntry::NoteField);
@@ -157,7 +144,7 @@ int CWordList::SetEntryField(const QString &text, int field, int index, bool che
         FindSimilar(candidate, similar, index, target);
     }
     if (Entry(index).GetField(target) != text) {
-        Mutable(index).SetField(text, target);
+        m_entries.Mutable(index).SetField(text, target);
         m_saved = false;
     }
     return similar;
@@ -166,21 +153,15 @@ int CWordList::SetEntryField(const QString &text, int field, int index, bool che
 void CWordList::DeleteEntries(Selection selection)
 {
     m_saved = false;
-    // Marked first and removed in one pass, so deleting half of a long list takes no quadratic time.
-    for (const int index : selection) {
-        if (IsIndex(index)) {
-            m_entries[size_t(index)].reset();
-        }
-    }
-    std::erase(m_entries, EntryPointer());
+    m_entries.Remove(selection);
 }
 
 void CWordList::SwapInEntries(Selection selection, bool swapTexts, bool swapFlags, int a, int b)
 {
     m_saved = false;
     for (const int index : selection) {
-        if (IsIndex(index)) {
-            Mutable(index).SwapFields(swapTexts, swapFlags, a, b);
+        if (m_entries.IsIndex(index)) {
+            m_entries.Mutable(index).SwapFields(swapTexts, swapFlags, a, b);
         }
     }
 }
@@ -190,27 +171,27 @@ void CWordList::MoveEntries(Selection selection, bool up, int field)
     m_saved = false;
     const auto exchange = [&](int index) {
         const int other = up ? index - 1 : index + 1;
-        if (!IsIndex(index) || !IsIndex(other)) {
+        if (!m_entries.IsIndex(index) || !m_entries.IsIndex(other)) {
             return;
         }
         if (field < 0) {
-            m_entries[size_t(index)].swap(m_entries[size_t(other)]);
+            m_entries.Swap(index, other);
         } else {
-            Mutable(index).SwapFieldWith(Mutable(other), field);
+            m_entries.Mutable(index).SwapFieldWith(m_entries.Mutable(other), field);
         }
     };
     // The block's leading entry goes first, so that the entry in its way travels through the whole block.
     if (up) {
-        std::ranges::for_each(selection, exchange);
+        std::for_each(selection.begin(), selection.end(), exchange);
     } else {
-        std::ranges::for_each(selection | std::views::reverse, exchange);
+        std::for_each(selection.rbegin(), selection.rend(), exchange);
     }
 }
 
 void CWordList::SetFlags(int language, Selection selection, FlagMode mode)
 {
     for (const int index : selection) {
-        if (!IsIndex(index)) {
+        if (!m_entries.IsIndex(index)) {
             continue;
         }
         const bool flag = Entry(index).GetFlag(language);
@@ -218,7 +199,7 @@ void CWordList::SetFlags(int language, Selection selection, FlagMode mode)
             continue;
         }
         m_saved = false;
-        CWordEntry &entry = Mutable(index);
+        CWordEntry &entry = m_entries.Mutable(index);
         if (mode == FlagMode::Cycle) {
             entry.CycleFlags();
         } else {
@@ -230,22 +211,28 @@ void CWordList::SetFlags(int language, Selection selection, FlagMode mode)
 int CWordList::CountFlagged(int which) const
 {
     int count = 0;
-    for (const EntryPointer &pointer : m_entries) {
-        count += int(which != 1 && pointer->entry.GetFlag(0)) + int(which != 0 && pointer->entry.GetFlag(1));
+    for (int index = 0; index < Count(); ++index) {
+        const CWordEntry &entry = Entry(index);
+        count += int(which != 1 && entry.GetFlag(0)) + int(which != 0 && entry.GetFlag(1));
     }
     return count;
 }
 
 bool CWordList::AnyNote() const
 {
-    return std::ranges::any_of(m_entries, [](const EntryPointer &pointer) { return pointer->entry.HasNote(); });
+    for (int index = 0; index < Count(); ++index) {
+        if (Entry(index).HasNote()) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool CWordList::FindSimilar(const CWordEntry &candidate, int &outIndex, int excludeIndex, int language) const
 {
     const bool oneLanguage = language == 0 || language == 1;
     for (int index = 0; index < Count(); ++index) {
-        const CWordEntry &entry = m_entries[size_t(index)]->entry;
+        const CWordEntry &entry = Entry(index);
         // Kept: entries with different notes are never similar, whatever words they share.
         if (index == excludeIndex || entry.GetNote() != candidate.GetNote()) {
             continue;

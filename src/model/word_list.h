@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/entry_sequence.h"
 #include "model/text_search.h"
-#include "model/word_entry.h"
-
-#include <QExplicitlySharedDataPointer>
 
 #include <array>
 #include <optional>
@@ -83,13 +81,14 @@ public:
     void SetSaved(bool saved) { m_saved = saved; }
 
     // Contents
-    int Count() const { return int(m_entries.size()); }
+    int Count() const { return m_entries.Count(); }
     /// An empty entry for an index out of range.
     const CWordEntry &Entry(int index) const;
     /// Deletes the entries, comments and templates and marks the list saved. Language names and author stay.
     void Reset();
     void DeleteAll();
-    void Reserve(int count);
+    /// Makes room for entries to come; a negative count is 0.
+    void Reserve(int count) { m_entries.Reserve(count); }
 
     /// Returns the index of a similar entry, as it is after the insertion, or -1. `outIndex`, when given,
     /// receives the new entry's index after a sort, and the index of the last entry otherwise.
@@ -138,17 +137,7 @@ public:
     int MergeAll();
 
 private:
-    struct SharedEntry : QSharedData
-    {
-        explicit SharedEntry(CWordEntry &&source) : entry(std::move(source)) { }
-        CWordEntry entry;
-    };
-    using EntryPointer = QExplicitlySharedDataPointer<SharedEntry>;
-
     void Assign(QString &member, const QString &text);
-    bool IsIndex(int index) const { return index >= 0 && index < Count(); }
-    /// The entry for changing: a copy of its own when another list shares it.
-    CWordEntry &Mutable(int index);
     void SortByKey(int key, const SortOptions &options);
     void MergeGroup(Selection group);
 
@@ -157,6 +146,6 @@ private:
     QString m_comments;
     std::array<bool, 2> m_adaptQuestion = {};
     std::array<QString, 2> m_questionTemplate;
-    std::vector<EntryPointer> m_entries;
+    CEntrySequence m_entries;
     bool m_saved = true;
 };

@@ -104,7 +104,7 @@ void CWordList::MergeGroup(Selection group)
         }
         notes.Add(entry.GetNote());
     }
-    CWordEntry &merged = Mutable(group.front());
+    CWordEntry &merged = m_entries.Mutable(group.front());
     for (size_t language = 0; language < alternatives.size(); ++language) {
         merged.SetTerm(alternatives[language].join(AlternativeJoint), int(language));
         merged.SetFlag(int(language), flags[language]);
@@ -115,7 +115,7 @@ void CWordList::MergeGroup(Selection group)
 int CWordList::MergeEntries(Selection selection)
 {
     std::vector<int> group(selection.begin(), selection.end());
-    std::erase_if(group, [this](int index) { return !IsIndex(index); });
+    std::erase_if(group, [this](int index) { return !m_entries.IsIndex(index); });
     if (group.size() < 2) {
         return 0;
     }
@@ -131,7 +131,7 @@ int CWordList::MergeAll()
 
     // Members of groups of two and more, each group's together and ascending.
     std::vector<std::pair<int, int>> members;
-    std::vector<bool> isRoot(m_entries.size(), false);
+    std::vector<bool> isRoot(size_t(Count()), false);
     for (int index = 0; index < Count(); ++index) {
         const int root = groups.Root(index);
         if (root != index) {

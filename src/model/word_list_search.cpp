@@ -30,10 +30,10 @@ TextMatch CWordList::FindNext(const TextSearch &search, int start, bool downward
 {
     const CTextMatcher matcher(search);
     const int count = Count();
-    const int origin = IsIndex(start) ? start : downward ? -1 : count;
+    const int origin = m_entries.IsIndex(start) ? start : downward ? -1 : count;
     for (int step = 1; step <= count; ++step) {
         const int index = downward ? (origin + step) % count : (origin - step + count) % count;
-        const TextMatch match = MatchEntry(matcher, search, m_entries[size_t(index)]->entry, index);
+        const TextMatch match = MatchEntry(matcher, search, Entry(index), index);
         if (match.IsFound()) {
             return match;
         }
@@ -46,7 +46,7 @@ std::vector<int> CWordList::FindAll(const TextSearch &search) const
     const CTextMatcher matcher(search);
     std::vector<int> found;
     for (int index = 0; index < Count(); ++index) {
-        if (MatchEntry(matcher, search, m_entries[size_t(index)]->entry, index).IsFound()) {
+        if (MatchEntry(matcher, search, Entry(index), index).IsFound()) {
             found.push_back(index);
         }
     }
@@ -57,10 +57,10 @@ int CWordList::FindPrefix(const QString &prefix, int column, int start) const
 {
     const CTextMatcher matcher(TextSearch{.text = prefix});
     const int count = Count();
-    const int origin = IsIndex(start) ? start : 0;
+    const int origin = m_entries.IsIndex(start) ? start : 0;
     for (int step = 0; step < count; ++step) {
         const int index = (origin + step) % count;
-        const CWordEntry &entry = m_entries[size_t(index)]->entry;
+        const CWordEntry &entry = Entry(index);
         if ((column != 1 && matcher.IsPrefixOf(entry.GetText(0)))
             || (column != 0 && matcher.IsPrefixOf(entry.GetText(1)))) {
             return index;

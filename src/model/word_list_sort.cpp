@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
 
 namespace {
 
@@ -24,7 +25,7 @@ using SortItems = std::span<SortItem>;
 quint64 Prefix(const char *key)
 {
     char bytes[sizeof(quint64)] = {};
-    std::strncpy(bytes, key, sizeof bytes);
+    std::memcpy(bytes, key, strnlen(key, sizeof bytes));
     return qFromBigEndian<quint64>(bytes);
 }
 
@@ -53,9 +54,13 @@ void SortByTexts(SortItems items, const TextOf &textOf, int level, int levels)
     const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
     std::vector<char> keys;
     keys.reserve(items.size() * 24);
+    collator.AppendSortKey({}, keys); // Empty texts, which most notes are, share this one.
     for (SortItem &item : items) {
-        item.key = keys.size();
-        collator.AppendSortKey(textOf(level, item.index), keys);
+        const QStringView text = textOf(level, item.index);
+        item.key = text.isEmpty() ? 0 : keys.size();
+        if (!text.isEmpty()) {
+            collator.AppendSortKey(text, keys);
+        }
         item.rank = Prefix(keys.data() + item.key);
     }
     const auto compare = [&keys](const SortItem &a, const SortItem &b) {
@@ -79,7 +84,11 @@ void CWordList::Sort(int key, const SortOptions &options, CRandom &random)
     }
     if (key < 0) {
         m_saved = false;
-        Shuffle(m_entries, random);
+        std::vector<int> order;
+        order.resize(size_t(Count()));
+        std::iota(order.begin(), order.end(), 0);
+        Shuffle(order, random);
+        m_entries.Reorder(order);
     } else {
         SortByKey(key, options);
     }
@@ -92,11 +101,12 @@ void CWordList::SortByKey(int key, const SortOptions &options)
     }
     m_saved = false;
     const int keyField = std::min(key, CWordEntry::NoteField);
-    const int order[CWordEntry::FieldCount] = {keyField, keyField == 0 ? 1 : 0, keyField == 2 ? 1 : 2};
+    const int fields[CWordEntry::FieldCount] = {keyField, keyField == 0 ? 1 : 0, keyField == 2 ? 1 : 2};
     const bool grouped = options.groupFlagged && keyField != CWordEntry::NoteField;
 
     // Always sorted as for `ascending`; descending is the exact reverse of it.
-    std::vector<SortItem> items(m_entries.size());
+    std::vector<SortItem> items;
+    items.resize(size_t(Count()));
     for (int index = 0; index < Count(); ++index) {
         const CWordEntry &entry = Entry(index);
         SortItem &item = items[size_t(index)];
@@ -106,7 +116,7 @@ void CWordList::SortByKey(int key, const SortOptions &options)
             item.rank |= quint64(entry.GetField(keyField).size());
         }
     }
-    const auto textOf = [&](int level, int index) { return QStringView(Entry(index).GetField(order[level])); };
+    const auto textOf = [&](int level, int index) { return QStringView(Entry(index).GetField(fields[level])); };
     const auto sameRank = [](const SortItem &a, const SortItem &b) { return a.rank == b.rank; };
     if (grouped || options.byLength) {
         std::ranges::sort(items, {}, &SortItem::rank);
@@ -116,10 +126,10 @@ void CWordList::SortByKey(int key, const SortOptions &options)
         std::ranges::reverse(items);
     }
 
-    std::vector<EntryPointer> sorted;
-    sorted.reserve(m_entries.size());
+    std::vector<int> order;
+    order.reserve(items.size());
     for (const SortItem &item : items) {
-        sorted.push_back(std::move(m_entries[size_t(item.index)]));
+        order.push_back(item.index);
     }
-    m_entries = std::move(sorted);
+    m_entries.Reorder(order);
 }

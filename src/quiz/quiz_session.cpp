@@ -9,7 +9,6 @@
 #include <cmath>
 #include <iterator>
 #include <numeric>
-#include <ranges>
 
 namespace {
 
@@ -61,7 +60,7 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
         };
         // From the last to the first, which is the order of the draws.
         std::vector<int> remaining;
-        std::ranges::copy_if(m_candidates | std::views::reverse, std::back_inserter(remaining), kept);
+        std::copy_if(m_candidates.rbegin(), m_candidates.rend(), std::back_inserter(remaining), kept);
         std::ranges::reverse(remaining);
         m_candidates = std::move(remaining);
     }
