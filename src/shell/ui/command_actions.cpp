@@ -10,10 +10,16 @@
 
 namespace {
 
-/// The desktop's icon of that name, else the program's own.
+/// The desktop's icon of that name, else the program's own. Without a theme of the desktop's own there is only
+/// the one that holds programs' icons, which is not worth the time of looking through it at every start.
 QIcon CommandIcon(const QString &name)
 {
-    return name.isEmpty() ? QIcon() : QIcon::fromTheme(name, QIcon(QStringLiteral(":/icons/%1.svg").arg(name)));
+    if (name.isEmpty()) {
+        return {};
+    }
+    const QIcon own(QStringLiteral(":/icons/%1.svg").arg(name));
+    const QString theme = QIcon::themeName();
+    return theme.isEmpty() || theme == QStringLiteral("hicolor") ? own : QIcon::fromTheme(name, own);
 }
 
 }

@@ -63,8 +63,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
 void CMainFrame::MakeMenus()
 {
     for (const CommandMenu &menu : commandMenus()) {
-        AddCommands(
-            *menuBar()->addMenu(m_services.texts.Get(menu.title)), menu.commands, *m_actions);
+        AddCommands(*menuBar()->addMenu(m_services.texts.Get(menu.title)), menu.commands, *m_actions);
     }
     auto *bar = addToolBar(m_services.texts.Get(Text::StandardToolBar));
     bar->setObjectName(QStringLiteral("standardToolBar"));
