@@ -261,6 +261,7 @@ private:
     void Copying()
     {
         std::vector<std::shared_ptr<CWordEntry>> pointers;
+        pointers.reserve(size_t(m_count));
         for (int i = 0; i < m_count; ++i) {
             pointers.push_back(std::make_shared<CWordEntry>(m_list.Entry(i)));
         }

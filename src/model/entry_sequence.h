@@ -49,7 +49,7 @@ private:
     };
     using BlockPointer = QExplicitlySharedDataPointer<Block>;
 
-    static constexpr int BlockSize = 512; // A block grows to twice this before it is split.
+    static constexpr size_t BlockSize = 512; // A block grows to twice this before it is split.
 
     struct Place
     {

@@ -61,7 +61,7 @@ std::vector<int> CWin32View::SelectedEntries() const
         }
     }
     std::ranges::sort(entries);
-    entries.erase(std::ranges::unique(entries).begin(), entries.end());
+    entries.erase(std::unique(entries.begin(), entries.end()), entries.end());
     return entries;
 }
 

@@ -32,7 +32,7 @@ CStandardQuiz::CStandardQuiz(QuizWindowServices services, CQuizSession &session,
     resize(sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 80, 0)));
 
     connect(answerButton(), &QPushButton::clicked, this, &CStandardQuiz::answer);
-    showCurrentWord();
+    CStandardQuiz::showCurrentWord();
 }
 
 void CStandardQuiz::showCurrentWord()

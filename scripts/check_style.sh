@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Formatting of every source file, and static analysis of the program's own ones; fails on the first kind of fault.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+git ls-files -z -- '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
+
+cmake --preset tidy >/dev/null
+# The sources that the build makes.
+cmake --build build/tidy --target ordelin_core_autogen ordelin_ui_autogen ordelin_autogen >/dev/null
+git ls-files -z -- 'src/*.cpp' 'bench/*.cpp' | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/tidy --quiet 2>build/tidy/clang-tidy.log
+echo "Formatting and static analysis found nothing."
