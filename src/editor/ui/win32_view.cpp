@@ -5,24 +5,22 @@
 #include "editor/list_summary.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
+#include "platform/ui/elided_label.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QGridLayout>
 #include <QItemSelection>
 #include <QItemSelectionModel>
-#include <QLabel>
 
 #include <algorithm>
 
 namespace {
 
-QLabel *MakeLabel(QWidget *parent, const char *name)
+CElidedLabel *MakeLabel(QWidget *parent, const char *name)
 {
-    auto *label = new QLabel(parent);
+    auto *label = new CElidedLabel(parent);
     label->setObjectName(QLatin1StringView(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return label;
 }
 
@@ -90,7 +88,6 @@ void CWin32View::RefreshAll()
     const CWordList &list = m_document.List();
     m_author->setText(m_texts.Fill(Text::ViewAuthor, {list.GetAuthor()}));
     m_comments->setText(m_texts.Fill(Text::ViewComments, {list.GetComments()}));
-    m_comments->setToolTip(list.GetComments().toHtmlEscaped());
     UpdateStatusText();
 }
 

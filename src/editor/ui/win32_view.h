@@ -5,11 +5,11 @@
 
 #include <vector>
 
+class CElidedLabel;
 class CTexts;
 class CWin32Doc;
 class CWordListControl;
 class CWordListModel;
-class QLabel;
 struct EditorSettings;
 
 /// The view of the document: author and comments, and the word list below them. Owns its widgets; the document
@@ -39,6 +39,6 @@ private:
     const CTexts &m_texts;
     CWordListModel *m_model;
     CWordListControl *m_list;
-    QLabel *m_author;
-    QLabel *m_comments;
+    CElidedLabel *m_author;
+    CElidedLabel *m_comments;
 };

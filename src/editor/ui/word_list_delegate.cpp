@@ -36,11 +36,15 @@ void CWordListDelegate::paint(
     const int size = std::min(cell.fontMetrics.height(), cell.rect.height() - 4);
     const int gap = size / 3;
     const QRect picture(cell.rect.left() + gap, cell.rect.center().y() - size / 2, size, size);
+    // The flag keeps the window's own background, on which it can be told also in a selected row.
+    painter->fillRect(QRect(cell.rect.left(), cell.rect.top(), size + 2 * gap, cell.rect.height()),
+        cell.features.testFlag(QStyleOptionViewItem::Alternate) ? cell.palette.alternateBase()
+                                                                : cell.palette.base());
     (flag.toBool() ? m_flagOn : m_flagOff).paint(painter, picture);
 
     const bool selected = cell.state.testFlag(QStyle::State_Selected);
     const bool active = cell.state.testFlag(QStyle::State_Active);
-    const QRect room = cell.rect.adjusted(size + 2 * gap, 1, -2, -1);
+    const QRect room = cell.rect.adjusted(size + 2 * gap + 3, 1, -2, -1);
     painter->save();
     painter->setPen(cell.palette.color(
         active ? QPalette::Active : QPalette::Inactive, selected ? QPalette::HighlightedText : QPalette::Text));

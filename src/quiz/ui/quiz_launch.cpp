@@ -28,6 +28,7 @@ void CQuizLaunch::startQuiz()
     }
     m_dialog = std::make_unique<CStandardQuiz>(m_services, *m_session, m_settings);
     connect(m_dialog.get(), &QDialog::finished, this, &CQuizLaunch::quizClosed);
+    m_dialog->move(m_mainWindow.frameGeometry().center() - m_dialog->rect().center());
     m_host.ShowMainWindow(false);
     m_dialog->show();
     m_dialog->activateWindow();

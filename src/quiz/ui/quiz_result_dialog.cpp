@@ -69,6 +69,7 @@ CQuizResultDialog::CQuizResultDialog(
     list->setRootIsDecorated(false);
     list->setUniformRowHeights(true);
     list->setAllColumnsShowFocus(true);
+    list->setAlternatingRowColors(true);
     QStringList titles;
     if (session.wordCount() > 0) {
         const QuizQuestion first = session.questionAt(0);
@@ -98,7 +99,7 @@ CQuizResultDialog::CQuizResultDialog(
     list->addTopLevelItems(items);
     const int width = fontMetrics().averageCharWidth();
     for (int column = 0; column < titles.size(); ++column) {
-        list->setColumnWidth(column, width * (column < shareColumn ? 28 : 20));
+        list->setColumnWidth(column, width * (column < shareColumn ? 28 : 18));
     }
 
     auto *summary = new QLabel(resultSummary(session, texts), this);

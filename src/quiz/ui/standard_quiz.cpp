@@ -18,12 +18,15 @@ CStandardQuiz::CStandardQuiz(QuizWindowServices services, CQuizSession &session,
     m_question->setAccessibleName(texts().Get(Text::QuizQuestion));
     m_question->setReadOnly(true);
     m_question->setTabChangesFocus(true);
+    // It is to be read, so it doesn't look like a field to write in.
+    m_question->setFrameShape(QFrame::NoFrame);
+    m_question->viewport()->setBackgroundRole(QPalette::Window);
     m_answerField->setObjectName(QStringLiteral("answer"));
     m_answerField->setAccessibleName(texts().Get(Text::QuizAnswer));
     m_answerField->setPlaceholderText(texts().Get(Text::QuizAnswer));
 
     QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.4);
+    large.setPointSizeF(large.pointSizeF() * 1.5);
     m_question->setFont(large);
     m_answerField->setFont(large);
     m_question->setMinimumHeight(QFontMetrics(large).lineSpacing() * 3);

@@ -4,6 +4,7 @@
 #include "document/file_commands.h"
 #include "document/win32_doc.h"
 #include "editor/ui/win32_view.h"
+#include "platform/ui/elided_label.h"
 #include "quiz/ui/quiz_launch.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
@@ -12,8 +13,8 @@
 #include "shell/ui/command_actions.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -37,7 +38,7 @@ void AddCommands(Bar &bar, const QList<int> &commands, const CCommandActions &ac
 CMainFrame::CMainFrame(const FrameServices &services)
     : m_services(services), m_actions(new CCommandActions(services.texts, this)),
       m_view(new CWin32View(services.document, services.editorSettings, services.texts, this)),
-      m_statusText(new QLabel(this)),
+      m_statusText(new CElidedLabel(this)),
       m_quizLaunch(new CQuizLaunch(services.document, {services.texts, services.prompt}, services.quizSettings,
           services.random, *this, *this))
 {
@@ -47,14 +48,13 @@ CMainFrame::CMainFrame(const FrameServices &services)
     ConnectCommands();
 
     m_statusText->setObjectName(QStringLiteral("statusText"));
-    m_statusText->setTextFormat(Qt::PlainText);
-    m_statusText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(m_statusText, 1);
 
-    connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &QLabel::setText);
+    connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::setText);
     connect(&services.document, &CWin32Doc::ListReplaced, this, &CMainFrame::Refresh);
     connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::Refresh);
-    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
+    const QSize wanted(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
+    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
     m_view->RefreshAll();
     m_view->setFocus();
     Refresh();
@@ -106,6 +106,12 @@ void CMainFrame::SelectEntries(const std::vector<int> &entries)
 
 void CMainFrame::ShowMainWindow(bool show)
 {
+    // A window manager may put a window that comes back somewhere else.
+    if (show) {
+        restoreGeometry(m_geometry);
+    } else {
+        m_geometry = saveGeometry();
+    }
     setVisible(show);
     if (show) {
         activateWindow();

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 class CCommandActions;
+class CElidedLabel;
 class CFileCommands;
 class CQuizLaunch;
 class CRandom;
@@ -13,7 +14,6 @@ class CTexts;
 class CWin32Doc;
 class CWin32View;
 class IUserPrompt;
-class QLabel;
 struct EditorSettings;
 struct QuizSettings;
 
@@ -58,6 +58,7 @@ private:
     FrameServices m_services;
     CCommandActions *m_actions;
     CWin32View *m_view;
-    QLabel *m_statusText;
+    CElidedLabel *m_statusText;
     CQuizLaunch *m_quizLaunch;
+    QByteArray m_geometry; // While a quiz hides the window.
 };
