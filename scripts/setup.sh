@@ -4,9 +4,9 @@
 # "checks" for formatting, static analysis and fuzzing. Does nothing when all of it is there.
 set -euo pipefail
 
-program=(g++ cmake ninja-build ccache python3 qt6-base-dev libqt6svg6 libicu-dev libgl-dev fonts-dejavu-core)
+program=(g++ cmake ninja-build ccache python3 qt6-base-dev libqt6svg6 qt6-wayland libicu-dev libgl-dev fonts-dejavu-core)
 display=(xvfb openbox imagemagick xdotool)
-checks=(clang clang-format clang-tidy libclang-rt-14-dev)
+checks=(clang clang-format clang-tidy libclang-rt-dev git)
 
 declare -n packages=${1:?"usage: setup.sh program|display|checks"}
 

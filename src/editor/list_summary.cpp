@@ -1,25 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "editor/list_summary.h"
 
-#include "model/word_list.h"
+#include "document/win32_doc.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-QString listSummary(const CWordList &list, const CTexts &texts, std::span<const int> selected)
+CListSummary::CListSummary(const CWin32Doc &document, const CTexts &texts)
+    : m_document(document), m_texts(texts)
 {
+}
+
+QString CListSummary::Describe(std::span<const int> selected)
+{
+    const CWordList &list = m_document.List();
+    if (m_counted != m_document.ChangeCounter()) {
+        m_flagged = {list.CountFlagged(0), list.CountFlagged(1)};
+        m_counted = m_document.ChangeCounter();
+    }
     const int count = list.Count();
     QStringList values = {QString::number(count)};
     for (const int language : {0, 1}) {
-        const int flagged = list.CountFlagged(language);
+        const int flagged = m_flagged[size_t(language)];
         const qint64 percent = count == 0 ? 0 : qint64(flagged) * 100 / count;
         values << QString::number(flagged) << QString::number(percent) << list.GetLanguage(language);
     }
-    const QString summary = texts.Fill(Text::ListSummary, values);
+    const QString summary = m_texts.Fill(Text::ListSummary, values);
     if (selected.empty()) {
         return summary;
     }
     if (selected.size() == 1) {
-        return texts.Fill(Text::EntrySelected, {QString::number(selected.front() + 1), summary});
+        return m_texts.Fill(Text::EntrySelected, {QString::number(selected.front() + 1), summary});
     }
-    return texts.Fill(Text::EntriesSelected, {QString::number(selected.size()), summary});
+    return m_texts.Fill(Text::EntriesSelected, {QString::number(selected.size()), summary});
 }

@@ -3,11 +3,27 @@
 
 #include <QString>
 
+#include <array>
+#include <optional>
 #include <span>
 
 class CTexts;
-class CWordList;
+class CWin32Doc;
 
 /// The sentence of the status line: how many entries there are and how many of them are flagged in each
-/// language, preceded by what is selected.
-QString listSummary(const CWordList &list, const CTexts &texts, std::span<const int> selected);
+/// language, preceded by what is selected. Counts flags only after a change, since the selection changes with
+/// every key.
+class CListSummary
+{
+public:
+    /// Neither is owned.
+    CListSummary(const CWin32Doc &document, const CTexts &texts);
+
+    QString Describe(std::span<const int> selected);
+
+private:
+    const CWin32Doc &m_document;
+    const CTexts &m_texts;
+    std::optional<quint64> m_counted; // The document's change counter when the flags were counted.
+    std::array<int, 2> m_flagged = {};
+};

@@ -2,6 +2,7 @@
 #include "editor/word_list_model.h"
 
 #include "document/win32_doc.h"
+#include "platform/plain_text.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
@@ -42,8 +43,9 @@ QVariant CWordListModel::data(const QModelIndex &index, int role) const
     const CWordEntry &entry = m_document.List().Entry(index.row());
     const bool hasFlag = cellField == 0 || cellField == 1;
     switch (role) {
-    case Qt::DisplayRole:
     case Qt::ToolTipRole:
+        return cellField == NumberColumn ? QVariant() : ShownAsPlainText(entry.GetField(cellField));
+    case Qt::DisplayRole:
         return cellField == NumberColumn ? QString::number(index.row() + 1) : entry.GetField(cellField);
     case FlagRole:
         return hasFlag ? QVariant(entry.GetFlag(cellField)) : QVariant();

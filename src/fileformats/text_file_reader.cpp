@@ -25,6 +25,7 @@ void CTextFileReader::Open(QIODevice &device)
 {
     m_device = &device;
     m_lossy = false;
+    m_failed = false;
     Rewind();
 }
 
@@ -72,6 +73,7 @@ bool CTextFileReader::Fill()
         const qint64 read = m_device->read(m_bytes.data() + m_keptBytes, BufferSize - m_keptBytes);
         if (read <= 0) {
             m_atEnd = true;
+            m_failed = read < 0;
             return false;
         }
         const auto *const bytes = reinterpret_cast<const uchar *>(m_bytes.data());

@@ -32,6 +32,8 @@ public:
     TextEncoding Encoding() const { return m_encoding; }
     /// True once a read has run past the end of the file.
     bool AtEnd() const { return m_atEnd; }
+    /// True when the end was not the end of the file but an error of its device.
+    bool Failed() const { return m_failed; }
     /// True once ReadNarrowLine() met a character that is not in the code page.
     bool Lossy() const { return m_lossy; }
 
@@ -62,6 +64,7 @@ private:
     qsizetype m_position = 0;
     qsizetype m_count = 0;
     bool m_atEnd = false;
+    bool m_failed = false;
     bool m_atStart = true;
     bool m_lossy = false;
 };

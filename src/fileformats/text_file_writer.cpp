@@ -5,18 +5,18 @@
 
 bool CTextFileWriter::Open(const QString &path, TextEncoding encoding)
 {
-    m_file.setFileName(path);
-    m_file.setDirectWriteFallback(true);
-    if (!m_file.open(QIODevice::WriteOnly)) {
+    if (!m_file.Open(path)) {
         return false;
     }
-    Open(m_file, encoding);
+    Open(m_file.Device(), encoding);
+    m_ownsFile = true;
     return true;
 }
 
 void CTextFileWriter::Open(QIODevice &device, TextEncoding encoding)
 {
     m_device = &device;
+    m_ownsFile = false;
     m_encoding = encoding;
     m_buffer.clear();
     m_buffer.reserve(2 * BufferSize);
@@ -81,11 +81,12 @@ void CTextFileWriter::Flush()
 bool CTextFileWriter::Close()
 {
     Flush();
-    if (m_device != &m_file) {
+    if (!m_ownsFile) {
         return !m_failed;
     }
     if (m_failed) {
-        m_file.cancelWriting();
+        m_file.Cancel();
+        return false;
     }
-    return m_file.commit() && !m_failed;
+    return m_file.Commit();
 }

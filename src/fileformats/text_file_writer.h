@@ -2,9 +2,9 @@
 #pragma once
 
 #include "fileformats/text_encoding.h"
+#include "platform/safe_file.h"
 
 #include <QByteArray>
-#include <QSaveFile>
 #include <QString>
 
 /// Writes a text file with CR LF line ends. The file at `path` is replaced as a whole when Close() succeeds and
@@ -36,10 +36,11 @@ private:
 
     static constexpr qsizetype BufferSize = 1024;
 
-    QSaveFile m_file;
+    CSafeFile m_file;
     QIODevice *m_device = nullptr;
     TextEncoding m_encoding = TextEncoding::Ansi;
     QByteArray m_buffer;
+    bool m_ownsFile = false; // The device belongs to m_file.
     bool m_failed = false;
     bool m_lossy = false;
 };

@@ -10,7 +10,7 @@ class QIODevice;
 
 /// What became of reading a file.
 enum class ReadResult {
-    CannotOpen = 0, ///< Not opened, or a foreign file without a vocabulary.
+    CannotOpen = 0, ///< Not opened, not read to its end, or a foreign file without a vocabulary.
     Read = 1,
     /// Read; a header line held characters that the code page lacks.
     ReadLossy = 2,
@@ -20,7 +20,7 @@ enum class ReadResult {
     PlainText = 4,
 };
 
-/// Clears to false, from any thread, to stop a reading between two records.
+/// Set to false, from any thread, it stops a reading between two records.
 using KeepGoing = std::atomic<bool>;
 
 /// Replaces the content of `list` by that of a glossary file of any version, of a foreign vocabulary file or of

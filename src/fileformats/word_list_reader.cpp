@@ -31,13 +31,24 @@ ReadResult Dispatch(CWordList &list, CTextFileReader &reader, const KeepGoing *k
     return ReadResult::PlainText;
 }
 
+/// Half a file is not taken for a whole one: saving it would lose the rest.
+ReadResult ReadAll(CWordList &list, CTextFileReader &reader, const KeepGoing *keepGoing)
+{
+    const ReadResult result = Dispatch(list, reader, keepGoing);
+    if (reader.Failed()) {
+        list.Reset();
+        return ReadResult::CannotOpen;
+    }
+    return result;
+}
+
 }
 
 ReadResult ReadWordListFile(CWordList &list, const QString &path, const KeepGoing *keepGoing)
 {
     list.Reset();
     CTextFileReader reader;
-    return reader.Open(path) ? Dispatch(list, reader, keepGoing) : ReadResult::CannotOpen;
+    return reader.Open(path) ? ReadAll(list, reader, keepGoing) : ReadResult::CannotOpen;
 }
 
 ReadResult ReadWordList(CWordList &list, QIODevice &device, const KeepGoing *keepGoing)
@@ -45,5 +56,5 @@ ReadResult ReadWordList(CWordList &list, QIODevice &device, const KeepGoing *kee
     list.Reset();
     CTextFileReader reader;
     reader.Open(device);
-    return Dispatch(list, reader, keepGoing);
+    return ReadAll(list, reader, keepGoing);
 }

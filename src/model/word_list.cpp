@@ -110,8 +110,7 @@ int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIn
     return similar;
 }
 
-int CWordList::ReplaceEntry(
-    int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar)
+int CWordList::ReplaceEntry(int index, QString term1, QString term2, QString note, bool checkSimilar)
 {
     if (!m_entries.IsIndex(index)) {
         return -1;
@@ -131,7 +130,7 @@ int CWordList::ReplaceEntry(
     return similar;
 }
 
-int CWordList::SetEntryField(const QString &text, int field, int index, bool checkSimilar)
+int CWordList::SetEntryField(QString text, int field, int index, bool checkSimilar)
 {
     if (!m_entries.IsIndex(index) || field < 0) {
         return -1;

@@ -93,15 +93,15 @@ public:
     /// Returns the index of a similar entry, as it is after the insertion, or -1. `outIndex`, when given,
     /// receives the new entry's index after a sort, and the index of the last entry otherwise.
     int Insert(CWordEntry entry, const InsertOptions &options = {}, int *outIndex = nullptr);
-    /// Both return the index of another, similar entry or -1; it is reported also when nothing changed.
-    int ReplaceEntry(
-        int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar);
-    int SetEntryField(const QString &text, int field, int index, bool checkSimilar);
+    /// The texts may be those of the entry itself. Both return the index of another, similar entry or -1; it is
+    /// reported also when nothing changed.
+    int ReplaceEntry(int index, QString term1, QString term2, QString note, bool checkSimilar);
+    int SetEntryField(QString text, int field, int index, bool checkSimilar);
     void DeleteEntries(Selection selection);
     /// CWordEntry::SwapFields() on every selected entry: moves the contents of a column to the left or right.
     void SwapInEntries(Selection selection, bool swapTexts, bool swapFlags, int a, int b);
-    /// Moves entries, or one text field of them with its flag, one place. An index at the end stays where it
-    /// is.
+    /// Moves entries, or one text field of them with its flag, one place. The caller sees to it that
+    /// none of them would leave the list; one that would is skipped.
     void MoveEntries(Selection selection, bool up, int field = WholeEntry);
     void SetFlags(int language, Selection selection, FlagMode mode);
 

@@ -7,9 +7,54 @@
 #include <QSet>
 
 #include <algorithm>
+#include <bit>
+#include <map>
 #include <numeric>
 
 namespace {
+
+/// The runs of one length that occur in a growing text, by their rolling hashes.
+class CRunIndex
+{
+public:
+    explicit CRunIndex(qsizetype length) : m_length(length)
+    {
+        for (qsizetype i = 1; i < length; ++i) {
+            m_leading *= Base;
+        }
+    }
+
+    /// Takes in what was added to `text` since the last call.
+    void Update(QStringView text)
+    {
+        for (; m_position < text.size(); ++m_position) {
+            if (m_position >= m_length) {
+                m_hash -= m_leading * text[m_position - m_length].unicode();
+            }
+            m_hash = m_hash * Base + text[m_position].unicode();
+            if (m_position + 1 >= m_length) {
+                m_runs.insert(m_hash);
+            }
+        }
+    }
+    bool Contains(QStringView run) const
+    {
+        quint64 hash = 0;
+        for (const QChar unit : run) {
+            hash = hash * Base + unit.unicode();
+        }
+        return m_runs.contains(hash);
+    }
+
+private:
+    static constexpr quint64 Base = 0x9E3779B97F4A7C15; // Odd and without a pattern.
+
+    qsizetype m_length;
+    quint64 m_leading = 1; // What the first unit of a run is multiplied by.
+    quint64 m_hash = 0;
+    qsizetype m_position = 0;
+    QSet<quint64> m_runs;
+};
 
 /// Collects notes into one, leaving out what it already contains.
 class CNoteCollector
@@ -28,20 +73,17 @@ public:
     const QString &Joined() const { return m_joined; }
 
 private:
-    static constexpr qsizetype RunLength = 6;
-
-    /// A long collection is looked through only for notes all of whose short runs occur in it, so that joining
-    /// the notes of a hundred thousand entries doesn't scan the collection a hundred thousand times.
+    /// A long collection is looked through only for notes whose beginning and end, which together are all of
+    /// it, both occur in it. So joining the notes of a hundred thousand entries doesn't read the collection as
+    /// many times.
     bool Contains(const QString &note)
     {
-        if (m_joined.size() < 4096 || note.size() < RunLength) {
-            return m_joined.contains(note);
-        }
-        for (; m_indexed + RunLength <= m_joined.size(); ++m_indexed) {
-            m_runs.insert(qHash(QStringView(m_joined).mid(m_indexed, RunLength)));
-        }
-        for (qsizetype start = 0; start + RunLength <= note.size(); ++start) {
-            if (!m_runs.contains(qHash(QStringView(note).mid(start, RunLength)))) {
+        if (m_joined.size() >= 4096) {
+            const qsizetype length = qsizetype(std::bit_floor(size_t(note.size())));
+            CRunIndex &index = m_runs.try_emplace(length, length).first->second;
+            index.Update(m_joined);
+            if (!index.Contains(QStringView(note).first(length))
+                || !index.Contains(QStringView(note).last(length))) {
                 return false;
             }
         }
@@ -49,8 +91,7 @@ private:
     }
 
     QString m_joined;
-    QSet<size_t> m_runs;
-    qsizetype m_indexed = 0;
+    std::map<qsizetype, CRunIndex> m_runs;
 };
 
 /// Disjoint groups of entries; the lowest entry of a group is its root.
@@ -116,6 +157,7 @@ int CWordList::MergeEntries(Selection selection)
 {
     std::vector<int> group(selection.begin(), selection.end());
     std::erase_if(group, [this](int index) { return !m_entries.IsIndex(index); });
+    group.erase(std::unique(group.begin(), group.end()), group.end());
     if (group.size() < 2) {
         return 0;
     }

@@ -72,7 +72,7 @@ void WordListModelTest::summaries()
 {
     TestDocument test(QStringList{QStringLiteral("a|b||1"), QStringLiteral("c|d"), QStringLiteral("e|f")});
     const auto summary = [&](const std::vector<int> &selected) {
-        return listSummary(test.document.List(), test.texts, selected);
+        return CListSummary(test.document, test.texts).Describe(selected);
     };
     const QString all =
         QStringLiteral("3 glosor, 1 (33%) glosor på Svenska och 0 (0%) glosor på Engelska är flaggade.");

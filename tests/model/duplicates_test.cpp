@@ -160,10 +160,10 @@ void DuplicatesTest::mergesManyNotesQuickly()
     constexpr int Count = 30000;
     CWordList list;
     for (int i = 0; i < Count; ++i) {
-        list.Insert(CWordEntry(
-            QStringLiteral("same * w%1").arg(i), {}, QStringLiteral("note number %1 of all").arg(i)));
+        list.Insert(CWordEntry(QStringLiteral("same * w%1").arg(i), {},
+            QStringLiteral("kapitel %1 sidan %2").arg(i / 170).arg(i % 170)));
     }
-    list.Insert(CWordEntry(QStringLiteral("same"), {}, QStringLiteral("number 77 of")));
+    list.Insert(CWordEntry(QStringLiteral("same"), {}, QStringLiteral("pitel 7 sid")));
     QCOMPARE(list.MergeAll(), Count);
     QCOMPARE(list.Entry(0).AlternativeCount(0), Count);
     QCOMPARE(list.Entry(0).GetNote().count(QStringLiteral("; ")), Count - 1);

@@ -2,7 +2,6 @@
 #include "editor/ui/win32_view.h"
 
 #include "document/win32_doc.h"
-#include "editor/list_summary.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
 #include "platform/ui/elided_label.h"
@@ -28,7 +27,7 @@ CElidedLabel *MakeLabel(QWidget *parent, const char *name)
 
 CWin32View::CWin32View(
     CWin32Doc &document, const EditorSettings &settings, const CTexts &texts, QWidget *parent)
-    : QWidget(parent), m_document(document), m_texts(texts),
+    : QWidget(parent), m_document(document), m_texts(texts), m_summary(document, texts),
       m_model(new CWordListModel(document, settings, texts, this)), m_list(new CWordListControl(this)),
       m_author(MakeLabel(this, "author")), m_comments(MakeLabel(this, "comments"))
 {
@@ -93,5 +92,5 @@ void CWin32View::RefreshAll()
 
 void CWin32View::UpdateStatusText()
 {
-    Q_EMIT StatusTextChanged(listSummary(m_document.List(), m_texts, SelectedEntries()));
+    Q_EMIT StatusTextChanged(m_summary.Describe(SelectedEntries()));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/list_summary.h"
+
 #include <QWidget>
 
 #include <vector>
@@ -37,6 +39,7 @@ private:
 
     CWin32Doc &m_document;
     const CTexts &m_texts;
+    CListSummary m_summary;
     CWordListModel *m_model;
     CWordListControl *m_list;
     CElidedLabel *m_author;

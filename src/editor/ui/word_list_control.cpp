@@ -46,6 +46,14 @@ void CWordListControl::resizeEvent(QResizeEvent *event)
     layoutColumns();
 }
 
+QRegion CWordListControl::visualRegionForSelection(const QItemSelection &selection) const
+{
+    // Joining the rows of thousands of ranges takes longer than painting what can be seen.
+    constexpr int Many = 50;
+    return selection.size() > Many ? QRegion(viewport()->rect())
+                                   : QTableView::visualRegionForSelection(selection);
+}
+
 void CWordListControl::layoutColumns()
 {
     const auto *const list = qobject_cast<const CWordListModel *>(model());

@@ -17,6 +17,7 @@ public:
     void layoutColumns();
 
 protected:
+    QRegion visualRegionForSelection(const QItemSelection &selection) const override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/elided_label.h"
 
+#include "platform/plain_text.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -33,8 +35,7 @@ void CElidedLabel::paintEvent(QPaintEvent * /*event*/)
 bool CElidedLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && !Fits()) {
-        // Escaped, so that nothing in the text is taken as markup.
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text().toHtmlEscaped(), this);
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), ShownAsPlainText(text()), this);
         return true;
     }
     return QLabel::event(event);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/file_dialog_chooser.h"
 
-#include <QApplication>
+#include "platform/ui/owner_window.h"
+
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -9,7 +10,7 @@ namespace {
 
 QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
 {
-    QFileDialog dialog(QApplication::activeWindow(), choice.title);
+    QFileDialog dialog(OwnerWindow(), choice.title);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(fileMode);
     dialog.setNameFilters(choice.filters);

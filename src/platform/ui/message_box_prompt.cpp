@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/message_box_prompt.h"
 
+#include "platform/ui/owner_window.h"
+
 #include <QApplication>
 #include <QMessageBox>
 
@@ -37,12 +39,11 @@ QMessageBox::StandardButton BoxButton(PromptAnswer answer)
 int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons buttons,
     QMessageBox::StandardButton defaultButton)
 {
-    QMessageBox box(BoxIcon(icon), QApplication::applicationDisplayName(), text.text, buttons,
-        QApplication::activeWindow());
+    QMessageBox box(BoxIcon(icon), QApplication::applicationDisplayName(), text.text, buttons, OwnerWindow());
     box.setObjectName(QStringLiteral("prompt%1").arg(text.number));
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultButton);
-    box.setWindowModality(Qt::WindowModal);
+    box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     return box.exec();
 }
 
