@@ -5,5 +5,10 @@ int main(int argc, char *argv[])
 {
     COrdelinApp app(argc, argv);
     const int error = app.InitInstance();
-    return error != 0 ? error : QApplication::exec();
+    if (error != 0) {
+        return error;
+    }
+    const int result = QApplication::exec();
+    app.ExitInstance();
+    return result;
 }

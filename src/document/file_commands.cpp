@@ -2,6 +2,7 @@
 #include "document/file_commands.h"
 
 #include "document/file_filters.h"
+#include "document/recent_files.h"
 #include "document/win32_doc.h"
 #include "platform/file_chooser.h"
 #include "platform/user_prompt.h"
@@ -13,8 +14,8 @@
 #include <QStandardPaths>
 
 CFileCommands::CFileCommands(
-    CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser)
-    : m_document(document), m_texts(texts), m_prompt(prompt), m_chooser(chooser)
+    CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser, CRecentFiles &recent)
+    : m_document(document), m_texts(texts), m_prompt(prompt), m_chooser(chooser), m_recent(recent)
 {
 }
 
@@ -23,9 +24,7 @@ bool CFileCommands::MayDiscard()
     if (!m_document.IsModified()) {
         return true;
     }
-    const QString name =
-        m_document.Path().isEmpty() ? m_texts.Get(Text::Unnamed) : QFileInfo(m_document.Path()).fileName();
-    switch (m_prompt.Ask(m_texts.Prompt(Text::SaveChanges, {name}), PromptIcon::Warning,
+    switch (m_prompt.Ask(m_texts.Prompt(Text::SaveChanges, {m_document.Name()}), PromptIcon::Warning,
         PromptButtons::YesNoCancel, PromptAnswer::Yes)) {
     case PromptAnswer::Yes:
         return Save();
@@ -57,18 +56,47 @@ bool CFileCommands::Open()
     if (path.isEmpty()) {
         return false;
     }
-    m_lastFolder = QFileInfo(path).path();
-    return m_document.OpenDocument(path);
+    return OpenNow(path);
 }
 
 bool CFileCommands::OpenFile(const QString &path)
 {
-    return MayDiscard() && m_document.OpenDocument(path);
+    return MayDiscard() && OpenNow(path);
+}
+
+bool CFileCommands::OpenRecent(const QString &path)
+{
+    if (!QFileInfo::exists(path)) {
+        m_recent.Remove(path);
+        m_prompt.Tell(m_texts.Prompt(Text::CannotOpen, {path}), PromptIcon::Error);
+        return false;
+    }
+    return OpenFile(path);
+}
+
+bool CFileCommands::OpenNow(const QString &path)
+{
+    m_lastFolder = QFileInfo(path).absolutePath();
+    if (!m_document.OpenDocument(path)) {
+        m_recent.Remove(QFileInfo(path).absoluteFilePath());
+        return false;
+    }
+    m_recent.Add(path);
+    return true;
+}
+
+bool CFileCommands::SaveTo(const QString &path)
+{
+    if (!m_document.OnSaveDocument(path)) {
+        return false;
+    }
+    m_recent.Add(path);
+    return true;
 }
 
 bool CFileCommands::Save()
 {
-    return m_document.Path().isEmpty() ? SaveAs() : m_document.OnSaveDocument(m_document.Path());
+    return m_document.Path().isEmpty() ? SaveAs() : SaveTo(m_document.Path());
 }
 
 bool CFileCommands::SaveAs()
@@ -82,8 +110,8 @@ bool CFileCommands::SaveAs()
     if (path.isEmpty()) {
         return false;
     }
-    m_lastFolder = QFileInfo(path).path();
-    return m_document.OnSaveDocument(path);
+    m_lastFolder = QFileInfo(path).absolutePath();
+    return SaveTo(path);
 }
 
 QString CFileCommands::StartFolder() const

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class CRecentFiles;
 class CTexts;
 class CWin32Doc;
 class IFileChooser;
@@ -14,13 +15,16 @@ class CFileCommands
 {
 public:
     /// Nothing is owned.
-    CFileCommands(CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser);
+    CFileCommands(CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser,
+        CRecentFiles &recent);
 
     bool New();
     /// Asks for a file and opens it.
     bool Open();
     /// Opens a file that is known already.
     bool OpenFile(const QString &path);
+    /// Opens one of the recent files; one that is gone leaves their list.
+    bool OpenRecent(const QString &path);
     /// Saves to the list's own file, and asks for a name where it has none.
     bool Save();
     bool SaveAs();
@@ -29,10 +33,13 @@ public:
 
 private:
     QString StartFolder() const;
+    bool OpenNow(const QString &path);
+    bool SaveTo(const QString &path);
 
     CWin32Doc &m_document;
     const CTexts &m_texts;
     IUserPrompt &m_prompt;
     IFileChooser &m_chooser;
+    CRecentFiles &m_recent;
     QString m_lastFolder;
 };

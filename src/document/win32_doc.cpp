@@ -8,9 +8,22 @@
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
 
 namespace {
+
+/// The text on one line: a line break in a property would break the layout of the file.
+void MakeOneLine(std::optional<QString> &text)
+{
+    if (text) {
+        std::replace_if(
+            text->begin(), text->end(), [](QChar unit) { return unit < u' ' || unit == u'\x7F'; }, QChar(u' '));
+    }
+}
 
 /// The first of two texts that is not empty.
 QString FirstGiven(const QString &first, const QString &second)
@@ -23,24 +36,86 @@ QString FirstGiven(const QString &first, const QString &second)
 CWin32Doc::CWin32Doc(DocumentServices services, QObject *parent)
     : QObject(parent), m_services(std::move(services))
 {
+    ApplyUndoSize();
 }
+
+CWin32Doc::~CWin32Doc() = default;
 
 CWordList &CWin32Doc::BeginChange()
 {
+    m_history.Snapshot();
     ++m_changeCounter;
-    return m_list;
+    Q_EMIT Changed();
+    return m_history.Current();
+}
+
+void CWin32Doc::Undo()
+{
+    if (UndoCount() > 0) {
+        m_history.Undo();
+        ++m_changeCounter;
+        Q_EMIT Changed();
+        Q_EMIT ListReplaced();
+    }
+}
+
+void CWin32Doc::Redo()
+{
+    if (RedoCount() > 0) {
+        m_history.Redo();
+        ++m_changeCounter;
+        Q_EMIT Changed();
+        Q_EMIT ListReplaced();
+    }
+}
+
+void CWin32Doc::ApplyUndoSize()
+{
+    m_history.SetUndoSize(m_services.settings.undoSize);
+}
+
+QString CWin32Doc::Name() const
+{
+    return Path().isEmpty() ? m_services.texts.Get(Text::Unnamed) : QFileInfo(Path()).fileName();
 }
 
 QString CWin32Doc::Title() const
 {
-    const QString name = m_path.isEmpty() ? m_services.texts.Get(Text::Unnamed) : QFileInfo(m_path).fileName();
-    return m_list.IsSaved() ? name : QStringLiteral("* ") + name;
+    return List().IsSaved() ? Name() : QStringLiteral("* ") + Name();
+}
+
+void CWin32Doc::UpdateTitleMark()
+{
+    if (m_shownTitle != Title()) {
+        m_shownTitle = Title();
+        Q_EMIT TitleChanged();
+    }
+}
+
+CWin32Doc::FileStamp CWin32Doc::StampOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() ? FileStamp{info.lastModified(), info.size()} : FileStamp{};
 }
 
 void CWin32Doc::DeleteContents()
 {
-    BeginChange().Reset();
-    m_path.clear();
+    // The names and the author of the list before stay in the empty one.
+    CWordList empty = List();
+    empty.Reset();
+    m_history.ResetHistory(std::move(empty));
+    m_history.SetFilePath({});
+    m_stamp = {};
+}
+
+void CWin32Doc::Replace(CWordList list, const QString &path)
+{
+    m_history.ResetHistory(std::move(list));
+    m_history.SetFilePath(path);
+    m_stamp = StampOf(path);
+    ++m_changeCounter;
+    Q_EMIT ListReplaced();
+    UpdateTitleMark();
 }
 
 void CWin32Doc::OnNewDocument()
@@ -48,66 +123,119 @@ void CWin32Doc::OnNewDocument()
     DeleteContents();
     const CTexts &texts = m_services.texts;
     const EditorSettings &settings = m_services.settings;
-    m_list.SetComments(
-        ExpandPlaceholders(FirstGiven(settings.standardComments, texts.Get(Text::StandardComments))));
-    const QString author = FirstGiven(m_list.GetAuthor(), settings.author);
-    const QString language1 =
-        FirstGiven(m_list.GetLanguage(0), FirstGiven(settings.language1, texts.Get(Text::Language1)));
-    const QString language2 =
-        FirstGiven(m_list.GetLanguage(1), FirstGiven(settings.language2, texts.Get(Text::Language2)));
-    m_list.SetProperties({.language1 = language1, .language2 = language2, .author = author});
-    m_list.SetSaved(true);
-    Q_EMIT ListReplaced();
+    CWordList list = List();
+    std::optional<QString> comments = ExpandPlaceholders(settings.standardComments);
+    MakeOneLine(comments);
+    list.SetComments(*comments);
+    list.SetProperties({.language1 = FirstGiven(
+                            list.GetLanguage(0), FirstGiven(settings.language1, texts.Get(Text::Language1))),
+        .language2 =
+            FirstGiven(list.GetLanguage(1), FirstGiven(settings.language2, texts.Get(Text::Language2))),
+        .author = FirstGiven(list.GetAuthor(), settings.author)});
+    list.SetSaved(true);
+    Replace(std::move(list), {});
 }
 
 bool CWin32Doc::OpenDocument(const QString &path)
 {
     DeleteContents();
-    m_path = path;
-    const ReadResult result = ReadWordListFile(m_list, path);
-    switch (result) {
-    case ReadResult::Read:
-    case ReadResult::ReadLossy:
-        break;
-    case ReadResult::CannotOpen:
-        m_path.clear();
-        m_list.Reset();
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotOpen, {path}), PromptIcon::Error);
-        break;
-    case ReadResult::NewerVersion:
-        // Without a path, saving asks for a name, and the newer file is not overwritten by an older layout.
-        m_path.clear();
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::NewerVersion), PromptIcon::Warning);
-        break;
-    case ReadResult::PlainText:
-        m_path.clear();
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::ReadAsPlainText), PromptIcon::Warning);
-        break;
+    CWordList list = List();
+    const ReadResult result = ReadWordListFile(list, path);
+    const bool own = result == ReadResult::Read || result == ReadResult::ReadLossy;
+    if (result == ReadResult::CannotOpen) {
+        list.Reset();
     }
-    Q_EMIT ListReplaced();
-    return result != ReadResult::CannotOpen;
+    // Without a path, saving asks for a name: a newer file is not overwritten by an older layout, nor a text
+    // file.
+    Replace(std::move(list), own ? path : QString());
+    if (own) {
+        return true;
+    }
+    if (result == ReadResult::CannotOpen) {
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotOpen, {path}), PromptIcon::Error);
+        return false;
+    }
+    const int message = result == ReadResult::NewerVersion ? Text::NewerVersion : Text::ReadAsPlainText;
+    m_services.prompt.Tell(m_services.texts.Prompt(message), PromptIcon::Warning);
+    QMetaObject::invokeMethod(this, &CWin32Doc::FileConverted, Qt::QueuedConnection);
+    return true;
+}
+
+bool CWin32Doc::OpenRecovered(const QString &copy, const QString &path)
+{
+    CWordList list = List();
+    const ReadResult result = ReadWordListFile(list, copy);
+    if (result != ReadResult::Read && result != ReadResult::ReadLossy) {
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotOpen, {copy}), PromptIcon::Error);
+        return false;
+    }
+    list.SetSaved(false);
+    Replace(std::move(list), path);
+    return true;
 }
 
 bool CWin32Doc::OnSaveDocument(const QString &path)
 {
-    const WriteOptions options = {.forceUnicode = m_services.settings.alwaysSaveInUnicode};
-    if (!WriteWordListFile(m_list, path, options)) {
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
+    const CTexts &texts = m_services.texts;
+    const FileStamp now = StampOf(path);
+    if (path == Path() && now.size >= 0 && now != m_stamp
+        && !m_services.prompt.Confirm(texts.Prompt(Text::OverwriteForeignChange, {path}), PromptIcon::Warning,
+            PromptButtons::YesNo, PromptAnswer::No)) {
         return false;
     }
-    m_path = path;
-    Q_EMIT TitleChanged();
+    m_history.MarkOthersChanged();
+    if (!WriteWordListFile(
+            m_history.Current(), path, {.forceUnicode = m_services.settings.alwaysSaveInUnicode})) {
+        m_services.prompt.Tell(texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
+        UpdateTitleMark();
+        return false;
+    }
+    m_history.SetFilePath(path);
+    m_stamp = StampOf(path);
+    Q_EMIT Saved();
+    UpdateTitleMark();
     return true;
+}
+
+void CWin32Doc::OnFileSendMail()
+{
+    if (!m_mailFolder) {
+        m_mailFolder = std::make_unique<QTemporaryDir>();
+    }
+    const QString path = m_mailFolder->filePath(SuggestFileName() + QStringLiteral(".gls"));
+    CWordList copy = List(); // Writing marks the copy as saved, not the list.
+    if (!WriteWordListFile(copy, path, {.forceUnicode = m_services.settings.alwaysSaveInUnicode})) {
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
+    } else if (!m_services.startProgram(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path})) {
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotStartMail), PromptIcon::Warning);
+    }
+}
+
+void CWin32Doc::SetListProperties(ListProperties properties)
+{
+    for (std::optional<QString> *text : {&properties.language1, &properties.language2, &properties.author,
+             &properties.comments, &properties.questionTemplate1, &properties.questionTemplate2}) {
+        MakeOneLine(*text);
+    }
+    // Tried on a copy, which shares everything else: a step for undo is taken only when something differs.
+    CWordList changed = List();
+    changed.SetSaved(true);
+    changed.SetProperties(properties);
+    if (!changed.IsSaved()) {
+        BeginChange().SetProperties(properties);
+        Q_EMIT ListReplaced();
+        UpdateTitleMark();
+    }
 }
 
 QString CWin32Doc::ExpandPlaceholders(const QString &text) const
 {
     QString expanded = text;
-    expanded.replace(QStringLiteral("%language1"), m_list.GetLanguage(0));
-    expanded.replace(QStringLiteral("%language2"), m_list.GetLanguage(1));
-    expanded.replace(QStringLiteral("%comments"), m_list.GetComments());
-    expanded.replace(QStringLiteral("%author"), m_list.GetAuthor());
-    expanded.replace(QStringLiteral("%nwords"), FormatNumber(m_list.Count()));
+    expanded.replace(QStringLiteral("%language1"), List().GetLanguage(0));
+    expanded.replace(QStringLiteral("%language2"), List().GetLanguage(1));
+    expanded.replace(QStringLiteral("%comments"), List().GetComments());
+    expanded.replace(QStringLiteral("%author"), List().GetAuthor());
+    expanded.replace(QStringLiteral("%nwords"), FormatNumber(List().Count()));
     const QString date = FormatShortDate(m_services.today());
     if (!date.isEmpty()) {
         expanded.replace(QStringLiteral("%date"), date);

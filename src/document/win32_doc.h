@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/undo_history.h"
 #include "model/word_list.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QObject>
 
 #include <functional>
+#include <memory>
 
 class CTexts;
 class IUserPrompt;
+class QTemporaryDir;
 struct EditorSettings;
 
 /// What the document is handed; none of it is owned.
@@ -19,29 +23,46 @@ struct DocumentServices
     const EditorSettings &settings;
     IUserPrompt &prompt;
     std::function<QDate()> today;
+    /// Starts a program with arguments and returns whether it could be started.
+    std::function<bool(const QString &program, const QStringList &arguments)> startProgram;
 };
 
-/// The document of the program: owns the word list being edited, makes, opens and saves it, and tells the user
-/// what went wrong. Nobody keeps a reference to the list across events: ask for it each time.
+/// The document of the program: owns the word list being edited with its undo history, makes, opens and saves
+/// it, and tells the user what went wrong. Nobody keeps a reference to the list across events: ask for it each
+/// time, since a change makes another list the current one.
 class CWin32Doc : public QObject
 {
     Q_OBJECT
 
 public:
     explicit CWin32Doc(DocumentServices services, QObject *parent = nullptr);
+    ~CWin32Doc() override;
 
-    const CWordList &List() const { return m_list; }
-    /// The one way to change the list: call it right before a change, and only when something will change.
+    const CWordList &List() const { return m_history.Current(); }
+    /// The one way to change the list: call it once per command, right before its change, and only when
+    /// something will change. Takes the step for undo.
     CWordList &BeginChange();
     /// Grows with every change; compare it to learn whether something changed in between.
     quint64 ChangeCounter() const { return m_changeCounter; }
 
+    void Undo();
+    void Redo();
+    int UndoCount() const { return m_history.UndoCount(); }
+    int RedoCount() const { return m_history.RedoCount(); }
+    /// Call after the number of undo steps changed in the settings.
+    void ApplyUndoSize();
+
     /// The file of the list; empty while it has none.
-    const QString &Path() const { return m_path; }
-    /// The name shown for the list: its file's name, with "* " in front while it has unsaved changes.
+    const QString &Path() const { return m_history.FilePath(); }
+    /// The name of the list without a mark: its file's name.
+    QString Name() const;
+    /// The name shown for the list, with "* " in front while it has unsaved changes.
     QString Title() const;
+    /// Tells TitleChanged() when the title is another than at the call before. Called whenever the view
+    /// refreshes.
+    void UpdateTitleMark();
     /// An empty list is never modified: it holds nothing to save.
-    bool IsModified() const { return !m_list.IsSaved() && m_list.Count() > 0; }
+    bool IsModified() const { return !List().IsSaved() && List().Count() > 0; }
 
     /// Starts a new list with the standard properties; names and author of the list before stay when all are
     /// given.
@@ -49,9 +70,17 @@ public:
     /// Reads a file of any kind in place of the list. On failure, which the user is told, an empty list is left
     /// and the result is false.
     bool OpenDocument(const QString &path);
-    /// Writes the list and makes `path` its file. On failure, which the user is told, list, path and file stay
-    /// as they were and the result is false.
+    /// Reads a copy kept for recovery as the changed content of the file `path`, which may be empty.
+    bool OpenRecovered(const QString &copy, const QString &path);
+    /// Writes the list and makes `path` its file. Asks before it overwrites what another program wrote since.
+    /// On failure, which the user is told, list, path and file stay as they were and the result is false.
     bool OnSaveDocument(const QString &path);
+    /// Hands a copy of the list to the e-mail program; path and saved mark stay as they are.
+    void OnFileSendMail();
+
+    /// Sets properties as one undo step, or does nothing when none differs. They are single lines: control
+    /// characters become blanks.
+    void SetListProperties(ListProperties properties);
 
     /// Replaces %language1, %language2, %comments, %author, %nwords and %date, in this order.
     QString ExpandPlaceholders(const QString &text) const;
@@ -59,16 +88,35 @@ public:
     QString SuggestFileName() const;
 
 Q_SIGNALS:
-    /// Another list, or another file, took the place of the one before.
+    /// The list is about to change, or has changed by undo.
+    void Changed();
+    /// Another list, or another state of it, took the place of the one before: everything is to be shown anew.
     void ListReplaced();
-    /// The title may have changed.
     void TitleChanged();
+    /// The list was written to its file.
+    void Saved();
+    /// From the event loop, after a file was read that is not of the program's own version: it lost its file
+    /// name.
+    void FileConverted();
 
 private:
+    /// What tells whether another program changed the file.
+    struct FileStamp
+    {
+        QDateTime modified;
+        qint64 size = -1;
+        bool operator==(const FileStamp &) const = default;
+    };
+    static FileStamp StampOf(const QString &path);
+
     void DeleteContents();
+    /// Makes the list the only state of the history and has it shown.
+    void Replace(CWordList list, const QString &path);
 
     DocumentServices m_services;
-    CWordList m_list;
-    QString m_path;
+    CUndoHistory m_history;
+    FileStamp m_stamp;
     quint64 m_changeCounter = 0;
+    QString m_shownTitle;
+    std::unique_ptr<QTemporaryDir> m_mailFolder; // Holds what was mailed until the program ends.
 };

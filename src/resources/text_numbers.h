@@ -27,6 +27,7 @@ inline constexpr int EntrySelected = 70001;
 inline constexpr int EntriesSelected = 70003;
 inline constexpr int Unnamed = 70030;
 inline constexpr int SaveChanges = 70031;
+inline constexpr int CannotStartMail = 70032;
 inline constexpr int Right = 70033;
 inline constexpr int OpenTitle = 70137;
 inline constexpr int SaveAsTitle = 70138;
@@ -35,6 +36,9 @@ inline constexpr int NotFlagged = 70151;
 inline constexpr int Usage = 70152;
 inline constexpr int UnknownSwitch = 70153;
 inline constexpr int OneFileOnly = 70154;
+inline constexpr int OverwriteForeignChange = 70160;
+inline constexpr int RecoverChanges = 70161;
+inline constexpr int NoRecentFiles = 70162;
 
 // Quiz
 inline constexpr int AnswersOfTotal = 62120;

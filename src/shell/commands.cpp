@@ -12,6 +12,7 @@ const QList<Command> &commandTable()
         {OpenFile, {QStringLiteral("Ctrl+O")}, QStringLiteral("document-open")},
         {SaveFile, {QStringLiteral("Ctrl+S")}, QStringLiteral("document-save")},
         {SaveFileAs, {QStringLiteral("Ctrl+Shift+S")}, QStringLiteral("document-save-as")},
+        {SendMail, {}, QStringLiteral("mail-send")},
         {Exit, {QStringLiteral("Ctrl+Q")}, QStringLiteral("application-exit")},
         // Ctrl+Alt+F1 never arrives where it switches the virtual console, so the digit is the one shown.
         {StandardQuiz, {QStringLiteral("Ctrl+Alt+1"), QStringLiteral("Ctrl+Alt+F1")},
@@ -24,7 +25,9 @@ const QList<Command> &commandTable()
 const QList<CommandMenu> &commandMenus()
 {
     static const QList<CommandMenu> menus = {
-        {Text::FileMenu, {NewFile, OpenFile, SaveFile, SaveFileAs, Separator, Exit}},
+        {Text::FileMenu,
+            {NewFile, OpenFile, SaveFile, SaveFileAs, Separator, SendMail, Separator, RecentFiles, Separator,
+                Exit}},
         {Text::QuizMenu, {StandardQuiz}},
         {Text::HelpMenu, {About}},
     };

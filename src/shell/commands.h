@@ -3,18 +3,19 @@
 
 #include <QStringList>
 
-#include <span>
-
 /// The commands of the program by their ids.
 namespace CommandId {
 
 enum : int {
     Separator = 0,
+    /// Where the recent files stand in a menu.
+    RecentFiles = 1,
     StandardQuiz = 32855,
     NewFile = 57600,
     OpenFile = 57601,
     SaveFile = 57603,
     SaveFileAs = 57604,
+    SendMail = 57612,
     About = 57664,
     Exit = 57665,
 };

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "document/file_commands.h"
 #include "document/file_filters.h"
+#include "document/recent_files.h"
 #include "resources/text_numbers.h"
+#include "settings/settings_store.h"
 #include "support/test_document.h"
 
 #include <QFile>
@@ -45,7 +47,9 @@ void FileCommandsTest::unsavedChanges()
     CScriptedChooser chooser;
     chooser.paths = {chosenName.isEmpty() ? QString() : folder.filePath(chosenName)};
     test.prompt.answers = {answer};
-    CFileCommands files(test.document, test.texts, test.prompt, chooser);
+    CMemoryStore store;
+    CRecentFiles recent(store, QStringLiteral("root"));
+    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
     QCOMPARE(files.New(), discarded);
     QCOMPARE(test.document.List().Count(), discarded ? 0 : 1);
     QCOMPARE(test.prompt.texts.value(0), QStringLiteral("Vill du spara ändringarna i Namnlös?"));
@@ -60,7 +64,9 @@ void FileCommandsTest::savingWithAndWithoutAName()
     test.settings.standardFilename = QStringLiteral("%language2 av mig");
     CScriptedChooser chooser;
     chooser.paths = {path, QString()};
-    CFileCommands files(test.document, test.texts, test.prompt, chooser);
+    CMemoryStore store;
+    CRecentFiles recent(store, QStringLiteral("root"));
+    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
     QVERIFY(files.Save());
     QCOMPARE(chooser.asked.size(), 1);
     QCOMPARE(chooser.asked[0].filters, QStringList{QStringLiteral("Glosfil (*.gls)")});
@@ -80,7 +86,9 @@ void FileCommandsTest::openingByDialog()
     TestDocument test(QStringList{QStringLiteral("a|b")});
     CScriptedChooser chooser;
     chooser.paths = {QString(), folder.filePath(QStringLiteral("missing.gls"))};
-    CFileCommands files(test.document, test.texts, test.prompt, chooser);
+    CMemoryStore store;
+    CRecentFiles recent(store, QStringLiteral("root"));
+    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
     QVERIFY(!files.Open());
     QCOMPARE(test.document.List().Count(), 1);
     QVERIFY(!files.Open());

@@ -49,17 +49,20 @@ void Win32DocTest::newKeepsNamesWhenAllAreGiven()
     TestDocument test;
     test.settings.language1 = QStringLiteral("Finska");
     test.settings.author = QStringLiteral("Ny");
-    const CWordList &list = test.document.List();
+    const auto names = [&] {
+        const CWordList &list = test.document.List();
+        return list.GetLanguage(0) + list.GetLanguage(1) + list.GetAuthor();
+    };
     test.document.BeginChange().SetProperties({.language1 = QStringLiteral("Tyska"),
         .language2 = QStringLiteral("Franska"),
         .author = QStringLiteral("Jag"),
         .questionTemplate1 = QStringLiteral("t")});
     test.document.OnNewDocument();
-    QCOMPARE(list.GetLanguage(0) + list.GetLanguage(1) + list.GetAuthor(), QStringLiteral("TyskaFranskaJag"));
-    QCOMPARE(list.GetQuestionTemplate(0), QString());
+    QCOMPARE(names(), QStringLiteral("TyskaFranskaJag"));
+    QCOMPARE(test.document.List().GetQuestionTemplate(0), QString());
     test.document.BeginChange().SetProperties({.language1 = QString(), .author = QString()});
     test.document.OnNewDocument();
-    QCOMPARE(list.GetLanguage(0) + list.GetLanguage(1) + list.GetAuthor(), QStringLiteral("FinskaFranskaNy"));
+    QCOMPARE(names(), QStringLiteral("FinskaFranskaNy"));
 }
 
 void Win32DocTest::opening_data()

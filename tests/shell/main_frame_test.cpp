@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "document/file_commands.h"
+#include "document/recent_files.h"
 #include "editor/ui/win32_view.h"
 #include "quiz/ui/standard_quiz.h"
 #include "resources/text_numbers.h"
 #include "settings/quiz_settings.h"
+#include "settings/settings_store.h"
 #include "shell/commands.h"
 #include "shell/ui/about_dialog.h"
 #include "shell/ui/main_frame.h"
@@ -25,8 +27,11 @@ struct Frame
     CScriptedChooser chooser;
     QuizSettings quizSettings;
     CRandom random{1};
-    CFileCommands files{test.document, test.texts, test.prompt, chooser};
-    CMainFrame frame{{test.document, files, test.texts, test.settings, quizSettings, test.prompt, random}};
+    CMemoryStore store;
+    CRecentFiles recent{store, QStringLiteral("root")};
+    CFileCommands files{test.document, test.texts, test.prompt, chooser, recent};
+    CMainFrame frame{
+        {test.document, files, recent, test.texts, test.settings, quizSettings, test.prompt, random}};
 
     QAction *Command(int id) const { return frame.findChild<QAction *>(QStringLiteral("command%1").arg(id)); }
     QString Status() const { return frame.findChild<QLabel *>(QStringLiteral("statusText"))->text(); }

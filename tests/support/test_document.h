@@ -13,14 +13,28 @@ struct TestDocument
     CTexts texts;
     EditorSettings settings;
     CScriptedPrompt prompt;
-    CWin32Doc document{{texts, settings, prompt, [] { return QDate(2004, 5, 6); }}};
+    bool canStartPrograms = true;
+    QList<QStringList> started; // Program and arguments.
+    CWin32Doc document{{texts, settings, prompt, [] { return QDate(2004, 5, 6); },
+        [this](const QString &program, const QStringList &arguments) {
+            started.append(QStringList{program} + arguments);
+            return canStartPrograms;
+        }}};
 
-    TestDocument() { document.OnNewDocument(); }
+    TestDocument()
+    {
+        settings.standardComments = QStringLiteral("Skapad %date");
+        document.OnNewDocument();
+    }
     explicit TestDocument(const QStringList &entries) : TestDocument()
     {
         for (const QString &entry : entries) {
             document.BeginChange().Insert(MakeEntry(entry));
         }
         document.BeginChange().SetSaved(true);
+        settings.undoSize = 0; // Drops the steps taken so far.
+        document.ApplyUndoSize();
+        settings.undoSize = 10;
+        document.ApplyUndoSize();
     }
 };

@@ -52,6 +52,8 @@ void CQuizLaunch::quizClosed()
 
 void CQuizLaunch::finish()
 {
-    m_host.SelectEntries(m_session->candidates());
+    if (m_settings.selectedTestedWordsAfterQuiz) {
+        m_host.SelectEntries(m_session->candidates());
+    }
     m_session.reset();
 }

@@ -8,8 +8,6 @@
 
 class CTexts;
 class QAction;
-class QMenu;
-class QToolBar;
 struct Command;
 
 /// The actions of all commands, made from the table of commands. Owns them.
@@ -21,7 +19,6 @@ public:
     explicit CCommandActions(const CTexts &texts, QObject *parent);
 
     QAction *Action(int id) const { return m_actions.value(id); }
-    const QHash<int, QAction *> &All() const { return m_actions; }
     void SetHandler(int id, std::function<void()> handler);
     /// Refreshes what can be chosen.
     void UpdateEnabled(bool listHasEntries);

@@ -2,6 +2,7 @@
 #include "shell/ui/main_frame.h"
 
 #include "document/file_commands.h"
+#include "document/recent_files.h"
 #include "document/win32_doc.h"
 #include "editor/ui/win32_view.h"
 #include "platform/ui/elided_label.h"
@@ -13,6 +14,7 @@
 #include "shell/ui/command_actions.h"
 
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
@@ -27,7 +29,7 @@ void AddCommands(Bar &bar, const QList<int> &commands, const CCommandActions &ac
     for (const int id : commands) {
         if (id == CommandId::Separator) {
             bar.addSeparator();
-        } else {
+        } else if (id != CommandId::RecentFiles) {
             bar.addAction(actions.Action(id));
         }
     }
@@ -53,6 +55,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
     connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::setText);
     connect(&services.document, &CWin32Doc::ListReplaced, this, &CMainFrame::Refresh);
     connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::Refresh);
+    connect(&services.document, &CWin32Doc::FileConverted, m_view, &CWin32View::RefreshAll);
     const QSize wanted(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
     resize(wanted.boundedTo(screen()->availableSize() * 0.9));
     m_view->RefreshAll();
@@ -63,11 +66,42 @@ CMainFrame::CMainFrame(const FrameServices &services)
 void CMainFrame::MakeMenus()
 {
     for (const CommandMenu &menu : commandMenus()) {
-        AddCommands(*menuBar()->addMenu(m_services.texts.Get(menu.title)), menu.commands, *m_actions);
+        QMenu *const shown = menuBar()->addMenu(m_services.texts.Get(menu.title));
+        AddCommands(*shown, menu.commands, *m_actions);
+        const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
+        if (recent >= 0) {
+            m_behindRecent = shown->actions().at(recent); // The separator behind them.
+            connect(shown, &QMenu::aboutToShow, this, [this, shown] { FillRecentFiles(*shown); });
+            FillRecentFiles(*shown);
+        }
     }
     auto *bar = addToolBar(m_services.texts.Get(Text::StandardToolBar));
     bar->setObjectName(QStringLiteral("standardToolBar"));
     AddCommands(*bar, standardToolBar(), *m_actions);
+}
+
+void CMainFrame::FillRecentFiles(QMenu &menu)
+{
+    qDeleteAll(m_recentActions);
+    m_recentActions.clear();
+    const auto add = [&](const QString &text) {
+        auto *action = new QAction(text, &menu);
+        menu.insertAction(m_behindRecent, action);
+        m_recentActions.append(action);
+        return action;
+    };
+    for (const QString &path : m_services.recent.Paths()) {
+        const QString name = QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&"));
+        QAction *const action = add(QStringLiteral("&%1 %2").arg(m_recentActions.size() + 1).arg(name));
+        action->setStatusTip(path);
+        // From the event loop: opening fills this menu anew.
+        connect(
+            action, &QAction::triggered, this, [this, path] { m_services.files.OpenRecent(path); },
+            Qt::QueuedConnection);
+    }
+    if (m_recentActions.isEmpty()) {
+        add(m_services.texts.Get(Text::NoRecentFiles))->setEnabled(false);
+    }
 }
 
 void CMainFrame::ConnectCommands()
@@ -78,6 +112,7 @@ void CMainFrame::ConnectCommands()
     m_actions->SetHandler(OpenFile, [&files] { files.Open(); });
     m_actions->SetHandler(SaveFile, [&files] { files.Save(); });
     m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
+    m_actions->SetHandler(SendMail, [this] { m_services.document.OnFileSendMail(); });
     m_actions->SetHandler(Exit, [this] { close(); });
     m_actions->SetHandler(StandardQuiz, [this] { m_quizLaunch->startQuiz(); });
     m_actions->SetHandler(About, [this] {
@@ -89,7 +124,8 @@ void CMainFrame::ConnectCommands()
 
 void CMainFrame::Refresh()
 {
-    setWindowTitle(m_services.document.Title());
+    // The toolkit takes a single mark for the place of its own sign of changes.
+    setWindowTitle(m_services.document.Title().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     m_actions->UpdateEnabled(m_services.document.List().Count() > 0);
 }
 

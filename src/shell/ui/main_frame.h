@@ -10,6 +10,7 @@ class CElidedLabel;
 class CFileCommands;
 class CQuizLaunch;
 class CRandom;
+class CRecentFiles;
 class CTexts;
 class CWin32Doc;
 class CWin32View;
@@ -22,6 +23,7 @@ struct FrameServices
 {
     CWin32Doc &document;
     CFileCommands &files;
+    const CRecentFiles &recent;
     const CTexts &texts;
     const EditorSettings &editorSettings;
     const QuizSettings &quizSettings;
@@ -54,11 +56,15 @@ private:
     void MakeMenus();
     void ConnectCommands();
     void Refresh();
+    /// Puts the recent files into the File menu anew, each time it opens.
+    void FillRecentFiles(QMenu &menu);
 
     FrameServices m_services;
     CCommandActions *m_actions;
     CWin32View *m_view;
     CElidedLabel *m_statusText;
     CQuizLaunch *m_quizLaunch;
+    QList<QAction *> m_recentActions;
+    QAction *m_behindRecent = nullptr;
     QByteArray m_geometry; // While a quiz hides the window.
 };

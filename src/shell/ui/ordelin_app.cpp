@@ -7,13 +7,26 @@
 
 #include <QDateTime>
 #include <QIcon>
+#include <QProcess>
 
 #include <cstdio>
 
+namespace {
+
+/// How long after a change the copy for recovery is written, in milliseconds.
+constexpr int RecoveryDelay = 3000;
+
+}
+
 COrdelinApp::COrdelinApp(int &argc, char **argv)
-    : QApplication(argc, argv), m_qtTexts(m_texts), m_random(quint32(QDateTime::currentMSecsSinceEpoch())),
-      m_document({m_texts, m_editorSettings, m_prompt, [] { return QDate::currentDate(); }}),
-      m_files(m_document, m_texts, m_prompt, m_chooser)
+    : QApplication(argc, argv), m_qtTexts(m_texts), m_store(CIniStore::UserPath(), CAppSettings::RootPath()),
+      m_settings(m_store, m_texts), m_random(quint32(QDateTime::currentMSecsSinceEpoch())),
+      m_document({m_texts, m_settings.editor, m_prompt, [] { return QDate::currentDate(); },
+          [](const QString &program, const QStringList &arguments) {
+              return QProcess::startDetached(program, arguments);
+          }}),
+      m_recent(m_store, CAppSettings::RootPath()), m_files(m_document, m_texts, m_prompt, m_chooser, m_recent),
+      m_recovery(m_document, CRecovery::UserFolder(), RecoveryDelay)
 {
     Q_INIT_RESOURCE(pictures);
     setOrganizationName(QStringLiteral("Ornbury Workshops"));
@@ -23,8 +36,6 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
     setWindowIcon(QIcon(QStringLiteral(":/pictures/ordelin.svg")));
     setQuitOnLastWindowClosed(false); // A quiz hides the main window.
     installTranslator(&m_qtTexts);
-    // The first quizzes ask for every word, also for those that are flagged as learnt.
-    m_quizSettings.includeFlaggedWords = 1;
 }
 
 COrdelinApp::~COrdelinApp() = default;
@@ -38,13 +49,26 @@ int COrdelinApp::InitInstance()
         std::fputs(message.toLocal8Bit().constData(), stderr);
         return 2;
     }
-    m_frame = std::make_unique<CMainFrame>(
-        FrameServices{m_document, m_files, m_texts, m_editorSettings, m_quizSettings, m_prompt, m_random});
+    m_settings.Exchange(true);
+    m_document.ApplyUndoSize();
+    m_frame = std::make_unique<CMainFrame>(FrameServices{
+        m_document, m_files, m_recent, m_texts, m_settings.editor, m_settings.quiz, m_prompt, m_random});
     connect(m_frame.get(), &CMainFrame::Closed, this, &QCoreApplication::quit);
     m_document.OnNewDocument();
     if (!commandLine.file.isEmpty()) {
-        m_document.OpenDocument(commandLine.file);
+        m_files.OpenFile(commandLine.file);
     }
     m_frame->show();
+    // A list that was named is not replaced by a lost one; that is offered at the next start without a name.
+    if (commandLine.file.isEmpty()) {
+        m_recovery.Offer(m_texts, m_prompt);
+    }
     return 0;
+}
+
+void COrdelinApp::ExitInstance()
+{
+    m_recovery.Discard();
+    m_settings.misc.openOnClosing = !m_document.Path().isEmpty();
+    m_settings.Exchange(false);
 }
