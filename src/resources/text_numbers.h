@@ -66,6 +66,7 @@ inline constexpr int ResultSummary = 70017;
 
 // Menu titles
 inline constexpr int FileMenu = 99000;
+inline constexpr int EditMenu = 99001;
 inline constexpr int QuizMenu = 99003;
 inline constexpr int HelpMenu = 99006;
 

@@ -5,6 +5,21 @@
 
 using namespace CommandId;
 
+bool isEnabled(EnabledRule rule, const CommandState &state)
+{
+    switch (rule) {
+    case EnabledRule::Always:
+        return true;
+    case EnabledRule::ListHasEntries:
+        return state.listHasEntries;
+    case EnabledRule::CanUndo:
+        return state.canUndo;
+    case EnabledRule::CanRedo:
+        return state.canRedo;
+    }
+    return false;
+}
+
 const QList<Command> &commandTable()
 {
     static const QList<Command> table = {
@@ -14,6 +29,9 @@ const QList<Command> &commandTable()
         {SaveFileAs, {QStringLiteral("Ctrl+Shift+S")}, QStringLiteral("document-save-as")},
         {SendMail, {}, QStringLiteral("mail-send")},
         {Exit, {QStringLiteral("Ctrl+Q")}, QStringLiteral("application-exit")},
+        {Undo, {QStringLiteral("Ctrl+Z")}, QStringLiteral("edit-undo"), EnabledRule::CanUndo},
+        {Redo, {QStringLiteral("Ctrl+Y"), QStringLiteral("Ctrl+Shift+Z")}, QStringLiteral("edit-redo"),
+            EnabledRule::CanRedo},
         // Ctrl+Alt+F1 never arrives where it switches the virtual console, so the digit is the one shown.
         {StandardQuiz, {QStringLiteral("Ctrl+Alt+1"), QStringLiteral("Ctrl+Alt+F1")},
             QStringLiteral("ordelin-quiz"), EnabledRule::ListHasEntries},
@@ -28,6 +46,7 @@ const QList<CommandMenu> &commandMenus()
         {Text::FileMenu,
             {NewFile, OpenFile, SaveFile, SaveFileAs, Separator, SendMail, Separator, RecentFiles, Separator,
                 Exit}},
+        {Text::EditMenu, {Undo, Redo}},
         {Text::QuizMenu, {StandardQuiz}},
         {Text::HelpMenu, {About}},
     };
@@ -36,6 +55,6 @@ const QList<CommandMenu> &commandMenus()
 
 const QList<int> &standardToolBar()
 {
-    static const QList<int> bar = {NewFile, OpenFile, SaveFile, Separator, StandardQuiz};
+    static const QList<int> bar = {NewFile, OpenFile, SaveFile, Separator, Undo, Redo, Separator, StandardQuiz};
     return bar;
 }

@@ -16,6 +16,8 @@ enum : int {
     SaveFile = 57603,
     SaveFileAs = 57604,
     SendMail = 57612,
+    Undo = 57643,
+    Redo = 57644,
     About = 57664,
     Exit = 57665,
 };
@@ -23,7 +25,18 @@ enum : int {
 }
 
 /// When a command can be chosen.
-enum class EnabledRule { Always, ListHasEntries };
+enum class EnabledRule { Always, ListHasEntries, CanUndo, CanRedo };
+
+/// What the enabled rules look at.
+struct CommandState
+{
+    bool listHasEntries = false;
+    /// In the edit box that has the focus, where one has; else in the list.
+    bool canUndo = false;
+    bool canRedo = false;
+};
+
+bool isEnabled(EnabledRule rule, const CommandState &state);
 
 /// One command. Its caption is the text 100000 + id; its status line and tool tip are the two lines of the text
 /// id.

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void unsavedChanges();
     void savingWithAndWithoutAName();
     void openingByDialog();
+    void recentFiles();
     void filters();
 };
 
@@ -94,6 +95,32 @@ void FileCommandsTest::openingByDialog()
     QVERIFY(!files.Open());
     QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotOpen});
     QCOMPARE(chooser.asked[1].filters.size(), 3);
+}
+
+void FileCommandsTest::recentFiles()
+{
+    const QTemporaryDir folder;
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    CScriptedChooser chooser;
+    CMemoryStore store;
+    CRecentFiles recent(store, QStringLiteral("root"));
+    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
+    const auto path = [&](int number) {
+        return folder.filePath(QString::number(number) + QStringLiteral(".gls"));
+    };
+    for (int number = 1; number <= 5; ++number) {
+        chooser.paths = {path(number)};
+        QVERIFY(files.SaveAs());
+    }
+    QCOMPARE(recent.Paths(), QStringList({path(5), path(4), path(3), path(2)}));
+    QVERIFY(files.OpenRecent(path(3)));
+    QCOMPARE(recent.Paths(), QStringList({path(3), path(5), path(4), path(2)}));
+    QVERIFY(QFile::remove(path(5)));
+    QVERIFY(!files.OpenRecent(path(5)));
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotOpen});
+    QCOMPARE(test.document.Path(), path(3)); // The open list is untouched.
+    QVERIFY(!files.OpenFile(path(9)));
+    QCOMPARE(CRecentFiles(store, QStringLiteral("root")).Paths(), QStringList({path(3), path(4), path(2)}));
 }
 
 void FileCommandsTest::filters()

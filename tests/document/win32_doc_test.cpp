@@ -17,6 +17,10 @@ private Q_SLOTS:
     void opening_data();
     void opening();
     void saving();
+    void foreignChangesAreNotOverwritten();
+    void undoAcrossSaving();
+    void listProperties();
+    void mailing();
     void placeholders();
 
 private:
@@ -121,6 +125,77 @@ void Win32DocTest::saving()
     QFile file(good);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().startsWith("\xFF\xFE"));
+}
+
+void Win32DocTest::foreignChangesAreNotOverwritten()
+{
+    TestDocument test;
+    const QByteArray foreign = "Ordelin 2.0\n\n\nA\nB\n1\n\n1\nforeign\nchange\n";
+    const QString path = Write("Ordelin 2.0\n\n\nA\nB\n1\n\n1\na\nb\n");
+    QVERIFY(test.document.OpenDocument(path));
+    test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Clear);
+    Write(foreign);
+    test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
+    QVERIFY(!test.document.OnSaveDocument(path));
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::OverwriteForeignChange});
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), foreign);
+    QVERIFY(test.document.IsModified());
+    QVERIFY(test.document.OnSaveDocument(path));
+    QVERIFY(test.document.OnSaveDocument(path)); // Its own change is none to ask about.
+    QCOMPARE(test.prompt.numbers.size(), 2);
+    QVERIFY(QFile::remove(path));
+    QVERIFY(test.document.OnSaveDocument(path)); // A file that is gone is made again.
+    QCOMPARE(test.prompt.numbers.size(), 2);
+}
+
+void Win32DocTest::undoAcrossSaving()
+{
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    QSignalSpy titles(&test.document, &CWin32Doc::TitleChanged);
+    QCOMPARE(test.document.UndoCount(), 0);
+    test.document.BeginChange().Insert(MakeEntry(QStringLiteral("c|d")));
+    test.document.UpdateTitleMark();
+    QCOMPARE(titles.count(), 1);
+    QVERIFY(test.document.OnSaveDocument(m_folder.filePath(QStringLiteral("undo.gls"))));
+    QVERIFY(!test.document.IsModified());
+    test.document.Undo();
+    QCOMPARE(Describe(test.document.List()).join(u','), QStringLiteral("a|b"));
+    QVERIFY(test.document.IsModified()); // The file holds the other state.
+    QCOMPARE(test.document.Path(), m_folder.filePath(QStringLiteral("undo.gls")));
+    test.document.Redo();
+    QVERIFY(!test.document.IsModified());
+    test.document.OnNewDocument();
+    QCOMPARE(test.document.UndoCount() + test.document.RedoCount(), 0);
+}
+
+void Win32DocTest::listProperties()
+{
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    test.document.SetListProperties(
+        {.author = QStringLiteral("A\r\nB\tC"), .questionTemplate2 = QStringLiteral("x\ny")});
+    QCOMPARE(test.document.List().GetAuthor(), QStringLiteral("A  B C"));
+    QCOMPARE(test.document.List().GetQuestionTemplate(1), QStringLiteral("x y"));
+    QCOMPARE(test.document.UndoCount(), 1);
+    test.document.SetListProperties({.author = QStringLiteral("A  B C")});
+    QCOMPARE(test.document.UndoCount(), 1); // Nothing differed.
+}
+
+void Win32DocTest::mailing()
+{
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    test.settings.standardFilename = QStringLiteral("%language2 av mig");
+    test.document.BeginChange().SetSaved(false);
+    test.document.OnFileSendMail();
+    QCOMPARE(test.started.size(), 1);
+    const QString file = test.started[0].value(2);
+    QCOMPARE(test.started[0].mid(0, 2), QStringList({QStringLiteral("xdg-email"), QStringLiteral("--attach")}));
+    QVERIFY(file.endsWith(QStringLiteral("/Engelska av mig.gls")) && QFile::exists(file));
+    QVERIFY(test.document.IsModified() && test.document.Path().isEmpty());
+    test.canStartPrograms = false;
+    test.document.OnFileSendMail();
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotStartMail});
 }
 
 void Win32DocTest::placeholders()

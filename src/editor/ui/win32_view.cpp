@@ -84,6 +84,7 @@ void CWin32View::RefreshAll()
 {
     m_model->reset();
     m_list->layoutColumns();
+    m_document.UpdateTitleMark();
     const CWordList &list = m_document.List();
     m_author->setText(m_texts.Fill(Text::ViewAuthor, {list.GetAuthor()}));
     m_comments->setText(m_texts.Fill(Text::ViewComments, {list.GetComments()}));

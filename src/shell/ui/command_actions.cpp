@@ -46,9 +46,9 @@ void CCommandActions::SetHandler(int id, std::function<void()> handler)
     connect(Action(id), &QAction::triggered, this, [handler = std::move(handler)] { handler(); });
 }
 
-void CCommandActions::UpdateEnabled(bool listHasEntries)
+void CCommandActions::UpdateEnabled(const CommandState &state)
 {
     for (const Command &command : commandTable()) {
-        Action(command.id)->setEnabled(command.enabled == EnabledRule::Always || listHasEntries);
+        Action(command.id)->setEnabled(isEnabled(command.enabled, state));
     }
 }

@@ -8,7 +8,7 @@
 
 class CTexts;
 class QAction;
-struct Command;
+struct CommandState;
 
 /// The actions of all commands, made from the table of commands. Owns them.
 class CCommandActions : public QObject
@@ -21,7 +21,7 @@ public:
     QAction *Action(int id) const { return m_actions.value(id); }
     void SetHandler(int id, std::function<void()> handler);
     /// Refreshes what can be chosen.
-    void UpdateEnabled(bool listHasEntries);
+    void UpdateEnabled(const CommandState &state);
 
 private:
     QHash<int, QAction *> m_actions;

@@ -13,8 +13,10 @@
 #include "shell/ui/about_dialog.h"
 #include "shell/ui/command_actions.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
@@ -33,6 +35,12 @@ void AddCommands(Bar &bar, const QList<int> &commands, const CCommandActions &ac
             bar.addAction(actions.Action(id));
         }
     }
+}
+
+/// The edit box that has the focus: commands on text act on it alone.
+QLineEdit *FocusedEditBox()
+{
+    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
 }
 
 }
@@ -55,12 +63,27 @@ CMainFrame::CMainFrame(const FrameServices &services)
     connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::setText);
     connect(&services.document, &CWin32Doc::ListReplaced, this, &CMainFrame::Refresh);
     connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::Refresh);
+    // A change is told before it is made, so what shows it waits for the event loop.
+    connect(
+        &services.document, &CWin32Doc::Changed, this,
+        [this] {
+            m_services.document.UpdateTitleMark();
+            UpdateCommands();
+        },
+        Qt::QueuedConnection);
+    connect(qApp, &QApplication::focusChanged, this, &CMainFrame::UpdateCommands);
     connect(&services.document, &CWin32Doc::FileConverted, m_view, &CWin32View::RefreshAll);
     const QSize wanted(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
     resize(wanted.boundedTo(screen()->availableSize() * 0.9));
     m_view->RefreshAll();
     m_view->setFocus();
     Refresh();
+}
+
+CMainFrame::~CMainFrame()
+{
+    // The focus changes once more while the window's parts are taken down.
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void CMainFrame::MakeMenus()
@@ -114,6 +137,8 @@ void CMainFrame::ConnectCommands()
     m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
     m_actions->SetHandler(SendMail, [this] { m_services.document.OnFileSendMail(); });
     m_actions->SetHandler(Exit, [this] { close(); });
+    m_actions->SetHandler(CommandId::Undo, [this] { Undo(); });
+    m_actions->SetHandler(CommandId::Redo, [this] { Redo(); });
     m_actions->SetHandler(StandardQuiz, [this] { m_quizLaunch->startQuiz(); });
     m_actions->SetHandler(About, [this] {
         auto *dialog = new CAboutDialog(m_services.texts, this);
@@ -126,7 +151,33 @@ void CMainFrame::Refresh()
 {
     // The toolkit takes a single mark for the place of its own sign of changes.
     setWindowTitle(m_services.document.Title().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
-    m_actions->UpdateEnabled(m_services.document.List().Count() > 0);
+    UpdateCommands();
+}
+
+void CMainFrame::UpdateCommands()
+{
+    const CWin32Doc &document = m_services.document;
+    const QLineEdit *const editBox = FocusedEditBox();
+    m_actions->UpdateEnabled({.listHasEntries = document.List().Count() > 0,
+        .canUndo = editBox != nullptr ? editBox->isUndoAvailable() : document.UndoCount() > 0,
+        .canRedo = editBox == nullptr && document.RedoCount() > 0});
+}
+
+void CMainFrame::Undo()
+{
+    if (QLineEdit *const editBox = FocusedEditBox()) {
+        editBox->undo();
+        UpdateCommands();
+    } else {
+        m_services.document.Undo();
+    }
+}
+
+void CMainFrame::Redo()
+{
+    if (FocusedEditBox() == nullptr) {
+        m_services.document.Redo();
+    }
 }
 
 std::vector<int> CMainFrame::SelectedEntries() const

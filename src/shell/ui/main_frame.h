@@ -38,6 +38,7 @@ class CMainFrame : public QMainWindow, public IQuizHost
 
 public:
     explicit CMainFrame(const FrameServices &services);
+    ~CMainFrame() override;
 
     CWin32View &View() const { return *m_view; }
 
@@ -56,6 +57,9 @@ private:
     void MakeMenus();
     void ConnectCommands();
     void Refresh();
+    void UpdateCommands();
+    void Undo();
+    void Redo();
     /// Puts the recent files into the File menu anew, each time it opens.
     void FillRecentFiles(QMenu &menu);
 

@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: MIT
+#include "resources/texts.h"
+#include "settings/app_settings.h"
+#include "settings/ini_store.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QString Section(const char *name)
+{
+    return CAppSettings::RootPath() + u'\\' + QString::fromLatin1(name);
+}
+
+/// Every value of a saved store as "section\name=value", in the order of the sections.
+QStringList Dump(CAppSettings &settings, CMemoryStore &store)
+{
+    class CLister
+    {
+    public:
+        CLister(CMemoryStore &listed, QString section) : m_store(listed), m_section(std::move(section)) { }
+        void Flag(const char *name, bool &, bool) { Add(name); }
+        void KeptFlag(const char *name, bool &) { Add(name); }
+        void Integer(const char *name, int &, int, int, int) { Add(name); }
+        void Color(const char *name, quint32 &, quint32) { Add(name); }
+        void Text(const char *name, QString &, const char *, const char *other = nullptr)
+        {
+            const QString kept = m_section;
+            m_section = other != nullptr ? ::Section(other) : m_section;
+            Add(name);
+            m_section = kept;
+        }
+        void NumberedText(const char *name, QString &, int) { Add(name); }
+        void KeptText(const char *name, QString &) { Add(name); }
+        void List(const char *name, QStringList &) { Add(name); }
+        QStringList lines;
+
+    private:
+        void Add(const char *name)
+        {
+            const QString value = m_store.Read(m_section, QString::fromLatin1(name)).value_or(u"missing"_qs);
+            lines.append(m_section + u'\\' + QString::fromLatin1(name) + u'=' + value);
+        }
+        CMemoryStore &m_store;
+        QString m_section;
+    };
+    settings.Exchange(false);
+    QStringList lines;
+    const auto list = [&](auto &section, const char *name) {
+        CLister lister(store, Section(name));
+        section.Visit(lister);
+        lines += lister.lines;
+    };
+    list(settings.misc, "misc");
+    list(settings.editor, "editor");
+    list(settings.easykey, "easykey");
+    list(settings.quiz, "quiz");
+    list(settings.quizChallenge, "quiz\\quizchallenge");
+    list(settings.fallingWord, "quiz\\fallingword");
+    list(settings.quizWindows, "quiz");
+    list(settings.import, "import");
+    list(settings.createTable, "createTable");
+    list(settings.filesearch, "filesearch");
+    list(settings.result, "result");
+    list(settings.find, "find");
+    list(settings.arrange, "arrange");
+    return lines;
+}
+
+}
+
+class AppSettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void firstRun();
+    void bounds_data();
+    void bounds();
+    void lists_data();
+    void lists();
+    void savingAndLoadingReproducesEverything();
+    void defaultsKeepTheLanguage();
+    void iniFile();
+    void iniFileEditedByHand();
+
+private:
+    CTexts m_texts;
+};
+
+void AppSettingsTest::firstRun()
+{
+    CMemoryStore store;
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    QVERIFY(settings.isFirstRun);
+    for (const char *name : {"misc", "editor", "easykey", "quiz", "quiz\\quizchallenge", "quiz\\fallingword",
+             "import", "createTable", "filesearch", "result", "find", "arrange"}) {
+        QVERIFY2(store.HasSection(Section(name)), name);
+    }
+    QVERIFY(!store.Read(Section("misc"), u"autoOpen"_qs)); // Nothing is written before the exit.
+    QCOMPARE(settings.editor.standardFilename, u"%language2 %date av %author"_qs);
+    QCOMPARE(settings.createTable.replaceAsterisc, u", "_qs);
+    settings.Exchange(false);
+    CAppSettings next(store, m_texts);
+    next.Exchange(true);
+    QVERIFY(!next.isFirstRun);
+}
+
+void AppSettingsTest::bounds_data()
+{
+    QTest::addColumn<QString>("section");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("loaded");
+    QTest::newRow("below") << "quiz"
+                           << "requizNumber"
+                           << "0"
+                           << "3";
+    QTest::newRow("above") << "quiz"
+                           << "requizNumber"
+                           << "101"
+                           << "3";
+    QTest::newRow("at the bound") << "quiz"
+                                  << "requizNumber"
+                                  << "100"
+                                  << "100";
+    QTest::newRow("never accepted") << "editor"
+                                    << "duplilcateCheckBeforeQuizMax"
+                                    << "500"
+                                    << "1000";
+    QTest::newRow("negative bound") << "find"
+                                    << "language"
+                                    << "-1"
+                                    << "-1";
+    QTest::newRow("below a negative bound") << "find"
+                                            << "language"
+                                            << "-2"
+                                            << "-1";
+    QTest::newRow("probability up to 99") << "quiz"
+                                          << "includeFlaggedProbability"
+                                          << "100"
+                                          << "20";
+    QTest::newRow("no bounds") << "quiz"
+                               << "numberOfWords"
+                               << "-7"
+                               << "-7";
+    QTest::newRow("no number") << "quiz"
+                               << "requizNumber"
+                               << "7x"
+                               << "3";
+    QTest::newRow("blanks around a number") << "quiz"
+                                            << "requizNumber"
+                                            << " 7 "
+                                            << "7";
+    QTest::newRow("more than a number can be") << "quiz"
+                                               << "requizNumber"
+                                               << "99999999999999999999"
+                                               << "3";
+    QTest::newRow("flag that is no 1") << "misc"
+                                       << "autoOpen"
+                                       << "-5"
+                                       << "1";
+    QTest::newRow("flag that is no number") << "misc"
+                                            << "autoOpen"
+                                            << "no"
+                                            << "1";
+    QTest::newRow("colour") << "createTable"
+                            << "colorText"
+                            << "4294967295"
+                            << "4294967295";
+    QTest::newRow("colour that is none") << "createTable"
+                                         << "colorBackground"
+                                         << "-1"
+                                         << "16777215";
+    QTest::newRow("sound with the word contest") << "quiz\\quizchallenge"
+                                                 << "rightSoundFile"
+                                                 << "x.wav"
+                                                 << "x.wav";
+}
+
+void AppSettingsTest::bounds()
+{
+    QFETCH(QString, section);
+    QFETCH(QString, name);
+    QFETCH(QString, stored);
+    QFETCH(QString, loaded);
+    CMemoryStore store;
+    const QString path = CAppSettings::RootPath() + u'\\' + section;
+    store.Write(path, name, stored);
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    settings.Exchange(false);
+    QCOMPARE(store.Read(path, name).value_or(QString()), loaded);
+}
+
+void AppSettingsTest::lists_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QStringList>("items");
+    QTest::newRow("blanks around items") << " å \n\tß" << QStringList{u"å"_qs, u"ß"_qs};
+    QTest::newRow("empty text") << "" << QStringList{};
+    QTest::newRow("final line break") << "a\nb\n" << QStringList{u"a"_qs, u"b"_qs};
+    QTest::newRow("empty item between") << "a\n\nb" << QStringList{u"a"_qs, QString(), u"b"_qs};
+}
+
+void AppSettingsTest::lists()
+{
+    QFETCH(QString, stored);
+    QFETCH(QStringList, items);
+    CMemoryStore store;
+    store.Write(Section("easykey"), u"keys"_qs, stored);
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    QCOMPARE(settings.easykey.keys, items);
+}
+
+void AppSettingsTest::savingAndLoadingReproducesEverything()
+{
+    CMemoryStore store;
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    // Every value away from its factory value and inside its bounds.
+    settings.misc.autoOpen = false;
+    settings.misc.plugInUse = false;
+    settings.misc.languageFile = u"/a, b/c.ordmod"_qs;
+    settings.editor.author = u"Åsa \"x\"; y=z\n\\"_qs;
+    settings.editor.undoSize = 1000;
+    settings.easykey.keys = {u"ñ"_qs, u"\u0301"_qs};
+    settings.quiz.order = 0;
+    settings.quizWindows.windowWidth[8] = 640;
+    settings.quizWindows.windowHeight[0] = -1;
+    settings.import.maxValue = 2147483647;
+    settings.createTable.colorSpecial = 0xFF000000;
+    settings.find.language = 2;
+    settings.arrange.descending = false;
+    const QStringList saved = Dump(settings, store);
+    QVERIFY(saved.size() > 110);
+    QVERIFY(saved.filter(u"=missing"_qs).isEmpty());
+    QVERIFY(saved.contains(Section("quiz") + u"\\windowWidth8=640"_qs));
+    CAppSettings loaded(store, m_texts);
+    loaded.Exchange(true);
+    QCOMPARE(Dump(loaded, store), saved);
+}
+
+void AppSettingsTest::defaultsKeepTheLanguage()
+{
+    CMemoryStore store;
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    settings.misc.languageFile = u"x"_qs;
+    settings.misc.plugInUse = false;
+    settings.misc.fontSize = 30;
+    settings.easykey.keys = {u"a"_qs};
+    settings.SetDefaults();
+    QCOMPARE(settings.misc.languageFile, u"x"_qs);
+    QVERIFY(!settings.misc.plugInUse);
+    QCOMPARE(settings.misc.fontSize, 11);
+    QVERIFY(settings.easykey.keys.isEmpty());
+}
+
+void AppSettingsTest::iniFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"new folder/Ordelin.ini"_qs);
+    {
+        CIniStore store(path, CAppSettings::RootPath());
+        CAppSettings settings(store, m_texts);
+        settings.Exchange(true);
+        QVERIFY(settings.isFirstRun);
+        settings.editor.author = u"Åsa, \"x\"; y=z\\\nœ"_qs;
+        settings.fallingWord.speed = 99;
+        settings.Exchange(false);
+    }
+    CIniStore store(path, CAppSettings::RootPath());
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    QVERIFY(!settings.isFirstRun);
+    QCOMPARE(settings.editor.author, u"Åsa, \"x\"; y=z\\\nœ"_qs);
+    QCOMPARE(settings.fallingWord.speed, 99);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    QVERIFY(
+        text.contains("[editor]\n") && text.contains("\nundoSize=10\n") && text.contains("\nlang1first=1\n"));
+    QVERIFY(!text.contains("section="));
+}
+
+void AppSettingsTest::iniFileEditedByHand()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("garbage\n[editor]\nauthor=Eva, Bo, x\nundoSize=many, or "
+               "few\n[quiz\n=5\nrequizNumber=\n"
+               "[find]\nlanguage=1\n\xFF\xFE[misc]\nautoOpen=@Invalid()\nfontSize=@ByteArray(12)\n[import]"
+               "\nlang1=\"open\n");
+    file.close();
+    CIniStore store(path, CAppSettings::RootPath());
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    QCOMPARE(settings.editor.author, u"Eva, Bo, x"_qs);
+    QCOMPARE(settings.editor.undoSize, 10);
+    QCOMPARE(settings.find.language, 1);
+    QCOMPARE(settings.quiz.requizNumber, 3);
+}
+
+QTEST_GUILESS_MAIN(AppSettingsTest)
+#include "app_settings_test.moc"
