@@ -85,33 +85,40 @@ bool CFileCommands::OpenNow(const QString &path)
     return true;
 }
 
-bool CFileCommands::SaveTo(const QString &path)
-{
-    if (!m_document.OnSaveDocument(path)) {
-        return false;
-    }
-    m_recent.Add(path);
-    return true;
-}
-
 bool CFileCommands::Save()
 {
-    return m_document.Path().isEmpty() ? SaveAs() : SaveTo(m_document.Path());
+    return DoSave(m_document.Path(), true);
 }
 
 bool CFileCommands::SaveAs()
 {
-    const QString name = m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls")
-                                                     : QFileInfo(m_document.Path()).fileName();
-    const QString path = m_chooser.ChooseFileToSave({.title = m_texts.Get(Text::SaveAsTitle),
-        .filters = FileFilters(m_texts.Get(Text::OpenFilters)).mid(0, 1),
-        .start = QDir(StartFolder()).filePath(name),
-        .defaultSuffix = QStringLiteral("gls")});
-    if (path.isEmpty()) {
+    return DoSave({}, true);
+}
+
+bool CFileCommands::DoSave(const QString &path, bool replace)
+{
+    QString target = path;
+    if (target.isEmpty()) {
+        const QString name = m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls")
+                                                         : m_document.Name();
+        target =
+            m_chooser.ChooseFileToSave({.title = m_texts.Get(replace ? Text::SaveAsTitle : Text::SaveCopyTitle),
+                .filters = FileFilters(m_texts.Get(Text::OpenFilters)).mid(0, 1),
+                .start = QDir(StartFolder()).filePath(name),
+                .defaultSuffix = QStringLiteral("gls")});
+        if (target.isEmpty()) {
+            return false;
+        }
+        m_lastFolder = QFileInfo(target).absolutePath();
+    }
+    if (!replace) {
+        return m_document.SaveCopy(target);
+    }
+    if (!m_document.OnSaveDocument(target)) {
         return false;
     }
-    m_lastFolder = QFileInfo(path).absolutePath();
-    return SaveTo(path);
+    m_recent.Add(target);
+    return true;
 }
 
 QString CFileCommands::StartFolder() const

@@ -28,13 +28,15 @@ public:
     /// Saves to the list's own file, and asks for a name where it has none.
     bool Save();
     bool SaveAs();
+    /// Saves to `path`, and asks for a name where it is empty. With `replace` the file becomes the list's own;
+    /// without it a copy is saved.
+    bool DoSave(const QString &path, bool replace);
     /// Asks what to do with unsaved changes. True when the list may be given up.
     bool MayDiscard();
 
 private:
     QString StartFolder() const;
     bool OpenNow(const QString &path);
-    bool SaveTo(const QString &path);
 
     CWin32Doc &m_document;
     const CTexts &m_texts;

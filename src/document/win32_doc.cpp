@@ -197,16 +197,24 @@ bool CWin32Doc::OnSaveDocument(const QString &path)
     return true;
 }
 
+bool CWin32Doc::SaveCopy(const QString &path)
+{
+    CWordList copy = List(); // Writing marks the copy as saved, not the list.
+    if (!WriteWordListFile(copy, path, {.forceUnicode = m_services.settings.alwaysSaveInUnicode})) {
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
+        return false;
+    }
+    return true;
+}
+
 void CWin32Doc::OnFileSendMail()
 {
     if (!m_mailFolder) {
         m_mailFolder = std::make_unique<QTemporaryDir>();
     }
     const QString path = m_mailFolder->filePath(SuggestFileName() + QStringLiteral(".gls"));
-    CWordList copy = List(); // Writing marks the copy as saved, not the list.
-    if (!WriteWordListFile(copy, path, {.forceUnicode = m_services.settings.alwaysSaveInUnicode})) {
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
-    } else if (!m_services.startProgram(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path})) {
+    if (SaveCopy(path)
+        && !m_services.startProgram(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path})) {
         m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotStartMail), PromptIcon::Warning);
     }
 }

@@ -75,6 +75,9 @@ public:
     /// Writes the list and makes `path` its file. Asks before it overwrites what another program wrote since.
     /// On failure, which the user is told, list, path and file stay as they were and the result is false.
     bool OnSaveDocument(const QString &path);
+    /// Writes the list to another file without taking it for its own. On failure, which the user is told, the
+    /// result is false.
+    bool SaveCopy(const QString &path);
     /// Hands a copy of the list to the e-mail program; path and saved mark stay as they are.
     void OnFileSendMail();
 

@@ -39,6 +39,7 @@ inline constexpr int OneFileOnly = 70154;
 inline constexpr int OverwriteForeignChange = 70160;
 inline constexpr int RecoverChanges = 70161;
 inline constexpr int NoRecentFiles = 70162;
+inline constexpr int SaveCopyTitle = 70163;
 
 // Quiz
 inline constexpr int AnswersOfTotal = 62120;

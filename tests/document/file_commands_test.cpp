@@ -76,6 +76,9 @@ void FileCommandsTest::savingWithAndWithoutAName()
     test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Set);
     QVERIFY(files.Save());
     QCOMPARE(chooser.asked.size(), 1);
+    const QString copy = folder.filePath(QStringLiteral("kopia.gls"));
+    QVERIFY(files.DoSave(copy, false));
+    QVERIFY(QFile::exists(copy) && test.document.Path() == path);
     QVERIFY(!files.SaveAs()); // Cancelled.
     QCOMPARE(chooser.asked[1].start, path);
     QCOMPARE(test.document.Path(), path);
