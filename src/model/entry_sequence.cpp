@@ -3,6 +3,26 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Whether only this pointer holds its target. What another thread read from it before letting go of it is
+/// ordered before what this one writes, which the pointer's own test does not promise.
+template<class Pointer>
+bool IsSole(const Pointer &pointer)
+{
+    return pointer->ref.loadAcquire() == 1;
+}
+
+template<class Pointer>
+void MakeSole(Pointer &pointer)
+{
+    if (!IsSole(pointer)) {
+        pointer.detach();
+    }
+}
+
+}
+
 CEntrySequence::Place CEntrySequence::Locate(int index) const
 {
     // Blocks that were only appended to are all of one size.
@@ -17,7 +37,7 @@ CEntrySequence::Place CEntrySequence::Locate(int index) const
 
 std::vector<CEntrySequence::EntryPointer> &CEntrySequence::MutableBlock(size_t block)
 {
-    m_blocks[block].detach();
+    MakeSole(m_blocks[block]);
     return m_blocks[block]->entries;
 }
 
@@ -31,7 +51,7 @@ CWordEntry &CEntrySequence::Mutable(int index)
 {
     const Place place = Locate(index);
     EntryPointer &pointer = MutableBlock(place.block)[place.entry];
-    pointer.detach();
+    MakeSole(pointer);
     return pointer->entry;
 }
 
@@ -130,7 +150,7 @@ void CEntrySequence::Reorder(std::span<const int> order)
     pointers.reserve(size_t(m_count));
     for (const BlockPointer &block : m_blocks) {
         std::vector<EntryPointer> &entries = block->entries;
-        if (block->ref.loadRelaxed() == 1) {
+        if (IsSole(block)) {
             pointers.insert(pointers.end(), std::make_move_iterator(entries.begin()),
                 std::make_move_iterator(entries.end()));
         } else {

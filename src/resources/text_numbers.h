@@ -23,6 +23,7 @@ inline constexpr int StandardToolBar = 61140;
 inline constexpr int NumberColumn = 62609;
 inline constexpr int Cancel = 62800;
 inline constexpr int Close = 62801;
+inline constexpr int ReallyReset = 63203;
 inline constexpr int EntrySelected = 70001;
 inline constexpr int EntriesSelected = 70003;
 inline constexpr int Unnamed = 70030;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/app_settings.h"
 
+#include "platform/user_prompt.h"
+#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 namespace {
@@ -132,4 +134,14 @@ void CAppSettings::SetDefaults()
 {
     CLocalFactoryValues values(m_texts);
     ForEachSection([&](auto &section, const char * /*name*/) { section.Visit(values); });
+}
+
+bool CAppSettings::ResetToFactory(IUserPrompt &prompt)
+{
+    if (!prompt.Confirm(m_texts.Prompt(Text::ReallyReset), PromptIcon::Information, PromptButtons::YesNoCancel,
+            PromptAnswer::No)) {
+        return false;
+    }
+    SetDefaults();
+    return true;
 }

@@ -8,6 +8,7 @@
 #include "settings/tool_settings.h"
 
 class CTexts;
+class IUserPrompt;
 
 /// Every setting of the program, held by the application for the whole run: loaded at its start and saved at
 /// its exit. Whoever needs settings is handed the struct of its section.
@@ -23,6 +24,8 @@ public:
 
     /// Puts every setting that has one to its factory value, texts to those of the language in force.
     void SetDefaults();
+    /// Asks first, and returns whether the settings were reset; any answer but Yes changes nothing.
+    bool ResetToFactory(IUserPrompt &prompt);
 
     /// True in a run that found no settings.
     bool isFirstRun = false;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QHash>
 #include <QMap>
 #include <QString>
 
@@ -37,6 +36,8 @@ public:
     void Write(const QString &section, const QString &name, const QString &value) override;
     void Remove(const QString &section, const QString &name) override;
     void Flush() override { }
+    /// Values by name by section.
+    const QMap<QString, QMap<QString, QString>> &Sections() const { return m_sections; }
 
 private:
     QMap<QString, QMap<QString, QString>> m_sections;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <thread>
 
 class EntrySequenceTest : public QObject
 {
@@ -13,6 +14,7 @@ class EntrySequenceTest : public QObject
 
 private Q_SLOTS:
     void agreesWithAPlainVector();
+    void copiesInDifferentThreads();
 };
 
 namespace {
@@ -107,6 +109,25 @@ void EntrySequenceTest::agreesWithAPlainVector()
         for (const auto &[copy, expected] : copies) {
             QCOMPARE(Numbers(copy), expected);
         }
+    }
+}
+
+void EntrySequenceTest::copiesInDifferentThreads()
+{
+    CEntrySequence sequence;
+    for (int number = 0; number < 1500; ++number) {
+        sequence.Append(Entry(number));
+    }
+    for (int round = 0; round < 50; ++round) {
+        const Plain before = Numbers(sequence);
+        Plain read;
+        std::thread reader([copy = sequence, &read] { read = Numbers(copy); });
+        for (int index = 0; index < 1500; index += 7) {
+            sequence.Mutable(index).SetTerm(QString::number(round), 0);
+            sequence.Swap(index, 1499 - index);
+        }
+        reader.join();
+        QCOMPARE(read, before);
     }
 }
 
