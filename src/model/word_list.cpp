@@ -110,27 +110,27 @@ int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIn
     return similar;
 }
 
-int CWordList::ReplaceEntry(int index, QString term1, QString term2, QString note, bool checkSimilar)
+int CWordList::ReplaceEntry(
+    int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar)
 {
     if (!m_entries.IsIndex(index)) {
         return -1;
     }
+    const CWordEntry &stored = Entry(index);
+    // Made before anything changes: the texts may be those of the entry itself.
+    const CWordEntry changed(term1, term2, note, stored.GetFlag(0), stored.GetFlag(1));
     int similar = -1;
     if (checkSimilar) {
-        FindSimilar(CWordEntry(term1, term2, note), similar, index, -1);
+        FindSimilar(changed, similar, index, -1);
     }
-    const CWordEntry &stored = Entry(index);
     if (stored.GetText(0) != term1 || stored.GetText(1) != term2 || stored.GetNote() != note) {
-        CWordEntry &entry = m_entries.Mutable(index);
-        entry.SetTerm(term1, 0);
-        entry.SetTerm(term2, 1);
-        entry.SetNote(note);
+        m_entries.Mutable(index) = changed;
         m_saved = false;
     }
     return similar;
 }
 
-int CWordList::SetEntryField(QString text, int field, int index, bool checkSimilar)
+int CWordList::SetEntryField(const QString &text, int field, int index, bool checkSimilar)
 {
     if (!m_entries.IsIndex(index) || field < 0) {
         return -1;
@@ -143,7 +143,9 @@ int CWordList::SetEntryField(QString text, int field, int index, bool checkSimil
         FindSimilar(candidate, similar, index, target);
     }
     if (Entry(index).GetField(target) != text) {
-        m_entries.Mutable(index).SetField(text, target);
+        CWordEntry changed = Entry(index);
+        changed.SetField(text, target);
+        m_entries.Mutable(index) = changed;
         m_saved = false;
     }
     return similar;

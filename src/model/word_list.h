@@ -95,8 +95,9 @@ public:
     int Insert(CWordEntry entry, const InsertOptions &options = {}, int *outIndex = nullptr);
     /// The texts may be those of the entry itself. Both return the index of another, similar entry or -1; it is
     /// reported also when nothing changed.
-    int ReplaceEntry(int index, QString term1, QString term2, QString note, bool checkSimilar);
-    int SetEntryField(QString text, int field, int index, bool checkSimilar);
+    int ReplaceEntry(
+        int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar);
+    int SetEntryField(const QString &text, int field, int index, bool checkSimilar);
     void DeleteEntries(Selection selection);
     /// CWordEntry::SwapFields() on every selected entry: moves the contents of a column to the left or right.
     void SwapInEntries(Selection selection, bool swapTexts, bool swapFlags, int a, int b);

@@ -131,6 +131,9 @@ void WordListTest::replacing()
     list.SetSaved(true);
     QCOMPARE(replace(0, "a|d|", true), 1); // Reported also when nothing changes.
     QVERIFY(list.IsSaved());
+    list.ReplaceEntry(0, list.Entry(0).GetText(1), list.Entry(0).GetText(0), QString(), false);
+    QCOMPARE(Describe(list.Entry(0)), QStringLiteral("d|a"));
+    list.ReplaceEntry(0, list.Entry(0).GetText(1), list.Entry(0).GetText(0), QString(), false);
     QCOMPARE(replace(7, "a|d|", true), -1);
     QCOMPARE(Describe(list).join(u','), QStringLiteral("a|d,c|d"));
 }
