@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "document/recovery.h"
 
-#include "document/win32_doc.h"
 #include "fileformats/word_list_file.h"
 #include "platform/safe_file.h"
+#include "platform/thread.h"
 #include "platform/user_prompt.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
@@ -25,17 +25,17 @@ constexpr const char *LockSuffix = ".lock";
 class CRecovery::CWriter : public CThread
 {
 public:
-    CWriter() = default;
+    explicit CWriter(CRecovery &recovery) : m_recovery(recovery) { }
     ~CWriter() override { Stop(true); }
     CWriter(const CWriter &) = delete;
     CWriter &operator=(const CWriter &) = delete;
 
-    void Write(CWordList list, const QString &listPath, const QString &origin, const QString &originPath)
+    void Write(CWordList list, const QString &listPath, const QByteArray &origin, const QString &originPath)
     {
         Stop(true);
         m_list = std::move(list);
         m_listPath = listPath;
-        m_origin = origin.toUtf8();
+        m_origin = origin;
         m_originPath = originPath;
         Start();
     }
@@ -50,9 +50,11 @@ protected:
             (void)WriteWordListFile(m_list, m_listPath, {.forceUnicode = true});
         }
         m_list = CWordList();
+        QMetaObject::invokeMethod(&m_recovery, &CRecovery::CopyWritten, Qt::QueuedConnection);
     }
 
 private:
+    CRecovery &m_recovery;
     CWordList m_list;
     QString m_listPath;
     QByteArray m_origin;
@@ -60,7 +62,7 @@ private:
 };
 
 CRecovery::CRecovery(CWin32Doc &document, const QString &folder, int delay, QObject *parent)
-    : QObject(parent), m_document(document), m_folder(folder), m_writer(std::make_unique<CWriter>())
+    : QObject(parent), m_document(document), m_folder(folder), m_writer(std::make_unique<CWriter>(*this))
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(delay);
@@ -70,7 +72,10 @@ CRecovery::CRecovery(CWin32Doc &document, const QString &folder, int delay, QObj
     connect(&document, &CWin32Doc::Saved, this, &CRecovery::Discard);
 }
 
-CRecovery::~CRecovery() = default;
+CRecovery::~CRecovery()
+{
+    m_writer.reset(); // It reports here to its end.
+}
 
 QString CRecovery::UserFolder()
 {
@@ -92,17 +97,12 @@ void CRecovery::Remove(const QString &id) const
     }
 }
 
-bool CRecovery::Take(const QString &id)
+std::unique_ptr<QLockFile> CRecovery::Lock(const QString &id) const
 {
     auto lock = std::make_unique<QLockFile>(FilePath(id, LockSuffix));
     // Only the end of its program makes a lock stale, never its age.
     lock->setStaleLockTime(0);
-    if (!lock->tryLock(0)) {
-        return false;
-    }
-    m_lock = std::move(lock);
-    m_id = id;
-    return true;
+    return lock->tryLock(0) ? std::move(lock) : nullptr;
 }
 
 void CRecovery::DocumentChanged()
@@ -125,12 +125,26 @@ void CRecovery::WriteCopy()
     }
     if (m_id.isEmpty()) {
         QDir().mkpath(m_folder);
-        if (!Take(QUuid::createUuid().toString(QUuid::WithoutBraces))) {
+        const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        m_lock = Lock(id);
+        if (!m_lock) {
             return;
         }
+        m_id = id;
     }
-    m_writer->Write(
-        m_document.List(), FilePath(m_id, ListSuffix), m_document.Path(), FilePath(m_id, PathSuffix));
+    const FileStamp &stamp = m_document.Stamp();
+    const QString origin = QStringLiteral("%1 %2\n%3")
+                               .arg(stamp.modified.toMSecsSinceEpoch())
+                               .arg(stamp.size)
+                               .arg(m_document.Path());
+    m_writer->Write(m_document.List(), FilePath(m_id, ListSuffix), origin.toUtf8(), FilePath(m_id, PathSuffix));
+}
+
+void CRecovery::CopyWritten()
+{
+    if (m_discardWhenWritten) {
+        Finish();
+    }
 }
 
 void CRecovery::Wait()
@@ -141,13 +155,22 @@ void CRecovery::Wait()
 void CRecovery::Discard()
 {
     m_timer.stop();
-    if (m_id.isEmpty()) {
-        return;
+    if (m_writer->IsRunning()) {
+        m_discardWhenWritten = true;
+    } else {
+        Finish();
     }
+}
+
+void CRecovery::Finish()
+{
+    m_discardWhenWritten = false;
     Wait();
-    Remove(m_id);
-    m_lock.reset();
-    m_id.clear();
+    if (!m_id.isEmpty()) {
+        Remove(m_id);
+        m_lock.reset();
+        m_id.clear();
+    }
 }
 
 std::vector<LostList> CRecovery::FindLost() const
@@ -157,37 +180,56 @@ std::vector<LostList> CRecovery::FindLost() const
         QDir(m_folder).entryInfoList({QStringLiteral("*.gls")}, QDir::Files | QDir::Readable, QDir::Time);
     for (const QFileInfo &file : files) {
         const QString id = file.completeBaseName();
-        QLockFile lock(FilePath(id, LockSuffix));
-        lock.setStaleLockTime(0);
-        if (id == m_id || !lock.tryLock(0)) {
+        if (id == m_id || !Lock(id)) {
             continue;
         }
-        QFile path(FilePath(id, PathSuffix));
-        const QString origin = path.open(QIODevice::ReadOnly) ? QString::fromUtf8(path.readAll()) : QString();
-        lost.push_back({id, origin, file.lastModified()});
+        LostList list = {id, {}, {}, file.lastModified()};
+        QFile origin(FilePath(id, PathSuffix));
+        if (origin.open(QIODevice::ReadOnly)) {
+            const QString text = QString::fromUtf8(origin.readAll());
+            const QString stamp = text.section(u'\n', 0, 0);
+            list.path = text.section(u'\n', 1);
+            list.stamp = {QDateTime::fromMSecsSinceEpoch(stamp.section(u' ', 0, 0).toLongLong()),
+                stamp.section(u' ', 1).toLongLong()};
+        }
+        lost.push_back(list);
     }
     return lost;
 }
 
+void CRecovery::RemoveRemains() const
+{
+    // Of programs that ended before their first copy was complete.
+    for (const QString &name : QDir(m_folder).entryList(QDir::Files)) {
+        const QString id = name.section(u'.', 0, 0);
+        if (id != m_id && !QFile::exists(FilePath(id, ListSuffix)) && Lock(id)) {
+            QFile::remove(QDir(m_folder).filePath(name));
+        }
+    }
+}
+
 bool CRecovery::Offer(const CTexts &texts, IUserPrompt &prompt)
 {
-    const std::vector<LostList> lost = FindLost();
-    if (lost.empty()) {
-        return false;
-    }
-    const LostList &newest = lost.front();
-    const QString name = newest.path.isEmpty() ? texts.Get(Text::Unnamed) : QFileInfo(newest.path).fileName();
-    const QString time = QLocale::system().toString(newest.written, QLocale::ShortFormat);
-    switch (prompt.Ask(texts.Prompt(Text::RecoverChanges, {name, time}), PromptIcon::Question,
-        PromptButtons::YesNoCancel, PromptAnswer::Yes)) {
-    case PromptAnswer::Yes:
-        // The copy becomes this program's own, so it stays until the list is saved.
-        return m_document.OpenRecovered(FilePath(newest.id, ListSuffix), newest.path) && Take(newest.id);
-    case PromptAnswer::No:
-        Remove(newest.id);
-        return false;
-    case PromptAnswer::Cancel:
-        return false;
+    RemoveRemains();
+    for (const LostList &lost : FindLost()) {
+        // Held while the user thinks, so that no other program asks about the same list.
+        std::unique_ptr<QLockFile> lock = Lock(lost.id);
+        if (!lock) {
+            continue;
+        }
+        const QString name = lost.path.isEmpty() ? texts.Get(Text::Unnamed) : QFileInfo(lost.path).fileName();
+        const QString time = QLocale::system().toString(lost.written, QLocale::ShortFormat);
+        const PromptAnswer answer = prompt.Ask(texts.Prompt(Text::RecoverChanges, {name, time}),
+            PromptIcon::Question, PromptButtons::YesNoCancel, PromptAnswer::Yes);
+        if (answer == PromptAnswer::No) {
+            Remove(lost.id);
+        } else if (answer == PromptAnswer::Yes
+            && m_document.OpenRecovered(FilePath(lost.id, ListSuffix), lost.path, lost.stamp)) {
+            // The copy becomes this program's own, so it stays until the list is saved.
+            m_lock = std::move(lock);
+            m_id = lost.id;
+            return true;
+        }
     }
     return false;
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/word_list.h"
-#include "platform/thread.h"
+#include "document/win32_doc.h"
 
 #include <QDateTime>
 #include <QLockFile>
@@ -13,20 +12,20 @@
 #include <vector>
 
 class CTexts;
-class CWin32Doc;
 class IUserPrompt;
 
 /// A copy of a list whose program ended without saving it.
 struct LostList
 {
     QString id;
-    /// The file that the list belonged to; empty for none.
+    /// The file that the list belonged to, and what that was like; empty for none.
     QString path;
+    FileStamp stamp;
     QDateTime written;
 };
 
 /// Keeps a copy of the list on the disk while it has unsaved changes, and offers it after a crash. A copy is an
-/// ordinary glossary file, ID.gls, with the path that it belonged to in ID.path; ID.lock shows whether the
+/// ordinary glossary file, ID.gls, with the file that it belonged to in ID.path; ID.lock shows whether the
 /// program that keeps it is still there. Writes on a thread of its own.
 class CRecovery : public QObject
 {
@@ -44,14 +43,17 @@ public:
 
     /// The copies that no running program keeps, newest first.
     std::vector<LostList> FindLost() const;
-    /// Asks what to do with the newest lost copy: restore it into the document, throw it away, or ask again
-    /// next time. Returns true when one was restored. Call it before the first change of the document.
+    /// Asks what to do with each lost copy, newest first: restore it into the document, which ends the asking,
+    /// throw it away, or ask again next time. Returns true when one was restored. Call it before the document's
+    /// first change.
     bool Offer(const CTexts &texts, IUserPrompt &prompt);
 
-    /// Removes the copy, after a save or at a clean end.
+    /// Removes the copy, after a save; one that is being written, as soon as that is done.
     void Discard();
     /// Waits until nothing is being written.
     void Wait();
+    /// Removes the copy at a clean end of the program, waiting where it must.
+    void Finish();
 
 private:
     class CWriter;
@@ -60,13 +62,16 @@ private:
     void WriteCopy();
     QString FilePath(const QString &id, const char *suffix) const;
     void Remove(const QString &id) const;
-    /// Makes `id` this program's own. Returns false when another program has it.
-    bool Take(const QString &id);
+    void RemoveRemains() const;
+    void CopyWritten();
+    /// The lock of a copy; none when another program holds it.
+    std::unique_ptr<QLockFile> Lock(const QString &id) const;
 
     CWin32Doc &m_document;
     QString m_folder;
     QTimer m_timer;
     QString m_id; // Empty until there is something to keep.
     std::unique_ptr<QLockFile> m_lock;
+    bool m_discardWhenWritten = false;
     std::unique_ptr<CWriter> m_writer;
 };

@@ -17,12 +17,11 @@
 namespace {
 
 /// The text on one line: a line break in a property would break the layout of the file.
-void MakeOneLine(std::optional<QString> &text)
+QString OneLine(QString text)
 {
-    if (text) {
-        std::replace_if(
-            text->begin(), text->end(), [](QChar unit) { return unit < u' ' || unit == u'\x7F'; }, QChar(u' '));
-    }
+    std::replace_if(
+        text.begin(), text.end(), [](QChar unit) { return unit < u' ' || unit == u'\x7F'; }, QChar(u' '));
+    return text;
 }
 
 /// The first of two texts that is not empty.
@@ -38,8 +37,6 @@ CWin32Doc::CWin32Doc(DocumentServices services, QObject *parent)
 {
     ApplyUndoSize();
 }
-
-CWin32Doc::~CWin32Doc() = default;
 
 CWordList &CWin32Doc::BeginChange()
 {
@@ -92,7 +89,7 @@ void CWin32Doc::UpdateTitleMark()
     }
 }
 
-CWin32Doc::FileStamp CWin32Doc::StampOf(const QString &path)
+FileStamp FileStamp::Of(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() ? FileStamp{info.lastModified(), info.size()} : FileStamp{};
@@ -108,11 +105,11 @@ void CWin32Doc::DeleteContents()
     m_stamp = {};
 }
 
-void CWin32Doc::Replace(CWordList list, const QString &path)
+void CWin32Doc::Replace(CWordList list, const QString &path, const FileStamp &stamp)
 {
     m_history.ResetHistory(std::move(list));
     m_history.SetFilePath(path);
-    m_stamp = StampOf(path);
+    m_stamp = stamp;
     ++m_changeCounter;
     Q_EMIT ListReplaced();
     UpdateTitleMark();
@@ -124,20 +121,23 @@ void CWin32Doc::OnNewDocument()
     const CTexts &texts = m_services.texts;
     const EditorSettings &settings = m_services.settings;
     CWordList list = List();
-    std::optional<QString> comments = ExpandPlaceholders(settings.standardComments);
-    MakeOneLine(comments);
-    list.SetComments(*comments);
-    list.SetProperties({.language1 = FirstGiven(
-                            list.GetLanguage(0), FirstGiven(settings.language1, texts.Get(Text::Language1))),
-        .language2 =
-            FirstGiven(list.GetLanguage(1), FirstGiven(settings.language2, texts.Get(Text::Language2))),
-        .author = FirstGiven(list.GetAuthor(), settings.author)});
+    list.SetComments(OneLine(ExpandPlaceholders(settings.standardComments)));
+    const auto fill = [](const QString &given, const QString &standard) {
+        return OneLine(FirstGiven(given, standard));
+    };
+    list.SetProperties(
+        {.language1 = fill(list.GetLanguage(0), FirstGiven(settings.language1, texts.Get(Text::Language1))),
+            .language2 = fill(list.GetLanguage(1), FirstGiven(settings.language2, texts.Get(Text::Language2))),
+            .author = fill(list.GetAuthor(), settings.author)});
     list.SetSaved(true);
-    Replace(std::move(list), {});
+    Replace(std::move(list), {}, {});
 }
 
-bool CWin32Doc::OpenDocument(const QString &path)
+bool CWin32Doc::OpenDocument(const QString &file)
 {
+    // Absolute, since the path outlives the folder that the program was started in.
+    const QString path = QFileInfo(file).absoluteFilePath();
+    const FileStamp stamp = FileStamp::Of(path); // Before it is read, so that a change meanwhile is one.
     DeleteContents();
     CWordList list = List();
     const ReadResult result = ReadWordListFile(list, path);
@@ -147,7 +147,7 @@ bool CWin32Doc::OpenDocument(const QString &path)
     }
     // Without a path, saving asks for a name: a newer file is not overwritten by an older layout, nor a text
     // file.
-    Replace(std::move(list), own ? path : QString());
+    Replace(std::move(list), own ? path : QString(), own ? stamp : FileStamp());
     if (own) {
         return true;
     }
@@ -161,7 +161,7 @@ bool CWin32Doc::OpenDocument(const QString &path)
     return true;
 }
 
-bool CWin32Doc::OpenRecovered(const QString &copy, const QString &path)
+bool CWin32Doc::OpenRecovered(const QString &copy, const QString &path, const FileStamp &stamp)
 {
     CWordList list = List();
     const ReadResult result = ReadWordListFile(list, copy);
@@ -170,14 +170,15 @@ bool CWin32Doc::OpenRecovered(const QString &copy, const QString &path)
         return false;
     }
     list.SetSaved(false);
-    Replace(std::move(list), path);
+    Replace(std::move(list), path, stamp);
     return true;
 }
 
-bool CWin32Doc::OnSaveDocument(const QString &path)
+bool CWin32Doc::OnSaveDocument(const QString &file)
 {
+    const QString path = QFileInfo(file).absoluteFilePath();
     const CTexts &texts = m_services.texts;
-    const FileStamp now = StampOf(path);
+    const FileStamp now = FileStamp::Of(path);
     if (path == Path() && now.size >= 0 && now != m_stamp
         && !m_services.prompt.Confirm(texts.Prompt(Text::OverwriteForeignChange, {path}), PromptIcon::Warning,
             PromptButtons::YesNo, PromptAnswer::No)) {
@@ -191,7 +192,7 @@ bool CWin32Doc::OnSaveDocument(const QString &path)
         return false;
     }
     m_history.SetFilePath(path);
-    m_stamp = StampOf(path);
+    m_stamp = FileStamp::Of(path);
     Q_EMIT Saved();
     UpdateTitleMark();
     return true;
@@ -209,10 +210,10 @@ bool CWin32Doc::SaveCopy(const QString &path)
 
 void CWin32Doc::OnFileSendMail()
 {
-    if (!m_mailFolder) {
-        m_mailFolder = std::make_unique<QTemporaryDir>();
-    }
-    const QString path = m_mailFolder->filePath(SuggestFileName() + QStringLiteral(".gls"));
+    // Stays when the program ends, since the e-mail may be sent later.
+    QTemporaryDir folder;
+    folder.setAutoRemove(false);
+    const QString path = folder.filePath(SuggestFileName() + QStringLiteral(".gls"));
     if (SaveCopy(path)
         && !m_services.startProgram(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path})) {
         m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotStartMail), PromptIcon::Warning);
@@ -223,7 +224,9 @@ void CWin32Doc::SetListProperties(ListProperties properties)
 {
     for (std::optional<QString> *text : {&properties.language1, &properties.language2, &properties.author,
              &properties.comments, &properties.questionTemplate1, &properties.questionTemplate2}) {
-        MakeOneLine(*text);
+        if (*text) {
+            *text = OneLine(**text);
+        }
     }
     // Tried on a copy, which shares everything else: a step for undo is taken only when something differs.
     CWordList changed = List();

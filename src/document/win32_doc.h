@@ -9,12 +9,20 @@
 #include <QObject>
 
 #include <functional>
-#include <memory>
 
 class CTexts;
 class IUserPrompt;
-class QTemporaryDir;
 struct EditorSettings;
+
+/// What tells whether another program changed a file.
+struct FileStamp
+{
+    QDateTime modified;
+    qint64 size = -1; ///< -1 while there is no file.
+    bool operator==(const FileStamp &) const = default;
+
+    static FileStamp Of(const QString &path);
+};
 
 /// What the document is handed; none of it is owned.
 struct DocumentServices
@@ -36,7 +44,6 @@ class CWin32Doc : public QObject
 
 public:
     explicit CWin32Doc(DocumentServices services, QObject *parent = nullptr);
-    ~CWin32Doc() override;
 
     const CWordList &List() const { return m_history.Current(); }
     /// The one way to change the list: call it once per command, right before its change, and only when
@@ -54,6 +61,8 @@ public:
 
     /// The file of the list; empty while it has none.
     const QString &Path() const { return m_history.FilePath(); }
+    /// What its file was when it was last read or written.
+    const FileStamp &Stamp() const { return m_stamp; }
     /// The name of the list without a mark: its file's name.
     QString Name() const;
     /// The name shown for the list, with "* " in front while it has unsaved changes.
@@ -70,8 +79,9 @@ public:
     /// Reads a file of any kind in place of the list. On failure, which the user is told, an empty list is left
     /// and the result is false.
     bool OpenDocument(const QString &path);
-    /// Reads a copy kept for recovery as the changed content of the file `path`, which may be empty.
-    bool OpenRecovered(const QString &copy, const QString &path);
+    /// Reads a copy kept for recovery as the changed content of the file `path`, which may be empty and which
+    /// had `stamp` when the copy was made.
+    bool OpenRecovered(const QString &copy, const QString &path, const FileStamp &stamp);
     /// Writes the list and makes `path` its file. Asks before it overwrites what another program wrote since.
     /// On failure, which the user is told, list, path and file stay as they were and the result is false.
     bool OnSaveDocument(const QString &path);
@@ -103,23 +113,13 @@ Q_SIGNALS:
     void FileConverted();
 
 private:
-    /// What tells whether another program changed the file.
-    struct FileStamp
-    {
-        QDateTime modified;
-        qint64 size = -1;
-        bool operator==(const FileStamp &) const = default;
-    };
-    static FileStamp StampOf(const QString &path);
-
     void DeleteContents();
     /// Makes the list the only state of the history and has it shown.
-    void Replace(CWordList list, const QString &path);
+    void Replace(CWordList list, const QString &path, const FileStamp &stamp);
 
     DocumentServices m_services;
     CUndoHistory m_history;
     FileStamp m_stamp;
     quint64 m_changeCounter = 0;
     QString m_shownTitle;
-    std::unique_ptr<QTemporaryDir> m_mailFolder; // Holds what was mailed until the program ends.
 };

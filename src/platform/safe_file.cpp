@@ -13,7 +13,7 @@ namespace {
 /// the room that the old content takes can't be lost to others.
 bool WriteOver(QFile &file, const QByteArray &content)
 {
-    return file.seek(0) && file.write(content) == content.size() && file.flush() && file.resize(content.size())
+    return file.seek(0) && file.write(content) == content.size() && file.resize(content.size())
         && fsync(file.handle()) == 0;
 }
 
@@ -30,7 +30,8 @@ bool CSafeFile::Open(const QString &path)
     if (m_file.open(QIODevice::WriteOnly)) {
         return true;
     }
-    const bool folderIsClosed = !QFileInfo(info.absolutePath()).isWritable();
+    const QString folder = QFileInfo(info.canonicalFilePath()).absolutePath(); // Of a link's target, too.
+    const bool folderIsClosed = !QFileInfo(folder).isWritable();
     if (!info.isFile() || !info.isWritable() || !folderIsClosed) {
         return false;
     }
@@ -45,7 +46,14 @@ QIODevice &CSafeFile::Device()
 
 bool CSafeFile::Commit()
 {
-    return m_buffer ? Overwrite() : m_file.commit();
+    if (m_buffer) {
+        return Overwrite();
+    }
+    // The toolkit syncs too, but takes no notice when that fails.
+    if (!m_file.flush() || fsync(m_file.handle()) != 0) {
+        m_file.cancelWriting();
+    }
+    return m_file.commit();
 }
 
 void CSafeFile::Cancel()
@@ -60,7 +68,8 @@ void CSafeFile::Cancel()
 bool CSafeFile::Overwrite()
 {
     QFile file(m_file.fileName());
-    if (!file.open(QIODevice::ReadWrite)) {
+    // Without a buffer, whose rest a failed write would leave in the way of the old content.
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
         return false;
     }
     const QByteArray before = file.readAll();

@@ -45,8 +45,8 @@ struct CreateTableSettings
 {
     int useSelected;
     QString columns;
-    bool doReplaceAsterisc;
-    QString replaceAsterisc;
+    bool doReplaceAsterisc; // Kept: misspelt, since it is the name of the stored value.
+    QString replaceAsterisc; // Kept: misspelt like the one above.
     bool htmlFormat;
     bool fullTableWidth;
     int makeBold;

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void copyComesAndGoes();
     void offeredAfterACrash_data();
     void offeredAfterACrash();
+    void fileChangedSinceTheCrash();
     void runningProgramsKeepTheirCopies();
 };
 
@@ -103,6 +104,31 @@ void RecoveryTest::offeredAfterACrash()
         QVERIFY(next.test.document.OnSaveDocument(file)); // Not taken for a change by another program.
         QVERIFY(Copies(copies).isEmpty());
     }
+}
+
+void RecoveryTest::fileChangedSinceTheCrash()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("x.gls"));
+    const QString copies = folder.filePath(QStringLiteral("state"));
+    {
+        Program crashed(copies);
+        crashed.Add("a|b");
+        QVERIFY(crashed.test.document.OnSaveDocument(file));
+        crashed.Add("lost|work");
+        crashed.Settle();
+        Program other(folder.filePath(QStringLiteral("elsewhere")));
+        other.Add("newer|work");
+        QVERIFY(other.test.document.OnSaveDocument(file));
+    }
+    QFile remains(copies + QStringLiteral("/no-list.path"));
+    QVERIFY(remains.open(QIODevice::WriteOnly));
+    Program next(copies);
+    next.test.prompt.answers = {PromptAnswer::Yes, PromptAnswer::No};
+    QVERIFY(next.recovery.Offer(next.test.texts, next.test.prompt));
+    QVERIFY(!next.test.document.OnSaveDocument(file));
+    QCOMPARE(next.test.prompt.numbers, QList<int>({Text::RecoverChanges, Text::OverwriteForeignChange}));
+    QVERIFY(!remains.exists());
 }
 
 void RecoveryTest::runningProgramsKeepTheirCopies()

@@ -2,10 +2,16 @@
 #include "resources/text_numbers.h"
 #include "support/test_document.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 class Win32DocTest : public QObject
 {
@@ -97,6 +103,7 @@ void Win32DocTest::opening()
     QFETCH(int, count);
     TestDocument test(QStringList{QStringLiteral("old|list")});
     const QSignalSpy replaced(&test.document, &CWin32Doc::ListReplaced);
+    const QSignalSpy converted(&test.document, &CWin32Doc::FileConverted);
     const QString path = Write(bytes);
     QCOMPARE(test.document.OpenDocument(path), count > 0);
     QCOMPARE(test.prompt.numbers, shown);
@@ -104,6 +111,9 @@ void Win32DocTest::opening()
     QCOMPARE(test.document.IsModified(), modified);
     QCOMPARE(test.document.List().Count(), count);
     QCOMPARE(replaced.count(), 1);
+    QCOMPARE(converted.count(), 0); // Told from the event loop.
+    QCoreApplication::processEvents();
+    QCOMPARE(converted.count(), int(count > 0 && !keepsPath));
 }
 
 void Win32DocTest::saving()
@@ -116,6 +126,23 @@ void Win32DocTest::saving()
     QVERIFY(test.prompt.texts.first().contains(bad));
     QCOMPARE(test.document.Path(), QString());
     QCOMPARE(test.document.Title(), QStringLiteral("* Namnlös"));
+
+    // A disk that is full after some bytes: told, and nothing else happened.
+    const QString full = m_folder.filePath(QStringLiteral("full.gls"));
+    const pid_t child = fork();
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit = {10, 10};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const bool saved = test.document.OnSaveDocument(full);
+        const bool told =
+            test.prompt.numbers.last() == Text::CannotSave && test.prompt.texts.last().contains(full);
+        _exit(!saved && told && test.document.IsModified() && test.document.Path().isEmpty() ? 0 : 1);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    QCOMPARE(status, 0);
+    QVERIFY(!QFile::exists(full));
 
     const QString good = m_folder.filePath(QStringLiteral("min lista.gls"));
     test.settings.alwaysSaveInUnicode = true;
@@ -132,7 +159,10 @@ void Win32DocTest::foreignChangesAreNotOverwritten()
     TestDocument test;
     const QByteArray foreign = "Ordelin 2.0\n\n\nA\nB\n1\n\n1\nforeign\nchange\n";
     const QString path = Write("Ordelin 2.0\n\n\nA\nB\n1\n\n1\na\nb\n");
-    QVERIFY(test.document.OpenDocument(path));
+    QDir::setCurrent(m_folder.path());
+    QVERIFY(test.document.OpenDocument(QFileInfo(path).fileName()));
+    QDir::setCurrent(QDir::rootPath());
+    QCOMPARE(test.document.Path(), path); // Whatever folder the program is in later.
     test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Clear);
     Write(foreign);
     test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};

@@ -119,6 +119,8 @@ void SafeFileTest::closedFolder()
     };
     QCOMPARE(save(New, 10000), 0); // Overwritten in part, and put back.
     QCOMPARE(Content(m_path), Old);
+    QCOMPARE(save(New.first(12000), 8000), 0); // Also where it would fit a buffer.
+    QCOMPARE(Content(m_path), Old);
     QCOMPARE(save(New, -1), 1);
     QCOMPARE(Content(m_path), New);
     QCOMPARE(save("short", -1), 1);

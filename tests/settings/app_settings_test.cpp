@@ -15,6 +15,24 @@ QString Section(const char *name)
     return CAppSettings::RootPath() + u'\\' + QString::fromLatin1(name);
 }
 
+/// Puts every setting to another value inside its bounds than the factory's.
+class COtherValues
+{
+public:
+    void Flag(const char *, bool &value, bool factory) { value = !factory; }
+    void KeptFlag(const char *, bool &value) { value = !value; }
+    void Integer(const char *, int &value, int lower, int upper, int factory)
+    {
+        const bool accepted = upper == CRegistrySettings::NO_BOUND || lower <= upper;
+        value = !accepted ? factory : factory == upper ? factory - 1 : factory + 1;
+    }
+    void Color(const char *, quint32 &value, quint32 factory) { value = ~factory; }
+    void Text(const char *name, QString &value, const char *, const char * = nullptr) { KeptText(name, value); }
+    void NumberedText(const char *name, QString &value, int) { KeptText(name, value); }
+    void KeptText(const char *name, QString &value) { value = QString::fromLatin1(name) + u", \"å\";\n=\\"_qs; }
+    void List(const char *, QStringList &value) { value = {u"ñ"_qs, u"\u0301"_qs}; }
+};
+
 }
 
 class AppSettingsTest : public QObject
@@ -31,6 +49,7 @@ private Q_SLOTS:
     void resettingKeepsTheLanguage();
     void iniFile();
     void iniFileEditedByHand();
+    void lastToWriteWins();
 
 private:
     CTexts m_texts;
@@ -168,27 +187,27 @@ void AppSettingsTest::savingAndLoadingReproducesEverything()
     CMemoryStore store;
     CAppSettings settings(store, m_texts);
     settings.Exchange(true);
-    // Every value away from its factory value and inside its bounds.
-    settings.misc.autoOpen = false;
-    settings.misc.plugInUse = false;
-    settings.misc.languageFile = u"/a, b/c.ordmod"_qs;
-    settings.editor.author = u"Åsa \"x\"; y=z\n\\"_qs;
-    settings.editor.undoSize = 1000;
-    settings.easykey.keys = {u"ñ"_qs, u"\u0301"_qs};
-    settings.quiz.order = 0;
-    settings.quizWindows.windowWidth[8] = 640;
-    settings.quizWindows.windowHeight[0] = -1;
-    settings.import.maxValue = 2147483647;
-    settings.createTable.colorSpecial = 0xFF000000;
-    settings.find.language = 2;
-    settings.arrange.descending = false;
+    COtherValues other;
+    settings.misc.Visit(other);
+    settings.editor.Visit(other);
+    settings.easykey.Visit(other);
+    settings.quiz.Visit(other);
+    settings.quizChallenge.Visit(other);
+    settings.fallingWord.Visit(other);
+    settings.quizWindows.Visit(other);
+    settings.import.Visit(other);
+    settings.createTable.Visit(other);
+    settings.filesearch.Visit(other);
+    settings.result.Visit(other);
+    settings.find.Visit(other);
+    settings.arrange.Visit(other);
     settings.Exchange(false);
     qsizetype count = 0;
     for (const auto &section : store.Sections()) {
         count += section.size();
     }
     QCOMPARE(count, 138);
-    QCOMPARE(store.Read(Section("quiz"), u"windowWidth8"_qs), u"640"_qs);
+    QVERIFY(store.Read(Section("quiz"), u"windowWidth8"_qs) != u"0"_qs);
     const auto saved = store.Sections();
     CAppSettings loaded(store, m_texts);
     loaded.Exchange(true);
@@ -262,6 +281,27 @@ void AppSettingsTest::iniFileEditedByHand()
     QCOMPARE(settings.editor.undoSize, 10);
     QCOMPARE(settings.find.language, 1);
     QCOMPARE(settings.quiz.requizNumber, 3);
+}
+
+void AppSettingsTest::lastToWriteWins()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    CIniStore first(path, CAppSettings::RootPath());
+    CIniStore second(path, CAppSettings::RootPath());
+    CAppSettings one(first, m_texts);
+    CAppSettings two(second, m_texts);
+    one.Exchange(true);
+    two.Exchange(true);
+    one.editor.author = u"one"_qs;
+    two.editor.author = u"two"_qs;
+    two.Exchange(false);
+    one.Exchange(false);
+    CIniStore third(path, CAppSettings::RootPath());
+    CAppSettings loaded(third, m_texts);
+    loaded.Exchange(true);
+    QCOMPARE(loaded.editor.author, u"one"_qs);
+    QCOMPARE(loaded.quiz.requizNumber, 3);
 }
 
 QTEST_GUILESS_MAIN(AppSettingsTest)

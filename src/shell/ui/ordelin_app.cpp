@@ -59,16 +59,13 @@ int COrdelinApp::InitInstance()
         m_files.OpenFile(commandLine.file);
     }
     m_frame->show();
-    // A list that was named is not replaced by a lost one; that is offered at the next start without a name.
-    if (commandLine.file.isEmpty()) {
-        m_recovery.Offer(m_texts, m_prompt);
-    }
+    m_recovery.Offer(m_texts, m_prompt);
     return 0;
 }
 
 void COrdelinApp::ExitInstance()
 {
-    m_recovery.Discard();
+    m_recovery.Finish();
     m_settings.misc.openOnClosing = !m_document.Path().isEmpty();
     m_settings.Exchange(false);
 }
