@@ -19,7 +19,8 @@ trap cleanup EXIT
 
 # The server picks a free display and tells its number.
 exec 3<>"$work/display"
-Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp >"$work/xvfb.log" 2>&1 3>"$work/display" &
+# It must not start anew when a client was the last one for a moment.
+Xvfb -displayfd 3 -noreset -screen 0 1280x900x24 -nolisten tcp >"$work/xvfb.log" 2>&1 3>"$work/display" &
 pids+=($!)
 for _ in $(seq 100); do
     [ -s "$work/display" ] && break
@@ -29,6 +30,10 @@ DISPLAY=:$(tr -d '[:space:]' <"$work/display")
 export DISPLAY
 openbox >"$work/openbox.log" 2>&1 &
 pids+=($!)
+for _ in $(seq 100); do # Until the window manager is there.
+    xdotool get_num_desktops >/dev/null 2>&1 && break
+    sleep 0.1
+done
 
 "$@" >"$work/program.log" 2>&1 &
 program=$!
