@@ -56,7 +56,7 @@ void CommandsTest::commandLines_data()
     };
     QTest::newRow("nothing") << list("") << "" << 0;
     QTest::newRow("a file") << list("å.gls") << "å.gls" << 0;
-    QTest::newRow("a file URL") << list("file:///tmp/a%20b.gls") << "/tmp/a b.gls" << 0;
+    QTest::newRow("a file URL") << list("file:///lists/a%20b.gls") << "/lists/a b.gls" << 0;
     QTest::newRow("a file that looks like a switch") << list("-- --x") << "--x" << 0;
     QTest::newRow("unknown switch") << list("--x") << "" << int(Text::UnknownSwitch);
     QTest::newRow("two files") << list("a b") << "" << int(Text::OneFileOnly);
