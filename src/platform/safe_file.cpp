@@ -2,8 +2,10 @@
 #include "platform/safe_file.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include <unistd.h>
 
@@ -76,11 +78,22 @@ bool CSafeFile::Overwrite()
     if (before.size() != file.size()) {
         return false;
     }
-    if (WriteOver(file, m_content)) {
-        return true;
+    // Whoever is killed in the middle finds the old content here.
+    QTemporaryFile backup(
+        QDir(QDir::tempPath()).filePath(QStringLiteral("XXXXXX-") + QFileInfo(file.fileName()).fileName()));
+    backup.setAutoRemove(false);
+    if (!backup.open() || backup.write(before) != before.size() || !backup.flush()
+        || fsync(backup.handle()) != 0) {
+        backup.remove();
+        return false;
     }
-    // The old content found room in this file a moment ago, and finds it again.
-    file.unsetError();
-    WriteOver(file, before);
-    return false;
+    const bool written = WriteOver(file, m_content);
+    if (!written) {
+        // The old content found room in this file a moment ago, and finds it again.
+        file.unsetError();
+    }
+    if (written || WriteOver(file, before)) {
+        backup.remove();
+    }
+    return written;
 }

@@ -9,7 +9,8 @@
 /// Writes a whole file so that what was there before is lost only when the new content is complete: the content
 /// goes to a new file beside it, which takes its name at the end. A symbolic link stays, and its target is
 /// replaced. Where the folder allows no new file, but the old one may be changed, it is overwritten in place by
-/// Commit(), and put back as it was when that fails.
+/// Commit(), and put back as it was when that fails; while that goes on, a copy of it lies in the folder for
+/// temporary files.
 class CSafeFile
 {
 public:

@@ -125,6 +125,7 @@ void SafeFileTest::closedFolder()
     QCOMPARE(Content(m_path), New);
     QCOMPARE(save("short", -1), 1);
     QCOMPARE(Content(m_path), QByteArray("short"));
+    QVERIFY(QDir::temp().entryList({QStringLiteral("*-list.gls")}, QDir::Files).isEmpty());
     const QString fresh = m_folder->filePath(QStringLiteral("new.gls"));
     QCOMPARE(InProcess([&] {
         BecomeNobody();
