@@ -272,6 +272,13 @@ private:
         Print(reference, m_count);
         Print(
             {"copy of the list", Take([&] { copied = m_list; }, [&] { copied = {}; })}, m_count, reference, 2);
+        const std::vector<int> one = {m_count / 2};
+        const auto copyAndChange = [&] {
+            copied = m_list;
+            copied.SetFlags(0, one, FlagMode::Toggle);
+        };
+        Print({"copy, and a change of one entry", Take(copyAndChange, [&] { copied = {}; })}, m_count,
+            reference, 2);
     }
 
     int m_count;
