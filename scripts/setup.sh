@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Installs what building and running need: "program" for build and tests, "display" for pictures of windows,
-# "checks" for formatting, static analysis and fuzzing. Does nothing when all of it is there.
+# "checks" for formatting, static analysis, fuzzing and packaging. Does nothing when all of it is there.
 set -euo pipefail
 
-program=(g++ cmake ninja-build ccache python3 qt6-base-dev libqt6svg6 qt6-wayland libicu-dev libgl-dev fonts-dejavu-core)
+program=(g++ cmake ninja-build ccache python3 qt6-base-dev libqt6svg6 qt6-wayland libicu-dev libgl-dev libx11-dev libxtst-dev
+    fonts-dejavu-core)
 display=(xvfb openbox imagemagick xdotool)
-checks=(clang clang-format clang-tidy libclang-rt-dev git)
+checks=(clang clang-format clang-tidy libclang-rt-dev git
+    desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base dpkg-dev file)
 
 declare -n packages=${1:?"usage: setup.sh program|display|checks"}
 

@@ -173,6 +173,15 @@ void CRecovery::Finish()
     }
 }
 
+void CRecovery::Keep()
+{
+    m_timer.stop();
+    Wait();
+    m_discardWhenWritten = false;
+    WriteCopy();
+    Wait();
+}
+
 std::vector<LostList> CRecovery::FindLost() const
 {
     std::vector<LostList> lost;

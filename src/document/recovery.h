@@ -54,6 +54,9 @@ public:
     void Wait();
     /// Removes the copy at a clean end of the program, waiting where it must.
     void Finish();
+    /// At an end that leaves no time for questions: writes the copy of unsaved changes at once and leaves it for
+    /// the next start.
+    void Keep();
 
 private:
     class CWriter;
