@@ -5,6 +5,9 @@
 
 namespace {
 
+constexpr QByteArrayView PictureName = "bitmap170";
+/// Far more than 16×16 pixels take, in base64.
+constexpr qsizetype LargestPicture = 16384;
 constexpr QByteArrayView FirstLine = "Ordelin-spr\xC3\xA5kmodul";
 
 QString Unescape(QByteArrayView value)
@@ -33,11 +36,22 @@ QString Unescape(QByteArrayView value)
     return QString::fromUtf8(text);
 }
 
+QByteArray ReadPicture(QByteArrayView value)
+{
+    if (value.size() > LargestPicture) {
+        return {};
+    }
+    const auto picture =
+        QByteArray::fromBase64Encoding(value.toByteArray(), QByteArray::AbortOnBase64DecodingErrors);
+    return picture ? *picture : QByteArray();
+}
+
 }
 
 bool CStringTable::Load(const QByteArray &module)
 {
     m_texts.clear();
+    m_picture.clear();
     QByteArrayView rest = module;
     const auto nextLine = [&rest] {
         const qsizetype end = std::find(rest.begin(), rest.end(), '\n') - rest.begin();
@@ -55,6 +69,10 @@ bool CStringTable::Load(const QByteArray &module)
         const QByteArrayView line = nextLine();
         const qsizetype equals = std::find(line.begin(), line.end(), '=') - line.begin();
         if (line.startsWith('#') || equals == line.size()) {
+            continue;
+        }
+        if (line.first(equals) == PictureName) {
+            m_picture = ReadPicture(line.sliced(equals + 1));
             continue;
         }
         bool isNumber = false;

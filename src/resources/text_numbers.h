@@ -7,13 +7,20 @@
 /// break.
 namespace Text {
 
+inline constexpr int VersionKey = 1;
+inline constexpr int LanguageName = 2;
+inline constexpr int LanguageAbbreviation = 3;
 inline constexpr int ApplicationTitle = 57344;
+inline constexpr int HelpPath = 60003;
+inline constexpr int CannotOpenHelp = 60010;
+inline constexpr int FirstRun = 60011;
 inline constexpr int Language1 = 61000;
 inline constexpr int Language2 = 61001;
 inline constexpr int OpenFilters = 61010;
 inline constexpr int CannotSave = 61014;
 inline constexpr int SuggestedFileName = 61017;
 inline constexpr int StandardComments = 61018;
+inline constexpr int OneFileAtATime = 61024;
 inline constexpr int CannotOpen = 61025;
 inline constexpr int ReadAsPlainText = 61026;
 inline constexpr int NewerVersion = 61029;
@@ -23,13 +30,30 @@ inline constexpr int StandardToolBar = 61140;
 inline constexpr int NumberColumn = 62609;
 inline constexpr int Cancel = 62800;
 inline constexpr int Close = 62801;
+inline constexpr int GlossaryFileType = 63201;
+inline constexpr int ReallyAssociate = 63202;
 inline constexpr int ReallyReset = 63203;
+inline constexpr int Associated = 63204;
+inline constexpr int CannotAssociate = 63205;
+inline constexpr int LanguageFromNextStart = 63211;
+inline constexpr int RowForAdding = 63301;
+inline constexpr int CharacterSets = 63302;
+inline constexpr int ShortcutColumn = 63303;
+inline constexpr int CtrlKey = 63304;
+inline constexpr int DockingSides = 63401;
+inline constexpr int LanguageTitle = 63506;
+inline constexpr int LanguageQuestion = 63507;
+inline constexpr int LanguageChosen = 63508;
+inline constexpr int Ok = 63510;
+inline constexpr int InvalidLanguageFile = 63511;
 inline constexpr int EntrySelected = 70001;
 inline constexpr int EntriesSelected = 70003;
 inline constexpr int Unnamed = 70030;
 inline constexpr int SaveChanges = 70031;
 inline constexpr int CannotStartMail = 70032;
 inline constexpr int Right = 70033;
+inline constexpr int CopiedToClipboard = 70036;
+inline constexpr int QuizToolBar = 70060;
 inline constexpr int OpenTitle = 70137;
 inline constexpr int SaveAsTitle = 70138;
 inline constexpr int Flagged = 70150;
@@ -37,6 +61,7 @@ inline constexpr int NotFlagged = 70151;
 inline constexpr int Usage = 70152;
 inline constexpr int UnknownSwitch = 70153;
 inline constexpr int OneFileOnly = 70154;
+inline constexpr int CommandLineHelp = 70155;
 inline constexpr int OverwriteForeignChange = 70160;
 inline constexpr int RecoverChanges = 70161;
 inline constexpr int NoRecentFiles = 70162;
@@ -69,8 +94,15 @@ inline constexpr int ResultSummary = 70017;
 // Menu titles
 inline constexpr int FileMenu = 99000;
 inline constexpr int EditMenu = 99001;
+inline constexpr int ArrangeMenu = 99002;
 inline constexpr int QuizMenu = 99003;
+inline constexpr int ViewMenu = 99004;
+inline constexpr int ToolsMenu = 99005;
 inline constexpr int HelpMenu = 99006;
+inline constexpr int CopySpecialMenu = 99010;
+inline constexpr int FlagsMenu = 99011;
+inline constexpr int SortMenu = 99012;
+inline constexpr int MoveMenu = 99013;
 
 inline constexpr int Caption(int commandId)
 {
@@ -89,8 +121,17 @@ inline constexpr int QuizRightProgress = 202004;
 inline constexpr int ResultRightShare = 203001;
 inline constexpr int ResultEntries = 203002;
 inline constexpr int ResultPercent = 203003;
+inline constexpr int LanguageList = 204001;
 inline constexpr int ViewList = 301000;
 inline constexpr int ViewAuthor = 301001;
 inline constexpr int ViewComments = 301002;
+inline constexpr int SpecialCharactersTitle = 346000;
+inline constexpr int SpecialCharacterSet = 346001;
+inline constexpr int SpecialCharacterList = 346002;
+inline constexpr int SpecialCharacterDocking = 346003;
+inline constexpr int SpecialCharacter = 346004;
+inline constexpr int CharacterWithCode = 346005;
+inline constexpr int AddOwnCharacter = 346006;
+inline constexpr int OwnCharacterAdded = 346007;
 
 }

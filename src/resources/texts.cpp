@@ -24,11 +24,16 @@ QString FillText(const QString &format, const QStringList &values)
 
 CTexts::CTexts()
 {
-    Q_INIT_RESOURCE(texts); // A static library's resources are linked only when asked for.
-    QFile own(QStringLiteral(":/texts/swedish.ordmod"));
-    if (!own.open(QIODevice::ReadOnly) || !m_own.Load(own.readAll())) {
+    if (!m_own.Load(OwnModule())) {
         qFatal("The program's own texts are missing.");
     }
+}
+
+QByteArray CTexts::OwnModule()
+{
+    Q_INIT_RESOURCE(texts); // A static library's resources are linked only when asked for.
+    QFile own(QStringLiteral(":/texts/swedish.ordmod"));
+    return own.open(QIODevice::ReadOnly) ? own.readAll() : QByteArray();
 }
 
 bool CTexts::LoadModule(const QByteArray &module)

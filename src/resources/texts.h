@@ -21,6 +21,10 @@ public:
 
     /// Lets the texts of a module stand before the program's own. Returns false when `module` is none.
     [[nodiscard]] bool LoadModule(const QByteArray &module);
+    /// The program's own language, whatever module is loaded.
+    const CStringTable &Own() const { return m_own; }
+    /// The module file of the program's own texts, from which translations are made.
+    static QByteArray OwnModule();
 
     QString Get(int number) const;
     QString Fill(int number, const QStringList &values) const { return FillText(Get(number), values); }
