@@ -3,13 +3,14 @@
 #include "shell/ui/main_frame.h"
 #include "shell/ui/ordelin_app.h"
 
+#include <QFile>
+
 int main(int argc, char *argv[])
 {
     COrdelinApp app(argc, argv);
-    const int error = app.InitInstance();
-    if (error != 0) {
-        return error;
+    if (!app.InitInstance(QFile::decodeName(argv[argc - 1]))) {
+        return 1;
     }
-    const CFirstPaint firstPaint(app.MainFrame());
+    const CFirstPaint firstPaint(&app.MainFrame());
     return QApplication::exec();
 }

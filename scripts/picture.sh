@@ -35,6 +35,10 @@ for _ in $(seq 100); do # Until the window manager is there.
     sleep 0.1
 done
 
+# Settings of its own, in which the first start is over.
+export XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
+mkdir -p "$XDG_CONFIG_HOME/Ornbury Workshops"
+printf '[misc]\nautoOpen=1\n' >"$XDG_CONFIG_HOME/Ornbury Workshops/Ordelin.ini"
 "$@" >"$work/program.log" 2>&1 &
 program=$!
 pids+=("$program")

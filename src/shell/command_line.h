@@ -7,6 +7,9 @@
 /// What the command line asks for.
 struct CommandLine
 {
+    enum class Action { Run, ShowHelp, ShowVersion, ExportStrings };
+
+    Action action = Action::Run;
     /// The file to open; empty for a new list.
     QString file = {};
     /// The number of the text that says what is wrong with the command line, 0 when nothing is.
@@ -16,4 +19,5 @@ struct CommandLine
 };
 
 /// `arguments` without the program's name: at most one file, a path or a file: URL. "--" ends the switches.
+/// Those of the toolkit that session managers and tests pass are left to it.
 CommandLine parseCommandLine(const QStringList &arguments);

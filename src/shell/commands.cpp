@@ -3,6 +3,8 @@
 
 #include "resources/text_numbers.h"
 
+#include <algorithm>
+
 using namespace CommandId;
 
 bool isEnabled(EnabledRule rule, const CommandState &state)
@@ -11,7 +13,23 @@ bool isEnabled(EnabledRule rule, const CommandState &state)
     case EnabledRule::Always:
         return true;
     case EnabledRule::ListHasEntries:
-        return state.listHasEntries;
+        return state.entries > 0;
+    case EnabledRule::ListHasTwoEntries:
+        return state.entries > 1;
+    case EnabledRule::ListHasFourEntries:
+        return state.entries > 3;
+    case EnabledRule::EntriesSelected:
+        return state.selectedEntries > 0;
+    case EnabledRule::FlagsSelected:
+        return state.selectedEntries > 0 && (state.cursorColumn == 0 || state.cursorColumn == 1);
+    case EnabledRule::OneRowSelected:
+        return state.selectedRows == 1;
+    case EnabledRule::TextOrEntriesSelected:
+        return state.inEditBox ? state.textSelected : state.selectedEntries > 0;
+    case EnabledRule::InEditBox:
+        return state.inEditBox;
+    case EnabledRule::CanPaste:
+        return state.canPaste;
     case EnabledRule::CanUndo:
         return state.canUndo;
     case EnabledRule::CanRedo:
@@ -20,41 +38,80 @@ bool isEnabled(EnabledRule rule, const CommandState &state)
     return false;
 }
 
-const QList<Command> &commandTable()
-{
-    static const QList<Command> table = {
-        {NewFile, {QStringLiteral("Ctrl+N")}, QStringLiteral("document-new")},
-        {OpenFile, {QStringLiteral("Ctrl+O")}, QStringLiteral("document-open")},
-        {SaveFile, {QStringLiteral("Ctrl+S")}, QStringLiteral("document-save")},
-        {SaveFileAs, {QStringLiteral("Ctrl+Shift+S")}, QStringLiteral("document-save-as")},
-        {SendMail, {}, QStringLiteral("mail-send")},
-        {Exit, {QStringLiteral("Ctrl+Q")}, QStringLiteral("application-exit")},
-        {Undo, {QStringLiteral("Ctrl+Z")}, QStringLiteral("edit-undo"), EnabledRule::CanUndo},
-        {Redo, {QStringLiteral("Ctrl+Y"), QStringLiteral("Ctrl+Shift+Z")}, QStringLiteral("edit-redo"),
-            EnabledRule::CanRedo},
-        // Ctrl+Alt+F1 never arrives where it switches the virtual console, so the digit is the one shown.
-        {StandardQuiz, {QStringLiteral("Ctrl+Alt+1"), QStringLiteral("Ctrl+Alt+F1")},
-            QStringLiteral("ordelin-quiz"), EnabledRule::ListHasEntries},
-        {About, {}, QStringLiteral("help-about")},
-    };
-    return table;
-}
-
 const QList<CommandMenu> &commandMenus()
 {
     static const QList<CommandMenu> menus = {
         {Text::FileMenu,
-            {NewFile, OpenFile, SaveFile, SaveFileAs, Separator, SendMail, Separator, RecentFiles, Separator,
-                Exit}},
-        {Text::EditMenu, {Undo, Redo}},
-        {Text::QuizMenu, {StandardQuiz}},
-        {Text::HelpMenu, {About}},
+            {NewFile, OpenFile, SaveFile, SaveFileAs, Separator, Properties, SendMail, Separator, RecentFiles,
+                Separator, Exit}},
+        {Text::EditMenu,
+            {Undo, Redo, Separator, Cut, Copy, Text::CopySpecialMenu, Paste, Delete, SelectAll, Separator,
+                Text::FlagsMenu, Separator, InsertSynonym, InsertComment, PlaceInsertionPoint, Separator,
+                Previous, Next, Separator, Find, FindNext}},
+        {Text::ArrangeMenu,
+            {Text::SortMenu, Separator, Descending, GroupFlagged, SortByLength, Shuffle, Separator,
+                Text::MoveMenu, Separator, MoveLeft, MoveRight}},
+        {Text::QuizMenu,
+            {StandardQuiz, StandardQuiz + 1, StandardQuiz + 2, StandardQuiz + 3, StandardQuiz + 4,
+                StandardQuiz + 5, StandardQuiz + 6, StandardQuiz + 7, LastQuiz, Separator, FromLanguage1,
+                FromLanguage2, Separator, CommandId::QuizSettings}},
+        {Text::ViewMenu,
+            {CommandId::StandardToolBar, QuizToolBar, StatusBar, Separator, ShowEditFields, ShowWordNumber,
+                ShowNotes, Separator, SpecialCharacters}},
+        {Text::ToolsMenu,
+            {FindDuplicates, MakeOneEntry, MergeDuplicates, Separator, Import, FileSearch, TableGuide,
+                Separator, Settings}},
+        {Text::HelpMenu, {Help, Separator, About}},
     };
     return menus;
 }
 
+const QList<CommandMenu> &commandSubmenus()
+{
+    static const QList<CommandMenu> menus = {
+        {Text::CopySpecialMenu, {CopyLanguage1, CopyLanguage2, CopyNotes}},
+        {Text::FlagsMenu, {SetFlag, ClearFlag, InvertFlag}},
+        {Text::SortMenu, {SortByLanguage1, SortByLanguage2, SortByNote}},
+        {Text::MoveMenu, {MoveUp, MoveDown, MoveColumnUp, MoveColumnDown}},
+    };
+    return menus;
+}
+
+bool isSubmenu(int id)
+{
+    return std::ranges::find(commandSubmenus(), id, &CommandMenu::title) != commandSubmenus().end();
+}
+
 const QList<int> &standardToolBar()
 {
-    static const QList<int> bar = {NewFile, OpenFile, SaveFile, Separator, Undo, Redo, Separator, StandardQuiz};
+    static const QList<int> bar = {NewFile, OpenFile, SaveFile, Separator, Cut, Copy, Paste, Delete, Separator,
+        Undo, Redo, Separator, Find, Separator, SetFlag, InvertFlag, Separator, StandardQuiz,
+        CommandId::QuizSettings, Separator, Help};
     return bar;
+}
+
+const QList<int> &quizToolBar()
+{
+    static const QList<int> bar = {StandardQuiz, StandardQuiz + 1, StandardQuiz + 2, StandardQuiz + 3,
+        StandardQuiz + 4, StandardQuiz + 5, StandardQuiz + 6, StandardQuiz + 7, LastQuiz, Separator,
+        FromLanguage1, FromLanguage2, Separator, CommandId::QuizSettings, Separator, SortByLanguage1,
+        SortByLanguage2, Shuffle, Separator, MoveUp, MoveDown};
+    return bar;
+}
+
+QString fillCaption(const QString &caption, const QString &language1, const QString &language2)
+{
+    QString text;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        const QStringView next = QStringView(caption).mid(i, 2);
+        if (next == u"%1" || next == u"%2") {
+            QString name = next == u"%1" ? language1 : language2;
+            // A tab would begin the shortcut's text.
+            text += name.replace(u'\t', u' ').replace(u'&', QStringLiteral("&&"));
+            ++i;
+        } else {
+            text += caption.at(i);
+        }
+    }
+    return text;
 }

@@ -10,27 +10,103 @@ enum : int {
     Separator = 0,
     /// Where the recent files stand in a menu.
     RecentFiles = 1,
+    Previous = 32776,
+    Next = 32777,
+    Delete = 32781,
+    SetFlag = 32783,
+    ClearFlag = 32784,
+    InvertFlag = 32785,
+    InsertSynonym = 32787,
+    InsertComment = 32788,
+    MoveUp = 32790,
+    MoveDown = 32791,
+    MoveColumnUp = 32792,
+    MoveColumnDown = 32793,
+    MoveRight = 32794,
+    MoveLeft = 32795,
+    FindNext = 32796,
+    CopyLanguage1 = 32797,
+    CopyLanguage2 = 32798,
+    CopyNotes = 32799,
+    Shuffle = 32800,
+    SortByLanguage1 = 32801,
+    SortByLanguage2 = 32802,
+    SortByNote = 32803,
+    GroupFlagged = 32804,
+    Descending = 32805,
+    SortByLength = 32806,
+    ShowWordNumber = 32830,
+    ShowEditFields = 32832,
+    FindDuplicates = 32840,
+    MakeOneEntry = 32841,
+    MergeDuplicates = 32846,
+    QuizSettings = 32850,
+    /// The first of the nine kinds of quiz; the others follow.
     StandardQuiz = 32855,
+    LastQuiz = 32863,
+    ShowNotes = 32870,
+    FromLanguage1 = 32879,
+    FromLanguage2 = 32880,
+    PlaceInsertionPoint = 32881,
+    Properties = 33001,
+    SpecialCharacters = 33002,
+    Import = 33003,
+    FileSearch = 33004,
+    TableGuide = 33005,
+    Settings = 33006,
     NewFile = 57600,
     OpenFile = 57601,
     SaveFile = 57603,
     SaveFileAs = 57604,
     SendMail = 57612,
+    Copy = 57634,
+    Cut = 57635,
+    Find = 57636,
+    Paste = 57637,
+    SelectAll = 57642,
     Undo = 57643,
     Redo = 57644,
     About = 57664,
     Exit = 57665,
+    Help = 57670,
+    /// The bars of the main window by their old bar ids.
+    StandardToolBar = 0xE800,
+    StatusBar = 0xE801,
+    QuizToolBar = 0xE80A,
 };
 
 }
 
 /// When a command can be chosen.
-enum class EnabledRule { Always, ListHasEntries, CanUndo, CanRedo };
+enum class EnabledRule {
+    Always,
+    ListHasEntries,
+    ListHasTwoEntries,
+    ListHasFourEntries,
+    EntriesSelected,
+    /// Entries, and the cell cursor stands in a language.
+    FlagsSelected,
+    OneRowSelected,
+    /// Text in the edit box that has the focus, where one has; else entries.
+    TextOrEntriesSelected,
+    InEditBox,
+    CanPaste,
+    CanUndo,
+    CanRedo
+};
 
 /// What the enabled rules look at.
 struct CommandState
 {
-    bool listHasEntries = false;
+    int entries = 0;
+    int selectedEntries = 0;
+    /// The new-entry row counted.
+    int selectedRows = 0;
+    /// 0 and 1 are the languages, 2 the note.
+    int cursorColumn = 0;
+    bool inEditBox = false;
+    bool textSelected = false;
+    bool canPaste = false;
     /// In the edit box that has the focus, where one has; else in the list.
     bool canUndo = false;
     bool canRedo = false;
@@ -38,28 +114,39 @@ struct CommandState
 
 bool isEnabled(EnabledRule rule, const CommandState &state);
 
-/// One command. Its caption is the text 100000 + id; its status line and tool tip are the two lines of the text
-/// id.
+enum class CommandKind { Plain, Check, Radio };
+
+/// One command. Its caption is the text 100000 + id, with "%1" and "%2" for the names of the languages; its
+/// status line and tool tip are the two lines of the text id.
 struct Command
 {
     int id = 0;
-    /// In the toolkit's portable form; the caption shows the first one.
-    QStringList shortcuts;
+    /// In the toolkit's portable form; the caption shows the first one in the words of its language.
+    QStringList shortcuts = {};
     /// The icon's name in desktop themes; empty for none.
-    QString icon;
+    QString icon = {};
     EnabledRule enabled = EnabledRule::Always;
+    CommandKind kind = CommandKind::Plain;
 };
 
 /// The table of all commands.
 const QList<Command> &commandTable();
 
-/// A menu of the menu bar: its title's text number, and the ids of its commands with Separator between groups.
+/// A menu: its title's text number, and the ids of its commands with Separator between groups. A number that
+/// isSubmenu() is the title of one of the commandSubmenus().
 struct CommandMenu
 {
     int title = 0;
-    QList<int> commands;
+    QList<int> commands = {};
 };
+/// The menu bar.
 const QList<CommandMenu> &commandMenus();
+const QList<CommandMenu> &commandSubmenus();
+bool isSubmenu(int id);
 
-/// The commands of the tool bar, likewise.
+/// The commands of the tool bars, likewise.
 const QList<int> &standardToolBar();
+const QList<int> &quizToolBar();
+
+/// A caption with the names of the languages filled in; what stands in a name is shown as it is.
+QString fillCaption(const QString &caption, const QString &language1, const QString &language2);

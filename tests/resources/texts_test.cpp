@@ -64,6 +64,8 @@ void TextsTest::modules()
     QCOMPARE(table.Text(7), QStringLiteral("second"));
     QVERIFY(table.Contains(8) && !table.Contains(9) && !table.Contains(1));
     QCOMPARE(table.Text(10), QStringLiteral("last\\"));
+    QVERIFY(table.Load(FirstLine + "bitmap170=aGVq\n"));
+    QCOMPARE(table.Picture(), QByteArray("hej"));
 }
 
 void TextsTest::damagedModules()
@@ -78,6 +80,10 @@ void TextsTest::damagedModules()
     QCOMPARE(table.Text(1).size(), 500001);
     QVERIFY(table.Load(FirstLine + "99999999999=x\n3=\xFF\xFE\n"));
     QCOMPARE(table.Numbers(), QList<int>{3});
+    QVERIFY(table.Load(FirstLine + "bitmap170=a*b\nbitmap171=aGVq\n"));
+    QVERIFY(table.Picture().isEmpty());
+    QVERIFY(table.Load(FirstLine + "bitmap170=" + QByteArray(100000, 'A')));
+    QVERIFY(table.Picture().isEmpty());
 }
 
 void TextsTest::filling()
@@ -139,15 +145,19 @@ void TextsTest::mnemonicsAreUnique()
     QList<QList<int>> windows = {
         {63070, 63071, 62800, 63073, 63074, 63075}, {63070, 63101, 62800, 63073, 63074, 63075}};
     QList<int> titles;
+    const auto captions = [](const CommandMenu &menu) {
+        QList<int> numbers;
+        for (const int id : menu.commands) {
+            numbers.append(isSubmenu(id) ? id : 100000 + id);
+        }
+        return numbers;
+    };
     for (const CommandMenu &menu : commandMenus()) {
         titles.append(menu.title);
-        QList<int> captions;
-        for (const int id : menu.commands) {
-            if (id != CommandId::Separator && id != CommandId::RecentFiles) {
-                captions.append(100000 + id);
-            }
-        }
-        windows.append(captions);
+        windows.append(captions(menu));
+    }
+    for (const CommandMenu &menu : commandSubmenus()) {
+        windows.append(captions(menu));
     }
     windows.append(titles);
     const QDir source(QStringLiteral(ORDELIN_SOURCE_DIR));

@@ -15,6 +15,8 @@ class CommandsTest : public QObject
 
 private Q_SLOTS:
     void tableIsSound();
+    void enabledRules();
+    void languageNamesInCaptions();
     void commandLines_data();
     void commandLines();
 };
@@ -31,19 +33,56 @@ void CommandsTest::tableIsSound()
         }
         const QString caption = texts.Get(Text::Caption(command.id));
         QVERIFY2(!caption.isEmpty(), qPrintable(QString::number(command.id)));
-        QCOMPARE(caption.section(u'\t', 1), command.shortcuts.value(0));
+        QString shown = command.shortcuts.value(0);
+        for (const auto &[key, swedish] : {std::pair("Up", "Uppil"), {"Down", "Nedpil"}, {"Return", "Retur"}}) {
+            shown.replace(QLatin1StringView(key), QLatin1StringView(swedish));
+        }
+        QCOMPARE(caption.section(u'\t', 1), shown);
         QCOMPARE(texts.Get(command.id).count(u'\n'), 1);
     }
     // Everything in a menu or a tool bar is in the table, and the other way round.
     std::set<int> used;
-    for (const CommandMenu &menu : commandMenus()) {
+    QList<CommandMenu> menus = commandMenus() + commandSubmenus();
+    menus += {{Text::FileMenu, standardToolBar()}, {Text::FileMenu, quizToolBar()}};
+    for (const CommandMenu &menu : std::as_const(menus)) {
         QVERIFY(!texts.Get(menu.title).isEmpty());
         used.insert(menu.commands.begin(), menu.commands.end());
     }
-    used.insert(standardToolBar().begin(), standardToolBar().end());
+    std::erase_if(used, isSubmenu);
     used.erase(CommandId::Separator);
     used.erase(CommandId::RecentFiles);
     QCOMPARE(used, ids);
+}
+
+void CommandsTest::enabledRules()
+{
+    const auto enabled = [](const CommandState &state) {
+        std::set<int> ids;
+        for (const Command &command : commandTable()) {
+            if (isEnabled(command.enabled, state)) {
+                ids.insert(command.id);
+            }
+        }
+        return ids;
+    };
+    using namespace CommandId;
+    const auto none = enabled({});
+    QVERIFY(!none.contains(StandardQuiz) && !none.contains(Copy) && !none.contains(Delete));
+    QVERIFY(none.contains(Find) && none.contains(Descending) && none.contains(Next));
+    const auto three = enabled({.entries = 3, .selectedEntries = 1, .selectedRows = 1, .cursorColumn = 2});
+    QVERIFY(three.contains(StandardQuiz + 5) && !three.contains(StandardQuiz + 3));
+    QVERIFY(three.contains(Copy) && three.contains(PlaceInsertionPoint) && three.contains(MakeOneEntry));
+    QVERIFY(!three.contains(SetFlag) && !three.contains(InsertComment));
+    QVERIFY(enabled({.entries = 1, .selectedEntries = 1, .cursorColumn = 1}).contains(InvertFlag));
+    const auto box = enabled({.entries = 3, .selectedEntries = 1, .inEditBox = true});
+    QVERIFY(box.contains(InsertSynonym) && !box.contains(Cut) && !box.contains(Delete));
+    QVERIFY(enabled({.inEditBox = true, .textSelected = true}).contains(Cut));
+}
+
+void CommandsTest::languageNamesInCaptions()
+{
+    QCOMPARE(fillCaption(QStringLiteral("%1 &till %2\tF1"), QStringLiteral("a&b"), QStringLiteral("%1\tc")),
+        QStringLiteral("a&&b &till %1 c\tF1"));
 }
 
 void CommandsTest::commandLines_data()
@@ -58,6 +97,7 @@ void CommandsTest::commandLines_data()
     QTest::newRow("a file") << list("å.gls") << "å.gls" << 0;
     QTest::newRow("a file URL") << list("file:///lists/a%20b.gls") << "/lists/a b.gls" << 0;
     QTest::newRow("a file that looks like a switch") << list("-- --x") << "--x" << 0;
+    QTest::newRow("a switch of the toolkit") << list("-platform offscreen a.gls") << "a.gls" << 0;
     QTest::newRow("unknown switch") << list("--x") << "" << int(Text::UnknownSwitch);
     QTest::newRow("two files") << list("a b") << "" << int(Text::OneFileOnly);
 }

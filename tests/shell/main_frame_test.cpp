@@ -6,18 +6,24 @@
 #include "resources/text_numbers.h"
 #include "settings/quiz_settings.h"
 #include "settings/settings_store.h"
+#include "settings/shell_settings.h"
 #include "shell/commands.h"
 #include "shell/ui/about_dialog.h"
 #include "shell/ui/main_frame.h"
+#include "shell/ui/special_character_keys.h"
 #include "support/test_document.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDragEnterEvent>
 #include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolBar>
 
 namespace {
 
@@ -30,8 +36,12 @@ struct Frame
     CMemoryStore store;
     CRecentFiles recent{store, QStringLiteral("root")};
     CFileCommands files{test.document, test.texts, test.prompt, chooser, recent};
-    CMainFrame frame{
-        {test.document, files, recent, test.texts, test.settings, quizSettings, test.prompt, random}};
+    EasyKeySettings easyKey;
+    ArrangeSettings arrange;
+    CSpecialCharacterKeys specialCharacters{easyKey, test.texts, nullptr};
+    int helpOpened = 0;
+    CMainFrame frame{{test.document, files, recent, test.texts, test.settings, arrange, quizSettings,
+        test.prompt, random, store, QStringLiteral("root"), specialCharacters, [this] { ++helpOpened; }}};
 
     QAction *Command(int id) const { return frame.findChild<QAction *>(QStringLiteral("command%1").arg(id)); }
     QString Status() const { return frame.findChild<QLabel *>(QStringLiteral("statusText"))->text(); }
@@ -49,6 +59,9 @@ private Q_SLOTS:
     void selectingManyEntries();
     void closing();
     void everyCommandOnAnEmptyList();
+    void droppedFiles();
+    void barsAndPlaceComeBack();
+    void captionsFollowTheLanguages();
 };
 
 void MainFrameTest::showsTheSampleList()
@@ -83,7 +96,7 @@ void MainFrameTest::selectingManyEntries()
     for (int i = 0; i < 2000; ++i) {
         run.test.document.BeginChange().Insert(CWordEntry(QString::number(i)));
     }
-    run.frame.View().RefreshAll();
+    run.frame.findChild<CWin32View *>()->RefreshAll();
     const std::vector<int> some = {0, 1, 2, 7, 1998, 1999};
     run.frame.SelectEntries(some);
     QCOMPARE(run.frame.SelectedEntries(), some);
@@ -121,6 +134,85 @@ void MainFrameTest::everyCommandOnAnEmptyList()
     QVERIFY(std::ranges::none_of(
         windows, [](QWidget *window) { return qobject_cast<CStandardQuiz *>(window) != nullptr; }));
     QVERIFY(run.test.prompt.numbers.isEmpty());
+}
+
+void MainFrameTest::droppedFiles()
+{
+    const QTemporaryDir folder;
+    Frame run;
+    const QString path = folder.filePath(QStringLiteral("a.gls"));
+    QVERIFY(QFile::copy(QStringLiteral(ORDELIN_SOURCE_DIR "/samples/vardagsord.gls"), path));
+    run.frame.show();
+    const auto drop = [&](const QList<QUrl> &urls) {
+        QMimeData data;
+        data.setUrls(urls);
+        // Over the list, where files are dropped in fact.
+        auto *const target = run.frame.findChild<QTableView *>(QStringLiteral("wordList"))->viewport();
+        QDragEnterEvent enter({9, 9}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        if (enter.isAccepted()) {
+            QDropEvent dropped({9, 9}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(target, &dropped);
+            QCoreApplication::processEvents();
+        }
+        return enter.isAccepted();
+    };
+    QVERIFY(!drop({QUrl(QStringLiteral("https://a.example/b.gls"))}));
+    QVERIFY(drop({QUrl::fromLocalFile(path), QUrl::fromLocalFile(path)}));
+    QCOMPARE(run.test.prompt.numbers, QList<int>{Text::OneFileAtATime});
+    QCOMPARE(run.test.document.Path(), QString());
+
+    run.test.document.BeginChange().Insert(MakeEntry(QStringLiteral("a|b")));
+    run.test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::No};
+    QVERIFY(drop({QUrl::fromLocalFile(path)}));
+    QCOMPARE(run.test.document.Path(), QString());
+    QVERIFY(drop({QUrl::fromLocalFile(path)}));
+    QCOMPARE(run.test.document.Path(), path);
+}
+
+void MainFrameTest::barsAndPlaceComeBack()
+{
+    Frame first;
+    first.frame.ShowAsBefore();
+    first.Command(CommandId::QuizToolBar)->trigger();
+    first.Command(CommandId::StandardToolBar)->trigger();
+    first.Command(CommandId::StatusBar)->trigger();
+    first.frame.setGeometry(60, 70, 640, 480);
+    first.frame.close();
+    const auto checks = [](const Frame &run) {
+        QString text;
+        for (const int id : {CommandId::StandardToolBar, CommandId::QuizToolBar, CommandId::StatusBar}) {
+            text += run.Command(id)->isChecked() ? u'1' : u'0';
+        }
+        return text;
+    };
+    QCOMPARE(checks(first), QStringLiteral("010"));
+
+    Frame second;
+    second.frame.ShowAsBefore();
+    QCOMPARE(checks(second), QStringLiteral("101"));
+    for (const auto &[section, values] : first.store.Sections().asKeyValueRange()) {
+        for (const auto &[name, value] : values.asKeyValueRange()) {
+            second.store.Write(section, name, value);
+        }
+    }
+    second.frame.ShowAsBefore();
+    QCOMPARE(checks(second), QStringLiteral("010"));
+    QCOMPARE(second.frame.geometry(), QRect(60, 70, 640, 480));
+    QVERIFY(second.frame.findChild<QToolBar *>(QStringLiteral("standardToolBar"))->isHidden());
+}
+
+void MainFrameTest::captionsFollowTheLanguages()
+{
+    Frame run;
+    run.test.document.BeginChange().SetLanguage(0, QStringLiteral("A&B"));
+    run.test.document.BeginChange().SetLanguage(1, QStringLiteral("Engelska"));
+    auto *const menu = run.frame.menuBar()->findChild<QMenu *>();
+    QVERIFY(QMetaObject::invokeMethod(menu, "aboutToShow"));
+    QCOMPARE(run.Command(CommandId::FromLanguage1)->text(), QStringLiteral("A&&B &till Engelska"));
+    run.Command(CommandId::FromLanguage2)->trigger();
+    QCOMPARE(run.quizSettings.showLanguage, 1);
+    QVERIFY(!run.Command(CommandId::FromLanguage1)->isChecked());
 }
 
 QTEST_MAIN(MainFrameTest)

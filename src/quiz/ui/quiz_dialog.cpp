@@ -30,6 +30,9 @@ CQuizDialog::CQuizDialog(QuizWindowServices services, CQuizForm &form) : m_servi
 {
     setWindowTitle(texts().Get(Text::QuizTitle));
     setWindowModality(Qt::WindowModal);
+    if (m_services.font) {
+        setFont(*m_services.font);
+    }
     setWindowFlags(Qt::Window | Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint
         | Qt::WindowMaximizeButtonHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
 

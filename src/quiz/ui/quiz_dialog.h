@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QFont>
+
+#include <optional>
 
 class CQuizForm;
 class CTexts;
@@ -16,6 +19,8 @@ struct QuizWindowServices
 {
     const CTexts &texts;
     IUserPrompt &prompt;
+    /// The user's own font, for all quiz windows.
+    std::optional<QFont> font = {};
 };
 
 /// The common base of quiz windows: statistics, the buttons that every form has, and the question before a quiz

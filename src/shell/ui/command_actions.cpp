@@ -6,6 +6,7 @@
 #include "shell/commands.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QIcon>
 
 namespace {
@@ -22,10 +23,19 @@ QIcon CommandIcon(const QString &name)
     return theme.isEmpty() || theme == QStringLiteral("hicolor") ? own : QIcon::fromTheme(name, own);
 }
 
+/// With the shortcut in the words of the caption.
+QString ToolTip(const QString &name, const QString &caption)
+{
+    const QString shortcut = caption.section(u'\t', 1);
+    return shortcut.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, shortcut);
 }
 
-CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject(parent)
+}
+
+CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject(parent), m_texts(texts)
 {
+    // One of them is always chosen.
+    auto *radio = new QActionGroup(this);
     for (const Command &command : commandTable()) {
         auto *action = new QAction(CommandIcon(command.icon), texts.Get(Text::Caption(command.id)), this);
         action->setObjectName(QStringLiteral("command%1").arg(command.id));
@@ -36,19 +46,48 @@ CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject
         action->setShortcuts(shortcuts);
         const QString help = texts.Get(command.id);
         action->setStatusTip(help.section(u'\n', 0, 0));
-        action->setToolTip(help.section(u'\n', 1));
+        action->setToolTip(ToolTip(help.section(u'\n', 1), action->text()));
+        if (command.kind != CommandKind::Plain) {
+            action->setCheckable(true);
+            action->setIconVisibleInMenu(false); // There the mark is what shows.
+        }
+        if (command.kind == CommandKind::Radio) {
+            radio->addAction(action);
+        }
+        action->setEnabled(false);
         m_actions.insert(command.id, action);
     }
 }
 
 void CCommandActions::SetHandler(int id, std::function<void()> handler)
 {
+    m_handled.insert(id);
     connect(Action(id), &QAction::triggered, this, [handler = std::move(handler)] { handler(); });
+}
+
+void CCommandActions::SetChecked(int id, bool checked)
+{
+    Action(id)->setChecked(checked);
 }
 
 void CCommandActions::UpdateEnabled(const CommandState &state)
 {
     for (const Command &command : commandTable()) {
-        Action(command.id)->setEnabled(isEnabled(command.enabled, state));
+        Action(command.id)->setEnabled(m_handled.contains(command.id) && isEnabled(command.enabled, state));
+    }
+}
+
+void CCommandActions::UpdateCaptions(const QString &language1, const QString &language2)
+{
+    if (language1 == m_language1 && language2 == m_language2) {
+        return;
+    }
+    m_language1 = language1;
+    m_language2 = language2;
+    for (const Command &command : commandTable()) {
+        const QString caption = m_texts.Get(Text::Caption(command.id));
+        if (caption.contains(QStringLiteral("%1")) || caption.contains(QStringLiteral("%2"))) {
+            Action(command.id)->setText(fillCaption(caption, language1, language2));
+        }
     }
 }

@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <functional>
 
@@ -10,19 +11,27 @@ class CTexts;
 class QAction;
 struct CommandState;
 
-/// The actions of all commands, made from the table of commands. Owns them.
+/// The actions of all commands, made from the table of commands. Owns them. A command without a handler can't
+/// be chosen.
 class CCommandActions : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit CCommandActions(const CTexts &texts, QObject *parent);
+    CCommandActions(const CTexts &texts, QObject *parent);
 
     QAction *Action(int id) const { return m_actions.value(id); }
     void SetHandler(int id, std::function<void()> handler);
+    void SetChecked(int id, bool checked);
     /// Refreshes what can be chosen.
     void UpdateEnabled(const CommandState &state);
+    /// Puts the names of the list's languages into the captions.
+    void UpdateCaptions(const QString &language1, const QString &language2);
 
 private:
+    const CTexts &m_texts;
     QHash<int, QAction *> m_actions;
+    QSet<int> m_handled;
+    QString m_language1;
+    QString m_language2;
 };

@@ -9,38 +9,43 @@
 #include "quiz/ui/quiz_launch.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "settings/editor_settings.h"
+#include "settings/quiz_settings.h"
+#include "settings/shell_settings.h"
 #include "shell/commands.h"
 #include "shell/ui/about_dialog.h"
 #include "shell/ui/command_actions.h"
+#include "shell/ui/command_menus.h"
+#include "shell/ui/recent_files_menu.h"
+#include "shell/ui/special_character_keys.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileInfo>
+#include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
 namespace {
 
-/// Adds the actions of commands to a menu or a tool bar.
-template<class Bar>
-void AddCommands(Bar &bar, const QList<int> &commands, const CCommandActions &actions)
-{
-    for (const int id : commands) {
-        if (id == CommandId::Separator) {
-            bar.addSeparator();
-        } else if (id != CommandId::RecentFiles) {
-            bar.addAction(actions.Action(id));
-        }
-    }
-}
-
 /// The edit box that has the focus: commands on text act on it alone.
 QLineEdit *FocusedEditBox()
 {
     return qobject_cast<QLineEdit *>(QApplication::focusWidget());
+}
+
+QStringList LocalFiles(const QMimeData &data)
+{
+    QStringList paths;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile()) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    return paths;
 }
 
 }
@@ -49,13 +54,18 @@ CMainFrame::CMainFrame(const FrameServices &services)
     : m_services(services), m_actions(new CCommandActions(services.texts, this)),
       m_view(new CWin32View(services.document, services.editorSettings, services.texts, this)),
       m_statusText(new CElidedLabel(this)),
-      m_quizLaunch(new CQuizLaunch(services.document, {services.texts, services.prompt}, services.quizSettings,
-          services.random, *this, *this))
+      m_quizLaunch(new CQuizLaunch(services.document, {services.texts, services.prompt, services.fonts.quizzes},
+          services.quizSettings, services.random, *this, *this)),
+      m_place(*this, services.store, services.root)
 {
     setObjectName(QStringLiteral("mainFrame"));
     setCentralWidget(m_view);
+    if (services.fonts.view) {
+        m_view->setFont(*services.fonts.view);
+    }
     MakeMenus();
     ConnectCommands();
+    ConnectQuizCommands();
 
     m_statusText->setObjectName(QStringLiteral("statusText"));
     statusBar()->addWidget(m_statusText, 1);
@@ -73,8 +83,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
         Qt::QueuedConnection);
     connect(qApp, &QApplication::focusChanged, this, &CMainFrame::UpdateCommands);
     connect(&services.document, &CWin32Doc::FileConverted, m_view, &CWin32View::RefreshAll);
-    const QSize wanted(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
-    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
+    setAcceptDrops(true);
     m_view->RefreshAll();
     m_view->setFocus();
     Refresh();
@@ -86,45 +95,51 @@ CMainFrame::~CMainFrame()
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-void CMainFrame::MakeMenus()
+void CMainFrame::ShowAsBefore()
 {
-    for (const CommandMenu &menu : commandMenus()) {
-        QMenu *const shown = menuBar()->addMenu(m_services.texts.Get(menu.title));
-        AddCommands(*shown, menu.commands, *m_actions);
-        const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
-        if (recent >= 0) {
-            m_behindRecent = shown->actions().at(recent); // The separator behind them.
-            connect(shown, &QMenu::aboutToShow, this, [this, shown] { FillRecentFiles(*shown); });
-            FillRecentFiles(*shown);
-        }
-    }
-    auto *bar = addToolBar(m_services.texts.Get(Text::StandardToolBar));
-    bar->setObjectName(QStringLiteral("standardToolBar"));
-    AddCommands(*bar, standardToolBar(), *m_actions);
+    const QSize wanted(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
+    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
+    m_place.Restore();
+    m_place.Show();
+    UpdateCommands();
 }
 
-void CMainFrame::FillRecentFiles(QMenu &menu)
+void CMainFrame::SavePlace()
 {
-    qDeleteAll(m_recentActions);
-    m_recentActions.clear();
-    const auto add = [&](const QString &text) {
-        auto *action = new QAction(text, &menu);
-        menu.insertAction(m_behindRecent, action);
-        m_recentActions.append(action);
-        return action;
-    };
-    for (const QString &path : m_services.recent.Paths()) {
-        const QString name = QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&"));
-        QAction *const action = add(QStringLiteral("&%1 %2").arg(m_recentActions.size() + 1).arg(name));
-        action->setStatusTip(path);
-        // From the event loop: opening fills this menu anew.
-        connect(
-            action, &QAction::triggered, this, [this, path] { m_services.files.OpenRecent(path); },
-            Qt::QueuedConnection);
+    m_place.Save();
+}
+
+void CMainFrame::MakeMenus()
+{
+    const CTexts &texts = m_services.texts;
+    for (const CommandMenu &menu : commandMenus()) {
+        QMenu *const shown = menuBar()->addMenu(texts.Get(menu.title));
+        fillMenu(*shown, menu.commands, *m_actions, texts);
+        connect(shown, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
+        const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
+        if (recent >= 0) {
+            // The list's place is in front of the separator that follows it.
+            new CRecentFilesMenu(
+                *shown, shown->actions().at(recent), m_services.files, m_services.recent, texts);
+        }
     }
-    if (m_recentActions.isEmpty()) {
-        add(m_services.texts.Get(Text::NoRecentFiles))->setEnabled(false);
-    }
+    MakeToolBar(
+        texts.Get(Text::StandardToolBar), "standardToolBar", standardToolBar(), CommandId::StandardToolBar);
+    MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", quizToolBar(), CommandId::QuizToolBar)->hide();
+    // The menus have commands for it.
+    setContextMenuPolicy(Qt::NoContextMenu);
+    m_actions->SetHandler(CommandId::StatusBar, [this] { statusBar()->setVisible(statusBar()->isHidden()); });
+}
+
+QToolBar *CMainFrame::MakeToolBar(
+    const QString &title, const char *name, const QList<int> &commands, int toggle)
+{
+    QToolBar *const bar = addToolBar(title);
+    bar->setObjectName(QLatin1StringView(name));
+    fillToolBar(*bar, commands, *m_actions);
+    m_actions->SetHandler(toggle, [bar] { bar->setVisible(bar->isHidden()); });
+    connect(bar, &QToolBar::visibilityChanged, this, &CMainFrame::UpdateCommands);
+    return bar;
 }
 
 void CMainFrame::ConnectCommands()
@@ -139,12 +154,27 @@ void CMainFrame::ConnectCommands()
     m_actions->SetHandler(Exit, [this] { close(); });
     m_actions->SetHandler(CommandId::Undo, [this] { Undo(); });
     m_actions->SetHandler(CommandId::Redo, [this] { Redo(); });
-    m_actions->SetHandler(StandardQuiz, [this] { m_quizLaunch->startQuiz(); });
+    m_actions->SetHandler(SpecialCharacters, [this] { m_services.specialCharacters.Toggle(); });
+    connect(&m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this,
+        [this](bool open) { m_actions->SetChecked(SpecialCharacters, open); });
+    m_actions->SetHandler(Help, [this] { m_services.openHelp(); });
     m_actions->SetHandler(About, [this] {
         auto *dialog = new CAboutDialog(m_services.texts, this);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         dialog->open();
     });
+}
+
+void CMainFrame::ConnectQuizCommands()
+{
+    using namespace CommandId;
+    m_actions->SetHandler(StandardQuiz, [this] { m_quizLaunch->startQuiz(); });
+    for (const int direction : {FromLanguage1, FromLanguage2}) {
+        m_actions->SetHandler(direction, [this, direction] {
+            m_services.quizSettings.showLanguage = direction - FromLanguage1;
+            UpdateCommands();
+        });
+    }
 }
 
 void CMainFrame::Refresh()
@@ -156,11 +186,34 @@ void CMainFrame::Refresh()
 
 void CMainFrame::UpdateCommands()
 {
+    using namespace CommandId;
     const CWin32Doc &document = m_services.document;
+    const CWordList &list = document.List();
     const QLineEdit *const editBox = FocusedEditBox();
-    m_actions->UpdateEnabled({.listHasEntries = document.List().Count() > 0,
+    m_actions->UpdateEnabled({.entries = list.Count(),
+        .selectedEntries = int(m_view->SelectedEntries().size()),
+        .inEditBox = editBox != nullptr,
+        .textSelected = editBox != nullptr && editBox->hasSelectedText(),
         .canUndo = editBox != nullptr ? editBox->isUndoAvailable() : document.UndoCount() > 0,
         .canRedo = editBox == nullptr && document.RedoCount() > 0});
+    m_actions->UpdateCaptions(list.GetLanguage(0), list.GetLanguage(1));
+
+    const auto isShown = [this](const char *bar) {
+        return !findChild<QToolBar *>(QLatin1StringView(bar))->isHidden();
+    };
+    m_actions->SetChecked(CommandId::StandardToolBar, isShown("standardToolBar"));
+    m_actions->SetChecked(CommandId::QuizToolBar, isShown("quizToolBar"));
+    m_actions->SetChecked(StatusBar, !statusBar()->isHidden());
+    m_actions->SetChecked(SpecialCharacters, m_services.specialCharacters.IsOpen());
+    m_actions->SetChecked(FromLanguage1 + m_services.quizSettings.showLanguage, true);
+    const EditorSettings &editor = m_services.editorSettings;
+    m_actions->SetChecked(ShowWordNumber, editor.showWordNumber);
+    m_actions->SetChecked(ShowEditFields, editor.showEditFields);
+    m_actions->SetChecked(ShowNotes, editor.showNotes);
+    const ArrangeSettings &arrange = m_services.arrangeSettings;
+    m_actions->SetChecked(Descending, arrange.descending);
+    m_actions->SetChecked(GroupFlagged, arrange.groupFlagged);
+    m_actions->SetChecked(SortByLength, arrange.byLength);
 }
 
 void CMainFrame::Undo()
@@ -205,12 +258,65 @@ void CMainFrame::ShowMainWindow(bool show)
     }
 }
 
+void CMainFrame::OpenDropped(const QStringList &paths)
+{
+    if (paths.size() > 1) {
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::OneFileAtATime), PromptIcon::Information);
+    } else {
+        m_services.files.OpenFile(paths.first());
+    }
+}
+
+void CMainFrame::Moved()
+{
+    m_place.Moved();
+    m_services.specialCharacters.DockBeside(*this);
+}
+
 void CMainFrame::closeEvent(QCloseEvent *event)
 {
+    SavePlace();
     if (!m_services.files.MayDiscard()) {
         event->ignore();
         return;
     }
     QMainWindow::closeEvent(event);
     Q_EMIT Closed();
+}
+
+void CMainFrame::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (QApplication::activeModalWidget() == nullptr && !LocalFiles(*event->mimeData()).isEmpty()) {
+        event->setDropAction(Qt::CopyAction); // The file stays where it is.
+        event->accept();
+    }
+}
+
+void CMainFrame::dropEvent(QDropEvent *event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // From the event loop, so that the program that the files come from need not wait for an answer.
+    QMetaObject::invokeMethod(
+        this, [this, paths = LocalFiles(*event->mimeData())] { OpenDropped(paths); }, Qt::QueuedConnection);
+}
+
+void CMainFrame::moveEvent(QMoveEvent *event)
+{
+    QMainWindow::moveEvent(event);
+    Moved();
+}
+
+void CMainFrame::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    Moved();
+}
+
+void CMainFrame::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        m_services.specialCharacters.DockBeside(*this);
+    }
 }

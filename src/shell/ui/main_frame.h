@@ -2,8 +2,13 @@
 #pragma once
 
 #include "quiz/quiz_host.h"
+#include "shell/ui/window_place.h"
 
+#include <QFont>
 #include <QMainWindow>
+
+#include <functional>
+#include <optional>
 
 class CCommandActions;
 class CElidedLabel;
@@ -11,12 +16,21 @@ class CFileCommands;
 class CQuizLaunch;
 class CRandom;
 class CRecentFiles;
+class CSpecialCharacterKeys;
 class CTexts;
 class CWin32Doc;
 class CWin32View;
 class IUserPrompt;
+struct ArrangeSettings;
 struct EditorSettings;
 struct QuizSettings;
+
+/// The user's own font, for the texts that are learnt; none for the desktop's.
+struct UserFonts
+{
+    std::optional<QFont> view = {};
+    std::optional<QFont> quizzes = {};
+};
 
 /// What the main window is handed; none of it is owned.
 struct FrameServices
@@ -26,12 +40,19 @@ struct FrameServices
     const CRecentFiles &recent;
     const CTexts &texts;
     const EditorSettings &editorSettings;
-    const QuizSettings &quizSettings;
+    const ArrangeSettings &arrangeSettings;
+    QuizSettings &quizSettings;
     IUserPrompt &prompt;
     CRandom &random;
+    /// Where the window's place is kept, below the path of sections `root`.
+    ISettingsStore &store;
+    QString root;
+    CSpecialCharacterKeys &specialCharacters;
+    std::function<void()> openHelp;
+    UserFonts fonts = {};
 };
 
-/// The main window: menus, tool bar and status line around the view. It hands every command on.
+/// The main window: menus, tool bars and status line around the view. It hands every command on.
 class CMainFrame : public QMainWindow, public IQuizHost
 {
     Q_OBJECT
@@ -40,7 +61,10 @@ public:
     explicit CMainFrame(const FrameServices &services);
     ~CMainFrame() override;
 
-    CWin32View &View() const { return *m_view; }
+    /// Shows the window where and how it was when it was closed last.
+    void ShowAsBefore();
+    /// Notes where the window stands; the settings are written at the program's end.
+    void SavePlace();
 
     std::vector<int> SelectedEntries() const override;
     void SelectEntries(const std::vector<int> &entries) override;
@@ -52,23 +76,29 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void MakeMenus();
+    QToolBar *MakeToolBar(const QString &title, const char *name, const QList<int> &commands, int toggle);
     void ConnectCommands();
+    void ConnectQuizCommands();
     void Refresh();
     void UpdateCommands();
     void Undo();
     void Redo();
-    /// Puts the recent files into the File menu anew, each time it opens.
-    void FillRecentFiles(QMenu &menu);
+    void OpenDropped(const QStringList &paths);
+    void Moved();
 
     FrameServices m_services;
     CCommandActions *m_actions;
     CWin32View *m_view;
     CElidedLabel *m_statusText;
     CQuizLaunch *m_quizLaunch;
-    QList<QAction *> m_recentActions;
-    QAction *m_behindRecent = nullptr;
+    CWindowPlace m_place;
     QByteArray m_geometry; // While a quiz hides the window.
 };

@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/ordelin_app.h"
 
+#include "platform/data_folders.h"
 #include "resources/text_numbers.h"
-#include "shell/command_line.h"
+#include "shell/help.h"
+#include "shell/language_choice.h"
+#include "shell/ui/language_dialog.h"
 #include "shell/ui/main_frame.h"
+#include "shell/ui/special_character_keys.h"
 
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QIcon>
 #include <QProcess>
-
-#include <cstdio>
+#include <QSessionManager>
+#include <QTimer>
+#include <QUrl>
 
 namespace {
 
@@ -20,12 +26,12 @@ constexpr int RecoveryDelay = 3000;
 
 COrdelinApp::COrdelinApp(int &argc, char **argv)
     : QApplication(argc, argv), m_qtTexts(m_texts), m_store(CIniStore::UserPath(), CAppSettings::RootPath()),
-      m_settings(m_store, m_texts), m_random(quint32(QDateTime::currentMSecsSinceEpoch())),
+      m_settings(m_store, m_texts), m_startUp(m_settings, m_texts, [this] { ChooseLanguage(); }),
+      m_dataFolders(dataFolders(applicationDirPath())), m_random(quint32(QDateTime::currentMSecsSinceEpoch())),
       m_document({m_texts, m_settings.editor, m_prompt, [] { return QDate::currentDate(); },
           [](const QString &program, const QStringList &arguments) {
               return QProcess::startDetached(program, arguments);
           }}),
-      m_recent(m_store, CAppSettings::RootPath()), m_files(m_document, m_texts, m_prompt, m_chooser, m_recent),
       m_recovery(m_document, CRecovery::UserFolder(), RecoveryDelay)
 {
     Q_INIT_RESOURCE(pictures);
@@ -33,39 +39,135 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
     setApplicationName(QStringLiteral("Ordelin"));
     setApplicationVersion(QStringLiteral(ORDELIN_VERSION));
     setApplicationDisplayName(m_texts.Get(Text::ApplicationTitle));
+    setDesktopFileName(QStringLiteral("ordelin"));
     setWindowIcon(QIcon(QStringLiteral(":/pictures/ordelin.svg")));
     setQuitOnLastWindowClosed(false); // A quiz hides the main window.
     installTranslator(&m_qtTexts);
+    connect(&m_exitSignals, &CExitSignals::ExitRequested, this, &COrdelinApp::ExitFromOutside);
+    connect(this, &QGuiApplication::commitDataRequest, this, &COrdelinApp::SessionEnds, Qt::DirectConnection);
 }
 
 COrdelinApp::~COrdelinApp() = default;
 
-int COrdelinApp::InitInstance()
+int COrdelinApp::Run(const QString &file)
 {
-    const CommandLine commandLine = parseCommandLine(arguments().mid(1));
-    if (commandLine.error != 0) {
-        const QString message =
-            m_texts.Fill(commandLine.error, {commandLine.wrongArgument}) + m_texts.Get(Text::Usage);
-        std::fputs(message.toLocal8Bit().constData(), stderr);
-        return 2;
+    if (!InitInstance(file)) {
+        SaveSettings();
+        return 1;
     }
-    m_settings.Exchange(true);
+    // The end may have been asked for while a question of the start was open.
+    const int result = m_exitedFromOutside ? 0 : exec();
+    ExitInstance();
+    return result;
+}
+
+bool COrdelinApp::InitInstance(const QString &file)
+{
+    m_startUp.Prepare();
     m_document.ApplyUndoSize();
-    m_frame = std::make_unique<CMainFrame>(FrameServices{
-        m_document, m_files, m_recent, m_texts, m_settings.editor, m_settings.quiz, m_prompt, m_random});
-    connect(m_frame.get(), &CMainFrame::Closed, this, &QCoreApplication::quit);
+    m_recent = std::make_unique<CRecentFiles>(m_store, CAppSettings::RootPath());
+    m_files = std::make_unique<CFileCommands>(m_document, m_texts, m_prompt, m_chooser, *m_recent);
+    MakeMainWindow();
+    const QString reopened = m_startUp.FileToReopen(file, *m_recent);
     m_document.OnNewDocument();
-    if (!commandLine.file.isEmpty()) {
-        m_files.OpenFile(commandLine.file);
+    if (!file.isEmpty() && !m_files->OpenFile(file)) {
+        return false;
     }
-    m_frame->show();
+    m_frame->ShowAsBefore();
+    if (!reopened.isEmpty()) {
+        m_files->OpenFile(reopened);
+    }
+    // From the event loop, when the window stands where the questions are to be seen.
+    QTimer::singleShot(0, this, &COrdelinApp::Welcome);
+    return true;
+}
+
+void COrdelinApp::MakeMainWindow()
+{
+    const MiscSettings &misc = m_settings.misc;
+    UserFonts fonts;
+    if (misc.useOtherFont) {
+        fonts.quizzes = QFont(misc.fontName, misc.fontSize);
+        if (!misc.useOtherFontQuizOnly) {
+            fonts.view = fonts.quizzes;
+        }
+    }
+    m_specialCharacters = std::make_unique<CSpecialCharacterKeys>(m_settings.easykey, m_texts, nullptr);
+    m_frame = std::make_unique<CMainFrame>(FrameServices{m_document, *m_files, *m_recent, m_texts,
+        m_settings.editor, m_settings.arrange, m_settings.quiz, m_prompt, m_random, m_store,
+        CAppSettings::RootPath(), *m_specialCharacters, [this] { OpenHelp(); }, fonts});
+    connect(m_frame.get(), &CMainFrame::Closed, this, &QCoreApplication::quit);
+}
+
+void COrdelinApp::ChooseLanguage()
+{
+    CLanguageChoice choice(findLanguages(m_texts, m_dataFolders), m_startUp.ModulePath(), m_settings.isFirstRun,
+        languageAbbreviation(QLocale::system()));
+    CLanguageDialog dialog(choice, m_texts.Get(Text::LanguageList), activeWindow());
+    if (dialog.exec() == QDialog::Accepted) {
+        choice.Accept(m_settings.misc, m_prompt);
+    }
+}
+
+void COrdelinApp::OpenHelp()
+{
+    openHelp(m_texts, m_dataFolders, m_prompt,
+        [](const QString &path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+}
+
+void COrdelinApp::Welcome()
+{
     m_recovery.Offer(m_texts, m_prompt);
-    return 0;
+    if (m_settings.isFirstRun
+        && m_prompt.Confirm(
+            m_texts.Prompt(Text::FirstRun), PromptIcon::Information, PromptButtons::YesNo, PromptAnswer::Yes)) {
+        OpenHelp();
+    }
+}
+
+void COrdelinApp::SaveSettings()
+{
+    m_settings.misc.openOnClosing = !m_document.Path().isEmpty();
+    m_settings.Exchange(false);
 }
 
 void COrdelinApp::ExitInstance()
 {
-    m_recovery.Finish();
-    m_settings.misc.openOnClosing = !m_document.Path().isEmpty();
-    m_settings.Exchange(false);
+    if (m_exitedFromOutside && m_givenUp != m_document.ChangeCounter()) {
+        m_recovery.Keep();
+    } else {
+        m_recovery.Finish();
+    }
+    m_specialCharacters->Close();
+    SaveSettings();
+}
+
+void COrdelinApp::ExitFromOutside()
+{
+    m_exitedFromOutside = true;
+    if (m_frame && m_frame->isVisible()) {
+        m_frame->SavePlace();
+    }
+    exit(0); // Ends the loop of an open question as well.
+}
+
+void COrdelinApp::SessionEnds(QSessionManager &manager)
+{
+    if (!m_frame) {
+        return;
+    }
+    if (manager.allowsInteraction()) {
+        if (m_files->MayDiscard()) {
+            m_givenUp = m_document.ChangeCounter();
+        } else {
+            manager.cancel();
+        }
+        manager.release();
+    }
+    // Whoever ends the session may end the program without another word.
+    if (m_givenUp != m_document.ChangeCounter()) {
+        m_recovery.Keep();
+    }
+    m_frame->SavePlace();
+    SaveSettings();
 }

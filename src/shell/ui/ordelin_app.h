@@ -5,6 +5,7 @@
 #include "document/recent_files.h"
 #include "document/recovery.h"
 #include "document/win32_doc.h"
+#include "platform/exit_signals.h"
 #include "platform/random.h"
 #include "platform/ui/file_dialog_chooser.h"
 #include "platform/ui/message_box_prompt.h"
@@ -12,12 +13,15 @@
 #include "resources/texts.h"
 #include "settings/app_settings.h"
 #include "settings/ini_store.h"
+#include "shell/start_up.h"
 
 #include <QApplication>
 
 #include <memory>
 
 class CMainFrame;
+class CSpecialCharacterKeys;
+class QSessionManager;
 
 /// The application: owns the settings, the texts, the document and the main window.
 class COrdelinApp : public QApplication
@@ -29,24 +33,44 @@ public:
     COrdelinApp(int &argc, char **argv);
     ~COrdelinApp() override;
 
-    /// Loads the settings, opens what the command line names and shows the main window. Returns 0, or the exit
-    /// code of a wrong command line, which is then told on standard error.
-    int InitInstance();
-    /// Saves the settings, after the event loop ended.
+    /// The whole run of the program, from its start to its exit code. `file` is the command line's; empty for
+    /// none.
+    int Run(const QString &file);
+    /// Its beginning: loads settings and language, opens what is to be opened and shows the main window.
+    /// Returns false when the file named can't be opened, which ends the program.
+    bool InitInstance(const QString &file);
+    /// Its end: saves the settings, after the event loop ended.
     void ExitInstance();
-    CMainFrame *MainFrame() const { return m_frame.get(); }
+    CMainFrame &MainFrame() const { return *m_frame; }
 
 private:
+    void MakeMainWindow();
+    void ChooseLanguage();
+    void OpenHelp();
+    /// The questions of a start, once the main window is shown.
+    void Welcome();
+    void SaveSettings();
+    /// Ends the program without a question, for the system: unsaved changes stay in the copy for recovery.
+    void ExitFromOutside();
+    void SessionEnds(QSessionManager &manager);
+
     CTexts m_texts;
     CQtTexts m_qtTexts;
     CIniStore m_store;
     CAppSettings m_settings;
+    CStartUp m_startUp;
+    QStringList m_dataFolders;
     CRandom m_random;
     CMessageBoxPrompt m_prompt;
     CFileDialogChooser m_chooser;
     CWin32Doc m_document;
-    CRecentFiles m_recent;
-    CFileCommands m_files;
+    std::unique_ptr<CRecentFiles> m_recent;
+    std::unique_ptr<CFileCommands> m_files;
     CRecovery m_recovery;
+    CExitSignals m_exitSignals;
+    std::unique_ptr<CSpecialCharacterKeys> m_specialCharacters;
     std::unique_ptr<CMainFrame> m_frame;
+    bool m_exitedFromOutside = false;
+    /// The change counter when the user gave up the unsaved changes at the session's end.
+    std::optional<quint64> m_givenUp;
 };

@@ -1,0 +1,73 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Makes the pictures of the help from the real windows, on a virtual display, in every language of the program.
+# Needs a release build and what "setup.sh display" installs.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+program=$PWD/build/release/src/ordelin
+pictures=$PWD/help/pictures
+mkdir -p "$pictures"
+
+work=$(mktemp -d)
+pids=()
+cleanup() {
+    for pid in "${pids[@]}"; do
+        kill "$pid" 2>/dev/null || true
+    done
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+
+exec 3<>"$work/display"
+Xvfb -displayfd 3 -noreset -screen 0 1280x900x24 -nolisten tcp >"$work/xvfb.log" 2>&1 3>"$work/display" &
+pids+=($!)
+until [ -s "$work/display" ]; do sleep 0.1; done
+DISPLAY=:$(tr -d '[:space:]' <"$work/display")
+export DISPLAY XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
+openbox >"$work/openbox.log" 2>&1 &
+pids+=($!)
+until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done
+
+# shot NAME WINDOW-TITLE: saves the window of that title.
+shot() {
+    local window
+    for _ in $(seq 100); do
+        window=$(xdotool search --onlyvisible --name "^$2" 2>/dev/null | tail -n 1) && [ -n "$window" ] && break
+        sleep 0.1
+    done
+    sleep 1 # Until everything is painted.
+    import -window "$window" -strip -define png:compression-level=9 +dither -colors 128 "$pictures/$1.png"
+}
+
+# language NAME MODULE: all pictures in one language; the titles of its windows come from its own texts.
+language() {
+    local texts=$2 list="$work/vardagsord.gls" quiz result special
+    quiz=$(sed -n 's/^63060=//p' "$texts")
+    result=$(sed -n 's/^203000=//p' "$texts")
+    special=$(sed -n 's/^346000=//p' "$texts")
+    rm -rf "$work/config"
+    mkdir -p "$work/config/Ornbury Workshops"
+    printf '[misc]\nautoOpen=1\nlanguageFile=%s\nplugInUse=1\n[quiz]\nplayRight=0\nplayWrong=0\nwordsToQuiz=2\nnumberOfWords=8\nrequiz=0\n[easykey]\nsubset=2\ndock=0\n[Winpos]\nStatus=1\nLeft=40\nTop=40\nRight=840\nBottom=600\n' \
+        "$texts" >"$work/config/Ornbury Workshops/Ordelin.ini"
+    cp samples/vardagsord.gls "$list"
+    "$program" -- "$list" >"$work/program.log" 2>&1 &
+    local pid=$!
+    pids+=("$pid")
+    shot "$1-main" "vardagsord"
+    xdotool key F9
+    shot "$1-special" "$special"
+    xdotool key F9 sleep 0.5 key F9 sleep 0.5 key ctrl+alt+1
+    shot "$1-quiz" "$quiz"
+    for _ in 1 2 3; do
+        xdotool type "x"
+        xdotool key Return sleep 0.5 key Return sleep 0.5
+    done
+    xdotool key Escape sleep 0.5 key Return
+    shot "$1-result" "$result"
+    kill "$pid"
+    wait "$pid" 2>/dev/null || true
+}
+
+language sv "$PWD/src/resources/swedish.ordmod"
+language en "$PWD/modules/english.ordmod"

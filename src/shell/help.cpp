@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "shell/help.h"
+
+#include "platform/data_folders.h"
+#include "platform/user_prompt.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+void openHelp(const CTexts &texts, const QStringList &dataFolders, IUserPrompt &prompt,
+    const std::function<bool(const QString &path)> &open)
+{
+    const QString file = findDataFile(dataFolders, texts.Get(Text::HelpPath));
+    if (file.isEmpty() || !open(file)) {
+        prompt.Tell(texts.Prompt(Text::CannotOpenHelp), PromptIcon::Warning);
+    }
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "shell/start_up.h"
+
+#include "document/recent_files.h"
+#include "resources/texts.h"
+#include "settings/app_settings.h"
+#include "shell/language_modules.h"
+
+#include <QFileInfo>
+
+QString loadLanguage(const MiscSettings &settings, CTexts &texts)
+{
+    QByteArray module;
+    if (!settings.plugInUse || settings.languageFile.isEmpty()
+        || testLanguageModule(settings.languageFile, texts, module) != ModuleTest::Ok
+        || !texts.LoadModule(module)) {
+        return {};
+    }
+    return settings.languageFile;
+}
+
+CStartUp::CStartUp(CAppSettings &settings, CTexts &texts, std::function<void()> chooseLanguage)
+    : m_settings(settings), m_texts(texts), m_chooseLanguage(std::move(chooseLanguage))
+{
+}
+
+void CStartUp::Prepare()
+{
+    m_settings.Exchange(true);
+    if (m_settings.isFirstRun) {
+        m_chooseLanguage();
+    }
+    m_modulePath = loadLanguage(m_settings.misc, m_texts);
+    if (!m_modulePath.isEmpty() && m_settings.isFirstRun) {
+        // The factory texts of new lists are the language's.
+        m_settings.SetDefaults();
+    }
+}
+
+QString CStartUp::FileToReopen(const QString &namedFile, const CRecentFiles &recent) const
+{
+    const MiscSettings &misc = m_settings.misc;
+    if (!namedFile.isEmpty() || !misc.autoOpen || !misc.openOnClosing || recent.Paths().isEmpty()) {
+        return {};
+    }
+    const QString file = recent.Paths().first();
+    return QFileInfo::exists(file) ? file : QString();
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/command_menus.h"
+
+#include "resources/texts.h"
+#include "shell/commands.h"
+#include "shell/ui/command_actions.h"
+
+#include <QMenu>
+#include <QToolBar>
+
+#include <algorithm>
+
+void fillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts)
+{
+    for (const int id : commands) {
+        if (id == CommandId::Separator) {
+            menu.addSeparator();
+        } else if (isSubmenu(id)) {
+            const auto submenu = std::ranges::find(commandSubmenus(), id, &CommandMenu::title);
+            fillMenu(*menu.addMenu(texts.Get(id)), submenu->commands, actions, texts);
+        } else if (QAction *const action = actions.Action(id)) {
+            menu.addAction(action);
+        }
+    }
+}
+
+void fillToolBar(QToolBar &bar, const QList<int> &commands, const CCommandActions &actions)
+{
+    for (const int id : commands) {
+        if (id == CommandId::Separator) {
+            bar.addSeparator();
+            continue;
+        }
+        bar.addAction(actions.Action(id));
+        bar.widgetForAction(actions.Action(id))->setFocusPolicy(Qt::NoFocus);
+    }
+}

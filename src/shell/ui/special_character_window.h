@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+class CElidedLabel;
+class CSpecialCharacterList;
+class CSpecialCharacterModel;
+class CSpecialCharacters;
+class CTexts;
+class QComboBox;
+
+/// The tool window of special characters. Clicks never give it the keyboard focus, which stays where the user
+/// is typing; it takes the focus only when told to, and while an own character is edited.
+class CSpecialCharacterWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Neither is owned.
+    CSpecialCharacterWindow(CSpecialCharacters &characters, const CTexts &texts);
+    ~CSpecialCharacterWindow() override;
+
+    /// Shows the window where the settings say, without the focus.
+    void Open();
+    /// Makes it the active window, to be used by keyboard.
+    void TakeFocus();
+    bool HasFocus() const;
+    /// Docks it beside a window, as the settings say, if that one is in its normal state.
+    void DockBeside(const QWidget &other);
+    /// The line below the characters; empty for none.
+    void ShowMessage(const QString &message);
+    /// True for the widgets of the window and of what pops up from it.
+    bool Holds(const QObject *object) const;
+
+Q_SIGNALS:
+    void TextChosen(const QString &text);
+    void DockingChosen();
+    /// Before TakeFocus() takes the focus from another window.
+    void TakingFocus();
+    /// The focus was wanted for an edit only, which ended.
+    void FocusNoLongerNeeded();
+    /// Before the window goes; its place is in the settings.
+    void Closing();
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    QComboBox *MakeCombo(int items, int accessibleName, int current, const char *name);
+    void SetAcceptsFocus(bool accepts);
+    void RestorePlace();
+    void StorePlace();
+    void ShowSet(int set);
+    void Choose(int item, Qt::KeyboardModifiers modifiers);
+    void BeginEdit(int item);
+    void EndEdit();
+    void Remove(int item);
+
+    CSpecialCharacters &m_characters;
+    const CTexts &m_texts;
+    CSpecialCharacterModel *m_model;
+    CSpecialCharacterList *m_list;
+    CElidedLabel *m_message;
+    bool m_focusForEdit = false;
+};
