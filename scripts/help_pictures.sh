@@ -31,20 +31,25 @@ until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done
 
 # shot NAME WINDOW-TITLE: saves the window of that title.
 shot() {
-    local window
+    local window=
     for _ in $(seq 100); do
         window=$(xdotool search --onlyvisible --name "^$2" 2>/dev/null | tail -n 1) && [ -n "$window" ] && break
         sleep 0.1
     done
+    if [ -z "$window" ]; then
+        echo "There is no window called $2." >&2
+        exit 1
+    fi
     sleep 1 # Until everything is painted.
     import -window "$window" -strip -define png:compression-level=9 +dither -colors 128 "$pictures/$1.png"
 }
 
 # language NAME MODULE: all pictures in one language; the titles of its windows come from its own texts.
 language() {
-    local texts=$2 list="$work/vardagsord.gls" quiz result special
+    local texts=$2 list="$work/vardagsord.gls" quiz result special yes
+    yes=$(sed -n 's/^70050=.*&\(.\).*/\L\1/p' "$texts")
     quiz=$(sed -n 's/^63060=//p' "$texts")
-    result=$(sed -n 's/^203000=//p' "$texts")
+    result=$(sed -n 's/^62122=//p' "$texts")
     special=$(sed -n 's/^346000=//p' "$texts")
     rm -rf "$work/config"
     mkdir -p "$work/config/Ornbury Workshops"
@@ -63,7 +68,7 @@ language() {
         xdotool type "x"
         xdotool key Return sleep 0.5 key Return sleep 0.5
     done
-    xdotool key Escape sleep 0.5 key Return
+    xdotool key Escape sleep 0.5 key "alt+$yes"
     shot "$1-result" "$result"
     kill "$pid"
     wait "$pid" 2>/dev/null || true

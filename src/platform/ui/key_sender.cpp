@@ -148,7 +148,7 @@ void CKeySender::CConnection::FindSpareKeys()
     const int count = last - first + 1;
     KeySym *const symbols = XGetKeyboardMapping(m_display, KeyCode(first), count, &width);
     for (int key = 0; symbols != nullptr && key < count; ++key) {
-        const KeySym *const own = symbols + key * width;
+        const KeySym *const own = symbols + qsizetype(key) * width;
         if (std::all_of(own, own + width, [](KeySym symbol) { return symbol == NoSymbol; })) {
             m_spare.append(SpareKey{.code = KeyCode(first + key)});
         }

@@ -101,6 +101,7 @@ void CMainFrame::ShowAsBefore()
     resize(wanted.boundedTo(screen()->availableSize() * 0.9));
     m_place.Restore();
     m_place.Show();
+    m_services.specialCharacters.DockBeside(*this);
     UpdateCommands();
 }
 
