@@ -11,6 +11,7 @@ namespace {
 QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
 {
     QFileDialog dialog(OwnerWindow(), choice.title);
+    dialog.setWindowModality(Qt::WindowModal);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(fileMode);
     dialog.setNameFilters(choice.filters);
