@@ -111,6 +111,7 @@ void CWin32Doc::Replace(CWordList list, const QString &path, const FileStamp &st
     m_history.SetFilePath(path);
     m_stamp = stamp;
     ++m_changeCounter;
+    Q_EMIT DocumentReplaced();
     Q_EMIT ListReplaced();
     UpdateTitleMark();
 }

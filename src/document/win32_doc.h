@@ -103,6 +103,8 @@ public:
 Q_SIGNALS:
     /// The list is about to change, or has changed by undo.
     void Changed();
+    /// Another document takes the place of the one before; ListReplaced() follows.
+    void DocumentReplaced();
     /// Another list, or another state of it, took the place of the one before: everything is to be shown anew.
     void ListReplaced();
     void TitleChanged();

@@ -10,7 +10,7 @@ CListSummary::CListSummary(const CWin32Doc &document, const CTexts &texts)
 {
 }
 
-QString CListSummary::Describe(std::span<const int> selected)
+QString CListSummary::Describe(int rows, int entries, int first)
 {
     const CWordList &list = m_document.List();
     if (m_counted != m_document.ChangeCounter()) {
@@ -25,11 +25,12 @@ QString CListSummary::Describe(std::span<const int> selected)
         values << QString::number(flagged) << QString::number(percent) << list.GetLanguage(language);
     }
     const QString summary = m_texts.Fill(Text::ListSummary, values);
-    if (selected.empty()) {
+    if (rows == 0) {
         return summary;
     }
-    if (selected.size() == 1) {
-        return m_texts.Fill(Text::EntrySelected, {QString::number(selected.front() + 1), summary});
+    if (rows > 1) {
+        return m_texts.Fill(Text::EntriesSelected, {QString::number(entries), summary});
     }
-    return m_texts.Fill(Text::EntriesSelected, {QString::number(selected.size()), summary});
+    return entries == 0 ? m_texts.Get(Text::NewEntryRowSelected)
+                        : m_texts.Fill(Text::EntrySelected, {QString::number(first + 1), summary});
 }

@@ -5,7 +5,6 @@
 
 #include <array>
 #include <optional>
-#include <span>
 
 class CTexts;
 class CWin32Doc;
@@ -19,7 +18,9 @@ public:
     /// Neither is owned.
     CListSummary(const CWin32Doc &document, const CTexts &texts);
 
-    QString Describe(std::span<const int> selected);
+    /// `entries` of the selected `rows` are entries, the first of them `first`; the other row is the new-entry
+    /// row.
+    QString Describe(int rows, int entries, int first);
 
 private:
     const CWin32Doc &m_document;

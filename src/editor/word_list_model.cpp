@@ -7,10 +7,22 @@
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
 
+#include <algorithm>
+
+namespace {
+
+bool IsLanguage(int field)
+{
+    return field == 0 || field == 1;
+}
+
+}
+
 CWordListModel::CWordListModel(
     const CWin32Doc &document, const EditorSettings &settings, const CTexts &texts, QObject *parent)
     : QAbstractTableModel(parent), m_document(document), m_settings(settings), m_texts(texts)
 {
+    m_rows.SetEntryCount(document.List().Count());
 }
 
 int CWordListModel::field(int column) const
@@ -18,20 +30,78 @@ int CWordListModel::field(int column) const
     return m_settings.showWordNumber ? column - 1 : column;
 }
 
-void CWordListModel::reset()
+int CWordListModel::column(int field) const
+{
+    return m_settings.showWordNumber ? field + 1 : field;
+}
+
+void CWordListModel::AddEntry(const std::function<void()> &add)
+{
+    const int row = m_rows.InsertionPoint();
+    beginInsertRows({}, row, row);
+    add();
+    m_rows.SetEntryCount(m_rows.EntryCount() + 1);
+    m_rows.SetInsertionPoint(row + 1);
+    endInsertRows();
+}
+
+void CWordListModel::RemoveEntries(std::span<const int> entries, const std::function<void()> &remove)
+{
+    const int first = m_rows.RowOfEntry(entries.front());
+    const int last = m_rows.RowOfEntry(entries.back());
+    const int above = int(std::ranges::lower_bound(entries, m_rows.InsertionPoint()) - entries.begin());
+    // One block of rows goes as such; many, which would each move all that follow, at once.
+    const bool block = last - first + 1 == int(entries.size());
+    if (block) {
+        beginRemoveRows({}, first, last);
+    } else {
+        beginResetModel();
+    }
+    remove();
+    m_rows.SetInsertionPoint(m_rows.InsertionPoint() - above);
+    m_rows.SetEntryCount(m_document.List().Count());
+    if (block) {
+        endRemoveRows();
+    } else {
+        endResetModel();
+    }
+}
+
+void CWordListModel::SetInsertionPoint(int row)
+{
+    m_rows.SetInsertionPoint(row);
+    AllRowsChanged();
+}
+
+void CWordListModel::RowsChanged(int first, int last)
+{
+    Q_EMIT dataChanged(index(first, 0), index(last, columnCount() - 1));
+}
+
+void CWordListModel::Reset()
 {
     beginResetModel();
+    m_rows.SetEntryCount(m_document.List().Count());
     endResetModel();
 }
 
 int CWordListModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_document.List().Count();
+    return parent.isValid() ? 0 : m_rows.RowCount();
 }
 
 int CWordListModel::columnCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : 2 + int(m_settings.showWordNumber) + int(m_settings.showNotes);
+}
+
+Qt::ItemFlags CWordListModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid()) {
+        return Qt::NoItemFlags;
+    }
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    return field(index.column()) == NumberColumn ? flags : flags | Qt::ItemIsEditable;
 }
 
 QVariant CWordListModel::data(const QModelIndex &index, int role) const
@@ -40,23 +110,57 @@ QVariant CWordListModel::data(const QModelIndex &index, int role) const
         return {};
     }
     const int cellField = field(index.column());
-    const CWordEntry &entry = m_document.List().Entry(index.row());
-    const bool hasFlag = cellField == 0 || cellField == 1;
+    if (role == Qt::TextAlignmentRole && cellField == NumberColumn) {
+        return int(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    if (m_rows.IsNewEntryRow(index.row())) {
+        return NewEntryData(cellField, role);
+    }
+    const int entry = m_rows.EntryOfRow(index.row());
+    return entry < m_document.List().Count() ? EntryData(entry, cellField, role) : QVariant();
+}
+
+QVariant CWordListModel::EntryData(int entry, int field, int role) const
+{
+    const CWordEntry &shown = m_document.List().Entry(entry);
     switch (role) {
     case Qt::ToolTipRole:
-        return cellField == NumberColumn ? QVariant() : ShownAsPlainText(entry.GetField(cellField));
+        return field == NumberColumn ? QVariant() : ShownAsPlainText(shown.GetField(field));
     case Qt::DisplayRole:
-        return cellField == NumberColumn ? QString::number(index.row() + 1) : entry.GetField(cellField);
-    case FlagRole:
-        return hasFlag ? QVariant(entry.GetFlag(cellField)) : QVariant();
+        return field == NumberColumn ? QString::number(entry + 1) : shown.GetField(field);
+    case Qt::EditRole:
+        return shown.GetField(field);
+    case MarkRole:
+        return IsLanguage(field) ? QVariant(int(shown.GetFlag(field) ? Flagged : CellMark::NotFlagged))
+                                 : QVariant();
     case Qt::AccessibleTextRole:
-        if (hasFlag) {
-            const QString flag = m_texts.Get(entry.GetFlag(cellField) ? Text::Flagged : Text::NotFlagged);
-            return QString(entry.GetField(cellField) + QStringLiteral(", ") + flag);
+        if (IsLanguage(field)) {
+            const QString flag = m_texts.Get(shown.GetFlag(field) ? Text::Flagged : Text::NotFlagged);
+            return QString(shown.GetField(field) + QStringLiteral(", ") + flag);
         }
         return {};
+    default:
+        return {};
+    }
+}
+
+QVariant CWordListModel::NewEntryData(int field, int role) const
+{
+    if (field == NumberColumn) {
+        return {};
+    }
+    const QString &pending = m_rows.pending[size_t(field)];
+    switch (role) {
+    case Qt::DisplayRole:
+        return pending.isEmpty() ? m_texts.Get(Text::NewEntry) : pending;
+    case Qt::EditRole:
+        return pending;
+    case MarkRole:
+        return int(NewRow);
     case Qt::TextAlignmentRole:
-        return cellField == NumberColumn ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter)) : QVariant();
+        return pending.isEmpty() ? QVariant(int(Qt::AlignCenter)) : QVariant();
+    case Qt::AccessibleTextRole:
+        return pending.isEmpty() ? QVariant(m_texts.Get(Text::NewEntryRow)) : pending;
     default:
         return {};
     }

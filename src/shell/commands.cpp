@@ -77,6 +77,28 @@ const QList<CommandMenu> &commandSubmenus()
     return menus;
 }
 
+namespace {
+
+/// The commands of a menu from one to another.
+QList<int> PartOfMenu(int title, int first, int last)
+{
+    const QList<int> &commands = std::ranges::find(commandMenus(), title, &CommandMenu::title)->commands;
+    const qsizetype start = commands.indexOf(first);
+    return commands.mid(start, commands.indexOf(last) - start + 1);
+}
+
+}
+
+QList<int> rowMenu()
+{
+    return PartOfMenu(Text::EditMenu, Undo, PlaceInsertionPoint);
+}
+
+QList<int> columnMenu()
+{
+    return PartOfMenu(Text::ViewMenu, ShowEditFields, ShowNotes);
+}
+
 bool isSubmenu(int id)
 {
     return std::ranges::find(commandSubmenus(), id, &CommandMenu::title) != commandSubmenus().end();

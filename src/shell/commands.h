@@ -144,6 +144,10 @@ const QList<CommandMenu> &commandMenus();
 const QList<CommandMenu> &commandSubmenus();
 bool isSubmenu(int id);
 
+/// The context menus of the list's rows and of its column headers: parts of the menus, likewise.
+QList<int> rowMenu();
+QList<int> columnMenu();
+
 /// The commands of the tool bars, likewise.
 const QList<int> &standardToolBar();
 const QList<int> &quizToolBar();

@@ -1,47 +1,123 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/entry_editing.h"
 #include "editor/list_summary.h"
+#include "editor/row_model.h"
 
 #include <QWidget>
 
 #include <vector>
 
 class CElidedLabel;
-class CTexts;
-class CWin32Doc;
+class CEntryFields;
+class CRandom;
 class CWordListControl;
 class CWordListModel;
-struct EditorSettings;
+struct CellEdit;
 
-/// The view of the document: author and comments, and the word list below them. Owns its widgets; the document
-/// and everything else handed in is not owned.
-class CWin32View : public QWidget
+/// What the view is handed; none of it is owned.
+struct ViewServices
+{
+    CWin32Doc &document;
+    EditorSettings &settings;
+    ArrangeSettings &arrange;
+    const CTexts &texts;
+    IUserPrompt &prompt;
+    CRandom &random;
+};
+
+/// The view of the document: author and comments, the word list below them, and the entry fields. Owns its
+/// widgets; hands every edit to CEntryEditing and shows what came of it.
+class CWin32View : public QWidget, private IEntryView
 {
     Q_OBJECT
 
 public:
-    CWin32View(
-        CWin32Doc &document, const EditorSettings &settings, const CTexts &texts, QWidget *parent = nullptr);
+    explicit CWin32View(const ViewServices &services, QWidget *parent = nullptr);
 
+    // Selection (win32_view_selection.cpp)
     /// Ascending.
     std::vector<int> SelectedEntries() const;
-    /// Selects exactly these entries and brings the first into sight.
+    int SelectedEntryCount() const;
+    int SelectedRowCount() const;
+    /// CRowModel::NoEntry when no entry is selected.
+    int FirstSelectedEntry() const;
+    /// The field of the cell cursor.
+    int CursorField() const;
+    /// A negative entry selects nothing.
+    void SelectEntry(int entry);
+    /// Selects exactly these entries, and scrolls to the first when none of them is in sight.
     void SelectEntries(const std::vector<int> &entries);
-    /// Shows everything anew.
+    void SelectEntryRange(int first, int last);
+
+    void SetInsertionPoint(int row);
+    void MoveInsertionPoint(int delta);
+    int InsertionPoint() const;
+
+    /// Shows everything anew; the selected rows stay selected.
     void RefreshAll();
+    /// The entries changed; a last of -1 means the first only, two of them everything.
+    void RedrawEntries(int first, int last);
+    /// Shows a text in the status line until something else is to be told; empty for what is selected.
+    void UpdateStatusText(const QString &text = {});
+    /// Empties the fields for a new entry.
+    void ClearFields();
+    /// Ends editing in place; what was committed is stored when this returns.
+    void EndEditing(bool commit);
+
+    // Commands (win32_view_editing.cpp)
+    void DeleteSelection();
+    void SelectAll();
+    void PlaceInsertionPoint();
+    /// The previous row for -1, the next for 1.
+    void Step(int step);
+    void ToggleWordNumber();
+    void ToggleEditFields();
+    void ToggleNotes();
+    /// By a field; a negative one shuffles.
+    void Sort(int field);
+    /// In the language of the cell cursor.
+    void SetFlags(FlagMode mode);
 
 Q_SIGNALS:
     void StatusTextChanged(const QString &text);
+    /// What is selected, or where the cell cursor stands, is another.
+    void SelectionChanged();
+    /// Menus for the selected rows and for the columns, at places on the screen.
+    void RowMenuRequested(const QPoint &place);
+    void ColumnMenuRequested(const QPoint &place);
 
 private:
-    void UpdateStatusText();
+    void ConnectList();
+    void ListReplaced();
+    void ShowProperties();
+    /// Shows the rows anew; the same rows stay selected, or none.
+    void ResetRows(bool keepSelection);
+    void ReadSelection();
 
-    CWin32Doc &m_document;
-    const CTexts &m_texts;
+    void CellEdited(const CellEdit &edit);
+    void FieldsEntered();
+    void Follow(const EditStep &step, bool byEnter);
+    void FlagClicked(int row, int language);
+    void CellDoubleClicked(int row, int field, bool shift);
+    void SearchTyped(const QString &start, int row);
+    void AfterChange();
+
+    void AddEntry(const std::function<void()> &add, bool sorted) override;
+    void EntryChanged(int entry) override;
+    void RemoveEntries(std::span<const int> entries, const std::function<void()> &remove) override;
+    void PendingChanged() override;
+    void ShowNotes() override;
+    void MarkEntry(int entry) override;
+
+    ViewServices m_services;
     CListSummary m_summary;
     CWordListModel *m_model;
     CWordListControl *m_list;
+    CEntryFields *m_fields;
     CElidedLabel *m_author;
     CElidedLabel *m_comments;
+    CEntryEditing m_editing;
+    bool m_suppressSelectionSync = false;
 };

@@ -8,23 +8,40 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
-CWordListControl::CWordListControl(QWidget *parent) : QTableView(parent)
+#include <algorithm>
+
+CWordListControl::CWordListControl(QWidget *parent)
+    : QTableView(parent), m_delegate(new CWordListDelegate(*this)), m_quickEdit([] { return false; })
 {
-    setItemDelegate(new CWordListDelegate(this));
+    setItemDelegate(m_delegate);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setShowGrid(false);
-    setAlternatingRowColors(true);
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
     setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
+        [this](const QPoint &place) { Q_EMIT HeaderMenuRequested(horizontalHeader()->mapToGlobal(place)); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+        [this](int column) { Q_EMIT HeaderClicked(m_model->field(column)); });
+    // The program's own scrolling doesn't come this way.
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
     layoutRows();
+}
+
+void CWordListControl::setListModel(CWordListModel *model)
+{
+    m_model = model;
+    setModel(model);
 }
 
 void CWordListControl::layoutRows()
@@ -54,26 +71,150 @@ QRegion CWordListControl::visualRegionForSelection(const QItemSelection &selecti
                                    : QTableView::visualRegionForSelection(selection);
 }
 
+int CWordListControl::numberColumnWidth() const
+{
+    const QString widest = QString(QString::number(m_model->Rows().EntryCount()).size(), u'8');
+    const int content = m_model->Rows().EntryCount() == 0
+        ? 0
+        : fontMetrics().horizontalAdvance(widest) + fontMetrics().averageCharWidth() * 2;
+    return std::max(content, horizontalHeader()->sectionSizeHint(0));
+}
+
 void CWordListControl::layoutColumns()
 {
-    const auto *const list = qobject_cast<const CWordListModel *>(model());
-    const int columns = list == nullptr ? 0 : list->columnCount();
+    const int columns = m_model == nullptr ? 0 : m_model->columnCount();
     if (columns == 0) {
         return;
     }
-    int available = viewport()->width();
+    constexpr int Margin = 10;
+    constexpr int FirstMore = 16; // The first language has the marks of the new-entry row beside its words.
+    int available = width() - verticalScrollBar()->sizeHint().width() - Margin;
     int first = 0;
-    if (list->field(0) == CWordListModel::NumberColumn) {
-        const QString widest = QString(QString::number(list->rowCount()).size(), u'8');
-        const int width =
-            std::max(fontMetrics().horizontalAdvance(widest) + fontMetrics().averageCharWidth() * 2,
-                horizontalHeader()->sectionSizeHint(0));
-        setColumnWidth(0, width);
-        available -= width;
+    if (m_model->field(0) == CWordListModel::NumberColumn) {
+        const int number = numberColumnWidth();
+        setColumnWidth(0, number);
+        available -= number;
         first = 1;
     }
-    const int shares = columns - first;
+    const int share = (available - FirstMore) / (columns - first);
     for (int column = first; column < columns; ++column) {
-        setColumnWidth(column, available / shares + (column == first ? available % shares : 0));
+        setColumnWidth(column, column == first ? share + FirstMore : share);
+    }
+}
+
+void CWordListControl::widenNumberColumn()
+{
+    if (m_model->field(0) == CWordListModel::NumberColumn && numberColumnWidth() > columnWidth(0)) {
+        setColumnWidth(0, numberColumnWidth());
+    }
+}
+
+int CWordListControl::CursorField() const
+{
+    return currentIndex().isValid() ? m_model->field(currentIndex().column()) : 0;
+}
+
+void CWordListControl::PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select)
+{
+    setAutoScroll(false);
+    selectionModel()->setCurrentIndex(index, select);
+    setAutoScroll(true);
+}
+
+void CWordListControl::SetCursor(int row, int field)
+{
+    PlaceCursor(m_model->index(row, m_model->column(field)), QItemSelectionModel::NoUpdate);
+}
+
+void CWordListControl::SetCursorField(int field)
+{
+    SetCursor(std::max(currentIndex().row(), 0), field);
+}
+
+std::vector<std::pair<int, int>> CWordListControl::SelectedRanges() const
+{
+    std::vector<std::pair<int, int>> ranges;
+    // Ranges, not rows one by one: a selection of a hundred thousand rows is a handful of ranges.
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        ranges.emplace_back(range.top(), range.bottom());
+    }
+    std::ranges::sort(ranges);
+    std::vector<std::pair<int, int>> joined;
+    for (const auto &[first, last] : ranges) {
+        if (!joined.empty() && first <= joined.back().second + 1) {
+            joined.back().second = std::max(joined.back().second, last);
+        } else {
+            joined.emplace_back(first, last);
+        }
+    }
+    return joined;
+}
+
+void CWordListControl::SelectRanges(const std::vector<std::pair<int, int>> &ranges)
+{
+    QItemSelection selection;
+    const int lastColumn = m_model->columnCount() - 1;
+    for (const auto &[first, last] : ranges) {
+        selection.append(QItemSelectionRange(m_model->index(first, 0), m_model->index(last, lastColumn)));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void CWordListControl::SelectRow(int row, bool ensureVisible)
+{
+    if (row < 0) {
+        clearSelection();
+        return;
+    }
+    const QModelIndex index = m_model->index(row, m_model->column(std::max(CursorField(), 0)));
+    PlaceCursor(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    // A row that shows in part counts as visible.
+    if (ensureVisible && !IsRowVisible(row)) {
+        scrollTo(index);
+    }
+}
+
+bool CWordListControl::IsRowVisible(int row) const
+{
+    const int top = rowViewportPosition(row);
+    return top + rowHeight(row) > 0 && top < viewport()->height();
+}
+
+void CWordListControl::SetHotRow(int row)
+{
+    m_hotRow = row;
+    viewport()->update();
+}
+
+void CWordListControl::EditCell(int row, int field)
+{
+    const QModelIndex index = m_model->index(row, m_model->column(field));
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index);
+    setFocus();
+    edit(index, AllEditTriggers, nullptr);
+}
+
+void CWordListControl::EndEditing(bool commit)
+{
+    if (IsEditing()) {
+        m_delegate->EndEditing(commit, false);
+    }
+    TellEnded();
+}
+
+void CWordListControl::commitData(QWidget *editor)
+{
+    // Taken down here and told from the event loop: two questions may follow, and an edit often ends in the
+    // middle of a change of the focus.
+    m_ended = m_delegate->TakeEdit(editor);
+    QMetaObject::invokeMethod(this, &CWordListControl::TellEnded, Qt::QueuedConnection);
+}
+
+void CWordListControl::TellEnded()
+{
+    if (m_ended) {
+        const CellEdit edit = *std::exchange(m_ended, std::nullopt);
+        Q_EMIT CellEdited(edit);
     }
 }

@@ -1,11 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QElapsedTimer>
+#include <QItemSelectionModel>
 #include <QTableView>
 
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+class CWordListDelegate;
 class CWordListModel;
 
-/// The table of the word list: whole rows are selected, rows have one height, columns share the width.
+/// How editing a cell in place ended, when it was not cancelled.
+struct CellEdit
+{
+    int row = 0;
+    int field = 0;
+    QString text;
+    bool byEnter = false;
+};
+
+/// The table of the word list: whole rows are selected, the current column is the cell cursor, rows have one
+/// height, columns share the width. Says what the user does; what follows is the view's.
 class CWordListControl : public QTableView
 {
     Q_OBJECT
@@ -13,14 +31,91 @@ class CWordListControl : public QTableView
 public:
     explicit CWordListControl(QWidget *parent = nullptr);
 
+    void setListModel(CWordListModel *model);
+    /// Asked at each key: whether typing starts editing.
+    void setQuickEdit(std::function<bool()> quickEdit) { m_quickEdit = std::move(quickEdit); }
     /// Gives the columns their widths: the number column fits its numbers, the others share what is left.
     void layoutColumns();
+    /// Makes the number column wide enough for its numbers.
+    void widenNumberColumn();
+
+    /// The field of the cell cursor.
+    int CursorField() const;
+    void SetCursorField(int field);
+    /// Scrolls nothing and selects nothing.
+    void SetCursor(int row, int field);
+    /// The row of the cell cursor; -1 for none.
+    int CursorRow() const { return currentIndex().row(); }
+
+    /// The selected rows as ranges (first, last), ascending.
+    std::vector<std::pair<int, int>> SelectedRanges() const;
+    /// Selects exactly these ranges, in one go.
+    void SelectRanges(const std::vector<std::pair<int, int>> &ranges);
+    /// Selects one row and puts the cell cursor there; -1 for none.
+    void SelectRow(int row, bool ensureVisible);
+    bool IsRowVisible(int row) const;
+
+    /// A row that stands out; -1 for none.
+    void SetHotRow(int row);
+    int HotRow() const { return m_hotRow; }
+    /// The list or the edit in one of its cells has the keyboard.
+    bool HasKeyboard() const { return hasFocus() || IsEditing(); }
+
+    bool IsEditing() const { return state() == EditingState; }
+    void EditCell(int row, int field);
+    /// Ends editing in place. A committed edit, also one that ended a moment ago, is told by CellEdited()
+    /// before this returns.
+    void EndEditing(bool commit);
+
+Q_SIGNALS:
+    void CellEdited(const CellEdit &edit);
+    void FlagClicked(int row, int language);
+    void FlagKeyPressed();
+    void CellDoubleClicked(int row, int field, bool shift);
+    void HeaderClicked(int field);
+    /// A menu for the selected rows, at a place on the screen.
+    void RowMenuRequested(const QPoint &place);
+    void HeaderMenuRequested(const QPoint &place);
+    /// The cell cursor may be in another column.
+    void CursorMoved();
+    /// Text was typed that begins a term; `row` is where to look first.
+    void SearchTyped(const QString &start, int row);
 
 protected:
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void keyboardSearch(const QString &search) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void commitData(QWidget *editor) override;
 
 private:
     void layoutRows();
+    /// Moves the cell cursor without the scrolling that follows its keys.
+    void PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select);
+    int numberColumnWidth() const;
+    /// The entry whose flag is drawn at a place, as row and language.
+    std::optional<std::pair<int, int>> FlagAt(const QPoint &place) const;
+    void MoveCursorField(int step);
+    void ScrollToCursorField();
+    void TellEnded();
+
+    CWordListModel *m_model = nullptr;
+    CWordListDelegate *m_delegate;
+    std::function<bool()> m_quickEdit;
+    int m_hotRow = -1;
+    std::optional<std::pair<int, int>> m_pressedFlag;
+    std::optional<CellEdit> m_ended;
+    QString m_typed;
+    QElapsedTimer m_sinceTyped;
 };

@@ -1,55 +1,156 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/word_list_delegate.h"
 
+#include "editor/ui/cell_colours.h"
+#include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
 
-#include <QApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 
-CWordListDelegate::CWordListDelegate(QObject *parent)
-    : QStyledItemDelegate(parent), m_flagOn(QStringLiteral(":/pictures/flag-on.svg")),
-      m_flagOff(QStringLiteral(":/pictures/flag-off.svg"))
+CWordListDelegate::CWordListDelegate(CWordListControl &list)
+    : QStyledItemDelegate(&list), m_list(list), m_flagOn(QStringLiteral(":/pictures/flag-on.svg")),
+      m_flagOff(QStringLiteral(":/pictures/flag-off.svg")), m_newRow(QStringLiteral(":/pictures/new-row.svg"))
 {
+}
+
+QRect CWordListDelegate::MarkArea(const QRect &cell, const QFontMetrics &metrics)
+{
+    const int size = std::min(metrics.height(), cell.height() - 4);
+    return {cell.left(), cell.top(), size + 2 * (size / 3), cell.height()};
 }
 
 void CWordListDelegate::paint(
     QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    QStyleOptionViewItem cell = option;
-    initStyleOption(&cell, index);
-    const QVariant flag = index.data(CWordListModel::FlagRole);
-    const auto *const model = qobject_cast<const CWordListModel *>(index.model());
-    if (model != nullptr && model->field(index.column()) == CWordListModel::NumberColumn) {
-        cell.palette.setColor(QPalette::Text, cell.palette.color(QPalette::PlaceholderText));
+    const auto *const model = static_cast<const CWordListModel *>(index.model());
+    const bool isNumber = model->field(index.column()) == CWordListModel::NumberColumn;
+    const CellColours colours = cellColours(option.palette,
+        {.selected = option.state.testFlag(QStyle::State_Selected),
+            .focused = m_list.HasKeyboard(),
+            .cursor = index.column() == m_list.currentIndex().column(),
+            .hot = index.row() == m_list.HotRow(),
+            .number = isNumber});
+    painter->fillRect(option.rect, colours.background);
+
+    QRect room = option.rect;
+    const QVariant mark = index.data(CWordListModel::MarkRole);
+    if (mark.isValid()) {
+        const QRect area = MarkArea(option.rect, option.fontMetrics);
+        // The marks keep the window's own background, on which they can be told also in a selected row.
+        painter->fillRect(area, option.palette.base());
+        const int size = std::min(option.fontMetrics.height(), option.rect.height() - 4);
+        QRect picture(0, 0, size, size);
+        picture.moveCenter(area.center());
+        const QIcon &icon = mark.toInt() == CWordListModel::NewRow ? m_newRow
+            : mark.toInt() == CWordListModel::Flagged              ? m_flagOn
+                                                                   : m_flagOff;
+        icon.paint(painter, picture);
+        room.setLeft(area.right() + 1);
     }
-    const QWidget *const widget = cell.widget;
-    QStyle *const style = widget != nullptr ? widget->style() : QApplication::style();
-    if (!flag.isValid()) {
-        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, widget);
+    room.adjust(isNumber || mark.isValid() ? 2 : 4, 1, isNumber ? -4 : -2, -1);
+    const QVariant alignment = index.data(Qt::TextAlignmentRole);
+    painter->setPen(colours.text);
+    painter->setFont(option.font);
+    painter->drawText(room,
+        (alignment.isValid() ? Qt::Alignment(alignment.toInt()) : Qt::AlignVCenter | Qt::AlignLeft)
+            | Qt::Alignment(Qt::TextSingleLine),
+        option.fontMetrics.elidedText(
+            index.data(Qt::DisplayRole).toString(), Qt::ElideRight, room.width(), Qt::TextSingleLine));
+}
+
+QWidget *CWordListDelegate::createEditor(
+    QWidget *parent, const QStyleOptionViewItem & /*option*/, const QModelIndex &index) const
+{
+    m_editor = new QLineEdit(parent);
+    m_editor->setObjectName(QStringLiteral("cellEditor"));
+    m_editor->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
+    m_editor->setFont(m_list.font());
+    m_editor->setFrame(false);
+    m_editor->setAutoFillBackground(true);
+    m_edited = index;
+    return m_editor;
+}
+
+void CWordListDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    // A change of the list must not undo what is being typed.
+    auto *const line = qobject_cast<QLineEdit *>(editor);
+    if (!line->isModified() && line->text().isEmpty()) {
+        line->setText(index.data(Qt::EditRole).toString());
+    }
+}
+
+void CWordListDelegate::updateEditorGeometry(
+    QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QRect place = option.rect;
+    if (index.data(CWordListModel::MarkRole).isValid()) {
+        place.setLeft(MarkArea(option.rect, option.fontMetrics).right() + 1);
+    }
+    editor->setGeometry(place);
+}
+
+void CWordListDelegate::EndEditing(bool commit, bool byEnter)
+{
+    if (!m_editor) {
         return;
     }
+    QLineEdit *const editor = m_editor;
+    if (commit) {
+        m_byEnter = byEnter;
+        Q_EMIT commitData(editor);
+        m_byEnter = false;
+    }
+    Q_EMIT closeEditor(editor, NoHint);
+}
 
-    QStyleOptionViewItem background = cell;
-    background.text.clear();
-    style->drawControl(QStyle::CE_ItemViewItem, &background, painter, widget);
+std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const
+{
+    const auto *const line = qobject_cast<QLineEdit *>(editor);
+    if (line == nullptr || line != m_editor || !m_edited.isValid()) {
+        return {};
+    }
+    m_editor = nullptr; // What ends twice is told once.
+    const auto *const model = static_cast<const CWordListModel *>(m_edited.model());
+    return CellEdit{m_edited.row(), model->field(m_edited.column()), line->text(), m_byEnter};
+}
 
-    const int size = std::min(cell.fontMetrics.height(), cell.rect.height() - 4);
-    const int gap = size / 3;
-    const QRect picture(cell.rect.left() + gap, cell.rect.center().y() - size / 2, size, size);
-    // The flag keeps the window's own background, on which it can be told also in a selected row.
-    painter->fillRect(QRect(cell.rect.left(), cell.rect.top(), size + 2 * gap, cell.rect.height()),
-        cell.features.testFlag(QStyleOptionViewItem::Alternate) ? cell.palette.alternateBase()
-                                                                : cell.palette.base());
-    (flag.toBool() ? m_flagOn : m_flagOff).paint(painter, picture);
-
-    const bool selected = cell.state.testFlag(QStyle::State_Selected);
-    const bool active = cell.state.testFlag(QStyle::State_Active);
-    const QRect room = cell.rect.adjusted(size + 2 * gap + 3, 1, -2, -1);
-    painter->save();
-    painter->setPen(cell.palette.color(
-        active ? QPalette::Active : QPalette::Inactive, selected ? QPalette::HighlightedText : QPalette::Text));
-    painter->setFont(cell.font);
-    painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine,
-        cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width()));
-    painter->restore();
+bool CWordListDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_editor) {
+        return false;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent *>(event)->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            EndEditing(true, true);
+            m_list.EndEditing(true);
+            return true;
+        case Qt::Key_Escape:
+            EndEditing(false, false);
+            return true;
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            EndEditing(true, false);
+            return true;
+        default:
+            return false;
+        }
+    }
+    if (event->type() == QEvent::FocusOut) {
+        // Another window, a menu or a list that pops up takes the focus for a while only.
+        switch (static_cast<QFocusEvent *>(event)->reason()) {
+        case Qt::ActiveWindowFocusReason:
+        case Qt::PopupFocusReason:
+        case Qt::MenuBarFocusReason:
+            break;
+        default:
+            EndEditing(true, false);
+        }
+    }
+    return false;
 }

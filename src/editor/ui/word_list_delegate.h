@@ -1,21 +1,52 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFontMetrics>
 #include <QIcon>
+#include <QPersistentModelIndex>
+#include <QPointer>
 #include <QStyledItemDelegate>
 
-/// Draws a cell of the word list: the flag of a language cell at its left edge, then the text; the number
-/// column in a quieter colour.
+#include <optional>
+
+class CWordListControl;
+class QLineEdit;
+struct CellEdit;
+
+/// Draws the cells of the word list: the mark at the left edge, then the text, in the colours of the row's
+/// selection and of the cell cursor; the number column in a quieter colour. Edits a cell in place in a line.
 class CWordListDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    explicit CWordListDelegate(QObject *parent = nullptr);
+    /// `list` owns the delegate.
+    explicit CWordListDelegate(CWordListControl &list);
+
+    /// Where the mark of a cell is drawn.
+    static QRect MarkArea(const QRect &cell, const QFontMetrics &metrics);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    QWidget *createEditor(
+        QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void updateEditorGeometry(
+        QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+    /// Closes the open editor.
+    void EndEditing(bool commit, bool byEnter);
+    /// What an editor that ends holds.
+    std::optional<CellEdit> TakeEdit(QWidget *editor) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    CWordListControl &m_list;
     QIcon m_flagOn;
     QIcon m_flagOff;
+    QIcon m_newRow;
+    mutable QPointer<QLineEdit> m_editor;
+    mutable QPersistentModelIndex m_edited;
+    bool m_byEnter = false;
 };

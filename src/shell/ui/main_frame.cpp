@@ -16,6 +16,7 @@
 #include "shell/ui/about_dialog.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/command_menus.h"
+#include "shell/ui/editor_commands.h"
 #include "shell/ui/recent_files_menu.h"
 #include "shell/ui/special_character_keys.h"
 
@@ -30,12 +31,6 @@
 #include <QToolBar>
 
 namespace {
-
-/// The edit box that has the focus: commands on text act on it alone.
-QLineEdit *FocusedEditBox()
-{
-    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
-}
 
 QStringList LocalFiles(const QMimeData &data)
 {
@@ -52,7 +47,11 @@ QStringList LocalFiles(const QMimeData &data)
 
 CMainFrame::CMainFrame(const FrameServices &services)
     : m_services(services), m_actions(new CCommandActions(services.texts, this)),
-      m_view(new CWin32View(services.document, services.editorSettings, services.texts, this)),
+      m_view(new CWin32View({services.document, services.editorSettings, services.arrangeSettings,
+                                services.texts, services.prompt, services.random},
+          this)),
+      m_editorCommands(
+          new CEditorCommands(*m_actions, *m_view, services.document, services.arrangeSettings, this)),
       m_statusText(new CElidedLabel(this)),
       m_quizLaunch(new CQuizLaunch(services.document, {services.texts, services.prompt, services.fonts.quizzes},
           services.quizSettings, services.random, *this, *this)),
@@ -81,7 +80,11 @@ CMainFrame::CMainFrame(const FrameServices &services)
             UpdateCommands();
         },
         Qt::QueuedConnection);
-    connect(qApp, &QApplication::focusChanged, this, &CMainFrame::UpdateCommands);
+    connect(m_editorCommands, &CEditorCommands::StateChanged, this, &CMainFrame::UpdateCommands);
+    connect(m_view, &CWin32View::RowMenuRequested, this,
+        [this](const QPoint &place) { ShowMenu(rowMenu(), place); });
+    connect(m_view, &CWin32View::ColumnMenuRequested, this,
+        [this](const QPoint &place) { ShowMenu(columnMenu(), place); });
     connect(&services.document, &CWin32Doc::FileConverted, m_view, &CWin32View::RefreshAll);
     setAcceptDrops(true);
     m_view->RefreshAll();
@@ -92,7 +95,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
 CMainFrame::~CMainFrame()
 {
     // The focus changes once more while the window's parts are taken down.
-    disconnect(qApp, nullptr, this, nullptr);
+    delete m_editorCommands;
 }
 
 void CMainFrame::ShowAsBefore()
@@ -153,8 +156,6 @@ void CMainFrame::ConnectCommands()
     m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
     m_actions->SetHandler(SendMail, [this] { m_services.document.OnFileSendMail(); });
     m_actions->SetHandler(Exit, [this] { close(); });
-    m_actions->SetHandler(CommandId::Undo, [this] { Undo(); });
-    m_actions->SetHandler(CommandId::Redo, [this] { Redo(); });
     m_actions->SetHandler(SpecialCharacters, [this] { m_services.specialCharacters.Toggle(); });
     connect(&m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this,
         [this](bool open) { m_actions->SetChecked(SpecialCharacters, open); });
@@ -188,15 +189,8 @@ void CMainFrame::Refresh()
 void CMainFrame::UpdateCommands()
 {
     using namespace CommandId;
-    const CWin32Doc &document = m_services.document;
-    const CWordList &list = document.List();
-    const QLineEdit *const editBox = FocusedEditBox();
-    m_actions->UpdateEnabled({.entries = list.Count(),
-        .selectedEntries = int(m_view->SelectedEntries().size()),
-        .inEditBox = editBox != nullptr,
-        .textSelected = editBox != nullptr && editBox->hasSelectedText(),
-        .canUndo = editBox != nullptr ? editBox->isUndoAvailable() : document.UndoCount() > 0,
-        .canRedo = editBox == nullptr && document.RedoCount() > 0});
+    const CWordList &list = m_services.document.List();
+    m_actions->UpdateEnabled(m_editorCommands->State());
     m_actions->UpdateCaptions(list.GetLanguage(0), list.GetLanguage(1));
 
     const auto isShown = [this](const char *bar) {
@@ -217,21 +211,13 @@ void CMainFrame::UpdateCommands()
     m_actions->SetChecked(SortByLength, arrange.byLength);
 }
 
-void CMainFrame::Undo()
+void CMainFrame::ShowMenu(const QList<int> &commands, const QPoint &place)
 {
-    if (QLineEdit *const editBox = FocusedEditBox()) {
-        editBox->undo();
-        UpdateCommands();
-    } else {
-        m_services.document.Undo();
-    }
-}
-
-void CMainFrame::Redo()
-{
-    if (FocusedEditBox() == nullptr) {
-        m_services.document.Redo();
-    }
+    UpdateCommands();
+    auto *const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillMenu(*menu, commands, *m_actions, m_services.texts);
+    menu->popup(place);
 }
 
 std::vector<int> CMainFrame::SelectedEntries() const

@@ -11,6 +11,7 @@
 #include <optional>
 
 class CCommandActions;
+class CEditorCommands;
 class CElidedLabel;
 class CFileCommands;
 class CQuizLaunch;
@@ -39,8 +40,8 @@ struct FrameServices
     CFileCommands &files;
     const CRecentFiles &recent;
     const CTexts &texts;
-    const EditorSettings &editorSettings;
-    const ArrangeSettings &arrangeSettings;
+    EditorSettings &editorSettings;
+    ArrangeSettings &arrangeSettings;
     QuizSettings &quizSettings;
     IUserPrompt &prompt;
     CRandom &random;
@@ -89,14 +90,15 @@ private:
     void ConnectQuizCommands();
     void Refresh();
     void UpdateCommands();
-    void Undo();
-    void Redo();
+    /// A menu of the commands that a list names.
+    void ShowMenu(const QList<int> &commands, const QPoint &place);
     void OpenDropped(const QStringList &paths);
     void Moved();
 
     FrameServices m_services;
     CCommandActions *m_actions;
     CWin32View *m_view;
+    CEditorCommands *m_editorCommands;
     CElidedLabel *m_statusText;
     CQuizLaunch *m_quizLaunch;
     CWindowPlace m_place;

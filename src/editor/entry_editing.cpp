@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "editor/entry_editing.h"
+
+#include "document/win32_doc.h"
+#include "editor/row_model.h"
+#include "model/term_syntax.h"
+#include "platform/user_prompt.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+#include "settings/editor_settings.h"
+#include "settings/shell_settings.h"
+
+using Action = EditStep::Action;
+
+SortOptions sortOptions(const ArrangeSettings &settings)
+{
+    return {.ascending = !settings.descending,
+        .groupFlagged = settings.groupFlagged,
+        .byLength = settings.byLength};
+}
+
+CEntryEditing::CEntryEditing(EntryEditingServices services, IEntryView &view)
+    : m_services(services), m_view(view)
+{
+}
+
+QString CEntryEditing::Corrected(const QString &term)
+{
+    if (!m_services.settings.synonymWarning) {
+        return term;
+    }
+    const std::optional<QString> proposal = SuggestTermCorrection(term);
+    // A term of brackets alone would become none at all.
+    const bool accepted = proposal && !proposal->isEmpty()
+        && m_services.prompt.Confirm(m_services.texts.Prompt(Text::ProposeCorrection, {*proposal}),
+            PromptIcon::Information, PromptButtons::YesNo, PromptAnswer::Yes);
+    return accepted ? *proposal : term;
+}
+
+int CEntryEditing::AskAboutSimilar(int similar)
+{
+    if (!m_services.settings.duplicateVarning || similar < 0) {
+        return CRowModel::NoEntry;
+    }
+    m_view.MarkEntry(similar);
+    const bool accepted =
+        m_services.prompt.Confirm(m_services.texts.Prompt(Text::SelectSimilar, {QString::number(similar + 1)}),
+            PromptIcon::Question, PromptButtons::YesNo, PromptAnswer::Yes);
+    m_view.MarkEntry(CRowModel::NoEntry);
+    return accepted ? similar : CRowModel::NoEntry;
+}
+
+int CEntryEditing::Add(const EntryTexts &texts)
+{
+    const EditorSettings &settings = m_services.settings;
+    const InsertOptions options = {.checkSimilar = settings.duplicateVarning,
+        .position = m_services.rows.InsertionPoint(),
+        .sortAfter = settings.sortNewWords,
+        .sort = sortOptions(m_services.arrange)};
+    int similar = CRowModel::NoEntry;
+    m_view.AddEntry(
+        [&] {
+            similar = m_services.document.BeginChange().Insert(
+                CWordEntry(texts[0], texts[1], texts[2], settings.newwordflag, settings.newwordflag), options);
+        },
+        settings.sortNewWords);
+    return AskAboutSimilar(similar);
+}
+
+int CEntryEditing::Change(int entry, bool changes, const std::function<int(CWordList &)> &change)
+{
+    if (!changes) {
+        // No step for undo, but the entry may have been like another one before: asked of a copy.
+        CWordList copy = m_services.document.List();
+        return change(copy);
+    }
+    const int similar = change(m_services.document.BeginChange());
+    m_view.EntryChanged(entry);
+    return similar;
+}
+
+EditStep CEntryEditing::FromFields(const EntryTexts &texts, int entry)
+{
+    EntryTexts wanted = {NormalizeTerm(texts[0]), NormalizeTerm(texts[1]), texts[2]};
+    if (wanted[0].isEmpty() && wanted[1].isEmpty()) {
+        return {Action::FocusField, m_services.settings.lang1first ? 0 : 1};
+    }
+    for (const int language : {0, 1}) {
+        if (wanted[size_t(language)].isEmpty()) {
+            return {Action::FocusField, language};
+        }
+    }
+    for (const size_t language : {0u, 1u}) {
+        wanted[language] = Corrected(wanted[language]);
+    }
+    if (!wanted[2].isEmpty() && !m_services.settings.showNotes) {
+        m_view.ShowNotes();
+    }
+    if (entry < 0 || entry >= m_services.document.List().Count()) {
+        const int similar = Add(wanted);
+        return similar >= 0 ? EditStep{Action::SelectEntry, similar} : EditStep{Action::ClearFields};
+    }
+    const CWordEntry &old = m_services.document.List().Entry(entry);
+    const bool changes =
+        old.GetText(0) != wanted[0] || old.GetText(1) != wanted[1] || old.GetNote() != wanted[2];
+    const bool warn = m_services.settings.duplicateVarning;
+    const int similar = AskAboutSimilar(Change(entry, changes,
+        [&](CWordList &list) { return list.ReplaceEntry(entry, wanted[0], wanted[1], wanted[2], warn); }));
+    if (similar >= 0) {
+        return {Action::SelectEntry, similar};
+    }
+    // The next one is loaded at once, so that a list is gone through quickly.
+    return entry + 1 < m_services.document.List().Count() ? EditStep{Action::SelectEntry, entry + 1}
+                                                          : EditStep{Action::ClearSelection};
+}
+
+EditStep CEntryEditing::CellEdited(int row, int field, const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    const bool isTerm = field != CWordEntry::NoteField;
+    if (isTerm && trimmed.isEmpty()) {
+        return {};
+    }
+    if (m_services.rows.IsNewEntryRow(row)) {
+        return NewEntryCellEdited(field, trimmed);
+    }
+    const int entry = m_services.rows.EntryOfRow(row);
+    if (entry < 0 || entry >= m_services.document.List().Count()) {
+        return {};
+    }
+    const QString wanted = isTerm ? NormalizeTerm(Corrected(trimmed)) : trimmed;
+    // A text of separators alone normalises to nothing, and terms are never empty.
+    if (isTerm && wanted.isEmpty()) {
+        return {};
+    }
+    const bool changes = wanted != m_services.document.List().Entry(entry).GetField(field);
+    const bool warn = m_services.settings.duplicateVarning;
+    const int accepted = AskAboutSimilar(Change(
+        entry, changes, [&](CWordList &list) { return list.SetEntryField(wanted, field, entry, warn); }));
+    return accepted >= 0 ? EditStep{Action::SelectEntry, accepted} : EditStep{};
+}
+
+EditStep CEntryEditing::NewEntryCellEdited(int field, const QString &text)
+{
+    EntryTexts &pending = m_services.rows.pending;
+    pending[size_t(field)] = text;
+    for (const size_t language : {0u, 1u}) {
+        pending[language] = NormalizeTerm(pending[language]);
+    }
+    m_view.PendingChanged();
+    for (const int language : {0, 1}) {
+        if (pending[size_t(language)].isEmpty()) {
+            return {Action::EditNewEntry, language};
+        }
+    }
+    if (m_services.settings.showNotes && field != CWordEntry::NoteField && pending[2].isEmpty()) {
+        return {Action::EditNewEntry, CWordEntry::NoteField};
+    }
+    return AddPending();
+}
+
+EditStep CEntryEditing::AddPending()
+{
+    EntryTexts texts = m_services.rows.pending;
+    for (const size_t language : {0u, 1u}) {
+        texts[language] = Corrected(texts[language]);
+    }
+    m_services.rows.pending = {};
+    const int similar = Add(texts);
+    return similar >= 0 ? EditStep{Action::SelectEntry, similar}
+                        : EditStep{Action::EditNewEntry, m_services.settings.lang1first ? 0 : 1};
+}
+
+bool CEntryEditing::DeleteEntries(std::span<const int> entries)
+{
+    if (entries.empty()
+        || !m_services.prompt.Confirm(
+            m_services.texts.Prompt(Text::ReallyDelete, {QString::number(entries.size())}), PromptIcon::Warning,
+            PromptButtons::YesNoCancel, PromptAnswer::Yes)) {
+        return false;
+    }
+    m_view.RemoveEntries(entries, [&] { m_services.document.BeginChange().DeleteEntries(entries); });
+    return true;
+}
+
+void CEntryEditing::SetFlags(int language, std::span<const int> entries, FlagMode mode)
+{
+    if (!entries.empty() && (language == 0 || language == 1)) {
+        m_services.document.BeginChange().SetFlags(language, entries, mode);
+    }
+}

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/word_list.h"
+
+#include <array>
+#include <functional>
+#include <span>
+
+class CRowModel;
+class CTexts;
+class CWin32Doc;
+class IUserPrompt;
+struct ArrangeSettings;
+struct EditorSettings;
+
+/// How entry editing shows what it does.
+class IEntryView
+{
+public:
+    IEntryView() = default;
+    virtual ~IEntryView() = default;
+    IEntryView(const IEntryView &) = delete;
+    IEntryView &operator=(const IEntryView &) = delete;
+
+    /// Runs `add`, which adds an entry at the insertion point or, when `sorted`, anywhere, and moves the
+    /// insertion point down by one.
+    virtual void AddEntry(const std::function<void()> &add, bool sorted) = 0;
+    virtual void EntryChanged(int entry) = 0;
+    /// Runs `remove`, which removes these entries, ascending, and moves the insertion point up by those that
+    /// stood above it.
+    virtual void RemoveEntries(std::span<const int> entries, const std::function<void()> &remove) = 0;
+    /// A text of the new-entry row changed.
+    virtual void PendingChanged() = 0;
+    virtual void ShowNotes() = 0;
+    /// Brings an entry fully into sight and lets it stand out while a question about it is open; -1 ends that.
+    virtual void MarkEntry(int entry) = 0;
+};
+
+/// What an edit box or the entry fields held.
+using EntryTexts = std::array<QString, CWordEntry::FieldCount>;
+
+/// What the view does after an edit.
+struct EditStep
+{
+    enum class Action {
+        /// Everything stays as it is.
+        None,
+        /// The field `index` takes the focus; nothing was stored.
+        FocusField,
+        /// The entry `index` becomes the selection.
+        SelectEntry,
+        /// The selection becomes empty without the focus moving.
+        ClearSelection,
+        /// The fields are emptied for the next entry.
+        ClearFields,
+        /// The field `index` of the new-entry row is edited next.
+        EditNewEntry
+    };
+    Action action = Action::None;
+    int index = 0;
+    bool operator==(const EditStep &) const = default;
+};
+
+/// What the entry editor is handed; none of it is owned.
+struct EntryEditingServices
+{
+    CWin32Doc &document;
+    CRowModel &rows;
+    const EditorSettings &settings;
+    const ArrangeSettings &arrange;
+    const CTexts &texts;
+    IUserPrompt &prompt;
+};
+
+/// Makes, changes and deletes entries: from the entry fields, from cells edited in place, and by the delete
+/// command. Proposes corrected terms and warns of similar entries. Each call takes one step for undo at most.
+class CEntryEditing
+{
+public:
+    CEntryEditing(EntryEditingServices services, IEntryView &view);
+
+    /// The add-or-change button. `entry` is the one to change, CRowModel::NoEntry to add one.
+    EditStep FromFields(const EntryTexts &texts, int entry);
+    /// A cell was edited and not cancelled.
+    EditStep CellEdited(int row, int field, const QString &text);
+    /// Asks before it deletes; true when the entries are gone. `entries` is ascending.
+    bool DeleteEntries(std::span<const int> entries);
+    /// Flags or unflags entries in a language.
+    void SetFlags(int language, std::span<const int> entries, FlagMode mode);
+
+private:
+    EditStep NewEntryCellEdited(int field, const QString &text);
+    EditStep AddPending();
+    /// Returns a similar entry that the user wants to see, or NoEntry.
+    int Add(const EntryTexts &texts);
+    /// Runs `change`, which returns a similar entry, on the list when it `changes` something, and returns that.
+    int Change(int entry, bool changes, const std::function<int(CWordList &)> &change);
+    /// The term as it is, or as the user lets it be corrected.
+    QString Corrected(const QString &term);
+    int AskAboutSimilar(int similar);
+
+    EntryEditingServices m_services;
+    IEntryView &m_view;
+};
+
+/// The sort options as the list takes them: stored is whether the order descends.
+SortOptions sortOptions(const ArrangeSettings &settings);

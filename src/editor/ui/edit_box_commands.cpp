@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "editor/ui/edit_box_commands.h"
+
+#include <QApplication>
+#include <QLineEdit>
+
+QLineEdit *focusedEditBox()
+{
+    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
+}
+
+void changeText(QLineEdit &box, TextBox (*change)(const TextBox &))
+{
+    TextBox before = {box.text(), box.cursorPosition(), box.cursorPosition()};
+    if (box.hasSelectedText()) {
+        before.selectionStart = box.selectionStart();
+        before.selectionEnd = box.selectionEnd();
+    }
+    const TextBox after = change(before);
+    if (after.text != before.text) {
+        box.selectAll();
+        box.insert(after.text); // Unlike setText(), what can be undone.
+    }
+    box.setFocus();
+    box.setCursorPosition(after.selectionEnd);
+}

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "editor/ui/entry_fields.h"
+
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(parent), m_texts(texts)
+{
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (size_t i = 0; i < m_fields.size(); ++i) {
+        m_labels[i] = new QLabel(this);
+        m_fields[i] = new QLineEdit(this);
+        m_fields[i]->setObjectName(QStringLiteral("field%1").arg(i));
+        m_labels[i]->setBuddy(m_fields[i]);
+        layout->addWidget(m_labels[i], int(i), 0);
+        layout->addWidget(m_fields[i], int(i), 1);
+        connect(m_fields[i], &QLineEdit::returnPressed, this, &CEntryFields::AddOrChange);
+    }
+    auto *newEntry = MakeButton(Text::ClearFieldsButton, "newEntryButton");
+    m_addOrChange = MakeButton(Text::AddButton, "addButton");
+    layout->addWidget(newEntry, 0, 2);
+    layout->addWidget(m_addOrChange, 1, 2);
+    layout->setColumnStretch(1, 1);
+    connect(newEntry, &QPushButton::clicked, this, &CEntryFields::NewEntry);
+    connect(m_addOrChange, &QPushButton::clicked, this, &CEntryFields::AddOrChange);
+    // Wide enough for both of its texts.
+    SetChangeMode(true);
+    const int changeWidth = m_addOrChange->sizeHint().width();
+    SetChangeMode(false);
+    m_addOrChange->setMinimumWidth(std::max(changeWidth, m_addOrChange->sizeHint().width()));
+}
+
+QPushButton *CEntryFields::MakeButton(int text, const char *name)
+{
+    auto *button = new QPushButton(m_texts.Get(text), this);
+    button->setObjectName(QLatin1StringView(name));
+    return button;
+}
+
+void CEntryFields::SetLanguages(const QString &language1, const QString &language2)
+{
+    const std::array names = {language1, language2};
+    for (size_t i = 0; i < m_fields.size(); ++i) {
+        QString name = i < names.size() ? names[i] : QString();
+        m_labels[i]->setText(m_texts.Fill(Text::FieldLanguage1 + int(i), {name.replace(u'&', u"&&"_qs)}));
+        m_fields[i]->setAccessibleName(i < names.size() ? names[i] : m_texts.Get(Text::Note));
+    }
+}
+
+EntryTexts CEntryFields::Texts() const
+{
+    return {m_fields[0]->text(), m_fields[1]->text(), m_fields[2]->text()};
+}
+
+void CEntryFields::SetTexts(const EntryTexts &texts)
+{
+    for (size_t i = 0; i < m_fields.size(); ++i) {
+        m_fields[i]->setText(texts[i]);
+        m_fields[i]->setCursorPosition(0);
+    }
+}
+
+void CEntryFields::SetChangeMode(bool change)
+{
+    m_changeMode = change;
+    m_addOrChange->setText(m_texts.Get(change ? Text::ChangeButton : Text::AddButton));
+    m_addOrChange->setIcon(
+        QIcon(change ? QStringLiteral(":/icons/document-edit.svg") : QStringLiteral(":/pictures/new-row.svg")));
+}
+
+void CEntryFields::FocusField(int field)
+{
+    QLineEdit *const line = m_fields[size_t(field)];
+    line->setFocus(Qt::OtherFocusReason);
+    line->selectAll();
+}

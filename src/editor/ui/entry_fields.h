@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/entry_editing.h"
+
+#include <QWidget>
+
+#include <array>
+
+class CTexts;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+/// The three fields below the list in which an entry is typed or changed, with their buttons.
+class CEntryFields : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CEntryFields(const CTexts &texts, QWidget *parent = nullptr);
+
+    void SetLanguages(const QString &language1, const QString &language2);
+    EntryTexts Texts() const;
+    void SetTexts(const EntryTexts &texts);
+    /// In change mode the fields hold an entry of the list, else one that is to be added.
+    void SetChangeMode(bool change);
+    bool IsChangeMode() const { return m_changeMode; }
+    void FocusField(int field);
+
+Q_SIGNALS:
+    void NewEntry();
+    void AddOrChange();
+
+private:
+    QPushButton *MakeButton(int text, const char *name);
+
+    const CTexts &m_texts;
+    std::array<QLabel *, CWordEntry::FieldCount> m_labels;
+    std::array<QLineEdit *, CWordEntry::FieldCount> m_fields;
+    QPushButton *m_addOrChange;
+    bool m_changeMode = false;
+};

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "document/win32_doc.h"
+#include "editor/ui/entry_fields.h"
+#include "editor/ui/win32_view.h"
+#include "editor/ui/word_list_control.h"
+#include "editor/word_list_model.h"
+#include "platform/ui/wait_cursor.h"
+#include "settings/editor_settings.h"
+#include "settings/shell_settings.h"
+
+void CWin32View::EndEditing(bool commit)
+{
+    m_list->EndEditing(commit);
+}
+
+void CWin32View::CellEdited(const CellEdit &edit)
+{
+    Follow(m_editing.CellEdited(edit.row, edit.field, edit.text), edit.byEnter);
+    AfterChange();
+}
+
+void CWin32View::FieldsEntered()
+{
+    EndEditing(true);
+    const int entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : CRowModel::NoEntry;
+    Follow(m_editing.FromFields(m_fields->Texts(), entry), true);
+    AfterChange();
+}
+
+void CWin32View::Follow(const EditStep &step, bool byEnter)
+{
+    switch (step.action) {
+    case EditStep::Action::None:
+        break;
+    case EditStep::Action::FocusField:
+        m_fields->FocusField(step.index);
+        break;
+    case EditStep::Action::SelectEntry:
+        SelectEntry(step.index);
+        break;
+    case EditStep::Action::ClearSelection:
+        m_list->SelectRow(-1, false);
+        break;
+    case EditStep::Action::ClearFields:
+        m_list->scrollTo(m_model->index(InsertionPoint(), m_model->column(0)));
+        ClearFields();
+        break;
+    case EditStep::Action::EditNewEntry:
+        if (byEnter) {
+            m_list->EditCell(InsertionPoint(), step.index);
+        }
+        break;
+    }
+}
+
+void CWin32View::AfterChange()
+{
+    m_services.document.UpdateTitleMark();
+    UpdateStatusText();
+}
+
+void CWin32View::ClearFields()
+{
+    m_list->SelectRow(-1, false);
+    m_fields->SetTexts({});
+    m_fields->SetChangeMode(false);
+    if (m_services.settings.showEditFields) {
+        m_fields->FocusField(m_services.settings.lang1first ? 0 : 1);
+    }
+    UpdateStatusText();
+}
+
+void CWin32View::AddEntry(const std::function<void()> &add, bool sorted)
+{
+    m_model->AddEntry(add);
+    if (sorted) {
+        m_model->AllRowsChanged();
+    }
+    m_list->widenNumberColumn();
+}
+
+void CWin32View::EntryChanged(int entry)
+{
+    RedrawEntries(entry, -1);
+}
+
+void CWin32View::RemoveEntries(std::span<const int> entries, const std::function<void()> &remove)
+{
+    const CWaitCursor wait;
+    m_suppressSelectionSync = true;
+    m_model->RemoveEntries(entries, remove);
+    m_suppressSelectionSync = false;
+    ResetRows(false);
+}
+
+void CWin32View::PendingChanged()
+{
+    m_model->RowsChanged(InsertionPoint(), InsertionPoint());
+}
+
+void CWin32View::ShowNotes()
+{
+    if (!m_services.settings.showNotes) {
+        ToggleNotes();
+    }
+}
+
+void CWin32View::MarkEntry(int entry)
+{
+    const int row = entry < 0 ? -1 : m_model->Rows().RowOfEntry(entry);
+    if (row >= 0) {
+        m_list->scrollTo(m_model->index(row, m_model->column(0)));
+    }
+    m_list->SetHotRow(row);
+}
+
+void CWin32View::DeleteSelection()
+{
+    EndEditing(true);
+    const std::vector<int> entries = SelectedEntries();
+    const bool hadKeyboard = m_list->hasFocus();
+    if (m_editing.DeleteEntries(entries)) {
+        AfterChange();
+    }
+    if (hadKeyboard) {
+        m_list->setFocus();
+    }
+}
+
+void CWin32View::PlaceInsertionPoint()
+{
+    EndEditing(true);
+    if (m_list->CursorRow() >= 0) {
+        SetInsertionPoint(m_list->CursorRow());
+    }
+}
+
+void CWin32View::Step(int step)
+{
+    EndEditing(true);
+    const auto ranges = m_list->SelectedRanges();
+    const int row = ranges.empty() ? -1 : ranges.front().first;
+    m_list->SelectRow(steppedRow(row, step, m_model->rowCount()), true);
+}
+
+void CWin32View::ToggleWordNumber()
+{
+    EndEditing(false);
+    const CWaitCursor wait;
+    m_services.settings.showWordNumber = !m_services.settings.showWordNumber;
+    RefreshAll();
+    m_list->SetCursorField(0);
+}
+
+void CWin32View::ToggleEditFields()
+{
+    EndEditing(false);
+    m_services.settings.showEditFields = !m_services.settings.showEditFields;
+    m_fields->setVisible(m_services.settings.showEditFields);
+    if (!m_services.settings.showEditFields) {
+        m_list->setFocus();
+    }
+}
+
+void CWin32View::ToggleNotes()
+{
+    EndEditing(false);
+    const CWaitCursor wait;
+    m_services.settings.showNotes = !m_services.settings.showNotes;
+    RefreshAll();
+}
+
+void CWin32View::Sort(int field)
+{
+    EndEditing(true);
+    if (m_services.document.List().Count() < 2) {
+        return;
+    }
+    {
+        const CWaitCursor wait;
+        m_services.document.BeginChange().Sort(field, sortOptions(m_services.arrange), m_services.random);
+    }
+    m_model->AllRowsChanged();
+    m_list->SelectRow(InsertionPoint(), false);
+    AfterChange();
+}
+
+void CWin32View::SetFlags(FlagMode mode)
+{
+    m_editing.SetFlags(CursorField(), SelectedEntries(), mode);
+    m_model->AllRowsChanged();
+    AfterChange();
+}
+
+void CWin32View::FlagClicked(int row, int language)
+{
+    EndEditing(true);
+    const int entry = m_model->Rows().EntryOfRow(row);
+    if (entry >= 0 && entry < m_services.document.List().Count()) {
+        m_editing.SetFlags(language, std::array{entry}, FlagMode::Toggle);
+        m_model->RowsChanged(row, row);
+        AfterChange();
+    }
+}
+
+void CWin32View::CellDoubleClicked(int row, int field, bool shift)
+{
+    const bool onNumber = field == CWordListModel::NumberColumn;
+    if (shift || onNumber) {
+        if (shift || !m_model->Rows().IsNewEntryRow(row)) {
+            EndEditing(true);
+            SetInsertionPoint(row);
+        }
+    } else {
+        m_list->EditCell(row, field);
+    }
+}
+
+void CWin32View::SearchTyped(const QString &start, int row)
+{
+    const CRowModel &rows = m_model->Rows();
+    const int from = std::max(rows.EntryOfRow(rows.IsNewEntryRow(row) ? row + 1 : row), 0);
+    const int column = CursorField() == 0 || CursorField() == 1 ? CursorField() : -1;
+    const int found = m_services.document.List().FindPrefix(start, column, from);
+    if (found >= 0) {
+        SelectEntry(found);
+    }
+}

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "document/win32_doc.h"
+#include "editor/ui/entry_fields.h"
+#include "editor/ui/win32_view.h"
+#include "editor/ui/word_list_control.h"
+#include "editor/word_list_model.h"
+
+std::vector<int> CWin32View::SelectedEntries() const
+{
+    std::vector<int> entries;
+    const CRowModel &rows = m_model->Rows();
+    for (const auto &[first, last] : m_list->SelectedRanges()) {
+        for (int row = first; row <= last; ++row) {
+            if (!rows.IsNewEntryRow(row)) {
+                entries.push_back(rows.EntryOfRow(row));
+            }
+        }
+    }
+    return entries;
+}
+
+int CWin32View::SelectedRowCount() const
+{
+    int count = 0;
+    for (const auto &[first, last] : m_list->SelectedRanges()) {
+        count += last - first + 1;
+    }
+    return count;
+}
+
+int CWin32View::SelectedEntryCount() const
+{
+    const bool newRow =
+        m_list->selectionModel()->isSelected(m_model->index(InsertionPoint(), m_model->column(0)));
+    return SelectedRowCount() - int(newRow);
+}
+
+int CWin32View::FirstSelectedEntry() const
+{
+    const CRowModel &rows = m_model->Rows();
+    for (const auto &[first, last] : m_list->SelectedRanges()) {
+        for (int row = first; row <= std::min(last, first + 1); ++row) {
+            if (!rows.IsNewEntryRow(row)) {
+                return rows.EntryOfRow(row);
+            }
+        }
+    }
+    return CRowModel::NoEntry;
+}
+
+int CWin32View::CursorField() const
+{
+    return m_list->CursorField();
+}
+
+void CWin32View::SelectEntry(int entry)
+{
+    m_list->SelectRow(entry < 0 ? -1 : m_model->Rows().RowOfEntry(entry), true);
+}
+
+void CWin32View::SelectEntries(const std::vector<int> &entries)
+{
+    const CRowModel &rows = m_model->Rows();
+    std::vector<std::pair<int, int>> ranges;
+    bool inSight = false;
+    for (const int entry : entries) {
+        const int row = rows.RowOfEntry(entry);
+        if (entry < 0 || row >= rows.RowCount()) {
+            continue;
+        }
+        inSight = inSight || m_list->IsRowVisible(row);
+        if (!ranges.empty() && ranges.back().second == row - 1) {
+            ranges.back().second = row;
+        } else {
+            ranges.emplace_back(row, row);
+        }
+    }
+    m_suppressSelectionSync = true;
+    m_list->SelectRanges(ranges);
+    if (!ranges.empty()) {
+        m_list->SetCursor(ranges.front().first, std::max(CursorField(), 0));
+        if (!inSight) {
+            m_list->scrollTo(m_list->currentIndex());
+        }
+    }
+    m_suppressSelectionSync = false;
+    ReadSelection();
+}
+
+void CWin32View::SelectEntryRange(int first, int last)
+{
+    std::vector<int> entries;
+    for (int entry = first; entry <= last; ++entry) {
+        entries.push_back(entry);
+    }
+    SelectEntries(entries);
+}
+
+void CWin32View::SelectAll()
+{
+    EndEditing(true);
+    const CRowModel &rows = m_model->Rows();
+    std::vector<std::pair<int, int>> ranges;
+    if (InsertionPoint() > 0) {
+        ranges.emplace_back(0, InsertionPoint() - 1);
+    }
+    if (InsertionPoint() < rows.EntryCount()) {
+        ranges.emplace_back(InsertionPoint() + 1, rows.RowCount() - 1);
+    }
+    m_list->SelectRanges(ranges);
+}
+
+void CWin32View::ReadSelection()
+{
+    const int entry = FirstSelectedEntry();
+    if (entry >= m_services.document.List().Count()) {
+        RefreshAll(); // The rows are older than the list.
+        return;
+    }
+    m_fields->SetChangeMode(entry >= 0);
+    if (entry >= 0) {
+        const CWordEntry &shown = m_services.document.List().Entry(entry);
+        m_fields->SetTexts({shown.GetText(0), shown.GetText(1), shown.GetNote()});
+    } else {
+        m_fields->SetTexts({});
+    }
+    UpdateStatusText();
+    Q_EMIT SelectionChanged();
+}
+
+int CWin32View::InsertionPoint() const
+{
+    return m_model->Rows().InsertionPoint();
+}
+
+void CWin32View::SetInsertionPoint(int row)
+{
+    m_model->SetInsertionPoint(row);
+    ReadSelection();
+}
+
+void CWin32View::MoveInsertionPoint(int delta)
+{
+    SetInsertionPoint(InsertionPoint() + delta);
+}

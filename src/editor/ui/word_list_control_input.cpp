@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "editor/ui/word_list_control.h"
+
+#include "editor/ui/word_list_delegate.h"
+#include "editor/word_list_model.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+void CWordListControl::keyPressEvent(QKeyEvent *event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        MoveCursorField(event->key() == Qt::Key_Left ? -1 : 1);
+        return;
+    case Qt::Key_Space:
+        if (plain) {
+            Q_EMIT FlagKeyPressed();
+            return;
+        }
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (plain && currentIndex().isValid()) {
+            EditCell(currentIndex().row(), CursorField());
+            return;
+        }
+        break;
+    default:
+        break;
+    }
+    const QString text = event->text();
+    const bool isText = !text.isEmpty() && text.at(0).isPrint() && text.at(0) != u' ';
+    const bool isMove = text.isEmpty() || event->matches(QKeySequence::SelectAll);
+    // The toolkit would copy the current cell although nothing is selected, and edit at a delete key.
+    if (!isText && !isMove) {
+        event->ignore();
+        return;
+    }
+    setEditTriggers(isText && m_quickEdit() ? AnyKeyPressed : NoEditTriggers);
+    QTableView::keyPressEvent(event);
+    setEditTriggers(NoEditTriggers);
+}
+
+void CWordListControl::inputMethodEvent(QInputMethodEvent *event)
+{
+    // What an input method, a dead key or a compose sequence makes is typing too. It begins when the text is
+    // ready: the focus that goes to an editor would end the composing.
+    const QString text = event->commitString();
+    if (text.isEmpty() || !currentIndex().isValid()) {
+        return;
+    }
+    if (!m_quickEdit()) {
+        keyboardSearch(text);
+        return;
+    }
+    EditCell(currentIndex().row(), CursorField());
+    if (QWidget *const editor = QApplication::focusWidget(); IsEditing() && editor != nullptr) {
+        QCoreApplication::sendEvent(editor, event);
+    }
+}
+
+void CWordListControl::keyboardSearch(const QString &search)
+{
+    const bool goesOn =
+        m_sinceTyped.isValid() && m_sinceTyped.elapsed() < QApplication::keyboardInputInterval();
+    m_typed = goesOn ? m_typed + search : search;
+    m_sinceTyped.start();
+    const int row = currentIndex().row();
+    Q_EMIT SearchTyped(m_typed, goesOn ? std::max(row, 0) : (row + 1) % m_model->rowCount());
+}
+
+QModelIndex CWordListControl::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int column = m_model->column(std::max(CursorField(), 0));
+    switch (action) {
+    case MoveHome:
+        return m_model->index(0, column);
+    case MoveEnd:
+        return m_model->index(m_model->rowCount() - 1, column);
+    default:
+        return QTableView::moveCursor(action, modifiers);
+    }
+}
+
+void CWordListControl::MoveCursorField(int step)
+{
+    const int field = CursorField() + step;
+    const int column = m_model->column(field);
+    if (!currentIndex().isValid() || field < 0 || column >= m_model->columnCount()) {
+        return;
+    }
+    SetCursorField(field);
+    ScrollToCursorField();
+}
+
+void CWordListControl::ScrollToCursorField()
+{
+    const int column = currentIndex().column();
+    const int left = columnViewportPosition(column);
+    if (left < 0 || left + columnWidth(column) > viewport()->width()) {
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + left);
+    }
+}
+
+void CWordListControl::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.isValid() && m_model->field(current.column()) == CWordListModel::NumberColumn) {
+        // The cell cursor never stands on a number.
+        const int field = previous.isValid() ? std::max(m_model->field(previous.column()), 0) : 0;
+        selectionModel()->setCurrentIndex(
+            m_model->index(current.row(), m_model->column(field)), QItemSelectionModel::NoUpdate);
+        return;
+    }
+    // Its colour stands in every selected row.
+    if (current.column() != previous.column()) {
+        viewport()->update();
+    }
+    Q_EMIT CursorMoved();
+}
+
+std::optional<std::pair<int, int>> CWordListControl::FlagAt(const QPoint &place) const
+{
+    const QModelIndex index = indexAt(place);
+    const QVariant mark = index.data(CWordListModel::MarkRole);
+    if (!mark.isValid() || mark.toInt() == CWordListModel::NewRow
+        || !CWordListDelegate::MarkArea(visualRect(index), fontMetrics()).contains(place)) {
+        return {};
+    }
+    return std::pair(index.row(), m_model->field(index.column()));
+}
+
+void CWordListControl::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedFlag = event->button() == Qt::LeftButton ? FlagAt(event->pos()) : std::nullopt;
+    QTableView::mousePressEvent(event);
+}
+
+void CWordListControl::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTableView::mouseReleaseEvent(event);
+    const auto pressed = std::exchange(m_pressedFlag, std::nullopt);
+    if (pressed && pressed == FlagAt(event->pos())) {
+        Q_EMIT FlagClicked(pressed->first, pressed->second);
+    }
+}
+
+void CWordListControl::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const QModelIndex index = indexAt(event->pos());
+    if (event->button() == Qt::LeftButton && index.isValid()) {
+        Q_EMIT CellDoubleClicked(
+            index.row(), m_model->field(index.column()), event->modifiers().testFlag(Qt::ShiftModifier));
+    }
+}
+
+void CWordListControl::wheelEvent(QWheelEvent *event)
+{
+    EndEditing(true);
+    QTableView::wheelEvent(event);
+}
+
+void CWordListControl::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        if (currentIndex().isValid()) {
+            scrollTo(currentIndex());
+            const QRect cell = visualRect(currentIndex());
+            Q_EMIT RowMenuRequested(viewport()->mapToGlobal(QPoint(cell.center().x(), cell.bottom())));
+        }
+    } else if (indexAt(event->pos()).isValid()) {
+        Q_EMIT RowMenuRequested(event->globalPos());
+    }
+}
+
+void CWordListControl::focusInEvent(QFocusEvent *event)
+{
+    QTableView::focusInEvent(event);
+    viewport()->update();
+}
+
+void CWordListControl::focusOutEvent(QFocusEvent *event)
+{
+    QTableView::focusOutEvent(event);
+    viewport()->update();
+}

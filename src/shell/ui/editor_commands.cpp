@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/editor_commands.h"
+
+#include "document/win32_doc.h"
+#include "editor/ui/edit_box_commands.h"
+#include "editor/ui/win32_view.h"
+#include "settings/shell_settings.h"
+#include "shell/commands.h"
+#include "shell/ui/command_actions.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+
+using namespace CommandId;
+
+CEditorCommands::CEditorCommands(
+    CCommandActions &actions, CWin32View &view, CWin32Doc &document, ArrangeSettings &arrange, QObject *parent)
+    : QObject(parent), m_actions(actions), m_view(view), m_document(document), m_arrange(arrange)
+{
+    ConnectText();
+    ConnectList();
+    ConnectArranging();
+    connect(&view, &CWin32View::SelectionChanged, this, &CEditorCommands::StateChanged);
+    connect(qApp, &QApplication::focusChanged, this,
+        [this](QWidget * /*old*/, QWidget *focus) { FocusChanged(focus); });
+}
+
+CommandState CEditorCommands::State() const
+{
+    const QLineEdit *const box = focusedEditBox();
+    return {.entries = m_document.List().Count(),
+        .selectedEntries = m_view.SelectedEntryCount(),
+        .selectedRows = m_view.SelectedRowCount(),
+        .cursorColumn = m_view.CursorField(),
+        .inEditBox = box != nullptr,
+        .textSelected = box != nullptr && box->hasSelectedText(),
+        .canPaste = box != nullptr && !QApplication::clipboard()->text().isEmpty(),
+        .canUndo = box != nullptr ? box->isUndoAvailable() : m_document.UndoCount() > 0,
+        .canRedo = box == nullptr && m_document.RedoCount() > 0};
+}
+
+void CEditorCommands::FocusChanged(QWidget *focus)
+{
+    auto *const box = qobject_cast<QLineEdit *>(focus);
+    if (m_editBox) {
+        m_editBox->disconnect(this);
+    }
+    m_editBox = box;
+    if (box != nullptr) {
+        connect(box, &QLineEdit::textChanged, this, &CEditorCommands::StateChanged);
+        connect(box, &QLineEdit::selectionChanged, this, &CEditorCommands::StateChanged);
+    }
+    Q_EMIT StateChanged();
+}
+
+void CEditorCommands::SetHandler(int id, void (CEditorCommands::*handler)())
+{
+    m_actions.SetHandler(id, [this, handler] { (this->*handler)(); });
+}
+
+void CEditorCommands::ConnectText()
+{
+    // On the text of an edit box only.
+    const auto onText = [this](int id, auto handler) {
+        m_actions.SetHandler(id, [handler] {
+            if (QLineEdit *const box = focusedEditBox()) {
+                handler(*box);
+            }
+        });
+    };
+    onText(Cut, [](QLineEdit &box) { box.cut(); });
+    onText(Copy, [](QLineEdit &box) { box.copy(); });
+    onText(Paste, [](QLineEdit &box) { box.paste(); });
+    onText(InsertSynonym, [](QLineEdit &box) { changeText(box, insertSynonym); });
+    onText(InsertComment, [](QLineEdit &box) { changeText(box, insertComment); });
+    SetHandler(CommandId::Undo, &CEditorCommands::Undo);
+    SetHandler(CommandId::Redo, &CEditorCommands::Redo);
+    SetHandler(CommandId::Delete, &CEditorCommands::Delete);
+    m_actions.SetHandler(SelectAll, [this] {
+        if (QLineEdit *const box = focusedEditBox()) {
+            box->selectAll();
+        } else {
+            m_view.SelectAll();
+        }
+    });
+}
+
+void CEditorCommands::ConnectList()
+{
+    m_actions.SetHandler(PlaceInsertionPoint, [this] { m_view.PlaceInsertionPoint(); });
+    m_actions.SetHandler(Previous, [this] { m_view.Step(-1); });
+    m_actions.SetHandler(Next, [this] { m_view.Step(1); });
+    m_actions.SetHandler(ShowWordNumber, [this] { m_view.ToggleWordNumber(); });
+    m_actions.SetHandler(ShowEditFields, [this] { m_view.ToggleEditFields(); });
+    m_actions.SetHandler(ShowNotes, [this] { m_view.ToggleNotes(); });
+}
+
+void CEditorCommands::ConnectArranging()
+{
+    for (const int command : {Shuffle, SortByLanguage1, SortByLanguage2, SortByNote}) {
+        m_actions.SetHandler(command, [this, command] { m_view.Sort(command - SortByLanguage1); });
+    }
+    for (const auto &[command, mode] :
+        {std::pair(SetFlag, FlagMode::Set), {ClearFlag, FlagMode::Clear}, {InvertFlag, FlagMode::Toggle}}) {
+        m_actions.SetHandler(command, [this, flagMode = mode] { m_view.SetFlags(flagMode); });
+    }
+    for (const auto &[command, option] : {std::pair(Descending, &ArrangeSettings::descending),
+             {GroupFlagged, &ArrangeSettings::groupFlagged}, {SortByLength, &ArrangeSettings::byLength}}) {
+        m_actions.SetHandler(command, [this, flipped = option] {
+            m_arrange.*flipped = !(m_arrange.*flipped);
+            Q_EMIT StateChanged();
+        });
+    }
+}
+
+void CEditorCommands::Undo()
+{
+    if (QLineEdit *const box = focusedEditBox()) {
+        box->undo();
+    } else {
+        m_document.Undo();
+    }
+}
+
+void CEditorCommands::Redo()
+{
+    if (focusedEditBox() == nullptr) {
+        m_document.Redo();
+    }
+}
+
+void CEditorCommands::Delete()
+{
+    if (QLineEdit *const box = focusedEditBox()) {
+        box->del();
+    } else {
+        m_view.DeleteSelection();
+    }
+}

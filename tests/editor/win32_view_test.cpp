@@ -1,0 +1,422 @@
+// SPDX-License-Identifier: MIT
+#include "editor/ui/edit_box_commands.h"
+#include "editor/ui/win32_view.h"
+#include "editor/ui/word_list_control.h"
+#include "editor/word_list_model.h"
+#include "resources/text_numbers.h"
+#include "settings/shell_settings.h"
+#include "support/test_document.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+
+/// The real view in a window with another edit box.
+struct View
+{
+    explicit View(const QStringList &entries = {}) : test(entries)
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(&view);
+        layout->addWidget(&other);
+        window.resize(700, 500);
+        view.RefreshAll();
+        window.show();
+        QApplication::setActiveWindow(&window);
+        List()->setFocus();
+    }
+
+    CWordListControl *List() { return view.findChild<CWordListControl *>(); }
+    QLineEdit *Editor()
+    {
+        auto *const box = focusedEditBox();
+        return box != nullptr && box->objectName() == QStringLiteral("cellEditor") ? box : nullptr;
+    }
+    QLineEdit *Field(int field) { return view.findChild<QLineEdit *>(QStringLiteral("field%1").arg(field)); }
+    void Type(const QString &text)
+    {
+        for (const QChar unit : text) {
+            QTest::keyClick(QApplication::focusWidget(), unit == u'\n' ? '\r' : unit.toLatin1());
+        }
+    }
+    QPoint Place(int row, int column, int dx)
+    {
+        return List()->visualRect(List()->model()->index(row, column)).topLeft() + QPoint(dx, 5);
+    }
+    QStringList Entries() const { return Describe(test.document.List()); }
+    QString Selected() const
+    {
+        QStringList entries;
+        for (const int entry : view.SelectedEntries()) {
+            entries.append(QString::number(entry));
+        }
+        return entries.join(u' ');
+    }
+
+    TestDocument test;
+    ArrangeSettings arrange;
+    CRandom random{1};
+    QWidget window;
+    QLineEdit other;
+    CWin32View view{{test.document, test.settings, arrange, test.texts, test.prompt, random}};
+};
+
+QStringList Numbered(int count)
+{
+    QStringList entries;
+    for (int i = 0; i < count; ++i) {
+        entries.append(QStringLiteral("a%1|b%1").arg(i));
+    }
+    return entries;
+}
+
+}
+
+class Win32ViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void typingAListByKeys();
+    void endingAnEdit();
+    void commandsWhileACellIsEdited();
+    void keysOfTheList();
+    void typeToFind();
+    void clicks();
+    void selectionAndInsertionPoint();
+    void deletingAroundTheInsertionPoint_data();
+    void deletingAroundTheInsertionPoint();
+    void fieldsFollowTheSelection();
+    void undoKeepsTheRows();
+    void newDocumentForgets();
+    void manyRows();
+    void editBoxes();
+};
+
+void Win32ViewTest::typingAListByKeys()
+{
+    View run;
+    run.Type(QStringLiteral("hund\ndog\nn\nkatt\ncat\n\nx"));
+    QCOMPARE(run.Entries(), (QStringList{QStringLiteral("hund|dog|n"), QStringLiteral("katt|cat")}));
+    QVERIFY(run.Editor() != nullptr);
+    QCOMPARE(run.Editor()->text(), QStringLiteral("x"));
+    QTest::keyClick(run.Editor(), Qt::Key_Escape);
+    QVERIFY(run.List()->hasFocus());
+    QCOMPARE(run.view.InsertionPoint(), 2);
+    QCOMPARE(run.test.document.UndoCount(), 2);
+}
+
+void Win32ViewTest::endingAnEdit()
+{
+    View run(Numbered(3));
+    run.view.SelectEntry(1);
+    run.Type(QStringLiteral("x"));
+    // A menu or another window takes the focus for a while only.
+    QLineEdit *const editor = run.Editor();
+    QFocusEvent popup(QEvent::FocusOut, Qt::PopupFocusReason);
+    QApplication::sendEvent(editor, &popup);
+    QVERIFY(run.List()->IsEditing());
+    // Another widget ends it; what follows comes from the event loop.
+    run.other.setFocus(Qt::MouseFocusReason);
+    QCOMPARE(run.Entries().at(1), QStringLiteral("a1|b1"));
+    QCoreApplication::processEvents();
+    QCOMPARE(run.Entries().at(1), QStringLiteral("x|b1"));
+    QVERIFY(!run.List()->IsEditing());
+    QVERIFY(run.other.hasFocus());
+    // The wheel ends it before it scrolls.
+    run.List()->EditCell(1, 1);
+    run.Type(QStringLiteral("y"));
+    QWheelEvent wheel({5, 5}, run.List()->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(run.List()->viewport(), &wheel);
+    QCOMPARE(run.Entries().at(1),
+        QStringLiteral("a0|b0")
+            .replace(QStringLiteral("a0"), QStringLiteral("x"))
+            .replace(QStringLiteral("b0"), QStringLiteral("b1")));
+    QVERIFY(!run.List()->IsEditing());
+}
+
+void Win32ViewTest::commandsWhileACellIsEdited()
+{
+    // Each ends the edit first, and finds what was typed in the list.
+    const auto editing = [](View &run) {
+        run.view.SelectEntry(1);
+        run.Type(QStringLiteral("x"));
+    };
+    View sorting(Numbered(3));
+    sorting.arrange.descending = false;
+    editing(sorting);
+    sorting.view.Sort(0);
+    QCOMPARE(sorting.Entries().last(), QStringLiteral("x|b1"));
+    QCOMPARE(sorting.view.SelectedRowCount(), 1);
+    QCOMPARE(sorting.view.SelectedEntryCount(), 0);
+
+    View deleting(Numbered(3));
+    editing(deleting);
+    deleting.test.prompt.answers = {PromptAnswer::Yes};
+    deleting.view.DeleteSelection();
+    QCOMPARE(deleting.Entries(), (QStringList{QStringLiteral("a0|b0"), QStringLiteral("a2|b2")}));
+
+    View undoing(Numbered(3));
+    undoing.test.document.BeginChange().SetFlags(0, std::array{0}, FlagMode::Set);
+    editing(undoing);
+    undoing.test.document.Undo();
+    QCoreApplication::processEvents();
+    QCOMPARE(undoing.Entries(), Numbered(3));
+    QVERIFY(!undoing.List()->IsEditing());
+
+    View hiding(Numbered(3));
+    editing(hiding);
+    hiding.view.ToggleWordNumber();
+    QCoreApplication::processEvents();
+    QCOMPARE(hiding.Entries(), Numbered(3));
+    QCOMPARE(hiding.view.CursorField(), 0);
+
+    View stepping(Numbered(3));
+    editing(stepping);
+    stepping.view.Step(1);
+    QCOMPARE(stepping.Entries().at(1), QStringLiteral("x|b1"));
+    QCOMPARE(stepping.Selected(), QStringLiteral("2"));
+    stepping.view.Step(1);
+    QCOMPARE(stepping.view.SelectedEntryCount(), 0); // The new-entry row is the first one.
+}
+
+void Win32ViewTest::keysOfTheList()
+{
+    View run(Numbered(3));
+    run.view.SelectEntries({0, 2});
+    const auto key = [&](Qt::Key pressed) { QTest::keyClick(run.List(), pressed); };
+    key(Qt::Key_Right);
+    key(Qt::Key_Space);
+    QCOMPARE(run.Entries(),
+        (QStringList{QStringLiteral("a0|b0||2"), QStringLiteral("a1|b1"), QStringLiteral("a2|b2||2")}));
+    QCOMPARE(run.Selected(), QStringLiteral("0 2"));
+    key(Qt::Key_Right);
+    key(Qt::Key_Space); // A note has no flag.
+    QCOMPARE(run.test.document.UndoCount(), 1);
+    for (int i = 0; i < 5; ++i) {
+        key(Qt::Key_Left); // Never onto the numbers.
+    }
+    QCOMPARE(run.view.CursorField(), 0);
+    key(Qt::Key_End);
+    QCOMPARE(run.Selected(), QStringLiteral("2"));
+    key(Qt::Key_F2); // The key of another command.
+    key(Qt::Key_Delete);
+    key(Qt::Key_Backspace);
+    QTest::keyClick(run.List(), 'c', Qt::ControlModifier);
+    QVERIFY(!run.List()->IsEditing());
+    key(Qt::Key_Return);
+    QCOMPARE(run.Editor()->text(), QStringLiteral("a2"));
+    QCOMPARE(run.Editor()->selectedText(), QStringLiteral("a2"));
+
+    // A dead key or an input method is typing too.
+    View composing(Numbered(1));
+    composing.view.SelectEntry(0);
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("é"));
+    QApplication::sendEvent(composing.List(), &event);
+    QCOMPARE(composing.Editor()->text(), QStringLiteral("é"));
+}
+
+void Win32ViewTest::typeToFind()
+{
+    View run({QStringLiteral("apa|x"), QStringLiteral("[en] Boll|x"), QStringLiteral("bok|x")});
+    run.test.settings.quickedit = false;
+    run.List()->SetCursor(0, 0);
+    run.Type(QStringLiteral("bo"));
+    QCOMPARE(run.Selected(), QStringLiteral("2"));
+    QVERIFY(!run.List()->IsEditing());
+    QTest::qWait(0);
+    run.Type(QStringLiteral("k"));
+    QCOMPARE(run.Selected(), QStringLiteral("2"));
+}
+
+void Win32ViewTest::clicks()
+{
+    View run(Numbered(4));
+    run.view.SetInsertionPoint(4);
+    const auto click = [&](int row, int column, int dx) {
+        QTest::mouseClick(run.List()->viewport(), Qt::LeftButton, {}, run.Place(row, column, dx));
+    };
+    click(2, 2, 8);
+    QCOMPARE(run.Entries().at(2), QStringLiteral("a2|b2||2"));
+    QCOMPARE(run.view.CursorField(), 1);
+    click(1, 0, 3);
+    QCOMPARE(run.Selected(), QStringLiteral("1"));
+    QCOMPARE(run.view.CursorField(), 1);
+    click(4, 1, 8); // The plus sign of the new-entry row is no flag.
+    QCOMPARE(run.test.document.UndoCount(), 1);
+
+    const auto doubleClick = [&](int row, int column, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::mouseDClick(run.List()->viewport(), Qt::LeftButton, modifiers, run.Place(row, column, 60));
+    };
+    QTest::mouseDClick(run.List()->viewport(), Qt::LeftButton, {}, run.Place(1, 0, 3));
+    QCOMPARE(run.view.InsertionPoint(), 1);
+    doubleClick(3, 1, Qt::ShiftModifier);
+    QCOMPARE(run.view.InsertionPoint(), 3);
+    doubleClick(0, 1);
+    QCOMPARE(run.Editor()->text(), QStringLiteral("a0"));
+    run.view.EndEditing(false);
+
+    run.arrange.descending = true;
+    QTest::mouseClick(run.List()->horizontalHeader()->viewport(), Qt::LeftButton, {},
+        {run.List()->columnViewportPosition(1) + 40, 8});
+    QCOMPARE(run.Entries().first(), QStringLiteral("a3|b3"));
+    QTest::mouseClick(run.List()->horizontalHeader()->viewport(), Qt::LeftButton, {}, {4, 8});
+    QCOMPARE(run.test.document.UndoCount(), 2);
+}
+
+void Win32ViewTest::selectionAndInsertionPoint()
+{
+    View run(Numbered(4));
+    const QSignalSpy status(&run.view, &CWin32View::StatusTextChanged);
+    const auto lastStatus = [&] { return status.last().first().toString(); };
+    run.view.SetInsertionPoint(2);
+    run.view.SelectEntries({1, 2, 3});
+    QCOMPARE(run.Selected(), QStringLiteral("1 2 3"));
+    run.view.SelectAll();
+    QCOMPARE(run.Selected(), QStringLiteral("0 1 2 3"));
+    run.List()->SelectRow(2, true);
+    QCOMPARE(lastStatus(), QStringLiteral("Här kommer nästa glosa att läggas till."));
+    run.List()->SelectRow(3, true);
+    run.view.PlaceInsertionPoint();
+    QCOMPARE(run.view.InsertionPoint(), 3);
+    run.view.MoveInsertionPoint(9);
+    QCOMPARE(run.view.InsertionPoint(), 4);
+    run.view.SelectEntryRange(1, 2);
+    QVERIFY(lastStatus().startsWith(QStringLiteral("2 glosor markerade. 4 glosor")));
+    run.view.SelectEntry(-1);
+    QCOMPARE(run.view.SelectedRowCount(), 0);
+    QCOMPARE(run.view.FirstSelectedEntry(), -1);
+}
+
+void Win32ViewTest::deletingAroundTheInsertionPoint_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    QTest::newRow("above the deleted") << 0 << 0;
+    QTest::newRow("between them") << 2 << 1;
+    QTest::newRow("below them") << 5 << 3;
+}
+
+void Win32ViewTest::deletingAroundTheInsertionPoint()
+{
+    QFETCH(int, before);
+    QFETCH(int, after);
+    View run(Numbered(5));
+    run.view.SetInsertionPoint(before);
+    run.view.SelectEntries({1, 2});
+    run.test.prompt.answers = {PromptAnswer::Yes};
+    run.view.DeleteSelection();
+    QCOMPARE(run.view.InsertionPoint(), after);
+    QCOMPARE(run.view.SelectedRowCount(), 0);
+    QCOMPARE(run.Entries(),
+        (QStringList{QStringLiteral("a0|b0"), QStringLiteral("a3|b3"), QStringLiteral("a4|b4")}));
+    run.test.document.Undo();
+    QCOMPARE(run.Entries(), Numbered(5));
+}
+
+void Win32ViewTest::fieldsFollowTheSelection()
+{
+    View run(Numbered(3));
+    run.view.ToggleEditFields();
+    run.view.SelectEntry(0);
+    QCOMPARE(run.Field(1)->text(), QStringLiteral("b0"));
+    // Enter in a field changes the entry and goes on to the next one.
+    run.Field(0)->setText(QStringLiteral("x"));
+    QTest::keyClick(run.Field(0), Qt::Key_Return);
+    QCOMPARE(run.Entries().first(), QStringLiteral("x|b0"));
+    QCOMPARE(run.Field(0)->text(), QStringLiteral("a1"));
+    run.view.SelectEntry(2);
+    QTest::keyClick(run.Field(0), Qt::Key_Return);
+    QCOMPARE(run.Field(0)->text(), QString());
+    // And then makes new ones, one after the other.
+    run.view.ClearFields();
+    QVERIFY(run.Field(0)->hasFocus());
+    run.Type(QStringLiteral("new"));
+    QTest::keyClick(run.Field(0), Qt::Key_Return);
+    QVERIFY(run.Field(1)->hasFocus());
+    run.Type(QStringLiteral("word\n"));
+    QVERIFY(run.Field(0)->hasFocus());
+    QCOMPARE(run.Entries().first(), QStringLiteral("new|word"));
+}
+
+void Win32ViewTest::undoKeepsTheRows()
+{
+    View run(Numbered(6));
+    run.view.SelectEntries({1, 4, 5});
+    run.view.SetFlags(FlagMode::Set);
+    run.view.SelectEntries({0, 4, 5});
+    run.test.document.BeginChange().DeleteEntries(std::array{5});
+    run.view.RefreshAll();
+    QCOMPARE(run.Selected(), QStringLiteral("0 4"));
+    run.test.document.Undo();
+    QCOMPARE(run.Selected(), QStringLiteral("0 4"));
+    run.test.document.Undo();
+    run.test.document.Redo();
+    QCOMPARE(run.Selected(), QStringLiteral("0 4"));
+}
+
+void Win32ViewTest::newDocumentForgets()
+{
+    View run(Numbered(3));
+    run.view.SetInsertionPoint(2);
+    run.List()->EditCell(2, 1);
+    run.Type(QStringLiteral("half\n"));
+    run.test.document.Undo();
+    QCOMPARE(run.List()->model()->index(2, 2).data().toString(), QStringLiteral("half"));
+    run.view.SelectEntry(1);
+    run.List()->EditCell(1, 0);
+    run.test.document.OnNewDocument();
+    QCoreApplication::processEvents();
+    QCOMPARE(run.view.InsertionPoint(), 0);
+    QCOMPARE(run.List()->model()->rowCount(), 1);
+    QCOMPARE(run.List()->model()->index(0, 2).data().toString(), QStringLiteral("<< Ny >>"));
+    QCOMPARE(run.view.SelectedRowCount(), 0);
+    QVERIFY(run.test.document.List().IsSaved());
+}
+
+void Win32ViewTest::manyRows()
+{
+    View run(Numbered(3000));
+    std::vector<int> every;
+    for (int entry = 0; entry < 3000; entry += 2) {
+        every.push_back(entry);
+    }
+    run.view.SelectEntries(every);
+    QCOMPARE(run.view.SelectedEntries(), every);
+    // One of them is in sight already, so nothing scrolls.
+    run.List()->verticalScrollBar()->setValue(9000);
+    run.view.SelectEntries(every);
+    QCOMPARE(run.List()->verticalScrollBar()->value(), 9000);
+    run.view.SelectEntries({7, 9});
+    QVERIFY(run.List()->IsRowVisible(8));
+}
+
+void Win32ViewTest::editBoxes()
+{
+    View run(Numbered(1));
+    run.other.setText(QStringLiteral("ett hus"));
+    run.other.setSelection(4, 3);
+    changeText(run.other, insertComment);
+    QCOMPARE(run.other.text(), QStringLiteral("ett [hus]"));
+    run.other.undo();
+    QCOMPARE(run.other.text(), QStringLiteral("ett hus"));
+    // Delete in a box deletes there.
+    run.view.ToggleEditFields();
+    run.view.SelectEntry(0);
+    run.Field(0)->setFocus();
+    run.Field(0)->setCursorPosition(0);
+    QTest::keyClick(run.Field(0), Qt::Key_Delete);
+    QCOMPARE(run.Field(0)->text(), QStringLiteral("0"));
+    QCOMPARE(run.Entries().size(), 1);
+}
+
+QTEST_MAIN(Win32ViewTest)
+#include "win32_view_test.moc"
