@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "document/win32_doc.h"
+#include "editor/ui/win32_view.h"
+#include "editor/ui/word_list_control.h"
+#include "generator.h"
+#include "measure.h"
+#include "platform/random.h"
+#include "platform/user_prompt.h"
+#include "resources/texts.h"
+#include "settings/editor_settings.h"
+#include "settings/shell_settings.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+
+#include <cstdio>
+#include <cstdlib>
+
+// The real view, driven by keys without a display. Aimed at with 100,000 entries: selecting all below 50 ms, and
+// no key that touches few entries above 16 ms.
+
+namespace {
+
+class CYesPrompt : public IUserPrompt
+{
+public:
+    void Tell(const PromptText & /*text*/, PromptIcon /*icon*/) override { }
+    PromptAnswer Ask(const PromptText & /*text*/, PromptIcon /*icon*/, PromptButtons /*buttons*/,
+        PromptAnswer /*defaultAnswer*/) override
+    {
+        return PromptAnswer::Yes;
+    }
+};
+
+struct Editor
+{
+    explicit Editor(int count)
+    {
+        document.OnNewDocument();
+        document.BeginChange() = GenerateList(count, 1);
+        view.resize(900, 700);
+    }
+
+    CTexts texts;
+    EditorSettings settings;
+    ArrangeSettings arrange;
+    CYesPrompt prompt;
+    CRandom random{1};
+    CWin32Doc document{{texts, settings, prompt, [] { return QDate(2004, 5, 6); },
+        [](const QString &, const QStringList &) { return false; }}};
+    CWin32View view{{document, settings, arrange, texts, prompt, random}};
+};
+
+void Print(const char *name, const Measurement &measured)
+{
+    std::printf("  %-46s %10.3f ms\n", name, measured.seconds * 1e3);
+}
+
+/// Until everything is painted.
+void Settle()
+{
+    QCoreApplication::processEvents();
+}
+
+void Key(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+    Settle();
+}
+
+void Run(int count)
+{
+    Editor editor(count);
+    CWin32View &view = editor.view;
+    auto *const list = view.findChild<CWordListControl *>();
+    std::printf("%d entries\n", count);
+    const auto nothing = [] {};
+    Print("open to the first paint", Measure(1, nothing, [&] {
+        view.RefreshAll();
+        view.show();
+        Settle();
+    }));
+    QApplication::setActiveWindow(&view);
+    list->setFocus();
+    Print("a page down", Measure(10, nothing, [] { Key(Qt::Key_PageDown); }));
+    Print("scroll to the middle", Measure(3, [&] { list->verticalScrollBar()->setValue(0); }, [&] {
+        list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum() / 2);
+        Settle();
+    }));
+    Print("select all", Measure(3, [&] { view.SelectEntry(0); }, [&] {
+        view.SelectAll();
+        Settle();
+    }));
+    Print("the selected entries", Measure(3, nothing, [&] {
+        if (int(view.SelectedEntries().size()) != count) {
+            std::exit(1);
+        }
+    }));
+    view.SelectEntry(count / 2);
+    Print("toggle a flag", Measure(10, nothing, [] { Key(Qt::Key_Space); }));
+    Print("an arrow key", Measure(10, nothing, [] { Key(Qt::Key_Down); }));
+    view.SetInsertionPoint(count / 2);
+    list->EditCell(count / 2, 0);
+    Print("a letter in the new-entry row", Measure(10, nothing, [] { Key(Qt::Key_A); }));
+    Print("Enter after the first term", Measure(1, nothing, [] { Key(Qt::Key_Return); }));
+    Key(Qt::Key_B);
+    Key(Qt::Key_Return);
+    Print("Enter that makes the entry", Measure(1, nothing, [] { Key(Qt::Key_Return); }));
+    Key(Qt::Key_Escape);
+    Print("undo", Measure(1, nothing, [&] {
+        editor.document.Undo();
+        Settle();
+    }));
+    Print("sort", Measure(1, nothing, [&] {
+        view.Sort(0);
+        Settle();
+    }));
+    std::vector<int> half;
+    for (int entry = 0; entry < count; entry += 2) {
+        half.push_back(entry);
+    }
+    Print("select every other entry", Measure(1, nothing, [&] {
+        view.SelectEntries(half);
+        Settle();
+    }));
+    Print("delete them", Measure(1, nothing, [&] {
+        view.DeleteSelection();
+        Settle();
+    }));
+    std::printf("\n");
+}
+
+}
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    for (int i = 1; i < argc; ++i) {
+        Run(std::atoi(argv[i]));
+    }
+    if (argc == 1) {
+        Run(100000);
+        Run(1000000);
+    }
+    return 0;
+}
