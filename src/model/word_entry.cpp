@@ -152,18 +152,27 @@ void CWordEntry::MergeAlternatives(const CWordEntry &other)
     }
 }
 
+const QString &CWordEntry::StoredAlternative(int index, int k) const
+{
+    const QStringList &alternatives = m_alternatives[size_t(index)];
+    return alternatives.isEmpty() ? m_terms[size_t(index)] : alternatives.at(k);
+}
+
 bool CWordEntry::HasAlternative(const QString &text, int index, bool caseInsensitive) const
 {
     const auto equal = [&](const QString &alternative) {
         return caseInsensitive ? CSwedishCollator::ForThisThread().Equal(alternative, text)
                                : alternative == text;
     };
+    if (!IsLanguage(index)) {
+        return equal({});
+    }
     const int last = AlternativeCount(index);
     if (last == 0 && equal(GetText(index))) {
         return true;
     }
     for (int k = 0; k <= last; ++k) {
-        if (equal(GetAlternative(index, k, false))) {
+        if (equal(StoredAlternative(index, k))) {
             return true;
         }
     }
@@ -172,8 +181,11 @@ bool CWordEntry::HasAlternative(const QString &text, int index, bool caseInsensi
 
 bool CWordEntry::SharesAlternative(const CWordEntry &other, int index, bool caseInsensitive) const
 {
+    if (!IsLanguage(index)) {
+        return HasAlternative({}, index, caseInsensitive);
+    }
     for (int k = 0; k <= other.AlternativeCount(index); ++k) {
-        if (HasAlternative(other.GetAlternative(index, k, false), index, caseInsensitive)) {
+        if (HasAlternative(other.StoredAlternative(index, k), index, caseInsensitive)) {
             return true;
         }
     }
