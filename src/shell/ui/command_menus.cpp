@@ -6,9 +6,25 @@
 #include "shell/ui/command_actions.h"
 
 #include <QMenu>
+#include <QMenuBar>
 #include <QToolBar>
 
 #include <algorithm>
+
+namespace {
+
+QMenu *Named(QMenu *menu)
+{
+    menu->setAccessibleName(menu->title().remove(u'&'));
+    return menu;
+}
+
+}
+
+QMenu *addNamedMenu(QMenuBar &bar, const QString &title)
+{
+    return Named(bar.addMenu(title));
+}
 
 void fillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts)
 {
@@ -17,7 +33,7 @@ void fillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &ac
             menu.addSeparator();
         } else if (isSubmenu(id)) {
             const auto submenu = std::ranges::find(commandSubmenus(), id, &CommandMenu::title);
-            fillMenu(*menu.addMenu(texts.Get(id)), submenu->commands, actions, texts);
+            fillMenu(*Named(menu.addMenu(texts.Get(id))), submenu->commands, actions, texts);
         } else if (QAction *const action = actions.Action(id)) {
             menu.addAction(action);
         }

@@ -6,8 +6,12 @@
 class CCommandActions;
 class CTexts;
 class QMenu;
+class QMenuBar;
 class QToolBar;
-class QWidget;
+class QString;
+
+/// Adds a menu that also has a name for assistive technology.
+QMenu *addNamedMenu(QMenuBar &bar, const QString &title);
 
 /// Fills a menu with the commands of a list; submenus are made as the list names them. Places for other things,
 /// such as the recent files, are left out.

@@ -116,8 +116,10 @@ void CMainFrame::SavePlace()
 void CMainFrame::MakeMenus()
 {
     const CTexts &texts = m_services.texts;
+    menuBar()->setAccessibleName(texts.Get(Text::FrameMenuBar));
+    statusBar()->setAccessibleName(texts.Get(Text::FrameStatusBar));
     for (const CommandMenu &menu : commandMenus()) {
-        QMenu *const shown = menuBar()->addMenu(texts.Get(menu.title));
+        QMenu *const shown = addNamedMenu(*menuBar(), texts.Get(menu.title));
         fillMenu(*shown, menu.commands, *m_actions, texts);
         connect(shown, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
         const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
@@ -141,6 +143,10 @@ QToolBar *CMainFrame::MakeToolBar(
     QToolBar *const bar = addToolBar(title);
     bar->setObjectName(QLatin1StringView(name));
     fillToolBar(*bar, commands, *m_actions);
+    // The toolkit's own button for what finds no room.
+    if (auto *const more = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
+        more->setAccessibleName(m_services.texts.Get(Text::FrameMoreButtons));
+    }
     m_actions->SetHandler(toggle, [bar] { bar->setVisible(bar->isHidden()); });
     connect(bar, &QToolBar::visibilityChanged, this, &CMainFrame::UpdateCommands);
     return bar;
