@@ -6,8 +6,8 @@ QStringList FileFilters(const QString &text)
     const QStringList parts = text.trimmed().split(u'|', Qt::SkipEmptyParts);
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // A name may say its pattern itself, as in "Alla filer (*.*)".
-        const QString name = parts.at(i).section(QStringLiteral(" ("), 0, 0);
+        // A name may say its pattern itself, as in "Alla filer (*.*)"; other brackets belong to it.
+        const QString name = parts.at(i).section(QStringLiteral(" (*"), 0, 0);
         const QString pattern =
             parts.at(i + 1) == QStringLiteral("*.*") ? QStringLiteral("*") : parts.at(i + 1);
         filters.append(name + QStringLiteral(" (") + QString(pattern).replace(u';', u' ') + u')');

@@ -41,6 +41,11 @@ CWin32Doc::CWin32Doc(DocumentServices services, QObject *parent)
 CWordList &CWin32Doc::BeginChange()
 {
     m_history.Snapshot();
+    return ContinueChange();
+}
+
+CWordList &CWin32Doc::ContinueChange()
+{
     ++m_changeCounter;
     Q_EMIT Changed();
     return m_history.Current();
@@ -201,7 +206,22 @@ bool CWin32Doc::OnSaveDocument(const QString &file)
 
 bool CWin32Doc::SaveCopy(const QString &path)
 {
-    CWordList copy = List(); // Writing marks the copy as saved, not the list.
+    return Write(List(), path);
+}
+
+bool CWin32Doc::SaveEntries(const QString &path, CWordList::Selection entries)
+{
+    CWordList chosen = List();
+    chosen.DeleteAll();
+    for (const int index : entries) {
+        chosen.Insert(List().Entry(index));
+    }
+    return Write(std::move(chosen), path);
+}
+
+bool CWin32Doc::Write(CWordList copy, const QString &path)
+{
+    // Writing marks the copy as saved, not the list.
     if (!WriteWordListFile(copy, path, {.forceUnicode = m_services.settings.alwaysSaveInUnicode})) {
         m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
         return false;

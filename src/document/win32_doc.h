@@ -49,6 +49,8 @@ public:
     /// The one way to change the list: call it once per command, right before its change, and only when
     /// something will change. Takes the step for undo.
     CWordList &BeginChange();
+    /// Changes more within the step that the last BeginChange() took: for a command that goes on over a while.
+    CWordList &ContinueChange();
     /// Grows with every change; compare it to learn whether something changed in between.
     quint64 ChangeCounter() const { return m_changeCounter; }
 
@@ -88,6 +90,8 @@ public:
     /// Writes the list to another file without taking it for its own. On failure, which the user is told, the
     /// result is false.
     bool SaveCopy(const QString &path);
+    /// The same with these entries alone.
+    bool SaveEntries(const QString &path, CWordList::Selection entries);
     /// Hands a copy of the list to the e-mail program; path and saved mark stay as they are.
     void OnFileSendMail();
 
@@ -116,6 +120,7 @@ Q_SIGNALS:
 
 private:
     void DeleteContents();
+    bool Write(CWordList copy, const QString &path);
     /// Makes the list the only state of the history and has it shown.
     void Replace(CWordList list, const QString &path, const FileStamp &stamp);
 

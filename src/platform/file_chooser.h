@@ -26,6 +26,6 @@ public:
     IFileChooser &operator=(const IFileChooser &) = delete;
 
     virtual QString ChooseFileToOpen(const FileChoice &choice) = 0;
-    /// Asks before an existing file is chosen.
-    virtual QString ChooseFileToSave(const FileChoice &choice) = 0;
+    /// Asks before an existing file is chosen. `filter`, when given, receives the index of the filter in force.
+    virtual QString ChooseFileToSave(const FileChoice &choice, qsizetype *filter = nullptr) = 0;
 };

@@ -10,7 +10,13 @@ struct PromptText
     QString text;
 };
 
-enum class PromptIcon { Information, Question, Warning, Error };
+enum class PromptIcon {
+    Information,
+    Question,
+    Warning,
+    Error,
+    PlainInformation ///< Looks like Information, without the sound that a desktop may add to it.
+};
 enum class PromptButtons { YesNo, YesNoCancel };
 enum class PromptAnswer { Yes, No, Cancel };
 

@@ -7,6 +7,8 @@
 #include "resources/texts.h"
 #include "settings/quiz_settings.h"
 
+#include <algorithm>
+
 QString normalizeForCheck(const QString &text, const CheckingOptions &options)
 {
     const QString kept = options.characterCheck == CharacterCheck::AllCharacters
@@ -15,23 +17,24 @@ QString normalizeForCheck(const QString &text, const CheckingOptions &options)
     return options.ignoreCase ? ToLowerCase(kept) : kept;
 }
 
+QStringList acceptedForms(const QString &expected)
+{
+    if (!expected.contains(u'[')) {
+        return {expected};
+    }
+    QString withoutBrackets = expected;
+    withoutBrackets.removeIf([](QChar unit) { return unit == u'[' || unit == u']'; });
+    return {StripComments(expected), withoutBrackets, expected};
+}
+
 bool answersMatch(const QString &typed, const QString &expected, const CheckingOptions &options)
 {
     if (typed == expected) {
         return true;
     }
     const QString answer = normalizeForCheck(typed, options);
-    const auto matches = [&](const QString &candidate) {
-        return answer == normalizeForCheck(candidate, options);
-    };
-    if (!expected.contains(u'[')) {
-        return matches(expected);
-    }
-    const auto withoutBrackets = [&] {
-        QString text = expected;
-        return text.removeIf([](QChar unit) { return unit == u'[' || unit == u']'; });
-    };
-    return matches(StripComments(expected)) || matches(withoutBrackets()) || matches(expected);
+    return std::ranges::any_of(acceptedForms(expected),
+        [&](const QString &form) { return answer == normalizeForCheck(form, options); });
 }
 
 AnswerVerdict checkAnswer(

@@ -4,6 +4,7 @@
 #include "model/word_entry.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <optional>
@@ -39,6 +40,9 @@ struct QuizQuestion
 
 /// `text` reduced to what counts; both sides of a comparison go through it.
 QString normalizeForCheck(const QString &text, const CheckingOptions &options);
+
+/// What may be typed for an expected text: it without its comments, without their brackets, and in full.
+QStringList acceptedForms(const QString &expected);
 
 /// Whether a typed text stands for the expected one. Comments of the expected text may be left out, typed
 /// without their brackets, or typed in full.

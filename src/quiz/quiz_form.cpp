@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/quiz_form.h"
 
+#include "quiz/answer_sound.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/quiz_settings.h"
@@ -8,6 +9,16 @@
 CQuizForm::CQuizForm(CQuizSession &session, const QuizSettings &settings, const CTexts &texts)
     : m_session(session), m_settings(settings), m_texts(texts)
 {
+}
+
+bool CQuizForm::mayChangeEntries() const
+{
+    return m_settings.allowChanges;
+}
+
+QString CQuizForm::sound(AnswerVerdict verdict, const QStringList &dataFolders) const
+{
+    return answerSound(verdict, m_settings, dataFolders);
 }
 
 QString CQuizForm::roundText() const
@@ -42,7 +53,8 @@ QuizProgress CQuizForm::rightProgress() const
 bool CQuizForm::advance(AnswerVerdict verdict)
 {
     constexpr int AskAgainAtOnce = 2;
-    if (verdict != AnswerVerdict::Wrong || m_settings.requiz != AskAgainAtOnce) {
+    m_askedAgain = verdict == AnswerVerdict::Wrong && m_settings.requiz == AskAgainAtOnce;
+    if (!m_askedAgain) {
         ++m_roundPosition;
     }
     if (m_roundPosition < m_session.roundSize()) {
@@ -50,4 +62,22 @@ bool CQuizForm::advance(AnswerVerdict verdict)
     }
     m_roundPosition = 0;
     return m_session.startRound();
+}
+
+QString CQuizForm::lastAnswer() const
+{
+    const int position = m_session.lastAnswered();
+    return position < 0 ? QString() : m_session.record(position).answers.last();
+}
+
+bool CQuizForm::mayAcceptLastAnswer() const
+{
+    return m_session.lastAnswered() >= 0 && m_session.mayAccept(m_session.lastAnswered(), lastAnswer());
+}
+
+bool CQuizForm::acceptLastAnswer()
+{
+    const bool accepted =
+        m_session.lastAnswered() >= 0 && m_session.acceptAnswer(m_session.lastAnswered(), lastAnswer());
+    return accepted && m_askedAgain ? advance(AnswerVerdict::Right) : true;
 }

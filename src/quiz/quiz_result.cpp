@@ -1,48 +1,139 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/quiz_result.h"
 
+#include "document/file_filters.h"
+#include "document/win32_doc.h"
+#include "fileformats/text_file_writer.h"
+#include "platform/file_chooser.h"
+#include "platform/user_prompt.h"
 #include "quiz/quiz_session.h"
+#include "quiz/rounding.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "settings/quiz_settings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 #include <cmath>
 
-namespace {
-
-int RoundHalfUp(double value)
+CQuizResult::CQuizResult(CQuizSession &session, ResultServices services, ResultMode mode)
+    : m_session(session), m_services(services), m_mode(mode), m_model(session, services.texts, mode)
 {
-    return int(std::floor(value + 0.5));
 }
 
+bool CQuizResult::showsRightAnswers() const
+{
+    return m_mode == ResultMode::AfterQuiz || m_session.settings().showAnswer;
 }
 
-QuizResultRow resultRow(const CQuizSession &session, const CTexts &texts, int position)
+QString CQuizResult::summary() const
 {
-    const QuizQuestion question = session.questionAt(position);
-    QuizResultRow row;
-    row.question = question.entry.GetText(question.questionColumn);
-    row.answer = question.entry.GetText(question.AnswerColumn());
+    return m_services.texts.Fill(Text::ResultSummary,
+        {QString::number(m_session.wordCount()),
+            QString::number(m_session.totalRight() + m_session.totalWrong()),
+            QString::number(m_session.totalRight()), QString::number(RoundHalfUp(m_session.totalPercent()))});
+}
 
-    const QuizWordRecord &record = session.record(position);
-    if (record.answers.isEmpty()) {
-        row.share = texts.Get(Text::NoAnswers);
-    } else {
-        row.percent = RoundHalfUp(session.percentRight(position));
-        row.share = texts.Fill(Text::AnswersOfTotal,
-            {QString::number(record.rightCount), QString::number(record.answers.size()),
-                QString::number(row.percent)});
+int CQuizResult::rightShare() const
+{
+    return int(std::lround(m_session.totalPercent() * 10));
+}
+
+QString CQuizResult::flagLine() const
+{
+    const FlagChanges changes = m_session.flagChanges(FlagLimits::Of(m_services.settings));
+    const QString flag = QString::number(changes.flag.size());
+    const QString unflag = QString::number(changes.unflag.size());
+    const CTexts &texts = m_services.texts;
+    if (changes.flag.empty()) {
+        return changes.unflag.empty() ? texts.Get(Text::NoFlagsChange)
+                                      : texts.Fill(Text::WillBeUnflagged, {unflag});
     }
-    QStringList wrong = session.wrongAnswers(position);
-    for (QString &answer : wrong) {
-        answer = texts.Fill(Text::Quoted, {answer});
-    }
-    row.wrongAnswers = wrong.join(texts.Get(Text::QuotedSeparator));
-    return row;
+    return changes.unflag.empty() ? texts.Fill(Text::WillBeFlagged, {flag})
+                                  : texts.Fill(Text::WillBeFlaggedAndUnflagged, {flag, unflag});
 }
 
-QString resultSummary(const CQuizSession &session, const CTexts &texts)
+void CQuizResult::applyFlags()
 {
-    return texts.Fill(Text::ResultSummary,
-        {QString::number(session.wordCount()), QString::number(session.totalRight() + session.totalWrong()),
-            QString::number(session.totalRight()), QString::number(RoundHalfUp(session.totalPercent()))});
+    m_session.applyFlags(FlagLimits::Of(m_services.settings));
+}
+
+QString CQuizResult::table() const
+{
+    const auto line = [&](auto cell) {
+        QStringList cells;
+        for (int column = 0; column < m_model.columnCount(); ++column) {
+            cells.append(cell(column).toString());
+        }
+        return cells.join(u'\t') + QStringLiteral("\r\n");
+    };
+    QString text = line([&](int column) { return m_model.headerData(column, Qt::Horizontal); });
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        text += line([&](int column) { return m_model.index(row, column).data(); });
+    }
+    return text + summary();
+}
+
+QString CQuizResult::proposedFile(int name, const QString &suffix) const
+{
+    const CWin32Doc &document = m_session.document();
+    const QFileInfo file(document.Path());
+    const bool named = !document.Path().isEmpty();
+    const QString folder =
+        named ? file.absolutePath() : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString base = named ? file.completeBaseName() : document.SuggestFileName();
+    return QDir(folder).filePath(m_services.texts.Fill(name, {base}) + u'.' + suffix);
+}
+
+void CQuizResult::saveTable()
+{
+    const CTexts &texts = m_services.texts;
+    const QString suffix = texts.Get(Text::ResultSuffix);
+    qsizetype filter = 0;
+    const QString path =
+        m_services.chooser.ChooseFileToSave({.title = texts.Get(Text::SaveResultTitle),
+                                                .filters = FileFilters(texts.Get(Text::ResultFilters)),
+                                                .start = proposedFile(Text::ResultFileName, suffix),
+                                                .defaultSuffix = suffix},
+            &filter);
+    if (path.isEmpty()) {
+        return;
+    }
+    CTextFileWriter writer;
+    bool written = writer.Open(path, filter == 0 ? TextEncoding::Ansi : TextEncoding::Utf16LittleEndian);
+    if (written) {
+        writer.Write(table());
+        written = writer.Close();
+    }
+    if (!written) {
+        m_services.prompt.Tell(texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
+    } else if (writer.Lossy()) {
+        m_services.prompt.Tell(texts.Prompt(Text::SavedWithoutCharacters, {path}), PromptIcon::Warning);
+    }
+}
+
+bool CQuizResult::hasMistakes() const
+{
+    return !m_session.mistakes().empty();
+}
+
+void CQuizResult::saveMistakes()
+{
+    const CTexts &texts = m_services.texts;
+    const QString suffix = QStringLiteral("gls");
+    const QString path = m_services.chooser.ChooseFileToSave({.title = texts.Get(Text::SaveMistakesTitle),
+        .filters = FileFilters(texts.Get(Text::OpenFilters)).mid(0, 1),
+        .start = proposedFile(Text::MistakesFileName, suffix),
+        .defaultSuffix = suffix});
+    if (!path.isEmpty()) {
+        m_session.document().SaveEntries(path, m_session.mistakes());
+    }
+}
+
+bool flagLimitsContradict(const ResultSettings &settings)
+{
+    // Kept: equal limits too, although the message speaks of a greater one.
+    return settings.flagWord && settings.unFlagWord && settings.unFlagWordLimit >= settings.flagWordLimit;
 }

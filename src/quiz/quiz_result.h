@@ -1,24 +1,60 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "quiz/quiz_result_model.h"
+
 #include <QString>
 
-class CQuizSession;
-class CTexts;
+class IFileChooser;
+class IUserPrompt;
+struct ResultSettings;
 
-/// One word of a session in the table of results.
-struct QuizResultRow
+/// What the window of results is handed; none of it is owned.
+struct ResultServices
 {
-    QString question;
-    QString answer;
-    /// "right of answers (percent)", or a dash for a word without answers.
-    QString share;
-    /// Right answers in percent, rounded half up; -1 without answers.
-    int percent = -1;
-    /// The wrong answers given, each in quotation marks.
-    QString wrongAnswers;
+    const CTexts &texts;
+    IUserPrompt &prompt;
+    IFileChooser &chooser;
+    ResultSettings &settings;
 };
 
-QuizResultRow resultRow(const CQuizSession &session, const CTexts &texts, int position);
-/// Words, answers, right answers and their share in one sentence.
-QString resultSummary(const CQuizSession &session, const CTexts &texts);
+/// What the window of results shows and decides beside its rows. The session is not owned.
+class CQuizResult
+{
+public:
+    CQuizResult(CQuizSession &session, ResultServices services, ResultMode mode);
+
+    CQuizSession &session() const { return m_session; }
+    const CTexts &texts() const { return m_services.texts; }
+    CQuizResultModel &model() { return m_model; }
+    /// During a quiz no flags can be changed.
+    bool changesFlags() const { return m_mode == ResultMode::AfterQuiz; }
+    /// Whether wrong answers may be shown beside right ones: not while these are kept from the user.
+    bool showsRightAnswers() const;
+
+    /// Words, answers, right answers and their share in one sentence.
+    QString summary() const;
+    /// The share of right answers in tenths of a percent.
+    int rightShare() const;
+    /// How many flags will change under the settings in force.
+    QString flagLine() const;
+    void applyFlags();
+    /// The titles, the rows and the summary as lines with tabs between the cells.
+    QString table() const;
+
+    /// Ask for a file, and tell when it could not be written.
+    void saveTable();
+    void saveMistakes();
+    bool hasMistakes() const;
+
+private:
+    QString proposedFile(int name, const QString &suffix) const;
+
+    CQuizSession &m_session;
+    ResultServices m_services;
+    ResultMode m_mode;
+    CQuizResultModel m_model;
+};
+
+/// Whether words would be both flagged and unflagged.
+bool flagLimitsContradict(const ResultSettings &settings);

@@ -6,7 +6,6 @@
 #include "settings/quiz_settings.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <numeric>
 
@@ -97,7 +96,7 @@ bool CQuizSession::startRound()
         m_roundOrder = m_wrongList;
         ++m_requizRound;
     } else {
-        if (++m_baseRound > m_settings.quizNumber) {
+        if (m_candidates.empty() || ++m_baseRound > m_settings.quizNumber) {
             return false;
         }
         m_roundOrder.resize(m_candidates.size());
@@ -126,7 +125,7 @@ QuizQuestion CQuizSession::questionAt(int position) const
 
 QuizQuestion CQuizSession::questionOfRound(int roundPosition) const
 {
-    return questionAt(m_roundOrder[size_t(roundPosition)]);
+    return questionAt(positionOfRound(roundPosition));
 }
 
 QString CQuizSession::questionText(int roundPosition, const QString &defaultTemplate) const
@@ -155,12 +154,13 @@ void CQuizSession::count(int position, AnswerVerdict verdict)
 
 AnswerVerdict CQuizSession::recordAnswer(int roundPosition, const QString &text)
 {
-    const int position = m_roundOrder[size_t(roundPosition)];
+    const int position = positionOfRound(roundPosition);
     QuizWordRecord &record = m_records[size_t(position)];
     record.answers.append(text);
     record.askedThisRound = true;
     const AnswerVerdict verdict = judge(position, text);
     count(position, verdict);
+    m_lastAnswered = position;
     if (verdict == AnswerVerdict::Wrong && std::ranges::find(m_wrongList, position) == m_wrongList.end()) {
         m_wrongList.push_back(position);
     }
@@ -203,43 +203,4 @@ QStringList CQuizSession::wrongAnswers(int position) const
     QStringList wrong = record(position).answers;
     wrong.removeIf([&](const QString &answer) { return judge(position, answer) != AnswerVerdict::Wrong; });
     return wrong;
-}
-
-int CQuizSession::flagDecision(int position, const FlagLimits &limits) const
-{
-    enum { Unflag = 2, Flag = 3 };
-    const int current = int(m_document.List().Entry(m_candidates[size_t(position)]).GetFlag(m_questionColumn));
-    int decision = current;
-    if (record(position).answers.isEmpty()) {
-        if (limits.unasked != -1) {
-            decision = limits.unasked + Unflag;
-        }
-    } else {
-        const int percent = int(std::floor(percentRight(position) + 0.5));
-        if (limits.unflag != -1 && limits.unflag >= percent) {
-            decision = Unflag;
-        }
-        if (limits.flag != -1 && limits.flag <= percent) {
-            decision = Flag;
-        }
-    }
-    return decision == current + Unflag ? current : decision;
-}
-
-int CQuizSession::applyFlags(const FlagLimits &limits)
-{
-    std::vector<int> flag;
-    std::vector<int> unflag;
-    for (int position = 0; position < wordCount(); ++position) {
-        const int decision = flagDecision(position, limits);
-        if (decision >= 2) {
-            (decision == 3 ? flag : unflag).push_back(m_candidates[size_t(position)]);
-        }
-    }
-    if (!flag.empty() || !unflag.empty()) {
-        CWordList &list = m_document.BeginChange();
-        list.SetFlags(m_questionColumn, flag, FlagMode::Set);
-        list.SetFlags(m_questionColumn, unflag, FlagMode::Clear);
-    }
-    return int(flag.size() + unflag.size());
 }

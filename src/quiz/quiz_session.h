@@ -2,14 +2,17 @@
 #pragma once
 
 #include "quiz/answer_check.h"
+#include "quiz/flag_limits.h"
 
 #include <QStringList>
 
+#include <optional>
 #include <span>
 #include <vector>
 
 class CRandom;
 class CWin32Doc;
+class CWordList;
 struct QuizSettings;
 
 /// What a session learns about one of its words.
@@ -19,15 +22,6 @@ struct QuizWordRecord
     QStringList answers;
     int rightCount = 0;
     bool askedThisRound = false;
-};
-
-/// The limits by which a quiz changes flags, in percent of right answers; -1 switches one off.
-struct FlagLimits
-{
-    int flag = -1;
-    int unflag = -1;
-    /// What a word without an answer becomes: 0 not flagged, 1 flagged.
-    int unasked = -1;
 };
 
 /// One run of a quiz over entries of the document's list: which words are asked, in which order and how often,
@@ -54,6 +48,15 @@ public:
     /// The entries of the session by position: ascending indices into the list.
     const std::vector<int> &candidates() const { return m_candidates; }
     const QuizWordRecord &record(int position) const { return m_records[size_t(position)]; }
+    int positionOfRound(int roundPosition) const { return m_roundOrder[size_t(roundPosition)]; }
+    /// The entry asked at a round position, as an index into the list.
+    int entryOfRound(int roundPosition) const { return m_candidates[size_t(positionOfRound(roundPosition))]; }
+    /// The word answered last; -1 before the first answer.
+    int lastAnswered() const { return m_lastAnswered; }
+    int answerColumn() const { return 1 - m_questionColumn; }
+    const CheckingOptions &checkingOptions() const { return m_options; }
+    const QuizSettings &settings() const { return m_settings; }
+    CWin32Doc &document() const { return m_document; }
 
     /// The question about the word at a round position, or at a position.
     QuizQuestion questionOfRound(int roundPosition) const;
@@ -73,14 +76,36 @@ public:
     QStringList wrongAnswers(int position) const;
     QString nthWrongAnswer(int position, int n) const { return wrongAnswers(position).value(n); }
 
+    /// Whether one of them is wrong.
+    bool wasWrong(int position) const { return record(position).rightCount < record(position).answers.size(); }
+    /// The entries of words answered wrong, ascending.
+    std::vector<int> mistakes() const;
+
+    // What a quiz changes in the list, and what follows it (quiz_session_changes.cpp)
+    /// The one way to change the list during a quiz and its result: everything is one step for undo, taken
+    /// at the first change. Call it only when something will change.
+    CWordList &beginChange();
+    /// Replaces the texts of any entry of the list. Does nothing when they are those that it has; call
+    /// recheckAll() after one or more changes.
+    void changeEntry(int index, const QString &term1, const QString &term2, const QString &note);
+    /// Whether a wrong answer would be right as a further alternative of its entry, and changes are allowed.
+    bool mayAccept(int position, const QString &answer) const;
+    /// Makes it one and judges again. Returns false when it may not be.
+    bool acceptAnswer(int position, const QString &answer);
     /// 0 or 1: the flag stays like that; 2: it will be taken off; 3: it will be set.
     int flagDecision(int position, const FlagLimits &limits) const;
-    /// Carries the decisions out and returns how many flags changed. Takes no snapshot when nothing changes.
+    FlagChanges flagChanges(const FlagLimits &limits) const;
+    /// Carries the decisions out and returns how many flags changed.
     int applyFlags(const FlagLimits &limits);
+    /// At the end, only the words answered wrong are to be selected in the list.
+    void setSelectMistakes(bool select) { m_selectMistakes = select; }
+    /// The entries to select in the list at the end; nothing when its selection is to stay.
+    std::optional<std::vector<int>> entriesToSelect() const;
 
 private:
     void selectWords(std::span<const int> selected, CRandom &random);
     void shuffleAvoiding(int last);
+    CWordEntry entryAccepting(int position, const QString &answer) const;
     AnswerVerdict judge(int position, const QString &answer) const;
     void count(int position, AnswerVerdict verdict);
 
@@ -98,4 +123,7 @@ private:
     std::vector<int> m_wrongList; // Positions answered wrong in this round, each once.
     int m_totalRight = 0;
     int m_totalWrong = 0;
+    int m_lastAnswered = -1;
+    bool m_selectMistakes = false;
+    std::optional<quint64> m_ownChange; // The document's change counter after the session's last change.
 };

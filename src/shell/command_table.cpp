@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/commands.h"
 
+#include "quiz/quiz_kinds.h"
+
 using namespace CommandId;
 
 namespace {
@@ -27,12 +29,13 @@ void AddQuizzes(QList<Command> &table)
     for (int kind = 0; kind <= LastQuiz - StandardQuiz; ++kind) {
         // Ctrl+Alt+F1 to F9 never arrive where they switch the virtual console, so the digit is shown.
         const QString digit = QString::number(kind + 1);
+        const int minimum = MinimumEntries[size_t(kind)];
         table.append({.id = StandardQuiz + kind,
             .shortcuts = {QStringLiteral("Ctrl+Alt+") + digit, QStringLiteral("Ctrl+Alt+F") + digit},
             .icon = Icon(Icons[kind]),
-            .enabled = kind == 3 ? EnabledRule::ListHasFourEntries
-                : kind == 5      ? EnabledRule::ListHasTwoEntries
-                                 : EnabledRule::ListHasEntries});
+            .enabled = minimum > 2 ? EnabledRule::ListHasFourEntries
+                : minimum == 2     ? EnabledRule::ListHasTwoEntries
+                                   : EnabledRule::ListHasEntries});
     }
 }
 

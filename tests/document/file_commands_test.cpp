@@ -128,9 +128,10 @@ void FileCommandsTest::recentFiles()
 
 void FileCommandsTest::filters()
 {
-    QCOMPARE(FileFilters(QStringLiteral("Glosfil|*.gls|Bilder|*.png;*.jpg|Alla filer (*.*)|*.*||\n")),
-        QStringList({QStringLiteral("Glosfil (*.gls)"), QStringLiteral("Bilder (*.png *.jpg)"),
-            QStringLiteral("Alla filer (*)")}));
+    QCOMPARE(FileFilters(QStringLiteral(
+                 "Glosfil|*.gls|Text (Unicode)|*.txt|Bilder|*.png;*.jpg|Alla filer (*.*)|*.*||\n")),
+        QStringList({QStringLiteral("Glosfil (*.gls)"), QStringLiteral("Text (Unicode) (*.txt)"),
+            QStringLiteral("Bilder (*.png *.jpg)"), QStringLiteral("Alla filer (*)")}));
 }
 
 QTEST_GUILESS_MAIN(FileCommandsTest)

@@ -29,6 +29,12 @@ QStringList Words(int count, const QString &flags = {})
     return words;
 }
 
+/// What is right for the question word.
+QString Answer(const QString &question)
+{
+    return u'a' + question.mid(1);
+}
+
 /// The question words of the current round in order.
 QString Round(const CQuizSession &session)
 {
@@ -50,14 +56,16 @@ private Q_SLOTS:
     void selection();
     void flaggedWords();
     void selectedEntries();
-    void orders();
     void randomRounds();
-    void requizRounds();
     void recheckAfterAChange();
     void percentages();
     void flagDecisions_data();
     void flagDecisions();
     void applyingFlags();
+    void acceptedAnswers_data();
+    void acceptedAnswers();
+    void oneStepForUndo();
+    void selectedAfterwards();
     void questions();
     void emptySessions();
 };
@@ -136,81 +144,41 @@ void QuizSessionTest::selectedEntries()
     QCOMPARE(Round(session), QStringLiteral("q1 q4"));
 }
 
-void QuizSessionTest::orders()
-{
-    TestDocument test(Words(3));
-    CRandom random(1);
-    QuizSettings settings = PlainSettings();
-    settings.quizNumber = 2;
-    settings.order = 1;
-    CQuizSession session(test.document, settings, random, {});
-    QCOMPARE(Round(session), QStringLiteral("q2 q1 q0"));
-    QCOMPARE(session.baseRound(), 1);
-    QVERIFY(session.startRound());
-    QCOMPARE(session.baseRound(), 2);
-    QVERIFY(!session.startRound());
-}
-
 void QuizSessionTest::randomRounds()
 {
     for (quint32 seed = 0; seed < 200; ++seed) {
-        const int count = 2 + int(seed % 4);
+        const int count = 1 + int(seed % 5);
         TestDocument test(Words(count));
         CRandom random(seed);
         QuizSettings settings = PlainSettings();
         settings.order = 2;
-        settings.quizNumber = 5;
+        settings.quizNumber = 4;
+        settings.requiz = 1;
+        settings.requizNumber = 2;
         CQuizSession session(test.document, settings, random, {});
+        std::set<QString> expected; // Empty for all words.
         QString last;
         do {
             const QStringList words = Round(session).split(u' ');
-            QCOMPARE(int(std::set<QString>(words.begin(), words.end()).size()), count);
-            QVERIFY(words.first() != last);
+            const std::set<QString> asked(words.begin(), words.end());
+            QCOMPARE(qsizetype(asked.size()), words.size());
+            QCOMPARE(session.requizRound() > 0, !expected.empty());
+            QVERIFY(session.requizRound() <= 2);
+            QVERIFY(expected.empty() ? words.size() == count : asked == expected);
+            QVERIFY(words.size() == 1 || words.first() != last);
             last = words.last();
+            expected.clear();
+            for (int i = 0; i < session.roundSize(); ++i) {
+                if (session.recordAnswer(i, random.Next() % 2 == 0 ? QStringLiteral("x") : Answer(words.at(i)))
+                    == AnswerVerdict::Wrong) {
+                    expected.insert(words.at(i));
+                }
+            }
+            if (session.requizRound() == 2) {
+                expected.clear();
+            }
         } while (session.startRound());
     }
-}
-
-void QuizSessionTest::requizRounds()
-{
-    TestDocument test(Words(3));
-    CRandom random(1);
-    QuizSettings settings = PlainSettings();
-    settings.requiz = 1;
-    settings.quizNumber = 2;
-    settings.requizMax = true;
-    settings.requizNumber = 2;
-    CQuizSession session(test.document, settings, random, {});
-    const auto answerAll = [&](const QString &answers) {
-        for (int i = 0; i < session.roundSize(); ++i) {
-            session.recordAnswer(i, answers.section(u' ', i, i));
-        }
-        return session.startRound();
-    };
-    QVERIFY(answerAll(QStringLiteral("x a1 x")));
-    QCOMPARE(Round(session), QStringLiteral("q0 q2"));
-    QCOMPARE(session.requizRound(), 1);
-    QVERIFY(answerAll(QStringLiteral("x a2")));
-    QCOMPARE(Round(session), QStringLiteral("q0"));
-    QVERIFY(answerAll(QStringLiteral("x"))); // Two rounds were the most: a base round follows.
-    QCOMPARE(Round(session), QStringLiteral("q0 q1 q2"));
-    QCOMPARE(session.baseRound(), 2);
-    QCOMPARE(session.requizRound(), 0);
-    QVERIFY(!answerAll(QStringLiteral("a0 a1 a2")));
-    QCOMPARE(session.totalRight(), 5);
-    QCOMPARE(session.totalWrong(), 4);
-
-    settings.requizMax = false;
-    settings.quizNumber = 1;
-    CQuizSession endless(test.document, settings, random, {});
-    for (int i = 0; i < 20; ++i) {
-        endless.recordAnswer(0, QStringLiteral("x"));
-        endless.recordAnswer(0, QStringLiteral("x")); // Wrong twice, asked again once.
-        QVERIFY(endless.startRound());
-        QCOMPARE(Round(endless), QStringLiteral("q0"));
-    }
-    endless.recordAnswer(0, QStringLiteral("a0"));
-    QVERIFY(!endless.startRound());
 }
 
 void QuizSessionTest::recheckAfterAChange()
@@ -305,6 +273,94 @@ void QuizSessionTest::applyingFlags()
     QVERIFY(test.document.IsModified());
 }
 
+void QuizSessionTest::acceptedAnswers_data()
+{
+    QTest::addColumn<QString>("term");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("changed"); // Empty when it is refused.
+    QTest::newRow("another word") << "dog"
+                                  << "hound"
+                                  << "dog * hound";
+    QTest::newRow("behind several") << "dog [x] * cur"
+                                    << "hound [y]"
+                                    << "dog [x] * cur * hound [y]";
+    QTest::newRow("the first of an empty term") << ""
+                                                << "hound"
+                                                << "hound";
+    QTest::newRow("an open bracket stays in its alternative") << "dog [x"
+                                                              << "hound"
+                                                              << "dog [x * hound";
+    QTest::newRow("right already") << "dog * cur"
+                                   << "cur"
+                                   << "";
+    QTest::newRow("nothing typed") << "dog"
+                                   << ""
+                                   << "";
+    QTest::newRow("several at once would still be wrong") << "dog"
+                                                          << "hound * cur"
+                                                          << "";
+}
+
+void QuizSessionTest::acceptedAnswers()
+{
+    QFETCH(QString, term);
+    QFETCH(QString, answer);
+    QFETCH(QString, changed);
+    TestDocument test(QStringList{QStringLiteral("hund|%1|n|12").arg(term), QStringLiteral("katt|cat")});
+    CRandom random(1);
+    QuizSettings settings = PlainSettings();
+    CQuizSession session(test.document, settings, random, {});
+    session.recordAnswer(0, answer);
+    session.recordAnswer(1, QStringLiteral("x"));
+    QCOMPARE(session.acceptAnswer(0, answer), !changed.isEmpty());
+    QCOMPARE(test.document.UndoCount(), changed.isEmpty() ? 0 : 1);
+    if (!changed.isEmpty()) {
+        QCOMPARE(Describe(test.document.List().Entry(0)), QStringLiteral("hund|%1|n|12").arg(changed));
+        QCOMPARE(session.mistakes(), std::vector<int>{1});
+    }
+    settings.allowChanges = false;
+    QVERIFY(!session.mayAccept(1, QStringLiteral("x")));
+}
+
+void QuizSessionTest::oneStepForUndo()
+{
+    TestDocument test(Words(3));
+    CRandom random(1);
+    CQuizSession session(test.document, PlainSettings(), random, {});
+    const QStringList before = Describe(test.document.List());
+    session.changeEntry(0, QStringLiteral("q0"), QStringLiteral(" a0 "), {}); // As it is.
+    QCOMPARE(test.document.UndoCount(), 0);
+    session.recordAnswer(1, QStringLiteral("new"));
+    session.changeEntry(0, QStringLiteral("Q"), QStringLiteral("A"), QStringLiteral("n"));
+    QVERIFY(session.acceptAnswer(1, QStringLiteral("new")));
+    QCOMPARE(session.applyFlags({100, 0, -1}), 1);
+    QCOMPARE(Describe(test.document.List()).join(u','), QStringLiteral("Q|A|n,q1|a1 * new||1,q2|a2"));
+    QCOMPARE(test.document.UndoCount(), 1);
+    test.document.Undo();
+    QCOMPARE(Describe(test.document.List()), before);
+    QVERIFY(!test.document.IsModified());
+    // Something came in between: a step of its own.
+    session.changeEntry(2, QStringLiteral("Q"), QStringLiteral("A"), {});
+    QCOMPARE(test.document.UndoCount(), 1);
+    QCOMPARE(Describe(test.document.List()).last(), QStringLiteral("Q|A"));
+}
+
+void QuizSessionTest::selectedAfterwards()
+{
+    TestDocument test(Words(4));
+    CRandom random(1);
+    QuizSettings settings = PlainSettings();
+    settings.wordsToQuiz = 3;
+    CQuizSession session(test.document, settings, random, std::vector<int>{0, 2, 3});
+    session.recordAnswer(0, QStringLiteral("a0"));
+    session.recordAnswer(1, QStringLiteral("x"));
+    QCOMPARE(session.entriesToSelect().value(), (std::vector<int>{0, 2, 3}));
+    settings.selectedTestedWordsAfterQuiz = false;
+    QVERIFY(!session.entriesToSelect());
+    session.setSelectMistakes(true);
+    QCOMPARE(session.entriesToSelect().value(), std::vector<int>{2});
+}
+
 void QuizSessionTest::questions()
 {
     TestDocument test(Words(1));
@@ -325,7 +381,8 @@ void QuizSessionTest::emptySessions()
     CRandom random(1);
     QuizSettings settings;
     TestDocument empty;
-    QCOMPARE(CQuizSession(empty.document, settings, random, {}).roundSize(), 0);
+    CQuizSession none(empty.document, settings, random, {});
+    QVERIFY(none.roundSize() == 0 && !none.startRound());
     TestDocument test(Words(3));
     settings.quizNumber = 0;
     CQuizSession session(test.document, settings, random, {});

@@ -1,119 +1,178 @@
 // SPDX-License-Identifier: MIT
-#include "quiz/quiz_result.h"
 #include "quiz/standard_quiz_form.h"
 #include "settings/quiz_settings.h"
 #include "support/test_document.h"
 
 #include <QTest>
 
+namespace {
+
+QuizSettings InOrder(int requiz, int rounds)
+{
+    QuizSettings settings;
+    settings.order = 0;
+    settings.requiz = requiz;
+    settings.quizNumber = rounds;
+    settings.includeFlaggedWords = 1;
+    settings.showAnswerIfOneCorrect = true;
+    return settings;
+}
+
+/// Plays a quiz by script and returns a line per step: the question, the statistics, and the number of the text
+/// shown after the answer. A step is an answer, "-" to skip, "!" for "I was right", or "term 1=term 2" to
+/// change the entry asked.
+QStringList Play(TestDocument &test, const QuizSettings &settings, const QString &script)
+{
+    CRandom random(1);
+    CQuizSession session(test.document, settings, random, {});
+    CStandardQuizForm form(session, settings, test.texts);
+    QStringList lines;
+    bool more = true;
+    for (const QString &step : script.split(u' ')) {
+        if (!more) {
+            break;
+        }
+        QString line = form.question() + u' ' + form.roundText() + u' ' + form.wordProgress().text + u' '
+            + form.rightProgress().text;
+        if (step == u'-') {
+            more = form.skip();
+        } else if (step == u'!') {
+            line += form.mayAcceptLastAnswer() ? QStringLiteral(" accepted") : QStringLiteral(" refused");
+            more = form.acceptLastAnswer();
+        } else if (step.contains(u'=')) {
+            session.changeEntry(session.entryOfRound(form.roundPosition()), step.section(u'=', 0, 0),
+                step.section(u'=', 1, 1), {});
+            session.recheckAll();
+        } else {
+            const auto outcome = form.answer(QString(step).replace(u'_', u' '));
+            line += outcome.feedback ? QStringLiteral(" %1").arg(outcome.feedback->number) : QString();
+            more = form.advance(outcome.verdict);
+        }
+        lines.append(line);
+    }
+    lines.append(more ? form.question() : QStringLiteral("over"));
+    return lines;
+}
+
+}
+
 class StandardQuizFormTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void wholeQuiz();
-    void askedAgainAtOnce();
-    void requizLines();
+    void wholeQuizzes_data();
+    void wholeQuizzes();
     void learning();
-    void results();
-
-private:
-    /// Plays a quiz by script: each step is an answer, or "-" to skip. Returns a line per step.
-    static QStringList Play(TestDocument &test, const QuizSettings &settings, const QStringList &steps)
-    {
-        CRandom random(1);
-        CQuizSession session(test.document, settings, random, {});
-        CStandardQuizForm form(session, settings, test.texts);
-        QStringList lines;
-        bool more = true;
-        for (const QString &step : steps) {
-            if (!more) {
-                lines.append(QStringLiteral("over"));
-                break;
-            }
-            QString line = form.question() + u' ' + form.roundText() + u' ' + form.wordProgress().text + u' '
-                + form.rightProgress().text;
-            if (step == u'-') {
-                more = form.skip();
-            } else {
-                const auto outcome = form.answer(step);
-                line += outcome.feedback ? QStringLiteral(" %1").arg(outcome.feedback->number) : QString();
-                more = form.advance(outcome.verdict);
-            }
-            lines.append(line);
-        }
-        if (!more) {
-            lines.append(QStringLiteral("over"));
-        }
-        return lines;
-    }
-
-    static QuizSettings InOrder(int requiz)
-    {
-        QuizSettings settings;
-        settings.order = 0;
-        settings.requiz = requiz;
-        settings.includeFlaggedWords = 1;
-        return settings;
-    }
+    void nothingToAsk();
 };
 
-void StandardQuizFormTest::wholeQuiz()
+void StandardQuizFormTest::wholeQuizzes_data()
 {
-    TestDocument test(QStringList{QStringLiteral("hund * vovve|dog"), QStringLiteral("katt|cat * puss")});
-    QuizSettings settings = InOrder(0);
-    settings.quizNumber = 2;
-    settings.showAnswerIfOneCorrect = true;
-    QCOMPARE(
-        Play(test, settings, {QStringLiteral(" dog "), QStringLiteral("puss"), QString(), QStringLiteral("-")}),
-        QStringList({QStringLiteral(
-                         "Vad heter \"hund * vovve\" på Engelska? Förhör 1 av 2. Glosa 1 av 2. 0 rätt av 0."),
-            QStringLiteral("Vad heter \"katt\" på Engelska? Förhör 1 av 2. Glosa 2 av 2. 1 rätt av 1. 63004"),
-            QStringLiteral(
-                "Vad heter \"hund * vovve\" på Engelska? Förhör 2 av 2. Glosa 1 av 2. 2 rätt av 2. 63003"),
-            QStringLiteral("Vad heter \"katt\" på Engelska? Förhör 2 av 2. Glosa 2 av 2. 2 rätt av 3."),
-            QStringLiteral("over")}));
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QuizSettings>("settings");
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("lines");
+
+    const QStringList animals = {QStringLiteral("hund * vovve|dog"), QStringLiteral("katt|cat * puss")};
+    QTest::newRow("two rounds in order") << animals << InOrder(0, 2) << "_dog_ puss _ -"
+                                         <<
+        R"(Vad heter "hund * vovve" på Engelska? Förhör 1 av 2. Glosa 1 av 2. 0 rätt av 0.
+Vad heter "katt" på Engelska? Förhör 1 av 2. Glosa 2 av 2. 1 rätt av 1. 63004
+Vad heter "hund * vovve" på Engelska? Förhör 2 av 2. Glosa 1 av 2. 2 rätt av 2. 63003
+Vad heter "katt" på Engelska? Förhör 2 av 2. Glosa 2 av 2. 2 rätt av 3.
+over)";
+
+    QuizSettings backwards = InOrder(0, 1);
+    backwards.order = 1;
+    backwards.showLanguage = 1;
+    QTest::newRow("backwards, the other direction") << animals << backwards << "puss vovve"
+                                                    <<
+        R"(Vad heter "cat * puss" på Svenska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. 63005
+Vad heter "dog" på Svenska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 1. 63004
+over)";
+
+    const QStringList letters = {QStringLiteral("a|x"), QStringLiteral("b|y")};
+    QTest::newRow("again at once") << letters << InOrder(2, 1) << "- 0 _ y"
+                                   <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0.
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 0. 63005
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 1. 63003
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 2.
+over)";
+
+    QuizSettings repeated = InOrder(1, 2);
+    repeated.requizNumber = 2;
+    repeated.showAnswer = false;
+    QTest::newRow("at most two repeats after each round") << letters << repeated << "0 0 0 y 0 x 0 y"
+                                                          <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 2. Glosa 1 av 2. 0 rätt av 0.
+Vad heter "b" på Engelska? Förhör 1 av 2. Glosa 2 av 2. 0 rätt av 1.
+Vad heter "a" på Engelska? Förhör 1 av 2. Omförhör 1 av 2. Glosa 1 av 2. 0 rätt av 2.
+Vad heter "b" på Engelska? Förhör 1 av 2. Omförhör 1 av 2. Glosa 2 av 2. 0 rätt av 3.
+Vad heter "a" på Engelska? Förhör 1 av 2. Omförhör 2 av 2. Glosa 1 av 1. 1 rätt av 4.
+Vad heter "a" på Engelska? Förhör 2 av 2. Glosa 1 av 2. 1 rätt av 5.
+Vad heter "b" på Engelska? Förhör 2 av 2. Glosa 2 av 2. 2 rätt av 6.
+Vad heter "b" på Engelska? Förhör 2 av 2. Omförhör 1 av 2. Glosa 1 av 1. 2 rätt av 7.
+over)";
+
+    repeated.quizNumber = 1;
+    repeated.requizMax = false;
+    QTest::newRow("repeats without a maximum") << letters << repeated << "x 0 0 0 y"
+                                               <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0.
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1.
+Vad heter "b" på Engelska? Förhör 1 av 1. Omförhör 1. Glosa 1 av 1. 1 rätt av 2.
+Vad heter "b" på Engelska? Förhör 1 av 1. Omförhör 2. Glosa 1 av 1. 1 rätt av 3.
+Vad heter "b" på Engelska? Förhör 1 av 1. Omförhör 3. Glosa 1 av 1. 1 rätt av 4.
+over)";
+
+    QTest::newRow("an entry changes before it would be repeated") << letters << repeated << "x 0 b=0 -"
+                                                                  <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0.
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1.
+Vad heter "b" på Engelska? Förhör 1 av 1. Omförhör 1. Glosa 1 av 1. 1 rätt av 2.
+Vad heter "b" på Engelska? Förhör 1 av 1. Omförhör 1. Glosa 1 av 1. 2 rätt av 2.
+over)";
+    QTest::newRow("an entry changes in the middle of a round") << letters << InOrder(2, 1) << "0 aa=0 0 y"
+                                                               <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. 63005
+Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 1.
+Vad heter "aa" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 1 rätt av 1.
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 2 rätt av 2.
+over)";
+
+    QTest::newRow("I was right: a word asked again is left") << letters << InOrder(2, 1) << "! 0 ! ! 1 !"
+                                                             <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. refused
+Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. 63005
+Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 1. accepted
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1. refused
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1. 63005
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 2. accepted
+over)";
+    QTest::newRow("I was right: a word left behind is not repeated") << letters << repeated << "0 ! y"
+                                                                     <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0.
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 1. accepted
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1.
+over)";
 }
 
-void StandardQuizFormTest::askedAgainAtOnce()
+void StandardQuizFormTest::wholeQuizzes()
 {
-    TestDocument test(QStringList{QStringLiteral("a|b")});
-    QuizSettings settings = InOrder(2);
-    settings.quizNumber = 2;
-    const QStringList lines = Play(test, settings,
-        {QStringLiteral("x"), QString(), QStringLiteral("b"), QStringLiteral("x"), QStringLiteral("-")});
-    QCOMPARE(lines,
-        QStringList(
-            {QStringLiteral("Vad heter \"a\" på Engelska? Förhör 1 av 2. Glosa 1 av 1. 0 rätt av 0. 63005"),
-                QStringLiteral("Vad heter \"a\" på Engelska? Förhör 1 av 2. Glosa 1 av 1. 0 rätt av 1. 63003"),
-                QStringLiteral("Vad heter \"a\" på Engelska? Förhör 1 av 2. Glosa 1 av 1. 0 rätt av 2."),
-                QStringLiteral("Vad heter \"a\" på Engelska? Förhör 2 av 2. Glosa 1 av 1. 1 rätt av 3. 63005"),
-                QStringLiteral("Vad heter \"a\" på Engelska? Förhör 2 av 2. Glosa 1 av 1. 1 rätt av 4."),
-                QStringLiteral("over")}));
-}
-
-void StandardQuizFormTest::requizLines()
-{
-    TestDocument test(QStringList{QStringLiteral("a|b"), QStringLiteral("c|d")});
-    QuizSettings settings = InOrder(1);
-    settings.quizNumber = 1;
-    settings.showAnswer = false;
-    const QStringList steps = {QStringLiteral("b"), QStringLiteral("x"), QStringLiteral("d")};
-    QStringList lines = Play(test, settings, steps);
-    QCOMPARE(lines.size(), 4);
-    QCOMPARE(lines.at(2),
-        QStringLiteral(
-            "Vad heter \"c\" på Engelska? Förhör 1 av 1. Omförhör 1 av 3. Glosa 1 av 1. 1 rätt av 2."));
-    settings.requizMax = false;
-    lines = Play(test, settings, steps);
-    QCOMPARE(lines.at(2),
-        QStringLiteral("Vad heter \"c\" på Engelska? Förhör 1 av 1. Omförhör 1. Glosa 1 av 1. 1 rätt av 2."));
+    QFETCH(QStringList, entries);
+    QFETCH(QuizSettings, settings);
+    QFETCH(QString, script);
+    QFETCH(QString, lines);
+    TestDocument test(entries);
+    QCOMPARE(Play(test, settings, script), lines.split(u'\n'));
 }
 
 void StandardQuizFormTest::learning()
 {
     TestDocument test(QStringList{QStringLiteral("a|b [x] * c")});
-    QuizSettings settings = InOrder(0);
+    QuizSettings settings = InOrder(0, 1);
     CRandom random(1);
     CQuizSession session(test.document, settings, random, {});
     CStandardQuizForm form(session, settings, test.texts);
@@ -123,23 +182,14 @@ void StandardQuizFormTest::learning()
     QCOMPARE(form.answer(form.prefilledAnswer()).verdict, AnswerVerdict::Right);
 }
 
-void StandardQuizFormTest::results()
+void StandardQuizFormTest::nothingToAsk()
 {
-    TestDocument test(QStringList{QStringLiteral("a|b"), QStringLiteral("c|d")});
-    const QuizSettings settings = InOrder(2);
+    TestDocument test;
+    const QuizSettings settings = InOrder(2, 3);
     CRandom random(1);
     CQuizSession session(test.document, settings, random, {});
-    session.recordAnswer(0, QStringLiteral("x"));
-    session.recordAnswer(0, QStringLiteral("%s"));
-    session.recordAnswer(0, QStringLiteral("b"));
-    const QuizResultRow first = resultRow(session, test.texts, 0);
-    QCOMPARE(first.question + u'|' + first.answer + u'|' + first.share + u'|' + first.wrongAnswers,
-        QStringLiteral("a|b|1 av 3 (33%)|\"x\", \"%s\""));
-    QCOMPARE(first.percent, 33);
-    const QuizResultRow second = resultRow(session, test.texts, 1);
-    QCOMPARE(second.share, QStringLiteral("-"));
-    QCOMPARE(second.percent, -1);
-    QCOMPARE(resultSummary(session, test.texts), QStringLiteral("Totalt 2 glosor. Av 3 svar är 1 rätt (33%)."));
+    CStandardQuizForm form(session, settings, test.texts);
+    QVERIFY(!form.skip() && !form.mayAcceptLastAnswer());
 }
 
 QTEST_APPLESS_MAIN(StandardQuizFormTest)

@@ -2,6 +2,7 @@
 #include "document/file_commands.h"
 #include "document/recent_files.h"
 #include "editor/ui/win32_view.h"
+#include "quiz/ui/quiz_settings_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "resources/text_numbers.h"
 #include "settings/quiz_settings.h"
@@ -11,6 +12,7 @@
 #include "shell/ui/about_dialog.h"
 #include "shell/ui/main_frame.h"
 #include "shell/ui/special_character_keys.h"
+#include "support/silent_sounds.h"
 #include "support/test_document.h"
 
 #include <QAction>
@@ -19,6 +21,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -31,7 +34,10 @@ struct Frame
 {
     TestDocument test;
     CScriptedChooser chooser;
+    CSilentSounds sounds;
     QuizSettings quizSettings;
+    QuizWindowSettings quizWindows;
+    ResultSettings result;
     CRandom random{1};
     CMemoryStore store;
     CRecentFiles recent{store, QStringLiteral("root")};
@@ -41,7 +47,8 @@ struct Frame
     CSpecialCharacterKeys specialCharacters{easyKey, test.texts, nullptr};
     int helpOpened = 0;
     CMainFrame frame{{test.document, files, recent, test.texts, test.settings, arrange, quizSettings,
-        test.prompt, random, store, QStringLiteral("root"), specialCharacters, [this] { ++helpOpened; }}};
+        quizWindows, result, test.prompt, chooser, sounds, random, store, QStringLiteral("root"),
+        specialCharacters, [this] { ++helpOpened; }}};
 
     QAction *Command(int id) const { return frame.findChild<QAction *>(QStringLiteral("command%1").arg(id)); }
     QString Status() const { return frame.findChild<QLabel *>(QStringLiteral("statusText"))->text(); }
@@ -99,6 +106,8 @@ void MainFrameTest::selectingManyEntries()
     run.frame.findChild<CWin32View *>()->RefreshAll();
     const std::vector<int> some = {0, 1, 2, 7, 1998, 1999};
     run.frame.SelectEntries(some);
+    QCOMPARE(run.frame.SelectedEntries(), some);
+    run.frame.Redraw();
     QCOMPARE(run.frame.SelectedEntries(), some);
     QVERIFY(run.Status().startsWith(QStringLiteral("6 glosor markerade. ")));
     run.frame.SelectEntries({});
@@ -213,6 +222,14 @@ void MainFrameTest::captionsFollowTheLanguages()
     run.Command(CommandId::FromLanguage2)->trigger();
     QCOMPARE(run.quizSettings.showLanguage, 1);
     QVERIFY(!run.Command(CommandId::FromLanguage1)->isChecked());
+
+    run.Command(CommandId::QuizSettings)->trigger();
+    auto *const settings = run.frame.findChild<CQuizSettingsDialog *>();
+    auto *const direction = settings->findChild<QRadioButton *>(QStringLiteral("fromLanguage1"));
+    QVERIFY(!direction->isChecked());
+    direction->click();
+    settings->accept();
+    QVERIFY(run.Command(CommandId::FromLanguage1)->isChecked());
 }
 
 QTEST_MAIN(MainFrameTest)

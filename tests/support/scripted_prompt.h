@@ -11,23 +11,25 @@
 class CScriptedPrompt : public IUserPrompt
 {
 public:
-    void Tell(const PromptText &text, PromptIcon /*icon*/) override { Record(text); }
-    PromptAnswer Ask(const PromptText &text, PromptIcon /*icon*/, PromptButtons /*buttons*/,
+    void Tell(const PromptText &text, PromptIcon icon) override { Record(text, icon); }
+    PromptAnswer Ask(const PromptText &text, PromptIcon icon, PromptButtons /*buttons*/,
         PromptAnswer /*defaultAnswer*/) override
     {
-        Record(text);
+        Record(text, icon);
         return answers.isEmpty() ? PromptAnswer::Cancel : answers.takeFirst();
     }
 
     QList<PromptAnswer> answers;
     QList<int> numbers;
     QStringList texts;
+    QList<PromptIcon> icons;
 
 private:
-    void Record(const PromptText &text)
+    void Record(const PromptText &text, PromptIcon icon)
     {
         numbers.append(text.number);
         texts.append(text.text);
+        icons.append(icon);
     }
 };
 
@@ -36,9 +38,16 @@ class CScriptedChooser : public IFileChooser
 {
 public:
     QString ChooseFileToOpen(const FileChoice &choice) override { return Take(choice); }
-    QString ChooseFileToSave(const FileChoice &choice) override { return Take(choice); }
+    QString ChooseFileToSave(const FileChoice &choice, qsizetype *chosenFilter) override
+    {
+        if (chosenFilter != nullptr) {
+            *chosenFilter = filter;
+        }
+        return Take(choice);
+    }
 
     QStringList paths;
+    qsizetype filter = 0;
     QList<FileChoice> asked;
 
 private:

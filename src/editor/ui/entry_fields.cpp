@@ -23,7 +23,7 @@ CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(paren
         connect(m_fields[i], &QLineEdit::returnPressed, this, &CEntryFields::AddOrChange);
     }
     auto *newEntry = MakeButton(Text::ClearFieldsButton, "newEntryButton");
-    m_addOrChange = MakeButton(Text::AddButton, "addButton");
+    m_addOrChange = MakeButton(Text::AddEntryButton, "addButton");
     layout->addWidget(newEntry, 0, 2);
     layout->addWidget(m_addOrChange, 1, 2);
     layout->setColumnStretch(1, 1);
@@ -69,7 +69,7 @@ void CEntryFields::SetTexts(const EntryTexts &texts)
 void CEntryFields::SetChangeMode(bool change)
 {
     m_changeMode = change;
-    m_addOrChange->setText(m_texts.Get(change ? Text::ChangeButton : Text::AddButton));
+    m_addOrChange->setText(m_texts.Get(change ? Text::ChangeEntryButton : Text::AddEntryButton));
     m_addOrChange->setIcon(
         QIcon(change ? QStringLiteral(":/icons/document-edit.svg") : QStringLiteral(":/pictures/new-row.svg")));
 }

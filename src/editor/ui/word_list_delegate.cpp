@@ -64,14 +64,15 @@ void CWordListDelegate::paint(
 QWidget *CWordListDelegate::createEditor(
     QWidget *parent, const QStyleOptionViewItem & /*option*/, const QModelIndex &index) const
 {
-    m_editor = new QLineEdit(parent);
-    m_editor->setObjectName(QStringLiteral("cellEditor"));
-    m_editor->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
-    m_editor->setFont(m_list.font());
-    m_editor->setFrame(false);
-    m_editor->setAutoFillBackground(true);
+    auto *const line = new QLineEdit(parent);
+    line->setObjectName(QStringLiteral("cellEditor"));
+    line->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
+    line->setFont(m_list.font());
+    line->setFrame(false);
+    line->setAutoFillBackground(true);
+    m_editor = line;
     m_edited = index;
-    return m_editor;
+    return line;
 }
 
 void CWordListDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
@@ -98,7 +99,7 @@ void CWordListDelegate::EndEditing(bool commit, bool byEnter)
     if (!m_editor) {
         return;
     }
-    QLineEdit *const editor = m_editor;
+    QWidget *const editor = m_editor;
     if (commit) {
         m_byEnter = byEnter;
         Q_EMIT commitData(editor);
@@ -120,7 +121,8 @@ std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const
 
 bool CWordListDelegate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_editor) {
+    // One that is being taken down is no line any more, and loses the focus once again.
+    if (watched != m_editor || qobject_cast<QLineEdit *>(watched) == nullptr) {
         return false;
     }
     if (event->type() == QEvent::KeyPress) {

@@ -46,7 +46,7 @@ private:
     QIcon m_flagOn;
     QIcon m_flagOff;
     QIcon m_newRow;
-    mutable QPointer<QLineEdit> m_editor;
+    mutable QPointer<QWidget> m_editor;
     mutable QPersistentModelIndex m_edited;
     bool m_byEnter = false;
 };

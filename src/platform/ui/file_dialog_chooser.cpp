@@ -6,9 +6,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
-QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
+QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode,
+    qsizetype *filter = nullptr)
 {
     QFileDialog dialog(OwnerWindow(), choice.title);
     dialog.setWindowModality(Qt::WindowModal);
@@ -23,7 +26,11 @@ QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDial
         dialog.setDirectory(start.path());
         dialog.selectFile(start.fileName());
     }
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    const bool chosen = dialog.exec() == QDialog::Accepted;
+    if (filter != nullptr) {
+        *filter = std::max<qsizetype>(choice.filters.indexOf(dialog.selectedNameFilter()), 0);
+    }
+    return chosen ? dialog.selectedFiles().value(0) : QString();
 }
 
 }
@@ -33,7 +40,7 @@ QString CFileDialogChooser::ChooseFileToOpen(const FileChoice &choice)
     return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
 }
 
-QString CFileDialogChooser::ChooseFileToSave(const FileChoice &choice)
+QString CFileDialogChooser::ChooseFileToSave(const FileChoice &choice, qsizetype *filter)
 {
-    return Choose(choice, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+    return Choose(choice, QFileDialog::AcceptSave, QFileDialog::AnyFile, filter);
 }

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QStyle>
 
 namespace {
 
@@ -19,6 +20,8 @@ QMessageBox::Icon BoxIcon(PromptIcon icon)
         return QMessageBox::Warning;
     case PromptIcon::Error:
         return QMessageBox::Critical;
+    case PromptIcon::PlainInformation:
+        break; // A picture alone; see Show().
     }
     return QMessageBox::NoIcon;
 }
@@ -42,6 +45,11 @@ int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons b
     QMessageBox box(BoxIcon(icon), QApplication::applicationDisplayName(), text.text, buttons, OwnerWindow());
     box.setObjectName(QStringLiteral("prompt%1").arg(text.number));
     box.setTextFormat(Qt::PlainText);
+    if (icon == PromptIcon::PlainInformation) {
+        const QStyle &style = *box.style();
+        const int size = style.pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+        box.setIconPixmap(style.standardIcon(QStyle::SP_MessageBoxInformation, nullptr, &box).pixmap(size));
+    }
     box.setDefaultButton(defaultButton);
     box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     return box.exec();

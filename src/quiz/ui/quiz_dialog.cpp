@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_dialog.h"
 
+#include "platform/sound_player.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
+#include "quiz/ui/accept_answer_button.h"
+#include "quiz/ui/change_entry_dialog.h"
 #include "quiz/ui/quiz_result_dialog.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -26,7 +30,8 @@ void ShowProgress(QLabel &label, QProgressBar &bar, const QuizProgress &progress
 
 }
 
-CQuizDialog::CQuizDialog(QuizWindowServices services, CQuizForm &form) : m_services(services), m_form(form)
+CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
+    : m_services(services), m_form(form)
 {
     setWindowTitle(texts().Get(Text::QuizTitle));
     setWindowModality(Qt::WindowModal);
@@ -46,7 +51,10 @@ CQuizDialog::CQuizDialog(QuizWindowServices services, CQuizForm &form) : m_servi
     m_answer = addButton(*buttons, Text::AnswerButton, "answerButton");
     m_answer->setDefault(true);
     auto *cancel = addButton(*buttons, Text::Cancel, "cancelButton");
+    m_change = addButton(*buttons, Text::ChangeButton, "changeButton");
     auto *result = addButton(*buttons, Text::ResultButton, "resultButton");
+    m_accept = makeAcceptAnswerButton(texts(), this);
+    buttons->addWidget(m_accept);
     buttons->addStretch(1);
 
     auto *layout = new QHBoxLayout(this);
@@ -55,7 +63,9 @@ CQuizDialog::CQuizDialog(QuizWindowServices services, CQuizForm &form) : m_servi
 
     connect(skip, &QPushButton::clicked, this, [this] { proceed(m_form.skip()); });
     connect(cancel, &QPushButton::clicked, this, &CQuizDialog::reject);
+    connect(m_change, &QPushButton::clicked, this, &CQuizDialog::changeEntry);
     connect(result, &QPushButton::clicked, this, &CQuizDialog::showResult);
+    connect(m_accept, &QPushButton::clicked, this, &CQuizDialog::acceptLastAnswer);
 }
 
 QPushButton *CQuizDialog::addButton(QVBoxLayout &column, int text, const char *name)
@@ -102,9 +112,11 @@ QWidget *CQuizDialog::makeStatistics()
 
 void CQuizDialog::updateStatistics()
 {
+    m_change->setEnabled(m_form.mayChangeEntries());
     m_roundText->setText(m_form.roundText());
     ShowProgress(*m_wordText, *m_wordBar, m_form.wordProgress());
     ShowProgress(*m_rightText, *m_rightBar, m_form.rightProgress());
+    m_accept->setEnabled(m_form.mayAcceptLastAnswer());
 }
 
 void CQuizDialog::proceed(bool more)
@@ -116,6 +128,26 @@ void CQuizDialog::proceed(bool more)
     }
 }
 
+void CQuizDialog::acceptLastAnswer()
+{
+    const bool goesOn = m_form.isAskedAgain();
+    const bool more = m_form.acceptLastAnswer();
+    if (goesOn) {
+        proceed(more);
+    } else {
+        updateStatistics(); // What was typed for the next word stays.
+    }
+}
+
+void CQuizDialog::keyPressEvent(QKeyEvent *event)
+{
+    // A key held down since the message before must not answer the next question.
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || !event->isAutoRepeat()) {
+        QDialog::keyPressEvent(event);
+    }
+}
+
 void CQuizDialog::reject()
 {
     if (prompt().Confirm(texts().Prompt(Text::ReallyEndQuiz), PromptIcon::Question, PromptButtons::YesNoCancel,
@@ -124,9 +156,40 @@ void CQuizDialog::reject()
     }
 }
 
+void CQuizDialog::showFeedback(AnswerVerdict verdict, const std::optional<FeedbackText> &feedback)
+{
+    const QString sound = m_form.sound(verdict, m_services.dataFolders);
+    if (!sound.isEmpty()) {
+        m_services.sounds.Play(sound);
+    }
+    if (feedback) {
+        // One sound is enough.
+        const PromptIcon icon = sound.isEmpty() ? PromptIcon::Information : PromptIcon::PlainInformation;
+        prompt().Tell({feedback->number, feedback->text}, icon);
+    }
+}
+
+void CQuizDialog::changeEntry()
+{
+    auto *dialog = new CChangeEntryDialog(
+        m_form.session(), texts(), m_form.session().entryOfRound(m_form.roundPosition()), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    if (m_services.font) {
+        dialog->setFont(*m_services.font);
+    }
+    connect(dialog, &QDialog::finished, this, [this] {
+        m_form.entriesChanged();
+        showCurrentWord();
+    });
+    dialog->open();
+}
+
 void CQuizDialog::showResult()
 {
-    auto *dialog = new CQuizResultDialog(m_form.session(), texts(), CQuizResultDialog::Mode::DuringQuiz, this);
+    auto *dialog =
+        new CQuizResultDialog(m_form.session(), m_services, CQuizResultDialog::Mode::DuringQuiz, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // An answer may have been taken as right there.
+    connect(dialog, &QDialog::finished, this, &CQuizDialog::updateStatistics);
     dialog->open();
 }

@@ -1,24 +1,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "quiz/answer_check.h"
+
 #include <QDialog>
 #include <QFont>
+#include <QStringList>
 
 #include <optional>
 
 class CQuizForm;
 class CTexts;
+class IFileChooser;
+class ISoundPlayer;
 class IUserPrompt;
 class QLabel;
 class QProgressBar;
 class QPushButton;
 class QVBoxLayout;
+struct ResultSettings;
 
 /// What a quiz window is handed; none of it is owned.
 struct QuizWindowServices
 {
     const CTexts &texts;
     IUserPrompt &prompt;
+    ISoundPlayer &sounds;
+    /// For what is saved from the window of results.
+    IFileChooser &chooser;
+    ResultSettings &resultSettings;
+    /// Where sounds are looked for that are named without a folder.
+    QStringList dataFolders = {};
     /// The user's own font, for all quiz windows.
     std::optional<QFont> font = {};
 };
@@ -34,12 +46,14 @@ public:
     void reject() override;
 
 protected:
-    CQuizDialog(QuizWindowServices services, CQuizForm &form);
+    CQuizDialog(const QuizWindowServices &services, CQuizForm &form);
 
     virtual void showCurrentWord() = 0;
     void updateStatistics();
     /// After the form went on: shows the word on screen, or closes the window as finished.
     void proceed(bool more);
+    /// The sound of an answer and the text about it, where there are such.
+    void showFeedback(AnswerVerdict verdict, const std::optional<FeedbackText> &feedback);
 
     const CTexts &texts() const { return m_services.texts; }
     IUserPrompt &prompt() const { return m_services.prompt; }
@@ -48,15 +62,21 @@ protected:
     /// The button of Enter; the form connects it.
     QPushButton *answerButton() const { return m_answer; }
 
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QPushButton *addButton(QVBoxLayout &column, int text, const char *name);
     QWidget *makeStatistics();
+    void changeEntry();
     void showResult();
+    void acceptLastAnswer();
 
     QuizWindowServices m_services;
     CQuizForm &m_form;
     QVBoxLayout *m_fields = nullptr;
     QPushButton *m_answer = nullptr;
+    QPushButton *m_change = nullptr;
+    QPushButton *m_accept = nullptr;
     QLabel *m_roundText = nullptr;
     QLabel *m_wordText = nullptr;
     QLabel *m_rightText = nullptr;

@@ -1,50 +1,85 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_launch.h"
 
+#include "document/win32_doc.h"
+#include "platform/ui/wait_cursor.h"
+#include "quiz/duplicate_question.h"
 #include "quiz/quiz_host.h"
+#include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_result_dialog.h"
-#include "quiz/ui/standard_quiz.h"
-#include "settings/quiz_settings.h"
 
-CQuizLaunch::CQuizLaunch(CWin32Doc &document, QuizWindowServices services, const QuizSettings &settings,
-    CRandom &random, IQuizHost &host, QWidget &mainWindow)
-    : QObject(&mainWindow), m_mainWindow(mainWindow), m_document(document), m_services(services),
-      m_settings(settings), m_random(random), m_host(host)
+#include <QScreen>
+
+CQuizLaunch::CQuizLaunch(QuizLaunchServices services, QWidget &mainWindow)
+    : QObject(&mainWindow), m_services(std::move(services)), m_mainWindow(mainWindow)
 {
 }
 
 CQuizLaunch::~CQuizLaunch() = default;
 
-void CQuizLaunch::startQuiz()
+void CQuizLaunch::startQuiz(int kind)
 {
-    if (isRunning()) {
+    CWin32Doc &document = m_services.document;
+    if (isRunning() || !hasWindow(kind)) {
         return;
     }
-    const std::vector<int> selected = m_host.SelectedEntries();
-    m_session = std::make_unique<CQuizSession>(m_document, m_settings, m_random, selected);
-    if (m_session->roundSize() == 0) {
+    // First, since it may add an entry or make a duplicate.
+    m_services.host.EndEditing();
+    if (document.List().Count() < MinimumEntries[size_t(kind)]
+        || !mayStartQuiz(
+            document.List(), m_services.editorSettings, m_services.windows.texts, m_services.windows.prompt)) {
+        return;
+    }
+    const CWaitCursor wait;
+    m_kind = kind;
+    m_changesBefore = document.ChangeCounter();
+    const std::vector<int> selected = m_services.host.SelectedEntries();
+    m_session = std::make_unique<CQuizSession>(document, m_services.settings, m_services.random, selected);
+    if (m_session->roundSize() == 0 || m_session->baseRound() > m_services.settings.quizNumber) {
         m_session.reset();
         return;
     }
-    m_dialog = std::make_unique<CStandardQuiz>(m_services, *m_session, m_settings);
+    openWindow();
+}
+
+void CQuizLaunch::openWindow()
+{
+    m_dialog = m_services.makers[size_t(m_kind)](m_services.windows, *m_session, m_services.settings);
     connect(m_dialog.get(), &QDialog::finished, this, &CQuizLaunch::quizClosed);
-    m_dialog->move(m_mainWindow.frameGeometry().center() - m_dialog->rect().center());
-    m_host.ShowMainWindow(false);
+    const QRect available = m_mainWindow.screen()->availableGeometry();
+    const QSize frame = m_mainWindow.frameGeometry().size() - m_mainWindow.size();
+    const QSize size = openingSize(m_services.windowSizes, m_kind, m_dialog->size(), available.size() - frame);
+    QRect place({}, size + frame);
+    place.moveCenter(m_mainWindow.frameGeometry().center());
+    place.moveRight(std::min(place.right(), available.right()));
+    place.moveBottom(std::min(place.bottom(), available.bottom()));
+    place.moveTopLeft({std::max(place.left(), available.left()), std::max(place.top(), available.top())});
+    m_dialog->resize(size);
+    m_dialog->move(place.topLeft());
+    m_services.host.ShowMainWindow(false);
     m_dialog->show();
     m_dialog->activateWindow();
 }
 
 void CQuizLaunch::quizClosed()
 {
-    m_host.ShowMainWindow(true);
+    // Not that of a window that fills the screen.
+    const QRect normal = m_dialog->normalGeometry();
+    rememberSize(m_services.windowSizes, m_kind, normal.isValid() ? normal.size() : m_dialog->size());
+    m_services.host.ShowMainWindow(true);
     // The window is in the middle of closing itself.
     m_dialog.release()->deleteLater();
-    if (!m_settings.showResult || m_session->totalRight() + m_session->totalWrong() == 0) {
+    if (m_services.settings.showResult && m_session->totalRight() + m_session->totalWrong() > 0) {
+        showResult();
+    } else {
         finish();
-        return;
     }
-    auto *result =
-        new CQuizResultDialog(*m_session, m_services.texts, CQuizResultDialog::Mode::AfterQuiz, &m_mainWindow);
+}
+
+void CQuizLaunch::showResult()
+{
+    auto *result = new CQuizResultDialog(
+        *m_session, m_services.windows, CQuizResultDialog::Mode::AfterQuiz, &m_mainWindow);
     result->setAttribute(Qt::WA_DeleteOnClose);
     connect(result, &QDialog::finished, this, &CQuizLaunch::finish);
     result->open();
@@ -52,8 +87,12 @@ void CQuizLaunch::quizClosed()
 
 void CQuizLaunch::finish()
 {
-    if (m_settings.selectedTestedWordsAfterQuiz) {
-        m_host.SelectEntries(m_session->candidates());
+    const CWaitCursor wait;
+    if (const auto entries = m_session->entriesToSelect()) {
+        m_services.host.SelectEntries(*entries);
     }
-    m_session.reset();
+    m_lastSession = std::move(m_session);
+    if (m_services.document.ChangeCounter() != m_changesBefore) {
+        m_services.host.Redraw();
+    }
 }

@@ -2,39 +2,56 @@
 #pragma once
 
 #include "quiz/quiz_session.h"
-#include "quiz/ui/quiz_dialog.h"
+#include "quiz/ui/quiz_windows.h"
 
 #include <QObject>
 
 #include <memory>
 
 class IQuizHost;
+struct EditorSettings;
+
+/// What quizzes are launched with; nothing that is referred to is owned.
+struct QuizLaunchServices
+{
+    CWin32Doc &document;
+    const EditorSettings &editorSettings;
+    const QuizSettings &settings;
+    /// The sizes of the windows are noted here.
+    QuizWindowSettings &windowSizes;
+    CRandom &random;
+    IQuizHost &host;
+    QuizWindowServices windows;
+    QuizWindowMakers makers = quizWindowMakers();
+};
 
 /// Runs quizzes one after the other: builds the session, shows its window in place of the main window, and the
-/// result afterwards. Nothing handed in is owned.
+/// result afterwards.
 class CQuizLaunch : public QObject
 {
     Q_OBJECT
 
 public:
-    CQuizLaunch(CWin32Doc &document, QuizWindowServices services, const QuizSettings &settings, CRandom &random,
-        IQuizHost &host, QWidget &mainWindow);
+    CQuizLaunch(QuizLaunchServices services, QWidget &mainWindow);
     ~CQuizLaunch() override;
 
-    /// Starts a standard quiz; does nothing while a quiz runs or when there is no word to ask.
-    void startQuiz();
+    bool hasWindow(int kind) const { return bool(m_services.makers[size_t(kind)]); }
+    /// Does nothing while a quiz runs, when the list is too short for the kind, when the user does not want it
+    /// with duplicates in the list, and when there is no word to ask.
+    void startQuiz(int kind);
     bool isRunning() const { return m_session != nullptr; }
 
 private:
+    void openWindow();
     void quizClosed();
+    void showResult();
     void finish();
 
+    QuizLaunchServices m_services;
     QWidget &m_mainWindow;
-    CWin32Doc &m_document;
-    QuizWindowServices m_services;
-    const QuizSettings &m_settings;
-    CRandom &m_random;
-    IQuizHost &m_host;
+    int m_kind = 0;
+    quint64 m_changesBefore = 0;
     std::unique_ptr<CQuizSession> m_session;
+    std::unique_ptr<CQuizSession> m_lastSession; // Its windows are deleted a little later.
     std::unique_ptr<CQuizDialog> m_dialog;
 };

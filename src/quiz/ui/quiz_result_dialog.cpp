@@ -1,125 +1,273 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_result_dialog.h"
 
-#include "quiz/quiz_result.h"
+#include "platform/ui/wait_cursor.h"
 #include "quiz/quiz_session.h"
+#include "quiz/ui/accept_answer_button.h"
+#include "quiz/ui/difference_delegate.h"
+#include "quiz/ui/flag_settings_dialog.h"
+#include "quiz/ui/share_delegate.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPainter>
+#include <QListView>
 #include <QProgressBar>
-#include <QStyledItemDelegate>
-#include <QTreeWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableView>
 #include <QVBoxLayout>
 
-#include <cmath>
-
-namespace {
-
-constexpr int PercentRole = Qt::UserRole;
-
-/// Draws the share of right answers over a bar of its length.
-class CShareDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        QStyleOptionViewItem item = option;
-        initStyleOption(&item, index);
-        const QString text = std::exchange(item.text, {});
-        const QWidget *const widget = item.widget;
-        QStyle *const style = widget != nullptr ? widget->style() : QApplication::style();
-        style->drawControl(QStyle::CE_ItemViewItem, &item, painter, widget);
-
-        QRect bar = item.rect.adjusted(2, 2, -2, -2);
-        const int percent = index.data(PercentRole).toInt();
-        bar.setWidth(bar.width() * percent / 100);
-        QColor fill = item.palette.color(QPalette::Highlight);
-        fill.setAlpha(90);
-        if (percent > 0) {
-            painter->fillRect(bar, fill);
-        }
-        const bool selected = item.state.testFlag(QStyle::State_Selected);
-        painter->save();
-        painter->setPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-        painter->drawText(item.rect, Qt::AlignCenter, text);
-        painter->restore();
-    }
-};
-
-}
+#include <algorithm>
 
 CQuizResultDialog::CQuizResultDialog(
-    const CQuizSession &session, const CTexts &texts, Mode mode, QWidget *parent)
-    : QDialog(parent)
+    CQuizSession &session, const QuizWindowServices &services, Mode mode, QWidget *parent)
+    : QDialog(parent), m_prompt(services.prompt), m_settings(services.resultSettings),
+      m_result(session, {services.texts, services.prompt, services.chooser, services.resultSettings}, mode),
+      m_wrongAnswers(session, services.texts), m_list(new QTableView(this)), m_summary(new QLabel(this)),
+      m_share(new QProgressBar(this))
 {
+    const CTexts &texts = services.texts;
+    setObjectName(QStringLiteral("quizResult"));
     setWindowTitle(texts.Get(Text::ResultTitle));
     setWindowModality(Qt::WindowModal);
-    const bool withAnswers = mode == Mode::AfterQuiz && session.wordCount() > 0;
-
-    auto *list = new QTreeWidget(this);
-    list->setObjectName(QStringLiteral("results"));
-    list->setAccessibleName(texts.Get(Text::ResultEntries));
-    list->setRootIsDecorated(false);
-    list->setUniformRowHeights(true);
-    list->setAllColumnsShowFocus(true);
-    list->setAlternatingRowColors(true);
-    QStringList titles;
-    if (session.wordCount() > 0) {
-        const QuizQuestion first = session.questionAt(0);
-        titles.append(first.languages[size_t(first.questionColumn)]);
-        if (withAnswers) {
-            titles.append(first.languages[size_t(first.AnswerColumn())]);
-        }
+    if (services.font) {
+        setFont(*services.font);
     }
-    const int shareColumn = int(titles.size());
-    titles.append(texts.Get(Text::ResultPercent));
-    titles.append(texts.Get(Text::WrongAnswers));
-    list->setHeaderLabels(titles);
-    list->setItemDelegateForColumn(shareColumn, new CShareDelegate(list));
-
-    QList<QTreeWidgetItem *> items;
-    for (int position = 0; position < session.wordCount(); ++position) {
-        const QuizResultRow row = resultRow(session, texts, position);
-        QStringList cells = {row.question};
-        if (withAnswers) {
-            cells.append(row.answer);
-        }
-        cells.append({row.share, row.wrongAnswers});
-        auto *item = new QTreeWidgetItem(cells);
-        item->setData(shareColumn, PercentRole, std::max(row.percent, 0));
-        items.append(item);
-    }
-    list->addTopLevelItems(items);
-    const int width = fontMetrics().averageCharWidth();
-    for (int column = 0; column < titles.size(); ++column) {
-        list->setColumnWidth(column, width * (column < shareColumn ? 28 : 18));
-    }
-
-    auto *summary = new QLabel(resultSummary(session, texts), this);
-    summary->setObjectName(QStringLiteral("summary"));
-    summary->setTextFormat(Qt::PlainText);
-    auto *bar = new QProgressBar(this);
-    bar->setObjectName(QStringLiteral("rightShare"));
-    bar->setAccessibleName(texts.Get(Text::ResultRightShare));
-    bar->setRange(0, 1000);
-    bar->setValue(int(std::lround(session.totalPercent() * 10)));
-    bar->setTextVisible(false);
-
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    buttons->setObjectName(QStringLiteral("buttons"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    const QSize wanted(fontMetrics().averageCharWidth() * 110, fontMetrics().lineSpacing() * 34);
+    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
+    makeList();
+    m_summary->setObjectName(QStringLiteral("summary"));
+    m_summary->setTextFormat(Qt::PlainText);
+    m_share->setObjectName(QStringLiteral("rightShare"));
+    m_share->setAccessibleName(texts.Get(Text::ResultRightShare));
+    m_share->setRange(0, 1000);
+    m_share->setTextVisible(false);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(list, 1);
-    layout->addWidget(summary);
-    layout->addWidget(bar);
-    layout->addWidget(buttons);
-    resize(width * 100, fontMetrics().lineSpacing() * 26);
+    layout->addWidget(m_list, 3);
+    if (m_result.showsRightAnswers() && m_result.hasMistakes()) {
+        layout->addWidget(makeWrongAnswers(), 1);
+    }
+    layout->addWidget(m_summary);
+    layout->addWidget(m_share);
+    if (m_result.changesFlags()) {
+        m_selectMistakes = new QCheckBox(texts.Get(Text::SelectMistakes), this);
+        m_selectMistakes->setObjectName(QStringLiteral("selectMistakes"));
+        connect(m_selectMistakes, &QCheckBox::toggled, this,
+            [this](bool select) { m_result.session().setSelectMistakes(select); });
+        layout->addWidget(m_selectMistakes);
+        layout->addLayout(makeFlagLine());
+    }
+    layout->addLayout(makeButtons());
+    updateTotals();
+    selectFirstMistake();
+    m_list->setFocus();
+}
+
+void CQuizResultDialog::makeList()
+{
+    m_list->setObjectName(QStringLiteral("results"));
+    m_list->setAccessibleName(m_result.texts().Get(Text::ResultEntries));
+    m_list->setModel(&m_result.model());
+    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_list->setShowGrid(false);
+    m_list->setAlternatingRowColors(true);
+    m_list->setWordWrap(false);
+    m_list->setTabKeyNavigation(false);
+    m_list->setCornerButtonEnabled(false);
+    m_list->verticalHeader()->hide();
+    m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_list->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    m_list->horizontalHeader()->setHighlightSections(false);
+    m_list->horizontalHeader()->setStretchLastSection(true);
+    m_list->setMinimumHeight(fontMetrics().lineSpacing() * 6);
+    const int columns = m_result.model().columnCount();
+    const int character = fontMetrics().averageCharWidth();
+    const int shareWidth = character * 18;
+    const int margins = character * 10; // Around the list, and of its scroll bar.
+    const int textWidth = std::min(character * 26, (width() - margins - shareWidth) / (columns - 1));
+    for (int column = 0; column < columns; ++column) {
+        const bool share = m_result.model().content(column) == CQuizResultModel::Share;
+        m_list->setColumnWidth(column, share ? shareWidth : textWidth);
+        if (share) {
+            m_list->setItemDelegateForColumn(column, new CShareDelegate(this));
+        }
+    }
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+        [this](const QModelIndex &current) { showWord(current.row()); });
+}
+
+QWidget *CQuizResultDialog::makeWrongAnswers()
+{
+    const CTexts &texts = m_result.texts();
+    auto *pane = new QWidget(this);
+    auto *label = new QLabel(texts.Get(Text::WhatWasWrong), pane);
+    m_answers = new QListView(pane);
+    m_answers->setObjectName(QStringLiteral("wrongAnswers"));
+    m_answers->setAccessibleName(texts.Get(Text::WhatWasWrong).remove(u'&'));
+    m_answers->setModel(&m_wrongAnswers);
+    m_answers->setItemDelegate(new CDifferenceDelegate(this));
+    m_answers->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_answers->setMinimumHeight(fontMetrics().lineSpacing() * 4);
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.25); // Single letters and their marks are to be seen.
+    m_answers->setFont(large);
+    label->setBuddy(m_answers);
+    m_accept = makeAcceptAnswerButton(texts, this);
+    connect(m_accept, &QPushButton::clicked, this, &CQuizResultDialog::acceptAnswer);
+    connect(m_answers->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+        &CQuizResultDialog::updateAcceptButton);
+
+    auto *grid = new QGridLayout(pane);
+    grid->setContentsMargins({});
+    grid->addWidget(label, 0, 0, 1, 2);
+    grid->addWidget(m_answers, 1, 0);
+    grid->addWidget(m_accept, 1, 1, Qt::AlignTop);
+    return pane;
+}
+
+QLayout *CQuizResultDialog::makeFlagLine()
+{
+    const CTexts &texts = m_result.texts();
+    m_flagLine = new QLabel(this);
+    m_flagLine->setObjectName(QStringLiteral("flagLine"));
+    auto *hint = new QLabel(texts.Get(Text::ResultFlagsHint), this);
+    hint->setObjectName(QStringLiteral("flagsHint"));
+    for (QLabel *label : {m_flagLine, hint}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    auto *settings = makeButton(Text::ResultFlagSettings, "flagSettingsButton");
+    connect(settings, &QPushButton::clicked, this, &CQuizResultDialog::openFlagSettings);
+    auto *grid = new QGridLayout;
+    grid->addWidget(m_flagLine, 0, 0);
+    grid->addWidget(hint, 1, 0);
+    grid->addWidget(settings, 0, 1, 2, 1);
+    grid->setColumnStretch(0, 1);
+    return grid;
+}
+
+QPushButton *CQuizResultDialog::makeButton(int text, const char *name)
+{
+    auto *button = new QPushButton(m_result.texts().Get(text), this);
+    button->setObjectName(QLatin1StringView(name));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QLayout *CQuizResultDialog::makeButtons()
+{
+    auto *save = makeButton(Text::SaveResult, "saveButton");
+    auto *copy = makeButton(Text::CopyResult, "copyButton");
+    m_saveMistakes = makeButton(Text::SaveMistakes, "saveMistakesButton");
+    connect(save, &QPushButton::clicked, this, [this] { m_result.saveTable(); });
+    connect(copy, &QPushButton::clicked, this, &CQuizResultDialog::copyTable);
+    connect(m_saveMistakes, &QPushButton::clicked, this, [this] { m_result.saveMistakes(); });
+
+    QDialogButtonBox::StandardButtons standard = QDialogButtonBox::Ok;
+    standard.setFlag(QDialogButtonBox::Cancel, m_result.changesFlags());
+    auto *end = new QDialogButtonBox(standard, this);
+    end->setObjectName(QStringLiteral("buttons"));
+    connect(end, &QDialogButtonBox::accepted, this, &CQuizResultDialog::accept);
+    connect(end, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(save);
+    row->addWidget(copy);
+    row->addWidget(m_saveMistakes);
+    row->addStretch(1);
+    row->addWidget(end);
+    return row;
+}
+
+void CQuizResultDialog::selectFirstMistake()
+{
+    const CQuizSession &session = m_result.session();
+    for (int position = 0; position < session.wordCount(); ++position) {
+        if (session.wasWrong(position)) {
+            m_list->selectRow(position);
+            return;
+        }
+    }
+}
+
+void CQuizResultDialog::showWord(int position)
+{
+    m_wrongAnswers.setPosition(position);
+    if (m_answers != nullptr) {
+        m_answers->setCurrentIndex(m_wrongAnswers.index(0));
+        updateAcceptButton();
+    }
+}
+
+void CQuizResultDialog::updateAcceptButton()
+{
+    m_accept->setEnabled(m_wrongAnswers.mayAccept(m_answers->currentIndex().row()));
+}
+
+void CQuizResultDialog::updateTotals()
+{
+    m_summary->setText(m_result.summary());
+    m_share->setValue(m_result.rightShare());
+    const bool mistakes = m_result.hasMistakes();
+    m_saveMistakes->setEnabled(mistakes);
+    if (m_result.changesFlags()) {
+        m_selectMistakes->setEnabled(mistakes);
+        m_flagLine->setText(m_result.flagLine());
+    }
+}
+
+void CQuizResultDialog::acceptAnswer()
+{
+    const int position = m_wrongAnswers.position();
+    const QString answer = m_wrongAnswers.answers().value(m_answers->currentIndex().row());
+    if (!m_result.session().acceptAnswer(position, answer)) {
+        return;
+    }
+    m_result.model().wordChanged(position);
+    updateTotals();
+    showWord(position);
+    if (!m_accept->isEnabled()) {
+        m_list->setFocus();
+    }
+}
+
+void CQuizResultDialog::copyTable()
+{
+    const CWaitCursor wait;
+    QGuiApplication::clipboard()->setText(m_result.table());
+}
+
+void CQuizResultDialog::openFlagSettings()
+{
+    auto *dialog = new CFlagSettingsDialog(m_settings, m_result.texts(), m_prompt, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, &CQuizResultDialog::updateTotals);
+    dialog->open();
+}
+
+void CQuizResultDialog::accept()
+{
+    if (m_result.changesFlags()) {
+        const CWaitCursor wait;
+        m_result.applyFlags();
+    }
+    QDialog::accept();
+}
+
+void CQuizResultDialog::done(int result)
+{
+    // The session may end with the window, before this object does.
+    m_list->setModel(nullptr);
+    if (m_answers != nullptr) {
+        m_answers->setModel(nullptr);
+    }
+    QDialog::done(result);
 }

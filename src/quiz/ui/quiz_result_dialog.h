@@ -1,19 +1,53 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDialog>
+#include "quiz/quiz_result.h"
+#include "quiz/ui/quiz_dialog.h"
+#include "quiz/wrong_answers_model.h"
 
-class CQuizSession;
-class CTexts;
+class QCheckBox;
+class QListView;
+class QTableView;
 
-/// The window that shows how a quiz went, word by word. During a quiz the answers are left out.
+/// The window that shows how a quiz went, word by word, and what was wrong. After a quiz OK changes the flags
+/// of its words; during a quiz the right answers are left out and no flags can be changed.
 class CQuizResultDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    enum class Mode { AfterQuiz, DuringQuiz };
+    using Mode = ResultMode;
 
-    /// The session is read at once and not kept.
-    CQuizResultDialog(const CQuizSession &session, const CTexts &texts, Mode mode, QWidget *parent = nullptr);
+    /// Nothing handed in is owned.
+    CQuizResultDialog(CQuizSession &session, const QuizWindowServices &services, Mode mode, QWidget *parent);
+
+    void accept() override;
+    void done(int result) override;
+
+private:
+    void makeList();
+    QWidget *makeWrongAnswers();
+    QLayout *makeFlagLine();
+    QLayout *makeButtons();
+    QPushButton *makeButton(int text, const char *name);
+    void selectFirstMistake();
+    void showWord(int position);
+    void updateAcceptButton();
+    void updateTotals();
+    void acceptAnswer();
+    void copyTable();
+    void openFlagSettings();
+
+    IUserPrompt &m_prompt;
+    ResultSettings &m_settings;
+    CQuizResult m_result;
+    CWrongAnswersModel m_wrongAnswers;
+    QTableView *m_list;
+    QListView *m_answers = nullptr;
+    QPushButton *m_accept = nullptr;
+    QLabel *m_summary;
+    QProgressBar *m_share;
+    QCheckBox *m_selectMistakes = nullptr;
+    QLabel *m_flagLine = nullptr;
+    QPushButton *m_saveMistakes = nullptr;
 };

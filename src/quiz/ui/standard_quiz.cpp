@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/standard_quiz.h"
 
-#include "platform/user_prompt.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -10,7 +9,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-CStandardQuiz::CStandardQuiz(QuizWindowServices services, CQuizSession &session, const QuizSettings &settings)
+CStandardQuiz::CStandardQuiz(
+    const QuizWindowServices &services, CQuizSession &session, const QuizSettings &settings)
     : CQuizDialog(services, m_form), m_form(session, settings, services.texts),
       m_question(new QPlainTextEdit(this)), m_answerField(new QLineEdit(this))
 {
@@ -50,8 +50,6 @@ void CStandardQuiz::showCurrentWord()
 void CStandardQuiz::answer()
 {
     const CStandardQuizForm::Outcome outcome = m_form.answer(m_answerField->text());
-    if (outcome.feedback) {
-        prompt().Tell({outcome.feedback->number, outcome.feedback->text}, PromptIcon::Information);
-    }
+    showFeedback(outcome.verdict, outcome.feedback);
     proceed(m_form.advance(outcome.verdict));
 }

@@ -13,7 +13,7 @@ class CStandardQuiz : public CQuizDialog
     Q_OBJECT
 
 public:
-    CStandardQuiz(QuizWindowServices services, CQuizSession &session, const QuizSettings &settings);
+    CStandardQuiz(const QuizWindowServices &services, CQuizSession &session, const QuizSettings &settings);
 
 protected:
     void showCurrentWord() override;

@@ -7,6 +7,7 @@
 #include "editor/ui/win32_view.h"
 #include "platform/ui/elided_label.h"
 #include "quiz/ui/quiz_launch.h"
+#include "quiz/ui/quiz_settings_dialog.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
@@ -53,8 +54,20 @@ CMainFrame::CMainFrame(const FrameServices &services)
       m_editorCommands(
           new CEditorCommands(*m_actions, *m_view, services.document, services.arrangeSettings, this)),
       m_statusText(new CElidedLabel(this)),
-      m_quizLaunch(new CQuizLaunch(services.document, {services.texts, services.prompt, services.fonts.quizzes},
-          services.quizSettings, services.random, *this, *this)),
+      m_quizLaunch(new CQuizLaunch({.document = services.document,
+                                       .editorSettings = services.editorSettings,
+                                       .settings = services.quizSettings,
+                                       .windowSizes = services.quizWindows,
+                                       .random = services.random,
+                                       .host = *this,
+                                       .windows = {.texts = services.texts,
+                                           .prompt = services.prompt,
+                                           .sounds = services.sounds,
+                                           .chooser = services.chooser,
+                                           .resultSettings = services.resultSettings,
+                                           .dataFolders = services.dataFolders,
+                                           .font = services.fonts.quizzes}},
+          *this)),
       m_place(*this, services.store, services.root)
 {
     setObjectName(QStringLiteral("mainFrame"));
@@ -176,13 +189,30 @@ void CMainFrame::ConnectCommands()
 void CMainFrame::ConnectQuizCommands()
 {
     using namespace CommandId;
-    m_actions->SetHandler(StandardQuiz, [this] { m_quizLaunch->startQuiz(); });
+    for (int kind = 0; kind <= LastQuiz - StandardQuiz; ++kind) {
+        if (m_quizLaunch->hasWindow(kind)) {
+            m_actions->SetHandler(StandardQuiz + kind, [this, kind] { m_quizLaunch->startQuiz(kind); });
+        }
+    }
+    m_actions->SetHandler(CommandId::QuizSettings, [this] { OpenQuizSettings(); });
     for (const int direction : {FromLanguage1, FromLanguage2}) {
         m_actions->SetHandler(direction, [this, direction] {
             m_services.quizSettings.showLanguage = direction - FromLanguage1;
             UpdateCommands();
         });
     }
+}
+
+void CMainFrame::OpenQuizSettings()
+{
+    const CWordList &list = m_services.document.List();
+    auto *dialog = new CQuizSettingsDialog(
+        CQuizSettingsForm(m_services.quizSettings, {list.GetLanguage(0), list.GetLanguage(1)}, m_services.texts,
+            m_services.chooser, m_services.dataFolders),
+        this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, &CMainFrame::UpdateCommands);
+    dialog->open();
 }
 
 void CMainFrame::Refresh()
@@ -249,6 +279,16 @@ void CMainFrame::ShowMainWindow(bool show)
     if (show) {
         activateWindow();
     }
+}
+
+void CMainFrame::EndEditing()
+{
+    m_view->EndEditing(true);
+}
+
+void CMainFrame::Redraw()
+{
+    m_view->RefreshAll();
 }
 
 void CMainFrame::OpenDropped(const QStringList &paths)

@@ -21,10 +21,14 @@ class CSpecialCharacterKeys;
 class CTexts;
 class CWin32Doc;
 class CWin32View;
+class IFileChooser;
+class ISoundPlayer;
 class IUserPrompt;
 struct ArrangeSettings;
 struct EditorSettings;
 struct QuizSettings;
+struct QuizWindowSettings;
+struct ResultSettings;
 
 /// The user's own font, for the texts that are learnt; none for the desktop's.
 struct UserFonts
@@ -43,13 +47,19 @@ struct FrameServices
     EditorSettings &editorSettings;
     ArrangeSettings &arrangeSettings;
     QuizSettings &quizSettings;
+    QuizWindowSettings &quizWindows;
+    ResultSettings &resultSettings;
     IUserPrompt &prompt;
+    IFileChooser &chooser;
+    ISoundPlayer &sounds;
     CRandom &random;
     /// Where the window's place is kept, below the path of sections `root`.
     ISettingsStore &store;
     QString root;
     CSpecialCharacterKeys &specialCharacters;
     std::function<void()> openHelp;
+    /// What comes with the program is looked for in these.
+    QStringList dataFolders = {};
     UserFonts fonts = {};
 };
 
@@ -70,6 +80,8 @@ public:
     std::vector<int> SelectedEntries() const override;
     void SelectEntries(const std::vector<int> &entries) override;
     void ShowMainWindow(bool show) override;
+    void EndEditing() override;
+    void Redraw() override;
 
 Q_SIGNALS:
     /// The window was closed and nothing stands against ending the program.
@@ -88,6 +100,7 @@ private:
     QToolBar *MakeToolBar(const QString &title, const char *name, const QList<int> &commands, int toggle);
     void ConnectCommands();
     void ConnectQuizCommands();
+    void OpenQuizSettings();
     void Refresh();
     void UpdateCommands();
     /// A menu of the commands that a list names.

@@ -94,8 +94,9 @@ void COrdelinApp::MakeMainWindow()
     }
     m_specialCharacters = std::make_unique<CSpecialCharacterKeys>(m_settings.easykey, m_texts, nullptr);
     m_frame = std::make_unique<CMainFrame>(FrameServices{m_document, *m_files, *m_recent, m_texts,
-        m_settings.editor, m_settings.arrange, m_settings.quiz, m_prompt, m_random, m_store,
-        CAppSettings::RootPath(), *m_specialCharacters, [this] { OpenHelp(); }, fonts});
+        m_settings.editor, m_settings.arrange, m_settings.quiz, m_settings.quizWindows, m_settings.result,
+        m_prompt, m_chooser, m_sounds, m_random, m_store, CAppSettings::RootPath(), *m_specialCharacters,
+        [this] { OpenHelp(); }, m_dataFolders, fonts});
     connect(m_frame.get(), &CMainFrame::Closed, this, &QCoreApplication::quit);
 }
 

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quiz/answer_check.h"
+
+#include <QList>
+
+/// A stretch of the way from a typed text to the expected one.
+struct DifferencePart
+{
+    enum class Kind {
+        Same,
+        Missing, ///< In `expected` alone: to be added.
+        Surplus, ///< In `typed` alone: to be left out.
+        Changed,
+    };
+
+    Kind kind = Kind::Same;
+    QString typed;
+    QString expected;
+    bool operator==(const DifferencePart &) const = default;
+};
+
+/// The fewest characters to add, leave out or change, in order. Characters are what a reader takes for one;
+/// where two texts are too long to compare in reasonable time, all between their common start and end is one
+/// change.
+QList<DifferencePart> differenceBetween(const QString &typed, const QString &expected);
+
+/// Slips that have a name: nothing else is wrong.
+enum class Slip { None, LetterCase, Accent, PunctuationOrBlanks, OneLetter };
+
+/// How a wrong answer differs from the nearest text that would have been right, both as they were compared.
+struct AnswerDifference
+{
+    QString typed = {};
+    QString expected = {};
+    QList<DifferencePart> parts = {};
+    Slip slip = Slip::None;
+};
+
+/// A text that differs by letter case, accents, punctuation or blanks alone is nearer than any other; among
+/// those as near, the first in the order in which they are tried is taken.
+AnswerDifference answerDifference(
+    const CWordEntry &entry, int answerColumn, const QString &answer, const CheckingOptions &options);

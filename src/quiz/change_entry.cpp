@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/change_entry.h"
+
+#include "document/win32_doc.h"
+#include "model/term_syntax.h"
+#include "platform/plain_text.h"
+#include "quiz/quiz_session.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+CChangeEntry::CChangeEntry(CQuizSession &session, const CTexts &texts, QObject *parent)
+    : QAbstractListModel(parent), m_session(session), m_texts(texts), m_lineFormat(texts.Get(Text::EntryLine))
+{
+}
+
+int CChangeEntry::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_session.document().List().Count();
+}
+
+QVariant CChangeEntry::data(const QModelIndex &index, int role) const
+{
+    return role == Qt::DisplayRole && index.isValid() ? Line(index.row()) : QVariant();
+}
+
+QString CChangeEntry::Line(int entry) const
+{
+    const Fields fields = FieldsOf(entry);
+    QString line;
+    for (qsizetype i = 0; i < m_lineFormat.size(); ++i) {
+        const QStringView variable = QStringView(m_lineFormat).mid(i, 2);
+        if (variable == u"%1" || variable == u"%2" || variable == u"%n") {
+            line += variable == u"%1" ? fields.term1 : variable == u"%2" ? fields.term2 : fields.note;
+            ++i;
+        } else {
+            line += m_lineFormat.at(i);
+        }
+    }
+    return line;
+}
+
+QString CChangeEntry::Label(int language) const
+{
+    return m_texts.Fill(language == 0 ? Text::ChangeEntryTerm1 : Text::ChangeEntryTerm2,
+        {ShownInCaption(m_session.document().List().GetLanguage(language))});
+}
+
+CChangeEntry::Fields CChangeEntry::FieldsOf(int entry) const
+{
+    const CWordEntry &stored = m_session.document().List().Entry(entry);
+    return {stored.GetText(0), stored.GetText(1), stored.GetNote()};
+}
+
+bool CChangeEntry::Change(int entry, const Fields &typed)
+{
+    const QString term1 = NormalizeTerm(typed.term1);
+    const QString term2 = NormalizeTerm(typed.term2);
+    if (term1.isEmpty() || term2.isEmpty()) {
+        return false;
+    }
+    m_session.changeEntry(entry, term1, term2, typed.note);
+    const QModelIndex line = index(entry);
+    Q_EMIT dataChanged(line, line);
+    return true;
+}

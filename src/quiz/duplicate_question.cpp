@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/duplicate_question.h"
+
+#include "model/duplicate_search.h"
+#include "model/word_list.h"
+#include "platform/user_prompt.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+#include "settings/editor_settings.h"
+
+bool mayStartQuiz(
+    const CWordList &list, const EditorSettings &settings, const CTexts &texts, IUserPrompt &prompt)
+{
+    if (!settings.duplicateCheckBeforeQuiz || list.Count() >= settings.duplilcateCheckBeforeQuizMax) {
+        return true;
+    }
+    DuplicatePair found;
+    return !CDuplicateSearch(list).FindNext({}, found)
+        || prompt.Confirm(texts.Prompt(Text::DuplicatesBeforeQuiz), PromptIcon::Question,
+            PromptButtons::YesNoCancel, PromptAnswer::No);
+}

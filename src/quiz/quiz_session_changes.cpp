@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/quiz_session.h"
+
+#include "document/win32_doc.h"
+#include "model/term_syntax.h"
+#include "quiz/rounding.h"
+#include "settings/quiz_settings.h"
+
+namespace {
+
+/// The decisions about a flag that are changes.
+enum { Unflag = 2, Flag = 3 };
+
+}
+
+FlagLimits FlagLimits::Of(const ResultSettings &settings)
+{
+    return {settings.flagWord ? settings.flagWordLimit : -1,
+        settings.unFlagWord ? settings.unFlagWordLimit : -1,
+        settings.changeUnasked ? settings.changeUnaskedTo : -1};
+}
+
+CWordList &CQuizSession::beginChange()
+{
+    const bool goesOn = m_ownChange == m_document.ChangeCounter();
+    CWordList &list = goesOn ? m_document.ContinueChange() : m_document.BeginChange();
+    m_ownChange = m_document.ChangeCounter();
+    return list;
+}
+
+void CQuizSession::changeEntry(int index, const QString &term1, const QString &term2, const QString &note)
+{
+    // A copy, since the texts may be those of an entry.
+    const CWordEntry changed(term1, term2, note);
+    const CWordEntry &stored = m_document.List().Entry(index);
+    if (stored.GetText(0) != changed.GetText(0) || stored.GetText(1) != changed.GetText(1)
+        || stored.GetNote() != changed.GetNote()) {
+        beginChange().ReplaceEntry(index, changed.GetText(0), changed.GetText(1), changed.GetNote(), false);
+    }
+}
+
+CWordEntry CQuizSession::entryAccepting(int position, const QString &answer) const
+{
+    CWordEntry entry = questionAt(position).entry;
+    entry.SetTerm(entry.GetText(answerColumn()) + AlternativeJoint.toString() + answer, answerColumn());
+    return entry;
+}
+
+bool CQuizSession::mayAccept(int position, const QString &answer) const
+{
+    // An answer of several alternatives, say, would not be right even as a part of the term.
+    return m_settings.allowChanges && judge(position, answer) == AnswerVerdict::Wrong
+        && checkAnswer(entryAccepting(position, answer), answerColumn(), answer, m_options)
+        != AnswerVerdict::Wrong;
+}
+
+bool CQuizSession::acceptAnswer(int position, const QString &answer)
+{
+    if (!mayAccept(position, answer)) {
+        return false;
+    }
+    const CWordEntry entry = entryAccepting(position, answer);
+    changeEntry(m_candidates[size_t(position)], entry.GetText(0), entry.GetText(1), entry.GetNote());
+    recheckAll();
+    return true;
+}
+
+std::vector<int> CQuizSession::mistakes() const
+{
+    std::vector<int> entries;
+    for (int position = 0; position < wordCount(); ++position) {
+        if (wasWrong(position)) {
+            entries.push_back(m_candidates[size_t(position)]);
+        }
+    }
+    return entries;
+}
+
+std::optional<std::vector<int>> CQuizSession::entriesToSelect() const
+{
+    if (m_selectMistakes) {
+        return mistakes();
+    }
+    return m_settings.selectedTestedWordsAfterQuiz ? std::optional(m_candidates) : std::nullopt;
+}
+
+int CQuizSession::flagDecision(int position, const FlagLimits &limits) const
+{
+    const int current = int(m_document.List().Entry(m_candidates[size_t(position)]).GetFlag(m_questionColumn));
+    int decision = current;
+    if (record(position).answers.isEmpty()) {
+        if (limits.unasked != -1) {
+            decision = limits.unasked + Unflag;
+        }
+    } else {
+        const int percent = RoundHalfUp(percentRight(position));
+        if (limits.unflag != -1 && limits.unflag >= percent) {
+            decision = Unflag;
+        }
+        if (limits.flag != -1 && limits.flag <= percent) {
+            decision = Flag;
+        }
+    }
+    return decision == current + Unflag ? current : decision;
+}
+
+FlagChanges CQuizSession::flagChanges(const FlagLimits &limits) const
+{
+    FlagChanges changes;
+    for (int position = 0; position < wordCount(); ++position) {
+        const int decision = flagDecision(position, limits);
+        if (decision >= Unflag) {
+            (decision == Flag ? changes.flag : changes.unflag).push_back(m_candidates[size_t(position)]);
+        }
+    }
+    return changes;
+}
+
+int CQuizSession::applyFlags(const FlagLimits &limits)
+{
+    const FlagChanges changes = flagChanges(limits);
+    if (!changes.flag.empty() || !changes.unflag.empty()) {
+        CWordList &list = beginChange();
+        list.SetFlags(m_questionColumn, changes.flag, FlagMode::Set);
+        list.SetFlags(m_questionColumn, changes.unflag, FlagMode::Clear);
+    }
+    return int(changes.flag.size() + changes.unflag.size());
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/quiz_settings.h"
+
+#include <QStringList>
+
+#include <array>
+
+class CTexts;
+class IFileChooser;
+
+/// What the pages of quiz settings show and decide. They change a copy of the settings, which Accept() stores.
+/// Nothing handed in is owned.
+class CQuizSettingsForm
+{
+public:
+    struct Range
+    {
+        int lowest;
+        int highest;
+    };
+    static constexpr Range NumberOfWords = {1, 1000};
+    /// Rounds, repeats, shares and probabilities.
+    static constexpr Range Others = {1, 100};
+    /// The values of `requiz` in the order of their buttons.
+    static constexpr std::array<int, 3> RequizButtons = {0, 2, 1};
+
+    /// `languages` are the two names of the list.
+    CQuizSettingsForm(QuizSettings &settings, const std::array<QString, 2> &languages, const CTexts &texts,
+        IFileChooser &chooser, const QStringList &dataFolders);
+
+    /// What the controls show; within the ranges.
+    QuizSettings values;
+
+    const CTexts &texts() const { return m_texts; }
+    QString DirectionCaption(int direction) const;
+
+    // Which rows of controls can be used.
+    bool IsNumberUsed() const;
+    bool IsShareUsed() const;
+    bool IsProbabilityUsed() const;
+    bool IsRequizMaxUsed() const;
+    bool IsRequizNumberUsed() const;
+
+    /// Lets the user choose a file for one of the sounds and returns what its field is to show.
+    QString BrowseSound(const QString &current) const;
+    void Accept() { m_settings = values; }
+
+private:
+    QuizSettings &m_settings;
+    std::array<QString, 2> m_languages;
+    const CTexts &m_texts;
+    IFileChooser &m_chooser;
+    QStringList m_dataFolders;
+};

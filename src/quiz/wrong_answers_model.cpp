@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/wrong_answers_model.h"
+
+#include "quiz/quiz_session.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+namespace {
+
+using Kind = DifferencePart::Kind;
+
+QString Shortened(const QString &text)
+{
+    constexpr qsizetype Kept = 40;
+    if (text.size() <= 3 * Kept) {
+        return text;
+    }
+    qsizetype start = Kept;
+    qsizetype end = text.size() - Kept;
+    start += text.at(start).isLowSurrogate() ? 1 : 0;
+    end += text.at(end).isLowSurrogate() ? 1 : 0;
+    return text.left(start) + QChar(u'…') + text.mid(end);
+}
+
+QString Escaped(const QString &text)
+{
+    // Blanks must not run into one.
+    return Shortened(text).toHtmlEscaped().replace(u' ', QChar(QChar::Nbsp));
+}
+
+QString Tagged(const QString &text, const char *tag)
+{
+    const QString name = QLatin1StringView(tag);
+    return text.isEmpty() ? QString() : u'<' + name + u'>' + Escaped(text) + QStringLiteral("</") + name + u'>';
+}
+
+/// The differing stretches, each as one step.
+QList<DifferencePart> Steps(const QList<DifferencePart> &parts)
+{
+    QList<DifferencePart> steps;
+    bool afterSame = true;
+    for (const DifferencePart &part : parts) {
+        const bool same = part.kind == Kind::Same;
+        if (!same && afterSame) {
+            steps.append(part);
+        } else if (!same) {
+            steps.last().typed += part.typed;
+            steps.last().expected += part.expected;
+        }
+        afterSame = same;
+    }
+    return steps;
+}
+
+QString StepInWords(const DifferencePart &step, const CTexts &texts)
+{
+    if (step.typed.isEmpty()) {
+        return texts.Fill(Text::StepAdd, {Shortened(step.expected)});
+    }
+    if (step.expected.isEmpty()) {
+        return texts.Fill(Text::StepLeaveOut, {Shortened(step.typed)});
+    }
+    return texts.Fill(Text::StepChange, {Shortened(step.typed), Shortened(step.expected)});
+}
+
+}
+
+QString differenceAsHtml(const AnswerDifference &difference)
+{
+    QString typed;
+    QString expected;
+    for (const DifferencePart &part : difference.parts) {
+        const bool same = part.kind == Kind::Same;
+        typed += same ? Escaped(part.typed) : Tagged(part.typed, "s");
+        expected += same ? Escaped(part.expected) : Tagged(part.expected, "u");
+    }
+    return typed + QStringLiteral(" → ") + expected;
+}
+
+QString slipName(Slip slip, const CTexts &texts)
+{
+    return slip == Slip::None ? QString() : texts.Get(Text::SlipLetterCase + int(slip) - int(Slip::LetterCase));
+}
+
+QString differenceInWords(const AnswerDifference &difference, const CTexts &texts)
+{
+    QStringList steps;
+    for (const DifferencePart &step : Steps(difference.parts)) {
+        steps.append(StepInWords(step, texts));
+    }
+    const QString sentence = texts.Fill(Text::DifferenceInWords,
+        {Shortened(difference.typed), Shortened(difference.expected),
+            steps.join(texts.Get(Text::QuotedSeparator))});
+    const QString slip = slipName(difference.slip, texts);
+    return slip.isEmpty() ? sentence : sentence + u' ' + slip + u'.';
+}
+
+CWrongAnswersModel::CWrongAnswersModel(const CQuizSession &session, const CTexts &texts, QObject *parent)
+    : QAbstractListModel(parent), m_session(session), m_texts(texts)
+{
+}
+
+void CWrongAnswersModel::setPosition(int position)
+{
+    beginResetModel();
+    m_position = position;
+    m_answers = position < 0 ? QStringList() : m_session.wrongAnswers(position);
+    m_answers.removeDuplicates();
+    endResetModel();
+}
+
+bool CWrongAnswersModel::mayAccept(int row) const
+{
+    return row >= 0 && row < m_answers.size() && m_session.mayAccept(m_position, m_answers.at(row));
+}
+
+int CWrongAnswersModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_answers.size());
+}
+
+QVariant CWrongAnswersModel::data(const QModelIndex &index, int role) const
+{
+    if ((role != Qt::DisplayRole && role != MarkupRole) || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const QString &answer = m_answers.at(index.row());
+    if (answer.isEmpty()) {
+        const QString text = m_texts.Get(Text::EmptyAnswer);
+        return role == MarkupRole ? QStringLiteral("<i>") + text.toHtmlEscaped() + QStringLiteral("</i>")
+                                  : text;
+    }
+    const QuizQuestion question = m_session.questionAt(m_position);
+    const AnswerDifference difference =
+        answerDifference(question.entry, question.AnswerColumn(), answer, m_session.checkingOptions());
+    if (role == Qt::DisplayRole) {
+        return differenceInWords(difference, m_texts);
+    }
+    const QString slip = slipName(difference.slip, m_texts);
+    return differenceAsHtml(difference)
+        + (slip.isEmpty() ? QString()
+                          : QStringLiteral("&nbsp;&nbsp;<i>") + slip.toHtmlEscaped() + QStringLiteral("</i>"));
+}

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/answer_difference.h"
+#include "quiz/wrong_answers_model.h"
+#include "resources/texts.h"
+
+#include <QTest>
+
+class AnswerDifferenceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void differences_data();
+    void differences();
+    void shown();
+    void longTexts();
+};
+
+void AnswerDifferenceTest::differences_data()
+{
+    QTest::addColumn<QString>("term");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("options"); // i ignore case, 1 or 2 character check
+    QTest::addColumn<QString>("parts"); // +missing, -surplus, typed>expected, the rest is the same
+    QTest::addColumn<QString>("slip"); // The first letter of its name.
+    const auto row = [](const char *name, const char *term, const char *answer, const char *options,
+                         const char *parts, const char *slip) {
+        QTest::newRow(name) << QString::fromUtf8(term) << QString::fromUtf8(answer)
+                            << QString::fromUtf8(options) << QString::fromUtf8(parts)
+                            << QString::fromUtf8(slip);
+    };
+    row("a letter missing", "house", "hose", "", "ho|+u|se", "O");
+    row("a letter too much", "house", "houuse", "", "hou|-u|se", "O");
+    row("a letter changed", "house", "hause", "", "h|a>o|use", "O");
+    row("a digit is no letter", "mp3", "mp4", "", "mp|4>3", "");
+    row("the fewest steps", "sitting", "kittens", "", "k>s|itt|e>i|n|s>g", "");
+    row("one more and one less", "abcd", "bcde", "", "+a|bcd|-e", "");
+    row("all else", "dog", "cat", "", "cat>dog", "");
+    row("letter case", "Hund", "hUND", "", "hUND>Hund", "L");
+    row("accents", "été", "ete", "", "e>é|t|e>é", "A");
+    row("a combining mark belongs to its letter", "e\u0301n", "en", "", "e>e\u0301|n", "A");
+    row("an emoji of several code points is one", "a👩‍🚀b", "ab", "", "a|+👩‍🚀|b", "P");
+    row("punctuation", "to-be, or", "to be or", "", "to| >-|be|+,| or", "P");
+    row("only digits left are no words", "!", "?", "", "?>!", "");
+    row("the nearest of several", "cat * house * horse", "housse", "", "hous|-s|e", "O");
+    row("the first of those as near", "bat * cat", "rat", "", "r>b|at", "O");
+    row("a named slip is nearest", "H * hund", "HUND", "", "HUND>hund", "L");
+    row("the whole term", "cat * dog", "cat dog", "", "cat |+* |dog", "P");
+    row("the comment left out", "hus [n]", "huss", "", "hus|-s", "O");
+    row("the comment typed", "hus [n]", "hus m", "", "hus |m>n", "O");
+    row("as it is compared: letters alone", "to-be!", "to-bee", "1", "tobe|-e", "O");
+    row("as it is compared: case ignored", "Hund", "HUNT", "i", "hun|t>d", "O");
+    row("nothing left to compare", "hund", "!!", "1", "+hund", "");
+}
+
+void AnswerDifferenceTest::differences()
+{
+    QFETCH(QString, term);
+    QFETCH(QString, answer);
+    QFETCH(QString, options);
+    QFETCH(QString, parts);
+    QFETCH(QString, slip);
+    const CheckingOptions checking = {options.contains(u'i'),
+        options.contains(u'1') ? CharacterCheck::OnlyLetters : CharacterCheck::AllCharacters};
+    const AnswerDifference difference = answerDifference(CWordEntry(term), 0, answer, checking);
+    QStringList found;
+    for (const DifferencePart &part : difference.parts) {
+        using enum DifferencePart::Kind;
+        found.append(part.kind == Same ? part.typed
+                : part.kind == Missing ? u'+' + part.expected
+                : part.kind == Surplus ? u'-' + part.typed
+                                       : part.typed + u'>' + part.expected);
+    }
+    QCOMPARE(found.join(u'|'), parts);
+    QCOMPARE(QStringLiteral(" LAPO").at(int(difference.slip)), slip.isEmpty() ? QChar(u' ') : slip.at(0));
+}
+
+void AnswerDifferenceTest::shown()
+{
+    const CTexts texts;
+    const AnswerDifference markup =
+        answerDifference(CWordEntry(QStringLiteral("<b> & co")), 0, QStringLiteral("<i>  & co"), {});
+    QCOMPARE(differenceAsHtml(markup),
+        QStringLiteral(
+            "&lt;<s>i</s>&gt;<s>\u00A0</s>\u00A0&amp;\u00A0co → &lt;<u>b</u>&gt;\u00A0&amp;\u00A0co"));
+    QCOMPARE(differenceInWords(markup, texts),
+        QStringLiteral("\"<i>  & co\", rätt är \"<b> & co\": ändra \"i\" till \"b\", ta bort \" \"."));
+    const AnswerDifference letter =
+        answerDifference(CWordEntry(QStringLiteral("%s1")), 0, QStringLiteral("%1"), {});
+    QCOMPARE(differenceInWords(letter, texts),
+        QStringLiteral("\"%1\", rätt är \"%s1\": lägg till \"s\". En bokstav fel."));
+    QStringList slips;
+    for (int slip = 0; slip <= int(Slip::OneLetter); ++slip) {
+        slips.append(slipName(Slip(slip), texts));
+    }
+    QCOMPARE(slips.join(u'|'),
+        QStringLiteral(
+            "|Stora och små bokstäver|Accenter eller prickar|Skiljetecken eller mellanslag|En bokstav "
+            "fel"));
+}
+
+void AnswerDifferenceTest::longTexts()
+{
+    // Too long to be compared letter by letter: what is between the common ends is one change.
+    const QString middle(100000, u'x');
+    const QString other(100001, u'y');
+    const AnswerDifference difference =
+        answerDifference(CWordEntry(u'a' + middle + u'b'), 0, u'a' + other + u'b', {});
+    QCOMPARE(difference.parts.size(), 3);
+    QCOMPARE(difference.parts.at(1), (DifferencePart{DifferencePart::Kind::Changed, other, middle}));
+    QVERIFY(differenceAsHtml(difference).size() < 300);
+}
+
+QTEST_APPLESS_MAIN(AnswerDifferenceTest)
+#include "answer_difference_test.moc"

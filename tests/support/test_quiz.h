@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quiz/quiz_host.h"
+#include "quiz/ui/quiz_launch.h"
+#include "settings/quiz_settings.h"
+#include "support/silent_sounds.h"
+#include "support/test_document.h"
+
+#include <QApplication>
+
+/// Notes what a quiz asks of the main window.
+class CTestHost : public IQuizHost
+{
+public:
+    std::vector<int> SelectedEntries() const override { return selected; }
+    void SelectEntries(const std::vector<int> &entries) override
+    {
+        selected = entries;
+        calls.append(QStringLiteral("select"));
+    }
+    void ShowMainWindow(bool show) override
+    {
+        shown = show;
+        calls.append(show ? QStringLiteral("show") : QStringLiteral("hide"));
+    }
+    void EndEditing() override { calls.append(QStringLiteral("end editing")); }
+    void Redraw() override { calls.append(QStringLiteral("redraw")); }
+
+    std::vector<int> selected;
+    bool shown = true;
+    QStringList calls;
+};
+
+/// The window of this class on screen.
+template<class Window>
+Window *FindWindow()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        auto *window = qobject_cast<Window *>(widget);
+        if (window != nullptr && window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+/// All that a quiz needs, over two words in list order, one round, wrong words again at once.
+struct TestQuiz
+{
+    TestDocument test;
+    QuizSettings settings;
+    QuizWindowSettings windowSizes;
+    ResultSettings resultSettings;
+    CRandom random{1};
+    CTestHost host;
+    CSilentSounds sounds;
+    CScriptedChooser chooser;
+    QWidget mainWindow;
+    CQuizLaunch launch;
+
+    explicit TestQuiz(
+        const QStringList &entries = {QStringLiteral("hund|dog"), QStringLiteral("<b>katt</b>|cat")},
+        const QStringList &folders = {})
+        : test(entries), launch({.document = test.document,
+                                    .editorSettings = test.settings,
+                                    .settings = settings,
+                                    .windowSizes = windowSizes,
+                                    .random = random,
+                                    .host = host,
+                                    .windows = {.texts = test.texts,
+                                        .prompt = test.prompt,
+                                        .sounds = sounds,
+                                        .chooser = chooser,
+                                        .resultSettings = resultSettings,
+                                        .dataFolders = folders}},
+                             mainWindow)
+    {
+        settings.order = 0;
+        settings.quizNumber = 1;
+        settings.includeFlaggedWords = 1;
+        mainWindow.show();
+    }
+};
