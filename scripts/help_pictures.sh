@@ -56,6 +56,9 @@ language() {
     printf '[misc]\nautoOpen=1\nlanguageFile=%s\nplugInUse=1\n[quiz]\nplayRight=0\nplayWrong=0\nwordsToQuiz=2\nnumberOfWords=8\nrequiz=0\n[easykey]\nsubset=2\ndock=0\n[Winpos]\nStatus=1\nLeft=40\nTop=40\nRight=840\nBottom=600\n' \
         "$texts" >"$work/config/Ornbury Workshops/Ordelin.ini"
     cp samples/vardagsord.gls "$list"
+    if [ "$1" = en ]; then # The comments and the names of the languages.
+        LC_ALL=C sed -i -e '3s/.*/Everyday words for beginners\r/' -e '4s/.*/Swedish\r/' -e '5s/.*/English\r/' "$list"
+    fi
     "$program" -- "$list" >"$work/program.log" 2>&1 &
     local pid=$!
     pids+=("$pid")

@@ -4,6 +4,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -18,8 +19,10 @@ std::array<int, 2> sockets = {-1, -1};
 
 void Handle(int /*signal*/)
 {
+    const int error = errno; // Of what was interrupted.
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = ::write(sockets[0], &byte, 1);
+    errno = error;
 }
 
 }
@@ -40,7 +43,11 @@ CExitSignals::CExitSignals(QObject *parent) : QObject(parent)
     action.sa_handler = Handle;
     action.sa_flags = SA_RESTART;
     for (const int signal : Signals) {
-        ::sigaction(signal, &action, nullptr);
+        struct sigaction before = {};
+        ::sigaction(signal, &action, &before);
+        if (before.sa_handler == SIG_IGN) {
+            ::sigaction(signal, &before, nullptr); // Whoever started the program wants it to go on.
+        }
     }
 }
 

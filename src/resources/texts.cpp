@@ -41,7 +41,11 @@ bool CTexts::LoadModule(const QByteArray &module)
     return m_module.Load(module);
 }
 
-QString CTexts::Get(int number) const
+QString CTexts::TextOf(const CStringTable &module, int number) const
 {
-    return m_module.Contains(number) ? m_module.Text(number) : m_own.Text(number);
+    // Several times the program's longest text.
+    constexpr qsizetype Longest = 4000;
+    const QString text = module.Text(number);
+    const bool usable = module.Contains(number) && text.size() <= Longest && !text.trimmed().isEmpty();
+    return usable ? text : m_own.Text(number);
 }

@@ -26,7 +26,10 @@ public:
     /// The module file of the program's own texts, from which translations are made.
     static QByteArray OwnModule();
 
-    QString Get(int number) const;
+    QString Get(int number) const { return TextOf(m_module, number); }
+    /// A text of any module, with the program's own in place of one that it lacks or that can't be shown: an
+    /// empty one where there is something to say, or an endless one.
+    QString TextOf(const CStringTable &module, int number) const;
     QString Fill(int number, const QStringList &values) const { return FillText(Get(number), values); }
     PromptText Prompt(int number, const QStringList &values = {}) const
     {

@@ -2,6 +2,7 @@
 #include "shell/command_line.h"
 
 #include "resources/text_numbers.h"
+#include "resources/texts.h"
 
 #include <QHash>
 #include <QUrl>
@@ -36,4 +37,25 @@ CommandLine parseCommandLine(const QStringList &arguments)
         }
     }
     return result;
+}
+
+CommandLineAnswer answerCommandLine(const CommandLine &commandLine, const CTexts &texts, const QString &version)
+{
+    const QString usage = texts.Get(Text::Usage);
+    if (commandLine.error != 0) {
+        const QString message = texts.Fill(commandLine.error, {commandLine.wrongArgument});
+        return {.text = (message + usage).toLocal8Bit(), .isError = true, .exitCode = 2};
+    }
+    switch (commandLine.action) {
+    case CommandLine::Action::Run:
+        break;
+    case CommandLine::Action::ShowHelp:
+        return {.text = (usage + texts.Get(Text::CommandLineHelp)).toLocal8Bit()};
+    case CommandLine::Action::ShowVersion:
+        return {
+            .text = QStringLiteral("%1 %2\n").arg(texts.Get(Text::ApplicationTitle), version).toLocal8Bit()};
+    case CommandLine::Action::ExportStrings:
+        return {.text = CTexts::OwnModule()};
+    }
+    return {};
 }

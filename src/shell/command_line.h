@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
+
+class CTexts;
 
 /// What the command line asks for.
 struct CommandLine
@@ -21,3 +24,14 @@ struct CommandLine
 /// `arguments` without the program's name: at most one file, a path or a file: URL. "--" ends the switches.
 /// Those of the toolkit that session managers and tests pass are left to it.
 CommandLine parseCommandLine(const QStringList &arguments);
+
+/// What a command line that opens no window, or is wrong, is answered with.
+struct CommandLineAnswer
+{
+    QByteArray text = {};
+    /// For standard error and not for standard output.
+    bool isError = false;
+    int exitCode = 0;
+};
+CommandLineAnswer answerCommandLine(
+    const CommandLine &commandLine, const CTexts &texts, const QString &version);

@@ -121,15 +121,24 @@ const QList<int> &quizToolBar()
     return bar;
 }
 
+QString shownInMenu(const QString &name)
+{
+    constexpr qsizetype Longest = 40;
+    // A tab would begin the shortcut's text.
+    QString shown = name.simplified();
+    if (shown.size() > Longest) {
+        shown = shown.left(Longest - 1) + u'…';
+    }
+    return shown.replace(u'&', QStringLiteral("&&"));
+}
+
 QString fillCaption(const QString &caption, const QString &language1, const QString &language2)
 {
     QString text;
     for (qsizetype i = 0; i < caption.size(); ++i) {
         const QStringView next = QStringView(caption).mid(i, 2);
         if (next == u"%1" || next == u"%2") {
-            QString name = next == u"%1" ? language1 : language2;
-            // A tab would begin the shortcut's text.
-            text += name.replace(u'\t', u' ').replace(u'&', QStringLiteral("&&"));
+            text += shownInMenu(next == u"%1" ? language1 : language2);
             ++i;
         } else {
             text += caption.at(i);

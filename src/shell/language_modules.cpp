@@ -17,14 +17,19 @@ namespace {
 /// The program's own texts are a hundredth of it.
 constexpr qint64 LargestModule = 4 * 1024 * 1024;
 
+/// The language's name as one line of a list.
+QString ShownName(const CStringTable &module)
+{
+    constexpr qsizetype Longest = 60;
+    return module.Text(Text::LanguageName).left(Longest).simplified();
+}
+
 /// The texts of a module, with the program's own in place of what it lacks.
 LanguageEntry MakeEntry(const CStringTable &module, const CTexts &texts, const QString &path)
 {
-    const auto get = [&](int number) {
-        return module.Contains(number) ? module.Text(number) : texts.Own().Text(number);
-    };
+    const auto get = [&](int number) { return texts.TextOf(module, number); };
     return {.path = path,
-        .name = module.Text(Text::LanguageName),
+        .name = ShownName(module),
         .abbreviation = module.Text(Text::LanguageAbbreviation),
         .caption = get(Text::LanguageTitle),
         .question = get(Text::LanguageQuestion),
@@ -75,7 +80,7 @@ ModuleTest testLanguageModule(
     }
     if (table.Text(Text::VersionKey) != texts.Own().Text(Text::VersionKey)) {
         if (entry != nullptr) {
-            *entry = {.path = path, .name = table.Text(Text::LanguageName), .valid = false};
+            *entry = {.path = path, .name = ShownName(table), .valid = false};
         }
         return ModuleTest::OtherVersion;
     }

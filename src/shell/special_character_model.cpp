@@ -157,14 +157,17 @@ bool CSpecialCharacterModel::setData(const QModelIndex &index, const QVariant &v
     if (role != Qt::EditRole || item < 0) {
         return false;
     }
-    const bool adding = m_characters.IsRowForAdding(item);
-    if (!m_characters.Edit(item, value.toString())) {
-        return false;
-    }
-    if (adding) {
-        // The row for adding became the new character's; a new row for adding follows it.
+    if (!m_characters.IsRowForAdding(item)) {
+        if (!m_characters.Edit(item, value.toString())) {
+            return false;
+        }
+    } else if (CSpecialCharacters::IsAcceptable(value.toString())) {
+        // The row for adding becomes the new character's; a new row for adding follows it.
         beginInsertRows({}, item + 1, item + 1);
+        m_characters.Edit(item, value.toString());
         endInsertRows();
+    } else {
+        return false;
     }
     Q_EMIT dataChanged(this->index(item, 0), this->index(item, ShortcutColumn));
     return true;

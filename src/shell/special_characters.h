@@ -47,6 +47,8 @@ public:
     /// Changes an own character, or adds one in the row for adding. Returns false when nothing was changed: an
     /// empty text is refused.
     bool Edit(int row, const QString &text);
+    /// Whether a text has anything that can be an own character.
+    static bool IsAcceptable(const QString &text) { return !text.trimmed().isEmpty(); }
     bool Remove(int row);
     /// The own character of Ctrl and a digit; empty when there is none.
     QString DigitText(int digit, bool shift) const;

@@ -8,6 +8,17 @@
 
 #include <QFileInfo>
 
+MiscSettings loadLanguageSettings(const ISettingsStore &store, const QString &root)
+{
+    const QString section = root + QStringLiteral("\\misc");
+    MiscSettings settings;
+    settings.languageFile = store.Read(section, QStringLiteral("languageFile")).value_or(QString());
+    bool isNumber = false;
+    const int use = store.Read(section, QStringLiteral("plugInUse")).value_or(QString()).toInt(&isNumber);
+    settings.plugInUse = !isNumber || use != 0;
+    return settings;
+}
+
 QString loadLanguage(const MiscSettings &settings, CTexts &texts)
 {
     QByteArray module;

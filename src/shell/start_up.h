@@ -8,6 +8,7 @@
 class CAppSettings;
 class CRecentFiles;
 class CTexts;
+class ISettingsStore;
 struct MiscSettings;
 
 /// What happens at the start before there is a window: settings and language, and which file is opened.
@@ -32,6 +33,8 @@ private:
     QString m_modulePath;
 };
 
+/// The language settings alone, without storing anything: for runs that only answer the command line.
+MiscSettings loadLanguageSettings(const ISettingsStore &store, const QString &root);
 /// Lets `texts` speak the language that the settings name. Returns the module's file, empty when it is the
 /// program's own language or the module can't be used.
 QString loadLanguage(const MiscSettings &settings, CTexts &texts);

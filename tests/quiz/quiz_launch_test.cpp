@@ -7,7 +7,6 @@
 #include "support/test_quiz.h"
 
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -47,7 +46,6 @@ private Q_SLOTS:
     void sizesAreRemembered();
     void changingAnEntry();
     void changesNotAllowed();
-    void longList();
     void sounds();
 };
 
@@ -211,25 +209,6 @@ void QuizLaunchTest::changesNotAllowed()
     run.launch.startQuiz(0);
     QVERIFY(
         !FindWindow<CStandardQuiz>()->findChild<QPushButton *>(QStringLiteral("changeButton"))->isEnabled());
-    GiveUp(run);
-}
-
-void QuizLaunchTest::longList()
-{
-    TestQuiz run{QStringList()};
-    CWordList &list = run.test.document.BeginChange();
-    for (int i = 0; i < 100000; ++i) {
-        list.Insert(CWordEntry(QString::number(i), QString::number(i)));
-    }
-    run.launch.startQuiz(0);
-    QElapsedTimer timer;
-    timer.start();
-    FindWindow<CStandardQuiz>()->findChild<QPushButton *>(QStringLiteral("changeButton"))->click();
-    auto *const box = FindWindow<CChangeEntryDialog>()->findChild<QComboBox *>(QStringLiteral("entries"));
-    box->showPopup();
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
-    box->hidePopup();
-    FindWindow<CChangeEntryDialog>()->reject();
     GiveUp(run);
 }
 

@@ -326,7 +326,8 @@ void QuizSessionTest::oneStepForUndo()
 {
     TestDocument test(Words(3));
     CRandom random(1);
-    CQuizSession session(test.document, PlainSettings(), random, {});
+    const QuizSettings settings = PlainSettings();
+    CQuizSession session(test.document, settings, random, {});
     const QStringList before = Describe(test.document.List());
     session.changeEntry(0, QStringLiteral("q0"), QStringLiteral(" a0 "), {}); // As it is.
     QCOMPARE(test.document.UndoCount(), 0);

@@ -100,7 +100,8 @@ void TextsTest::ownTextsBehindAModule()
     CTexts texts;
     QVERIFY(!texts.LoadModule("nonsense"));
     QCOMPARE(texts.Get(62800), QStringLiteral("Avbryt"));
-    QVERIFY(texts.LoadModule(FirstLine + "62800=Cancel\n"));
+    QVERIFY(texts.LoadModule(FirstLine + "62800=Cancel\n62801= \n63510=" + QByteArray(9999, 'x')));
+    QCOMPARE(texts.Get(63510), QStringLiteral("OK"));
     QCOMPARE(texts.Get(62800), QStringLiteral("Cancel"));
     QCOMPARE(texts.Get(62801), QStringLiteral("Stäng"));
     QCOMPARE(texts.Get(-1), QString());

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void languageNamesInCaptions();
     void commandLines_data();
     void commandLines();
+    void answers();
 };
 
 void CommandsTest::tableIsSound()
@@ -110,6 +111,21 @@ void CommandsTest::commandLines()
     const CommandLine result = parseCommandLine(arguments);
     QCOMPARE(result.file, file);
     QCOMPARE(result.error, error);
+}
+
+void CommandsTest::answers()
+{
+    const CTexts texts;
+    const auto answer = [&](const char *argument) {
+        return answerCommandLine(
+            parseCommandLine({QString::fromLatin1(argument)}), texts, QStringLiteral("2.31"));
+    };
+    QCOMPARE(answer("--version").text, QByteArray("Ordelin 2.31\n"));
+    QVERIFY(answer("--help").text.contains("--export-strings"));
+    QVERIFY(answer("--export-strings").text.contains("\n62800=Avbryt\n"));
+    const CommandLineAnswer wrong = answer("--x");
+    QVERIFY(wrong.isError && wrong.text.startsWith("ordelin: ") && wrong.text.contains("--x\n"));
+    QCOMPARE(wrong.exitCode, 2);
 }
 
 QTEST_APPLESS_MAIN(CommandsTest)

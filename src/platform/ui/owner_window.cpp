@@ -6,7 +6,9 @@
 
 QWidget *OwnerWindow()
 {
-    if (QWidget *const active = QApplication::activeWindow()) {
+    // A tool window stands beside the others and stays usable while a question is open.
+    QWidget *const active = QApplication::activeWindow();
+    if (active != nullptr && active->windowType() != Qt::Tool) {
         return active;
     }
     if (QWidget *const modal = QApplication::activeModalWidget()) {

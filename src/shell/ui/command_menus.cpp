@@ -40,7 +40,7 @@ void fillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &ac
     }
 }
 
-void fillToolBar(QToolBar &bar, const QList<int> &commands, const CCommandActions &actions)
+void fillToolBar(QToolBar &bar, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts)
 {
     for (const int id : commands) {
         if (id == CommandId::Separator) {
@@ -48,6 +48,8 @@ void fillToolBar(QToolBar &bar, const QList<int> &commands, const CCommandAction
             continue;
         }
         bar.addAction(actions.Action(id));
-        bar.widgetForAction(actions.Action(id))->setFocusPolicy(Qt::NoFocus);
+        QWidget *const button = bar.widgetForAction(actions.Action(id));
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setAccessibleName(texts.Get(id).section(u'\n', 1));
     }
 }

@@ -19,4 +19,5 @@ void fillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &ac
 
 /// Fills a tool bar likewise. Its buttons don't take the focus, so that an edit box keeps it for the commands
 /// that act on its text.
-void fillToolBar(QToolBar &bar, const QList<int> &commands, const CCommandActions &actions);
+void fillToolBar(
+    QToolBar &bar, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts);

@@ -115,7 +115,10 @@ void CMainFrame::ShowAsBefore()
 {
     const QSize wanted(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 40);
     resize(wanted.boundedTo(screen()->availableSize() * 0.9));
-    m_place.Restore();
+    if (!m_place.Restore()) {
+        // Where the questions of the start find it, also before the window manager had a say.
+        move(screen()->availableGeometry().center() - rect().center());
+    }
     m_place.Show();
     m_services.specialCharacters.DockBeside(*this);
     UpdateCommands();
@@ -144,6 +147,7 @@ void CMainFrame::MakeMenus()
     }
     MakeToolBar(
         texts.Get(Text::StandardToolBar), "standardToolBar", standardToolBar(), CommandId::StandardToolBar);
+    addToolBarBreak();
     MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", quizToolBar(), CommandId::QuizToolBar)->hide();
     // The menus have commands for it.
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -155,7 +159,7 @@ QToolBar *CMainFrame::MakeToolBar(
 {
     QToolBar *const bar = addToolBar(title);
     bar->setObjectName(QLatin1StringView(name));
-    fillToolBar(*bar, commands, *m_actions);
+    fillToolBar(*bar, commands, *m_actions, m_services.texts);
     // The toolkit's own button for what finds no room.
     if (auto *const more = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
         more->setAccessibleName(m_services.texts.Get(Text::FrameMoreButtons));

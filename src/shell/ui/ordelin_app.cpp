@@ -43,7 +43,10 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
     setWindowIcon(QIcon(QStringLiteral(":/pictures/ordelin.svg")));
     setQuitOnLastWindowClosed(false); // A quiz hides the main window.
     installTranslator(&m_qtTexts);
-    connect(&m_exitSignals, &CExitSignals::ExitRequested, this, &COrdelinApp::ExitFromOutside);
+    connect(&m_exitSignals, &CExitSignals::ExitRequested, this, [this] {
+        m_givenUp.reset(); // A signal asks nobody, so it throws nothing away.
+        ExitFromOutside();
+    });
     connect(this, &QGuiApplication::commitDataRequest, this, &COrdelinApp::SessionEnds, Qt::DirectConnection);
 }
 
@@ -52,8 +55,7 @@ COrdelinApp::~COrdelinApp() = default;
 int COrdelinApp::Run(const QString &file)
 {
     if (!InitInstance(file)) {
-        SaveSettings();
-        return 1;
+        return 1; // What the settings say of the last run stays.
     }
     // The end may have been asked for while a question of the start was open.
     const int result = m_exitedFromOutside ? 0 : exec();
@@ -124,23 +126,36 @@ void COrdelinApp::Welcome()
             m_texts.Prompt(Text::FirstRun), PromptIcon::Information, PromptButtons::YesNo, PromptAnswer::Yes)) {
         OpenHelp();
     }
+    m_welcomed = !m_exitedFromOutside;
 }
 
 void COrdelinApp::SaveSettings()
 {
+    if (m_settings.isFirstRun && !m_welcomed) {
+        return; // Ended before its questions were answered: the next run is the first one.
+    }
     m_settings.misc.openOnClosing = !m_document.Path().isEmpty();
     m_settings.Exchange(false);
 }
 
 void COrdelinApp::ExitInstance()
 {
-    if (m_exitedFromOutside && m_givenUp != m_document.ChangeCounter()) {
+    if (m_exitedFromOutside && !(m_sessionEnds && m_givenUp == m_document.ChangeCounter())) {
         m_recovery.Keep();
     } else {
         m_recovery.Finish();
     }
     m_specialCharacters->Close();
     SaveSettings();
+}
+
+bool COrdelinApp::event(QEvent *event)
+{
+    if (event->type() == QEvent::Quit && m_sessionEnds && !m_exitedFromOutside) {
+        ExitFromOutside();
+        return true;
+    }
+    return QApplication::event(event);
 }
 
 void COrdelinApp::ExitFromOutside()
@@ -165,6 +180,7 @@ void COrdelinApp::SessionEnds(QSessionManager &manager)
         }
         manager.release();
     }
+    m_sessionEnds = true;
     // Whoever ends the session may end the program without another word.
     if (m_givenUp != m_document.ChangeCounter()) {
         m_recovery.Keep();

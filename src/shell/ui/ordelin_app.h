@@ -44,6 +44,9 @@ public:
     void ExitInstance();
     CMainFrame &MainFrame() const { return *m_frame; }
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void MakeMainWindow();
     void ChooseLanguage();
@@ -73,6 +76,10 @@ private:
     std::unique_ptr<CSpecialCharacterKeys> m_specialCharacters;
     std::unique_ptr<CMainFrame> m_frame;
     bool m_exitedFromOutside = false;
+    /// The questions of a first run were answered, so that the next one is none.
+    bool m_welcomed = false;
+    /// The session wanted to end once: what the system asks for then is no question for the user any more.
+    bool m_sessionEnds = false;
     /// The change counter when the user gave up the unsaved changes at the session's end.
     std::optional<quint64> m_givenUp;
 };

@@ -5,6 +5,7 @@
 #include "document/recent_files.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "shell/commands.h"
 
 #include <QFileInfo>
 #include <QMenu>
@@ -30,7 +31,7 @@ void CRecentFilesMenu::Fill()
     qDeleteAll(m_actions);
     m_actions.clear();
     for (const QString &path : m_recent.Paths()) {
-        const QString name = QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&"));
+        const QString name = shownInMenu(QFileInfo(path).fileName());
         QAction *const action = Add(QStringLiteral("&%1 %2").arg(m_actions.size() + 1).arg(name));
         action->setStatusTip(path);
         // From the event loop: opening fills this menu anew.

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -154,6 +155,7 @@ bool CSpecialCharacterKeys::eventFilter(QObject *watched, QEvent *event)
         // would close.
         if (m_open && watched == m_target
             && (m_window->HasFocus() || m_window->Holds(QApplication::focusWidget()))) {
+            m_untold = m_target;
             return true;
         }
         break;
@@ -217,6 +219,11 @@ void CSpecialCharacterKeys::RememberTarget(QWidget *focus)
 {
     if (focus != nullptr && (m_window == nullptr || !m_window->Holds(focus))) {
         m_target = focus;
+        // It did not get the focus back, so it is told now.
+        if (QWidget *const untold = std::exchange(m_untold, nullptr); untold != nullptr && untold != focus) {
+            QFocusEvent lost(QEvent::FocusOut, Qt::OtherFocusReason);
+            QCoreApplication::sendEvent(untold, &lost);
+        }
     }
 }
 

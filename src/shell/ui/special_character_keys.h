@@ -59,6 +59,7 @@ private:
     std::unique_ptr<CSpecialCharacterWindow> m_window;
     bool m_open = false;
     QPointer<QWidget> m_target; // The last one outside the window that had the keyboard focus.
+    QPointer<QWidget> m_untold; // That the focus went to the window.
     QPointer<const QWidget> m_frame;
     QElapsedTimer m_inactive; // Since another program came to the front.
 };

@@ -2,6 +2,7 @@
 #include "shell/ui/special_character_window.h"
 
 #include "platform/ui/elided_label.h"
+#include "platform/ui/window_placing.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/shell_settings.h"
@@ -12,16 +13,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
 
 namespace {
-
-bool CanPlaceWindows()
-{
-    return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
-}
 
 /// The screen that shows the middle of the rectangle, else the first one.
 QRect WorkArea(const QRect &rect)
@@ -53,15 +50,15 @@ CSpecialCharacterWindow::CSpecialCharacterWindow(CSpecialCharacters &characters,
     m_list->setObjectName(QStringLiteral("characters"));
     m_list->setAccessibleName(texts.Get(Text::SpecialCharacterList));
     m_message->setObjectName(QStringLiteral("message"));
-    QComboBox *const sets =
-        MakeCombo(Text::CharacterSets, Text::SpecialCharacterSet, settings.subset, "characterSet");
-    QComboBox *const docking =
-        MakeCombo(Text::DockingSides, Text::SpecialCharacterDocking, settings.dock, "docking");
+    QComboBox *const sets = MakeCombo(Text::CharacterSets, settings.subset, "characterSet");
+    QComboBox *const docking = MakeCombo(Text::DockingSides, settings.dock, "docking");
 
     auto *layout = new QVBoxLayout(this);
+    layout->addWidget(MakeLabel(Text::SpecialCharacterSet, *sets));
     layout->addWidget(sets);
     layout->addWidget(m_list, 1);
     layout->addWidget(m_message);
+    layout->addWidget(MakeLabel(Text::SpecialCharacterDocking, *docking));
     layout->addWidget(docking);
     setTabOrder(sets, m_list);
     setTabOrder(m_list, docking);
@@ -86,14 +83,21 @@ CSpecialCharacterWindow::~CSpecialCharacterWindow()
     disconnect(m_list, nullptr, this, nullptr);
 }
 
-QComboBox *CSpecialCharacterWindow::MakeCombo(int items, int accessibleName, int current, const char *name)
+QComboBox *CSpecialCharacterWindow::MakeCombo(int items, int current, const char *name)
 {
     auto *combo = new QComboBox(this);
     combo->setObjectName(QLatin1StringView(name));
-    combo->setAccessibleName(m_texts.Get(accessibleName));
     combo->addItems(m_texts.Get(items).split(u'\n'));
     combo->setCurrentIndex(current);
     return combo;
+}
+
+QLabel *CSpecialCharacterWindow::MakeLabel(int text, QWidget &buddy)
+{
+    // Assistive technology names a drop-down list by its label.
+    auto *label = new QLabel(m_texts.Get(text), this);
+    label->setBuddy(&buddy);
+    return label;
 }
 
 void CSpecialCharacterWindow::Open()
@@ -169,13 +173,13 @@ void CSpecialCharacterWindow::RestorePlace()
 
 void CSpecialCharacterWindow::StorePlace()
 {
-    if (CanPlaceWindows()) {
-        EasyKeySettings &settings = m_characters.Settings();
-        settings.left = x();
-        settings.top = y();
-        settings.right = x() + width();
-        settings.bottom = y() + height();
-    }
+    // Where windows can't be placed, the place means nothing but the size does.
+    const QPoint place = CanPlaceWindows() ? pos() : QPoint();
+    EasyKeySettings &settings = m_characters.Settings();
+    settings.left = place.x();
+    settings.top = place.y();
+    settings.right = place.x() + width();
+    settings.bottom = place.y() + height();
 }
 
 void CSpecialCharacterWindow::ShowMessage(const QString &message)

@@ -9,6 +9,7 @@ class CSpecialCharacterModel;
 class CSpecialCharacters;
 class CTexts;
 class QComboBox;
+class QLabel;
 
 /// The tool window of special characters. Clicks never give it the keyboard focus, which stays where the user
 /// is typing; it takes the focus only when told to, and while an own character is edited.
@@ -49,7 +50,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    QComboBox *MakeCombo(int items, int accessibleName, int current, const char *name);
+    QComboBox *MakeCombo(int items, int current, const char *name);
+    QLabel *MakeLabel(int text, QWidget &buddy);
     void SetAcceptsFocus(bool accepts);
     void RestorePlace();
     void StorePlace();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/window_place.h"
 
+#include "platform/ui/window_placing.h"
 #include "settings/settings_store.h"
 #include "shell/window_placement.h"
 
@@ -15,11 +16,6 @@ DesktopGeometry Desktop()
 {
     const QScreen *const screen = QGuiApplication::primaryScreen();
     return {screen->virtualGeometry(), screen->availableGeometry()};
-}
-
-bool CanPlaceWindows()
-{
-    return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
 QString BarSection(const QString &root)
