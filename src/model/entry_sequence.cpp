@@ -101,15 +101,46 @@ void CEntrySequence::Insert(int index, CWordEntry entry)
         Append(std::move(entry));
         return;
     }
+    std::vector<EntryPointer> pointers;
+    pointers.emplace_back(new SharedEntry(std::move(entry)));
+    InsertPointers(index, std::move(pointers));
+}
+
+void CEntrySequence::Insert(int index, const CEntrySequence &other)
+{
+    std::vector<EntryPointer> pointers;
+    pointers.reserve(size_t(other.m_count));
+    for (const BlockPointer &block : other.m_blocks) {
+        pointers.insert(pointers.end(), block->entries.begin(), block->entries.end());
+    }
+    InsertPointers(index, std::move(pointers));
+}
+
+void CEntrySequence::InsertPointers(int index, std::vector<EntryPointer> pointers)
+{
+    if (!IsIndex(index)) {
+        for (EntryPointer &pointer : pointers) {
+            AppendPointer(std::move(pointer));
+        }
+        return;
+    }
     const Place place = Locate(index);
     std::vector<EntryPointer> &entries = MutableBlock(place.block);
-    entries.insert(entries.begin() + qptrdiff(place.entry), EntryPointer(new SharedEntry(std::move(entry))));
+    entries.insert(entries.begin() + qptrdiff(place.entry), std::make_move_iterator(pointers.begin()),
+        std::make_move_iterator(pointers.end()));
     if (entries.size() > 2 * BlockSize) {
-        BlockPointer rest(new Block);
-        const auto middle = entries.begin() + BlockSize;
-        rest->entries.assign(std::make_move_iterator(middle), std::make_move_iterator(entries.end()));
-        entries.erase(middle, entries.end());
-        m_blocks.insert(m_blocks.begin() + qptrdiff(place.block) + 1, std::move(rest));
+        std::vector<BlockPointer> rest;
+        for (size_t first = BlockSize; first < entries.size(); first += rest.back()->entries.size()) {
+            // The last part takes what is left, so that none is short.
+            const size_t left = entries.size() - first;
+            const auto start = entries.begin() + qptrdiff(first);
+            const auto end = start + qptrdiff(left > 2 * BlockSize ? BlockSize : left);
+            rest.emplace_back(new Block);
+            rest.back()->entries.assign(std::make_move_iterator(start), std::make_move_iterator(end));
+        }
+        entries.erase(entries.begin() + BlockSize, entries.end());
+        m_blocks.insert(m_blocks.begin() + qptrdiff(place.block) + 1, rest.begin(), rest.end());
+        m_blocks[place.block]->entries.shrink_to_fit();
     }
     UpdateStarts(place.block);
 }

@@ -29,6 +29,8 @@ public:
     void Append(CWordEntry entry);
     /// Inserts before `index`; an index that is not in range appends.
     void Insert(int index, CWordEntry entry);
+    /// Inserts all entries of another sequence, and shares them.
+    void Insert(int index, const CEntrySequence &other);
     /// Removes ascending indices; those out of range are skipped.
     void Remove(std::span<const int> indices);
     void Swap(int a, int b);
@@ -59,6 +61,7 @@ private:
     Place Locate(int index) const;
     std::vector<EntryPointer> &MutableBlock(size_t block);
     void AppendPointer(EntryPointer pointer);
+    void InsertPointers(int index, std::vector<EntryPointer> pointers);
     /// Renews the starts from a block on, after its size changed.
     void UpdateStarts(size_t block);
 

@@ -110,6 +110,14 @@ int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIn
     return similar;
 }
 
+void CWordList::InsertAll(const CWordList &other, int position)
+{
+    if (other.Count() > 0) {
+        m_saved = false;
+        m_entries.Insert(position, other.m_entries);
+    }
+}
+
 int CWordList::ReplaceEntry(
     int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar)
 {

@@ -93,6 +93,8 @@ public:
     /// Returns the index of a similar entry, as it is after the insertion, or -1. `outIndex`, when given,
     /// receives the new entry's index after a sort, and the index of the last entry otherwise.
     int Insert(CWordEntry entry, const InsertOptions &options = {}, int *outIndex = nullptr);
+    /// Inserts the entries of another list before this one's `position`, as InsertOptions has it.
+    void InsertAll(const CWordList &other, int position);
     /// The texts may be those of the entry itself. Both return the index of another, similar entry or -1; it is
     /// reported also when nothing changed.
     int ReplaceEntry(

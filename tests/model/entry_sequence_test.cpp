@@ -40,7 +40,7 @@ void Change(CEntrySequence &sequence, Plain &plain, CRandom &random, int number)
 {
     const int count = int(plain.size());
     const int place = count == 0 ? 0 : random.Next() % count;
-    switch (random.Next() % 7) {
+    switch (random.Next() % 8) {
     case 0: // Many in one place, so that blocks are split.
         for (int i = 0; i < 700; ++i) {
             sequence.Insert(place, Entry(number + i));
@@ -53,7 +53,25 @@ void Change(CEntrySequence &sequence, Plain &plain, CRandom &random, int number)
             plain.push_back(number + i);
         }
         break;
-    case 2: { // A range, or a thinned-out part.
+    case 2: { // A sequence of any length, into this one or behind it; also this one into itself.
+        const auto position = plain.begin() + (random.Next() % 4 == 0 ? count : place);
+        if (random.Next() % 4 == 0 && count < 3000) {
+            const Plain inserted = plain;
+            sequence.Insert(int(position - plain.begin()), sequence);
+            plain.insert(position, inserted.begin(), inserted.end());
+            break;
+        }
+        CEntrySequence other;
+        Plain inserted(size_t(random.Next() % 2000));
+        std::iota(inserted.begin(), inserted.end(), number);
+        for (const int entry : inserted) {
+            other.Append(Entry(entry));
+        }
+        sequence.Insert(int(position - plain.begin()), other);
+        plain.insert(position, inserted.begin(), inserted.end());
+        break;
+    }
+    case 3: { // A range, or a thinned-out part.
         Plain removed;
         for (int index = place, step = 1 + random.Next() % 3; index < count && removed.size() < 600;
              index += step) {
@@ -65,7 +83,7 @@ void Change(CEntrySequence &sequence, Plain &plain, CRandom &random, int number)
         }
         break;
     }
-    case 3: {
+    case 4: {
         Plain order(plain.size());
         std::iota(order.begin(), order.end(), 0);
         Shuffle(order, random);

@@ -207,7 +207,8 @@ void QuizSessionTest::percentages()
 {
     TestDocument test(Words(2));
     CRandom random(1);
-    CQuizSession session(test.document, PlainSettings(), random, {});
+    const QuizSettings settings = PlainSettings();
+    CQuizSession session(test.document, settings, random, {});
     QCOMPARE(session.totalPercent(), 0.0);
     session.recordAnswer(0, QStringLiteral("a0"));
     session.recordAnswer(0, QStringLiteral("x"));
@@ -247,7 +248,8 @@ void QuizSessionTest::flagDecisions()
     QFETCH(int, decision);
     TestDocument test(Words(1, flagged ? QStringLiteral("1") : QString()));
     CRandom random(1);
-    CQuizSession session(test.document, PlainSettings(), random, {});
+    const QuizSettings settings = PlainSettings();
+    CQuizSession session(test.document, settings, random, {});
     for (int i = 0; i < right; ++i) {
         session.recordAnswer(0, QStringLiteral("a0"));
     }

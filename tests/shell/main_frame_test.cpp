@@ -17,8 +17,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QDragEnterEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QRadioButton>
@@ -66,6 +68,7 @@ private Q_SLOTS:
     void selectingManyEntries();
     void closing();
     void everyCommandOnAnEmptyList();
+    void clipboardCommands();
     void droppedFiles();
     void barsAndPlaceComeBack();
     void captionsFollowTheLanguages();
@@ -143,6 +146,44 @@ void MainFrameTest::everyCommandOnAnEmptyList()
     QVERIFY(std::ranges::none_of(
         windows, [](QWidget *window) { return qobject_cast<CStandardQuiz *>(window) != nullptr; }));
     QVERIFY(run.test.prompt.numbers.isEmpty());
+}
+
+void MainFrameTest::clipboardCommands()
+{
+    using namespace CommandId;
+    QClipboard &clipboard = *QApplication::clipboard();
+    clipboard.clear();
+    Frame run;
+    run.frame.show();
+    QApplication::setActiveWindow(&run.frame);
+    QCoreApplication::processEvents();
+    QVERIFY(!run.Command(Paste)->isEnabled());
+    clipboard.setText(QStringLiteral("a\tb\tc"));
+    run.Command(Paste)->trigger();
+    QCOMPARE(Describe(run.test.document.List()), QStringList{QStringLiteral("a|b|c")});
+    QCOMPARE(run.Status(), QStringLiteral("1 glosor klistrades in."));
+
+    // The pasted entry is selected.
+    for (const auto &[command, text] : {std::pair(int(CopyLanguage1), "a\r\n"), {CopyLanguage2, "b\r\n"},
+             {CopyNotes, "c\r\n"}, {CommandId::Copy, "a\tb\tc\r\n"}}) {
+        run.Command(command)->trigger();
+        QCOMPARE(clipboard.text(), QString::fromLatin1(text));
+    }
+    run.test.prompt.answers = {PromptAnswer::Yes};
+    run.Command(Cut)->trigger();
+    QCOMPARE(run.test.document.List().Count(), 0);
+    QVERIFY(!run.Command(Copy)->isEnabled() && !run.Command(CopyNotes)->isEnabled());
+
+    // In an edit box they work on its text alone.
+    run.Command(ShowEditFields)->trigger();
+    auto *const box = run.frame.findChild<QLineEdit *>(QStringLiteral("field0"));
+    box->setFocus();
+    run.Command(Paste)->trigger();
+    QVERIFY(box->text().startsWith(QStringLiteral("a\tb")));
+    QCOMPARE(run.test.document.List().Count(), 0);
+    box->setSelection(0, 1);
+    run.Command(Cut)->trigger();
+    QCOMPARE(clipboard.text(), QStringLiteral("a"));
 }
 
 void MainFrameTest::droppedFiles()

@@ -30,7 +30,8 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
       m_author(MakeLabel(this, "author")), m_comments(MakeLabel(this, "comments")),
       m_editing({services.document, m_model->Rows(), services.settings, services.arrange, services.texts,
                     services.prompt},
-          *this)
+          *this),
+      m_clipboard(*this, services.document, services.texts)
 {
     m_list->setObjectName(QStringLiteral("wordList"));
     m_list->setAccessibleName(services.texts.Get(Text::ViewList));

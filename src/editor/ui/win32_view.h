@@ -4,6 +4,7 @@
 #include "editor/entry_editing.h"
 #include "editor/list_summary.h"
 #include "editor/row_model.h"
+#include "editor/ui/list_clipboard.h"
 
 #include <QWidget>
 
@@ -28,7 +29,7 @@ struct ViewServices
 };
 
 /// The view of the document: author and comments, the word list below them, and the entry fields. Owns its
-/// widgets; hands every edit to CEntryEditing and shows what came of it.
+/// widgets; hands every edit to CEntryEditing and shows what came of it, and the clipboard to CListClipboard.
 class CWin32View : public QWidget, private IEntryView
 {
     Q_OBJECT
@@ -79,6 +80,11 @@ public:
     void Sort(int field);
     /// In the language of the cell cursor.
     void SetFlags(FlagMode mode);
+    /// One field of the selected entries; a negative one copies all.
+    void CopySelection(int column) { m_clipboard.Copy(column); }
+    /// Copies all fields, and asks before it deletes.
+    void CutSelection() { m_clipboard.Cut(); }
+    void PasteEntries() { m_clipboard.Paste(); }
 
 Q_SIGNALS:
     void StatusTextChanged(const QString &text);
@@ -119,5 +125,6 @@ private:
     CElidedLabel *m_author;
     CElidedLabel *m_comments;
     CEntryEditing m_editing;
+    CListClipboard m_clipboard;
     bool m_suppressSelectionSync = false;
 };

@@ -2,6 +2,7 @@
 #include "shell/ui/editor_commands.h"
 
 #include "document/win32_doc.h"
+#include "editor/clipboard_text.h"
 #include "editor/ui/edit_box_commands.h"
 #include "editor/ui/win32_view.h"
 #include "settings/shell_settings.h"
@@ -24,6 +25,9 @@ CEditorCommands::CEditorCommands(
     connect(&view, &CWin32View::SelectionChanged, this, &CEditorCommands::StateChanged);
     connect(qApp, &QApplication::focusChanged, this,
         [this](QWidget * /*old*/, QWidget *focus) { FocusChanged(focus); });
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CEditorCommands::ClipboardChanged);
+    // Another program is asked, which the start doesn't wait for.
+    QMetaObject::invokeMethod(this, &CEditorCommands::ClipboardChanged, Qt::QueuedConnection);
 }
 
 CommandState CEditorCommands::State() const
@@ -35,7 +39,7 @@ CommandState CEditorCommands::State() const
         .cursorColumn = m_view.CursorField(),
         .inEditBox = box != nullptr,
         .textSelected = box != nullptr && box->hasSelectedText(),
-        .canPaste = box != nullptr && !QApplication::clipboard()->text().isEmpty(),
+        .canPaste = m_canPaste,
         .canUndo = box != nullptr ? box->isUndoAvailable() : m_document.UndoCount() > 0,
         .canRedo = box == nullptr && m_document.RedoCount() > 0};
 }
@@ -54,6 +58,12 @@ void CEditorCommands::FocusChanged(QWidget *focus)
     Q_EMIT StateChanged();
 }
 
+void CEditorCommands::ClipboardChanged()
+{
+    m_canPaste = CListClipboard::CanPaste();
+    Q_EMIT StateChanged();
+}
+
 void CEditorCommands::SetHandler(int id, void (CEditorCommands::*handler)())
 {
     m_actions.SetHandler(id, [this, handler] { (this->*handler)(); });
@@ -61,33 +71,39 @@ void CEditorCommands::SetHandler(int id, void (CEditorCommands::*handler)())
 
 void CEditorCommands::ConnectText()
 {
-    // On the text of an edit box only.
-    const auto onText = [this](int id, auto handler) {
-        m_actions.SetHandler(id, [handler] {
+    const auto onTextOrList = [this](int id, auto onText, auto onList) {
+        m_actions.SetHandler(id, [this, onText, onList] {
             if (QLineEdit *const box = focusedEditBox()) {
-                handler(*box);
+                onText(*box);
+            } else {
+                onList(m_view);
             }
         });
     };
-    onText(Cut, [](QLineEdit &box) { box.cut(); });
-    onText(Copy, [](QLineEdit &box) { box.copy(); });
-    onText(Paste, [](QLineEdit &box) { box.paste(); });
-    onText(InsertSynonym, [](QLineEdit &box) { changeText(box, insertSynonym); });
-    onText(InsertComment, [](QLineEdit &box) { changeText(box, insertComment); });
+    onTextOrList(
+        Cut, [](QLineEdit &box) { box.cut(); }, [](CWin32View &view) { view.CutSelection(); });
+    onTextOrList(
+        Copy, [](QLineEdit &box) { box.copy(); }, [](CWin32View &view) { view.CopySelection(AllColumns); });
+    onTextOrList(
+        Paste, [](QLineEdit &box) { box.paste(); }, [](CWin32View &view) { view.PasteEntries(); });
+    onTextOrList(
+        CommandId::Delete, [](QLineEdit &box) { box.del(); }, [](CWin32View &view) { view.DeleteSelection(); });
+    onTextOrList(
+        SelectAll, [](QLineEdit &box) { box.selectAll(); }, [](CWin32View &view) { view.SelectAll(); });
+    const auto nothing = [](CWin32View & /*view*/) {};
+    onTextOrList(
+        InsertSynonym, [](QLineEdit &box) { changeText(box, insertSynonym); }, nothing);
+    onTextOrList(
+        InsertComment, [](QLineEdit &box) { changeText(box, insertComment); }, nothing);
     SetHandler(CommandId::Undo, &CEditorCommands::Undo);
     SetHandler(CommandId::Redo, &CEditorCommands::Redo);
-    SetHandler(CommandId::Delete, &CEditorCommands::Delete);
-    m_actions.SetHandler(SelectAll, [this] {
-        if (QLineEdit *const box = focusedEditBox()) {
-            box->selectAll();
-        } else {
-            m_view.SelectAll();
-        }
-    });
 }
 
 void CEditorCommands::ConnectList()
 {
+    for (const int command : {CopyLanguage1, CopyLanguage2, CopyNotes}) {
+        m_actions.SetHandler(command, [this, command] { m_view.CopySelection(command - CopyLanguage1); });
+    }
     m_actions.SetHandler(PlaceInsertionPoint, [this] { m_view.PlaceInsertionPoint(); });
     m_actions.SetHandler(Previous, [this] { m_view.Step(-1); });
     m_actions.SetHandler(Next, [this] { m_view.Step(1); });
@@ -127,14 +143,5 @@ void CEditorCommands::Redo()
 {
     if (focusedEditBox() == nullptr) {
         m_document.Redo();
-    }
-}
-
-void CEditorCommands::Delete()
-{
-    if (QLineEdit *const box = focusedEditBox()) {
-        box->del();
-    } else {
-        m_view.DeleteSelection();
     }
 }

@@ -34,14 +34,15 @@ private:
     void ConnectList();
     void ConnectArranging();
     void FocusChanged(QWidget *focus);
+    void ClipboardChanged();
     void SetHandler(int id, void (CEditorCommands::*handler)());
     void Undo();
     void Redo();
-    void Delete();
 
     CCommandActions &m_actions;
     CWin32View &m_view;
     CWin32Doc &m_document;
     ArrangeSettings &m_arrange;
     QPointer<QLineEdit> m_editBox;
+    bool m_canPaste = false;
 };

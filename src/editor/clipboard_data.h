@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/word_list.h"
+
+#include <memory>
+
+class QMimeData;
+
+/// What a copy of entries puts on the clipboard: text and rich text for other programs, and of all columns
+/// also the program's own records, for this program and other running copies of it.
+std::unique_ptr<QMimeData> clipboardDataOf(const CWordList &list, CWordList::Selection entries, int column);
+
+/// Whether there is a form that entries can be read from; reads none of it.
+bool mayHoldEntries(const QMimeData &data);
+/// The entries of the best form that is there: records before text.
+CWordList entriesFromData(const QMimeData &data);
