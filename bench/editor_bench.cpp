@@ -18,8 +18,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-// The real view, driven by keys without a display. Aimed at with 100,000 entries: selecting all below 50 ms, and
-// no key that touches few entries above 16 ms.
+// The real view, driven by keys without a display. Aimed at with 100,000 entries: selecting all below 50 ms,
+// and no key that touches few entries above 16 ms.
 
 namespace {
 
@@ -85,14 +85,20 @@ void Run(int count)
     QApplication::setActiveWindow(&view);
     list->setFocus();
     Print("a page down", Measure(10, nothing, [] { Key(Qt::Key_PageDown); }));
-    Print("scroll to the middle", Measure(3, [&] { list->verticalScrollBar()->setValue(0); }, [&] {
-        list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum() / 2);
-        Settle();
-    }));
-    Print("select all", Measure(3, [&] { view.SelectEntry(0); }, [&] {
-        view.SelectAll();
-        Settle();
-    }));
+    Print("scroll to the middle",
+        Measure(
+            3, [&] { list->verticalScrollBar()->setValue(0); },
+            [&] {
+                list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum() / 2);
+                Settle();
+            }));
+    Print("select all",
+        Measure(
+            3, [&] { view.SelectEntry(0); },
+            [&] {
+                view.SelectAll();
+                Settle();
+            }));
     Print("the selected entries", Measure(3, nothing, [&] {
         if (int(view.SelectedEntries().size()) != count) {
             std::exit(1);

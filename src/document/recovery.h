@@ -54,8 +54,8 @@ public:
     void Wait();
     /// Removes the copy at a clean end of the program, waiting where it must.
     void Finish();
-    /// At an end that leaves no time for questions: writes the copy of unsaved changes at once and leaves it for
-    /// the next start.
+    /// At an end that leaves no time for questions: writes the copy of unsaved changes at once and leaves it
+    /// for the next start.
     void Keep();
 
 private:

@@ -61,7 +61,8 @@ public:
     void SwapFieldWith(CWordEntry &other, int field);
 
 private:
-    /// GetAlternative() with its comments, of an existing language and without a copy: lists are searched for it.
+    /// GetAlternative() with its comments, of an existing language and without a copy: lists are searched for
+    /// it.
     const QString &StoredAlternative(int index, int k) const;
     QString &Field(int field) { return field == NoteField ? m_note : m_terms[size_t(field)]; }
     void ParseTerm(int index);
