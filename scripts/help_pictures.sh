@@ -8,26 +8,8 @@ program=$PWD/build/release/src/ordelin
 pictures=$PWD/help/pictures
 mkdir -p "$pictures"
 
-work=$(mktemp -d)
-pids=()
-cleanup() {
-    for pid in "${pids[@]}"; do
-        kill "$pid" 2>/dev/null || true
-    done
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
-exec 3<>"$work/display"
-Xvfb -displayfd 3 -noreset -screen 0 1280x900x24 -nolisten tcp >"$work/xvfb.log" 2>&1 3>"$work/display" &
-pids+=($!)
-until [ -s "$work/display" ]; do sleep 0.1; done
-DISPLAY=:$(tr -d '[:space:]' <"$work/display")
-export DISPLAY XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
-openbox >"$work/openbox.log" 2>&1 &
-pids+=($!)
-until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done
+# shellcheck source=scripts/virtual_display.sh
+. scripts/virtual_display.sh
 
 # shot NAME WINDOW-TITLE: saves the window of that title.
 shot() {
@@ -51,10 +33,7 @@ language() {
     quiz=$(sed -n 's/^63060=//p' "$texts")
     result=$(sed -n 's/^62122=//p' "$texts")
     special=$(sed -n 's/^346000=//p' "$texts")
-    rm -rf "$work/config"
-    mkdir -p "$work/config/Ornbury Workshops"
-    printf '[misc]\nautoOpen=1\nlanguageFile=%s\nplugInUse=1\n[quiz]\nplayRight=0\nplayWrong=0\nwordsToQuiz=2\nnumberOfWords=8\nrequiz=0\n[easykey]\nsubset=2\ndock=0\n[Winpos]\nStatus=1\nLeft=40\nTop=40\nRight=840\nBottom=600\n' \
-        "$texts" >"$work/config/Ornbury Workshops/Ordelin.ini"
+    settings "languageFile=$texts\\nplugInUse=1\\n[editor]\\nduplicateCheckBeforeQuiz=0\\n[quiz]\\nplayRight=0\\nplayWrong=0\\nwordsToQuiz=1\\nnumberOfWords=8\\nrequiz=0\\n[easykey]\\nsubset=2\\ndock=0\\n[Winpos]\\nStatus=1\\nLeft=40\\nTop=40\\nRight=840\\nBottom=600\\n"
     cp samples/vardagsord.gls "$list"
     if [ "$1" = en ]; then # The comments and the names of the languages.
         LC_ALL=C sed -i -e '3s/.*/Everyday words for beginners\r/' -e '4s/.*/Swedish\r/' -e '5s/.*/English\r/' "$list"

@@ -21,6 +21,7 @@ CFileCommands::CFileCommands(
 
 bool CFileCommands::MayDiscard()
 {
+    m_finishEditing();
     if (!m_document.IsModified()) {
         return true;
     }
@@ -97,6 +98,7 @@ bool CFileCommands::SaveAs()
 
 bool CFileCommands::DoSave(const QString &path, bool replace)
 {
+    m_finishEditing();
     QString target = path;
     if (target.isEmpty()) {
         const QString name = m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls")

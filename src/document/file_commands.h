@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class CRecentFiles;
 class CTexts;
 class CWin32Doc;
@@ -17,6 +19,9 @@ public:
     /// Nothing is owned.
     CFileCommands(CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser,
         CRecentFiles &recent);
+
+    /// What is called before a list is saved or given up: whoever edits it stores what is still being typed.
+    void SetFinishEditing(std::function<void()> finishEditing) { m_finishEditing = std::move(finishEditing); }
 
     bool New();
     /// Asks for a file and opens it.
@@ -44,4 +49,5 @@ private:
     IFileChooser &m_chooser;
     CRecentFiles &m_recent;
     QString m_lastFolder;
+    std::function<void()> m_finishEditing = [] {};
 };

@@ -10,6 +10,8 @@
 #include "settings/editor_settings.h"
 #include "settings/shell_settings.h"
 
+#include <algorithm>
+
 using Action = EditStep::Action;
 
 SortOptions sortOptions(const ArrangeSettings &settings)
@@ -26,7 +28,7 @@ CEntryEditing::CEntryEditing(EntryEditingServices services, IEntryView &view)
 
 QString CEntryEditing::Corrected(const QString &term)
 {
-    if (!m_services.settings.synonymWarning) {
+    if (!m_services.settings.synonymWarning || !m_asking) {
         return term;
     }
     const std::optional<QString> proposal = SuggestTermCorrection(term);
@@ -39,7 +41,7 @@ QString CEntryEditing::Corrected(const QString &term)
 
 int CEntryEditing::AskAboutSimilar(int similar)
 {
-    if (!m_services.settings.duplicateVarning || similar < 0) {
+    if (!m_services.settings.duplicateVarning || similar < 0 || !m_asking) {
         return CRowModel::NoEntry;
     }
     m_view.MarkEntry(similar);
@@ -185,7 +187,11 @@ bool CEntryEditing::DeleteEntries(std::span<const int> entries)
 
 void CEntryEditing::SetFlags(int language, std::span<const int> entries, FlagMode mode)
 {
-    if (!entries.empty() && (language == 0 || language == 1)) {
+    const CWordList &list = m_services.document.List();
+    const auto changes = [&](int entry) {
+        return mode == FlagMode::Toggle || list.Entry(entry).GetFlag(language) != (mode == FlagMode::Set);
+    };
+    if ((language == 0 || language == 1) && std::ranges::any_of(entries, changes)) {
         m_services.document.BeginChange().SetFlags(language, entries, mode);
     }
 }

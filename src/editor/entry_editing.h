@@ -86,7 +86,9 @@ public:
     EditStep CellEdited(int row, int field, const QString &text);
     /// Asks before it deletes; true when the entries are gone. `entries` is ascending.
     bool DeleteEntries(std::span<const int> entries);
-    /// Flags or unflags entries in a language.
+    /// Whether anything is asked; without it terms stay as typed and similar entries unmentioned.
+    void SetAsking(bool asking) { m_asking = asking; }
+    /// Flags or unflags entries in a language; does nothing when all of them are like that.
     void SetFlags(int language, std::span<const int> entries, FlagMode mode);
 
 private:
@@ -102,6 +104,7 @@ private:
 
     EntryEditingServices m_services;
     IEntryView &m_view;
+    bool m_asking = true;
 };
 
 /// The sort options as the list takes them: stored is whether the order descends.

@@ -160,7 +160,8 @@ QVariant CWordListModel::NewEntryData(int field, int role) const
     case Qt::TextAlignmentRole:
         return pending.isEmpty() ? QVariant(int(Qt::AlignCenter)) : QVariant();
     case Qt::AccessibleTextRole:
-        return pending.isEmpty() ? QVariant(m_texts.Get(Text::NewEntryRow)) : pending;
+        return pending.isEmpty() ? m_texts.Get(Text::NewEntryRow)
+                                 : QString(m_texts.Get(Text::NewEntryRow) + QStringLiteral(", ") + pending);
     default:
         return {};
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/commands.h"
 
+#include "platform/plain_text.h"
 #include "resources/text_numbers.h"
 
 #include <algorithm>
@@ -129,7 +130,7 @@ QString shownInMenu(const QString &name)
     if (shown.size() > Longest) {
         shown = shown.left(Longest - 1) + u'…';
     }
-    return shown.replace(u'&', QStringLiteral("&&"));
+    return ShownInCaption(shown);
 }
 
 QString fillCaption(const QString &caption, const QString &language1, const QString &language2)

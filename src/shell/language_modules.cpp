@@ -15,7 +15,7 @@
 namespace {
 
 /// The program's own texts are a hundredth of it.
-constexpr qint64 LargestModule = 4 * 1024 * 1024;
+constexpr qint64 LargestModule = 4'194'304;
 
 /// The language's name as one line of a list.
 QString ShownName(const CStringTable &module)

@@ -157,17 +157,17 @@ bool CSpecialCharacterModel::setData(const QModelIndex &index, const QVariant &v
     if (role != Qt::EditRole || item < 0) {
         return false;
     }
-    if (!m_characters.IsRowForAdding(item)) {
-        if (!m_characters.Edit(item, value.toString())) {
-            return false;
-        }
-    } else if (CSpecialCharacters::IsAcceptable(value.toString())) {
+    if (!CSpecialCharacters::IsAcceptable(value.toString())) {
+        return false;
+    }
+    const bool adding = m_characters.IsRowForAdding(item);
+    if (adding) {
         // The row for adding becomes the new character's; a new row for adding follows it.
         beginInsertRows({}, item + 1, item + 1);
-        m_characters.Edit(item, value.toString());
+    }
+    m_characters.Edit(item, value.toString());
+    if (adding) {
         endInsertRows();
-    } else {
-        return false;
     }
     Q_EMIT dataChanged(this->index(item, 0), this->index(item, ShortcutColumn));
     return true;

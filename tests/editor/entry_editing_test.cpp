@@ -77,6 +77,7 @@ private Q_SLOTS:
     void chainedEntry();
     void cells();
     void sortedEntries();
+    void flags();
     void deleting();
     void textBoxes_data();
     void textBoxes();
@@ -244,6 +245,17 @@ void EntryEditingTest::sortedEntries()
     QCOMPARE(editor.List(), (QStringList{T("a|1"), T("b|3"), T("c|2")}));
     QCOMPARE(editor.rows.InsertionPoint(), 1);
     QVERIFY(!sortOptions(ArrangeSettings()).ascending);
+}
+
+void EntryEditingTest::flags()
+{
+    Editor editor({T("a|b||1"), T("c|d")});
+    editor.editing.SetFlags(0, std::array{0}, FlagMode::Set);
+    editor.editing.SetFlags(0, std::array{1}, FlagMode::Clear);
+    editor.editing.SetFlags(2, std::array{0}, FlagMode::Toggle);
+    QCOMPARE(editor.test.document.UndoCount(), 0);
+    editor.editing.SetFlags(0, std::array{0, 1}, FlagMode::Set);
+    QCOMPARE(editor.List(), (QStringList{T("a|b||1"), T("c|d||1")}));
 }
 
 void EntryEditingTest::deleting()

@@ -85,6 +85,8 @@ class Win32ViewTest : public QObject
 private Q_SLOTS:
     void typingAListByKeys();
     void endingAnEdit();
+    void tabGoesOn();
+    void endingWithoutQuestions();
     void commandsWhileACellIsEdited();
     void keysOfTheList();
     void typeToFind();
@@ -130,16 +132,45 @@ void Win32ViewTest::endingAnEdit()
     QVERIFY(!run.List()->IsEditing());
     QVERIFY(run.other.hasFocus());
     // The wheel ends it before it scrolls.
-    run.List()->EditCell(1, 1);
+    run.List()->EditCell(2, 1);
     run.Type(QStringLiteral("y"));
     QWheelEvent wheel({5, 5}, run.List()->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
         Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(run.List()->viewport(), &wheel);
-    QCOMPARE(run.Entries().at(1),
-        QStringLiteral("a0|b0")
-            .replace(QStringLiteral("a0"), QStringLiteral("x"))
-            .replace(QStringLiteral("b0"), QStringLiteral("b1")));
+    QCOMPARE(run.Entries().at(1), QStringLiteral("x|y"));
     QVERIFY(!run.List()->IsEditing());
+}
+
+void Win32ViewTest::tabGoesOn()
+{
+    View run;
+    run.Type(QStringLiteral("hund"));
+    const auto tab = [&](Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(run.Editor(), modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+    };
+    tab();
+    run.Type(QStringLiteral("dog"));
+    tab();
+    run.Type(QStringLiteral("note\n"));
+    QCOMPARE(run.Entries(), QStringList{QStringLiteral("hund|dog|note")});
+    run.List()->EditCell(0, 0);
+    tab();
+    QCOMPARE(run.Editor()->text(), QStringLiteral("dog"));
+    tab(Qt::ShiftModifier);
+    QCOMPARE(run.Editor()->text(), QStringLiteral("hund"));
+    QCOMPARE(run.test.document.UndoCount(), 1);
+}
+
+void Win32ViewTest::endingWithoutQuestions()
+{
+    View run(Numbered(2));
+    run.view.SelectEntry(1);
+    run.Type(QStringLiteral("x,a0"));
+    run.view.EndEditingQuietly();
+    QCOMPARE(run.Entries().at(1), QStringLiteral("x,a0|b1"));
+    QVERIFY(run.test.prompt.numbers.isEmpty());
+    // Closing with an edit open takes it down.
+    run.List()->EditCell(2, 0);
 }
 
 void Win32ViewTest::commandsWhileACellIsEdited()
@@ -333,6 +364,13 @@ void Win32ViewTest::fieldsFollowTheSelection()
     QTest::keyClick(run.Field(0), Qt::Key_Return);
     QCOMPARE(run.Entries().first(), QStringLiteral("x|b0"));
     QCOMPARE(run.Field(0)->text(), QStringLiteral("a1"));
+    // A change in the list shows in the fields; a column that comes or goes leaves them alone.
+    run.List()->EditCell(2, 0);
+    run.Type(QStringLiteral("y\n"));
+    QCOMPARE(run.Field(0)->text(), QStringLiteral("y"));
+    run.Field(0)->setText(QStringLiteral("half"));
+    run.view.ToggleNotes();
+    QCOMPARE(run.Field(0)->text(), QStringLiteral("half"));
     run.view.SelectEntry(2);
     QTest::keyClick(run.Field(0), Qt::Key_Return);
     QCOMPARE(run.Field(0)->text(), QString());

@@ -2,6 +2,8 @@
 #include "document/file_commands.h"
 #include "document/recent_files.h"
 #include "editor/ui/win32_view.h"
+#include "editor/ui/word_list_control.h"
+#include "fileformats/word_list_file.h"
 #include "quiz/ui/quiz_settings_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "resources/text_numbers.h"
@@ -69,6 +71,7 @@ private Q_SLOTS:
     void closing();
     void everyCommandOnAnEmptyList();
     void clipboardCommands();
+    void whatIsTypedIsNotLost();
     void droppedFiles();
     void barsAndPlaceComeBack();
     void captionsFollowTheLanguages();
@@ -184,6 +187,33 @@ void MainFrameTest::clipboardCommands()
     box->setSelection(0, 1);
     run.Command(Cut)->trigger();
     QCOMPARE(clipboard.text(), QStringLiteral("a"));
+}
+
+void MainFrameTest::whatIsTypedIsNotLost()
+{
+    const QTemporaryDir folder;
+    Frame run;
+    run.test.document.BeginChange().Insert(MakeEntry(QStringLiteral("a|b")));
+    const QString path = folder.filePath(QStringLiteral("x.gls"));
+    QVERIFY(run.test.document.OnSaveDocument(path));
+    run.frame.ShowAsBefore();
+    run.frame.findChild<CWin32View *>()->RefreshAll();
+    QApplication::setActiveWindow(&run.frame);
+    auto *const list = run.frame.findChild<CWordListControl *>();
+    const auto type = [&](const char *text) {
+        list->EditCell(1, 0);
+        QTest::keyClicks(QApplication::focusWidget(), QLatin1StringView(text));
+    };
+    type("saved");
+    run.Command(CommandId::SaveFile)->trigger();
+    CWordList read;
+    QCOMPARE(ReadWordListFile(read, path), ReadResult::Read);
+    QCOMPARE(read.Entry(0).GetText(0), QStringLiteral("saved"));
+    type("asked");
+    run.test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::No};
+    run.frame.close();
+    QCOMPARE(run.test.prompt.numbers, QList<int>{Text::SaveChanges});
+    QCOMPARE(run.test.document.List().Entry(0).GetText(0), QStringLiteral("asked"));
 }
 
 void MainFrameTest::droppedFiles()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/entry_fields.h"
 
+#include "platform/plain_text.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -8,6 +9,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+
+#include <limits>
 
 CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(parent), m_texts(texts)
 {
@@ -17,6 +20,7 @@ CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(paren
         m_labels[i] = new QLabel(this);
         m_fields[i] = new QLineEdit(this);
         m_fields[i]->setObjectName(QStringLiteral("field%1").arg(i));
+        m_fields[i]->setMaxLength(std::numeric_limits<int>::max()); // No term is cut off.
         m_labels[i]->setBuddy(m_fields[i]);
         layout->addWidget(m_labels[i], int(i), 0);
         layout->addWidget(m_fields[i], int(i), 1);
@@ -47,8 +51,8 @@ void CEntryFields::SetLanguages(const QString &language1, const QString &languag
 {
     const std::array names = {language1, language2};
     for (size_t i = 0; i < m_fields.size(); ++i) {
-        QString name = i < names.size() ? names[i] : QString();
-        m_labels[i]->setText(m_texts.Fill(Text::FieldLanguage1 + int(i), {name.replace(u'&', u"&&"_qs)}));
+        const QString name = i < names.size() ? ShownInCaption(names[i]) : QString();
+        m_labels[i]->setText(m_texts.Fill(Text::FieldLanguage1 + int(i), {name}));
         m_fields[i]->setAccessibleName(i < names.size() ? names[i] : m_texts.Get(Text::Note));
     }
 }

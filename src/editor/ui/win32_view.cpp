@@ -56,6 +56,8 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
         // What was typed and selected belonged to the document before.
         m_list->EndEditing(false);
         m_list->clearSelection();
+        m_list->setCurrentIndex({});
+        m_list->scrollToTop();
         m_model->Rows().pending = {};
         m_model->Rows().SetInsertionPoint(0);
     });
@@ -106,12 +108,11 @@ void CWin32View::ShowProperties()
     m_fields->SetLanguages(list.GetLanguage(0), list.GetLanguage(1));
 }
 
-void CWin32View::ResetRows(bool keepSelection)
+void CWin32View::ResetRows(bool keepSelection, std::optional<std::pair<int, int>> cursor)
 {
     auto ranges = keepSelection ? m_list->SelectedRanges() : std::vector<std::pair<int, int>>();
-    const int cursorRow = m_list->CursorRow();
-    const int cursorField =
-        cursorRow < 0 ? int(!m_services.settings.lang1first) : std::max(m_list->CursorField(), 0);
+    const auto [cursorRow, usedField] = cursor.value_or(std::pair(m_list->CursorRow(), m_list->CursorField()));
+    const int cursorField = cursorRow < 0 ? int(!m_services.settings.lang1first) : std::max(usedField, 0);
 
     m_suppressSelectionSync = true;
     m_model->Reset();
@@ -126,7 +127,7 @@ void CWin32View::ResetRows(bool keepSelection)
     const int row = cursorRow < 0 ? InsertionPoint() : std::min(cursorRow, last);
     m_list->SetCursor(row, std::min(cursorField, lastField));
     m_suppressSelectionSync = false;
-    m_list->layoutColumns();
+    m_list->layoutChangedColumns();
     ReadSelection();
 }
 

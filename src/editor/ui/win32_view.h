@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 class CElidedLabel;
@@ -66,6 +67,8 @@ public:
     void ClearFields();
     /// Ends editing in place; what was committed is stored when this returns.
     void EndEditing(bool commit);
+    /// Stores what is being typed without asking anything.
+    void EndEditingQuietly();
 
     // Commands (win32_view_editing.cpp)
     void DeleteSelection();
@@ -99,8 +102,10 @@ private:
     void ListReplaced();
     void ShowProperties();
     /// Shows the rows anew; the same rows stay selected, or none.
-    void ResetRows(bool keepSelection);
+    /// `cursor` is the row and field of the cell cursor; none where it stands now.
+    void ResetRows(bool keepSelection, std::optional<std::pair<int, int>> cursor = {});
     void ReadSelection();
+    void LoadFields(int entry);
 
     void CellEdited(const CellEdit &edit);
     void FieldsEntered();
@@ -127,4 +132,7 @@ private:
     CEntryEditing m_editing;
     CListClipboard m_clipboard;
     bool m_suppressSelectionSync = false;
+    // What the fields were given last: they are given it anew only when it is another.
+    int m_loadedEntry = CRowModel::NoEntry;
+    EntryTexts m_loadedTexts;
 };

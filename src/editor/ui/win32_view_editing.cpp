@@ -8,15 +8,35 @@
 #include "settings/editor_settings.h"
 #include "settings/shell_settings.h"
 
+#include <algorithm>
+#include <optional>
+
 void CWin32View::EndEditing(bool commit)
 {
     m_list->EndEditing(commit);
 }
 
+void CWin32View::EndEditingQuietly()
+{
+    m_editing.SetAsking(false);
+    EndEditing(true);
+    m_editing.SetAsking(true);
+}
+
 void CWin32View::CellEdited(const CellEdit &edit)
 {
-    Follow(m_editing.CellEdited(edit.row, edit.field, edit.text), edit.byEnter);
+    using Key = CellEdit::Key;
+    const bool newEntry = m_model->Rows().IsNewEntryRow(edit.row);
+    const EditStep step = m_editing.CellEdited(edit.row, edit.field, edit.text);
+    // Typing goes on with Enter, and with Tab as in a table.
+    Follow(step, edit.key == Key::Enter || (newEntry && edit.key == Key::Tab));
     AfterChange();
+    if (!newEntry && step.action == EditStep::Action::None && edit.key != Key::None && edit.key != Key::Enter) {
+        const int field = edit.field + (edit.key == Key::Tab ? 1 : -1);
+        if (field >= 0 && m_model->column(field) < m_model->columnCount()) {
+            m_list->EditCell(edit.row, field);
+        }
+    }
 }
 
 void CWin32View::FieldsEntered()
@@ -63,6 +83,8 @@ void CWin32View::ClearFields()
 {
     m_list->SelectRow(-1, false);
     m_fields->SetTexts({});
+    m_loadedEntry = CRowModel::NoEntry;
+    m_loadedTexts = {};
     m_fields->SetChangeMode(false);
     if (m_services.settings.showEditFields) {
         m_fields->FocusField(m_services.settings.lang1first ? 0 : 1);
@@ -72,9 +94,16 @@ void CWin32View::ClearFields()
 
 void CWin32View::AddEntry(const std::function<void()> &add, bool sorted)
 {
-    m_model->AddEntry(add);
+    {
+        std::optional<CWaitCursor> wait;
+        if (sorted) {
+            wait.emplace();
+        }
+        m_model->AddEntry(add);
+    }
     if (sorted) {
         m_model->AllRowsChanged();
+        ReadSelection(); // The selected rows may hold other entries.
     }
     m_list->widenNumberColumn();
 }
@@ -82,15 +111,22 @@ void CWin32View::AddEntry(const std::function<void()> &add, bool sorted)
 void CWin32View::EntryChanged(int entry)
 {
     RedrawEntries(entry, -1);
+    if (entry == FirstSelectedEntry()) {
+        LoadFields(entry);
+    }
 }
 
 void CWin32View::RemoveEntries(std::span<const int> entries, const std::function<void()> &remove)
 {
     const CWaitCursor wait;
+    const int row = m_list->CursorRow();
+    const int field = m_list->CursorField();
+    const auto above =
+        std::ranges::count_if(entries, [&](int entry) { return m_model->Rows().RowOfEntry(entry) < row; });
     m_suppressSelectionSync = true;
     m_model->RemoveEntries(entries, remove);
     m_suppressSelectionSync = false;
-    ResetRows(false);
+    ResetRows(false, std::pair(std::max(row - int(above), 0), field));
 }
 
 void CWin32View::PendingChanged()
@@ -187,8 +223,17 @@ void CWin32View::Sort(int field)
 
 void CWin32View::SetFlags(FlagMode mode)
 {
-    m_editing.SetFlags(CursorField(), SelectedEntries(), mode);
+    {
+        const std::vector<int> entries = SelectedEntries();
+        constexpr size_t Many = 10000;
+        std::optional<CWaitCursor> wait;
+        if (entries.size() > Many) {
+            wait.emplace();
+        }
+        m_editing.SetFlags(CursorField(), entries, mode);
+    }
     m_model->AllRowsChanged();
+    m_list->TellCursorName();
     AfterChange();
 }
 

@@ -117,15 +117,25 @@ void CWin32View::ReadSelection()
         RefreshAll(); // The rows are older than the list.
         return;
     }
-    m_fields->SetChangeMode(entry >= 0);
-    if (entry >= 0) {
-        const CWordEntry &shown = m_services.document.List().Entry(entry);
-        m_fields->SetTexts({shown.GetText(0), shown.GetText(1), shown.GetNote()});
-    } else {
-        m_fields->SetTexts({});
-    }
+    LoadFields(entry);
     UpdateStatusText();
     Q_EMIT SelectionChanged();
+}
+
+void CWin32View::LoadFields(int entry)
+{
+    m_fields->SetChangeMode(entry >= 0);
+    EntryTexts texts;
+    if (entry >= 0) {
+        const CWordEntry &shown = m_services.document.List().Entry(entry);
+        texts = {shown.GetText(0), shown.GetText(1), shown.GetNote()};
+    }
+    // What is being typed there stays while the selection only moves with its rows.
+    if (entry != m_loadedEntry || texts != m_loadedTexts) {
+        m_fields->SetTexts(texts);
+        m_loadedEntry = entry;
+        m_loadedTexts = texts;
+    }
 }
 
 int CWin32View::InsertionPoint() const

@@ -4,6 +4,7 @@
 #include "editor/ui/word_list_delegate.h"
 #include "editor/word_list_model.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
@@ -34,7 +35,9 @@ CWordListControl::CWordListControl(QWidget *parent)
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
         [this](int column) { Q_EMIT HeaderClicked(m_model->field(column)); });
     // The program's own scrolling doesn't come this way.
-    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
+    for (const QScrollBar *const bar : {verticalScrollBar(), horizontalScrollBar()}) {
+        connect(bar, &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
+    }
     layoutRows();
 }
 
@@ -42,6 +45,11 @@ void CWordListControl::setListModel(CWordListModel *model)
 {
     m_model = model;
     setModel(model);
+    const auto forget = [this] { m_ranges.reset(); };
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, forget);
+    connect(model, &QAbstractItemModel::modelReset, this, forget);
+    connect(model, &QAbstractItemModel::rowsInserted, this, forget);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, forget);
 }
 
 void CWordListControl::layoutRows()
@@ -86,6 +94,7 @@ void CWordListControl::layoutColumns()
     if (columns == 0) {
         return;
     }
+    m_laidOutColumns = columns;
     constexpr int Margin = 10;
     constexpr int FirstMore = 16; // The first language has the marks of the new-entry row beside its words.
     int available = width() - verticalScrollBar()->sizeHint().width() - Margin;
@@ -99,6 +108,15 @@ void CWordListControl::layoutColumns()
     const int share = (available - FirstMore) / (columns - first);
     for (int column = first; column < columns; ++column) {
         setColumnWidth(column, column == first ? share + FirstMore : share);
+    }
+}
+
+void CWordListControl::layoutChangedColumns()
+{
+    if (m_model->columnCount() != m_laidOutColumns) {
+        layoutColumns();
+    } else {
+        widenNumberColumn();
     }
 }
 
@@ -131,8 +149,11 @@ void CWordListControl::SetCursorField(int field)
     SetCursor(std::max(currentIndex().row(), 0), field);
 }
 
-std::vector<std::pair<int, int>> CWordListControl::SelectedRanges() const
+const std::vector<std::pair<int, int>> &CWordListControl::SelectedRanges() const
 {
+    if (m_ranges) {
+        return *m_ranges;
+    }
     std::vector<std::pair<int, int>> ranges;
     // Ranges, not rows one by one: a selection of a hundred thousand rows is a handful of ranges.
     for (const QItemSelectionRange &range : selectionModel()->selection()) {
@@ -147,7 +168,7 @@ std::vector<std::pair<int, int>> CWordListControl::SelectedRanges() const
             joined.emplace_back(first, last);
         }
     }
-    return joined;
+    return m_ranges.emplace(std::move(joined));
 }
 
 void CWordListControl::SelectRanges(const std::vector<std::pair<int, int>> &ranges)
@@ -186,10 +207,33 @@ void CWordListControl::SetHotRow(int row)
     viewport()->update();
 }
 
+void CWordListControl::TellCursorName()
+{
+    if (!QAccessible::isActive() || !currentIndex().isValid()) {
+        return;
+    }
+    QAccessibleInterface *const list = QAccessible::queryAccessibleInterface(this);
+    QAccessibleTableInterface *const table = list != nullptr ? list->tableInterface() : nullptr;
+    if (table != nullptr) {
+        if (QAccessibleInterface *const cell = table->cellAt(currentIndex().row(), currentIndex().column())) {
+            QAccessibleEvent event(cell, QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
+}
+
+QItemSelectionModel::SelectionFlags CWordListControl::SelectionForEdit(int row) const
+{
+    // A selection of many rows outlives the edit of one of them.
+    return selectionModel()->isRowSelected(row, {})
+        ? QItemSelectionModel::NoUpdate
+        : QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
 void CWordListControl::EditCell(int row, int field)
 {
     const QModelIndex index = m_model->index(row, m_model->column(field));
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    selectionModel()->setCurrentIndex(index, SelectionForEdit(row));
     scrollTo(index);
     setFocus();
     edit(index, AllEditTriggers, nullptr);
@@ -198,7 +242,7 @@ void CWordListControl::EditCell(int row, int field)
 void CWordListControl::EndEditing(bool commit)
 {
     if (IsEditing()) {
-        m_delegate->EndEditing(commit, false);
+        m_delegate->EndEditing(commit);
     }
     TellEnded();
 }

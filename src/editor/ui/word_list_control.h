@@ -16,10 +16,13 @@ class CWordListModel;
 /// How editing a cell in place ended, when it was not cancelled.
 struct CellEdit
 {
+    /// The key that ended it, where one did.
+    enum class Key { None, Enter, Tab, Backtab };
+
     int row = 0;
     int field = 0;
     QString text;
-    bool byEnter = false;
+    Key key = Key::None;
 };
 
 /// The table of the word list: whole rows are selected, the current column is the cell cursor, rows have one
@@ -36,6 +39,8 @@ public:
     void setQuickEdit(std::function<bool()> quickEdit) { m_quickEdit = std::move(quickEdit); }
     /// Gives the columns their widths: the number column fits its numbers, the others share what is left.
     void layoutColumns();
+    /// The same when there are other columns than before; else widths that the user gave them stay.
+    void layoutChangedColumns();
     /// Makes the number column wide enough for its numbers.
     void widenNumberColumn();
 
@@ -48,12 +53,15 @@ public:
     int CursorRow() const { return currentIndex().row(); }
 
     /// The selected rows as ranges (first, last), ascending.
-    std::vector<std::pair<int, int>> SelectedRanges() const;
+    const std::vector<std::pair<int, int>> &SelectedRanges() const;
     /// Selects exactly these ranges, in one go.
     void SelectRanges(const std::vector<std::pair<int, int>> &ranges);
     /// Selects one row and puts the cell cursor there; -1 for none.
     void SelectRow(int row, bool ensureVisible);
     bool IsRowVisible(int row) const;
+
+    /// Tells assistive technology that the cell of the cursor has another name, its flag for example.
+    void TellCursorName();
 
     /// A row that stands out; -1 for none.
     void SetHotRow(int row);
@@ -108,12 +116,15 @@ private:
     std::optional<std::pair<int, int>> FlagAt(const QPoint &place) const;
     void MoveCursorField(int step);
     void ScrollToCursorField();
+    QItemSelectionModel::SelectionFlags SelectionForEdit(int row) const;
     void TellEnded();
 
     CWordListModel *m_model = nullptr;
     CWordListDelegate *m_delegate;
     std::function<bool()> m_quickEdit;
     int m_hotRow = -1;
+    int m_laidOutColumns = 0;
+    mutable std::optional<std::vector<std::pair<int, int>>> m_ranges; // Until the selection changes.
     std::optional<std::pair<int, int>> m_pressedFlag;
     std::optional<CellEdit> m_ended;
     QString m_typed;

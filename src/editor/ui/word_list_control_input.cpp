@@ -20,9 +20,10 @@ void CWordListControl::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Space:
         if (plain) {
             Q_EMIT FlagKeyPressed();
-            return;
+        } else {
+            QTableView::keyPressEvent(event); // Adds the row of the cursor to the selection, or takes it out.
         }
-        break;
+        return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
         if (plain && currentIndex().isValid()) {
@@ -34,14 +35,20 @@ void CWordListControl::keyPressEvent(QKeyEvent *event)
         break;
     }
     const QString text = event->text();
-    const bool isText = !text.isEmpty() && text.at(0).isPrint() && text.at(0) != u' ';
+    const QList<uint> characters = text.toUcs4();
+    const bool isText = !characters.isEmpty() && QChar::isPrint(characters.first()) && text.at(0) != u' ';
     const bool isMove = text.isEmpty() || event->matches(QKeySequence::SelectAll);
     // The toolkit would copy the current cell although nothing is selected, and edit at a delete key.
     if (!isText && !isMove) {
         event->ignore();
         return;
     }
-    setEditTriggers(isText && m_quickEdit() ? AnyKeyPressed : NoEditTriggers);
+    if (isText && m_quickEdit() && currentIndex().isValid()) {
+        // Nothing is typed over out of sight.
+        scrollTo(currentIndex());
+        selectionModel()->select(currentIndex(), SelectionForEdit(currentIndex().row()));
+        setEditTriggers(AnyKeyPressed);
+    }
     QTableView::keyPressEvent(event);
     setEditTriggers(NoEditTriggers);
 }
@@ -54,12 +61,15 @@ void CWordListControl::inputMethodEvent(QInputMethodEvent *event)
     if (text.isEmpty() || !currentIndex().isValid()) {
         return;
     }
-    if (!m_quickEdit()) {
+    if (!m_quickEdit() && !IsEditing()) {
         keyboardSearch(text);
         return;
     }
-    EditCell(currentIndex().row(), CursorField());
-    if (QWidget *const editor = QApplication::focusWidget(); IsEditing() && editor != nullptr) {
+    if (!IsEditing()) {
+        EditCell(currentIndex().row(), CursorField());
+    }
+    // Which has the focus only when its window has it.
+    if (QWidget *const editor = m_delegate->Editor()) {
         QCoreApplication::sendEvent(editor, event);
     }
 }
@@ -153,7 +163,9 @@ void CWordListControl::mouseReleaseEvent(QMouseEvent *event)
 void CWordListControl::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->pos());
-    if (event->button() == Qt::LeftButton && index.isValid()) {
+    if (const auto flag = FlagAt(event->pos()); flag && event->button() == Qt::LeftButton) {
+        Q_EMIT FlagClicked(flag->first, flag->second); // Two quick clicks on a flag are two clicks.
+    } else if (event->button() == Qt::LeftButton && index.isValid()) {
         Q_EMIT CellDoubleClicked(
             index.row(), m_model->field(index.column()), event->modifiers().testFlag(Qt::ShiftModifier));
     }

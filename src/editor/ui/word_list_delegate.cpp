@@ -9,6 +9,9 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QToolTip>
+
+#include <limits>
 
 CWordListDelegate::CWordListDelegate(CWordListControl &list)
     : QStyledItemDelegate(&list), m_list(list), m_flagOn(QStringLiteral(":/pictures/flag-on.svg")),
@@ -34,6 +37,11 @@ void CWordListDelegate::paint(
             .hot = index.row() == m_list.HotRow(),
             .number = isNumber});
     painter->fillRect(option.rect, colours.background);
+    if (index == m_list.currentIndex() && m_list.hasFocus() && !option.state.testFlag(QStyle::State_Selected)) {
+        // Where the next key goes although nothing is selected.
+        painter->setPen(option.palette.color(QPalette::Active, QPalette::Highlight));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
 
     QRect room = option.rect;
     const QVariant mark = index.data(CWordListModel::MarkRole);
@@ -68,6 +76,7 @@ QWidget *CWordListDelegate::createEditor(
     line->setObjectName(QStringLiteral("cellEditor"));
     line->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
     line->setFont(m_list.font());
+    line->setMaxLength(std::numeric_limits<int>::max()); // No term is cut off.
     line->setFrame(false);
     line->setAutoFillBackground(true);
     m_editor = line;
@@ -94,16 +103,16 @@ void CWordListDelegate::updateEditorGeometry(
     editor->setGeometry(place);
 }
 
-void CWordListDelegate::EndEditing(bool commit, bool byEnter)
+void CWordListDelegate::EndEditing(bool commit, int key)
 {
     if (!m_editor) {
         return;
     }
     QWidget *const editor = m_editor;
     if (commit) {
-        m_byEnter = byEnter;
+        m_endKey = key;
         Q_EMIT commitData(editor);
-        m_byEnter = false;
+        m_endKey = 0;
     }
     Q_EMIT closeEditor(editor, NoHint);
 }
@@ -116,7 +125,26 @@ std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const
     }
     m_editor = nullptr; // What ends twice is told once.
     const auto *const model = static_cast<const CWordListModel *>(m_edited.model());
-    return CellEdit{m_edited.row(), model->field(m_edited.column()), line->text(), m_byEnter};
+    using Key = CellEdit::Key;
+    const Key key = m_endKey == Qt::Key_Return ? Key::Enter
+        : m_endKey == Qt::Key_Tab              ? Key::Tab
+        : m_endKey == Qt::Key_Backtab          ? Key::Backtab
+                                               : Key::None;
+    return CellEdit{m_edited.row(), model->field(m_edited.column()), line->text(), key};
+}
+
+bool CWordListDelegate::helpEvent(
+    QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    // The whole text is told only where it doesn't fit.
+    const int mark =
+        index.data(CWordListModel::MarkRole).isValid() ? MarkArea(option.rect, option.fontMetrics).width() : 0;
+    const int wanted = option.fontMetrics.horizontalAdvance(index.data(Qt::DisplayRole).toString());
+    if (event->type() == QEvent::ToolTip && wanted <= option.rect.width() - mark - 6) {
+        QToolTip::hideText();
+        return true;
+    }
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
 }
 
 bool CWordListDelegate::eventFilter(QObject *watched, QEvent *event)
@@ -126,18 +154,16 @@ bool CWordListDelegate::eventFilter(QObject *watched, QEvent *event)
         return false;
     }
     if (event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent *>(event)->key()) {
+        switch (const int key = static_cast<QKeyEvent *>(event)->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            EndEditing(true, true);
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            EndEditing(true, key == Qt::Key_Enter ? int(Qt::Key_Return) : key);
             m_list.EndEditing(true);
             return true;
         case Qt::Key_Escape:
-            EndEditing(false, false);
-            return true;
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-            EndEditing(true, false);
+            EndEditing(false);
             return true;
         default:
             return false;
@@ -151,7 +177,7 @@ bool CWordListDelegate::eventFilter(QObject *watched, QEvent *event)
         case Qt::MenuBarFocusReason:
             break;
         default:
-            EndEditing(true, false);
+            EndEditing(true);
         }
     }
     return false;

@@ -33,10 +33,15 @@ public:
     void updateEditorGeometry(
         QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
-    /// Closes the open editor.
-    void EndEditing(bool commit, bool byEnter);
+    /// Closes the open editor; `key` is a Qt::Key when one ended it.
+    void EndEditing(bool commit, int key = 0);
+    /// The open editor; none without one.
+    QWidget *Editor() const { return m_editor; }
     /// What an editor that ends holds.
     std::optional<CellEdit> TakeEdit(QWidget *editor) const;
+
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+        const QModelIndex &index) override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -48,5 +53,5 @@ private:
     QIcon m_newRow;
     mutable QPointer<QWidget> m_editor;
     mutable QPersistentModelIndex m_edited;
-    bool m_byEnter = false;
+    int m_endKey = 0;
 };

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMenuBar>
 
 using namespace CommandId;
 
@@ -30,15 +31,22 @@ CEditorCommands::CEditorCommands(
     QMetaObject::invokeMethod(this, &CEditorCommands::ClipboardChanged, Qt::QueuedConnection);
 }
 
+QLineEdit *CEditorCommands::EditBox() const
+{
+    // The menu bar takes the focus for the time of a choice by keys, and the box drops its selection then.
+    const bool inMenu = qobject_cast<QMenuBar *>(QApplication::focusWidget()) != nullptr;
+    return m_editBox && (m_editBox->hasFocus() || inMenu) ? m_editBox : nullptr;
+}
+
 CommandState CEditorCommands::State() const
 {
-    const QLineEdit *const box = focusedEditBox();
+    const QLineEdit *const box = EditBox();
     return {.entries = m_document.List().Count(),
         .selectedEntries = m_view.SelectedEntryCount(),
         .selectedRows = m_view.SelectedRowCount(),
         .cursorColumn = m_view.CursorField(),
         .inEditBox = box != nullptr,
-        .textSelected = box != nullptr && box->hasSelectedText(),
+        .textSelected = box != nullptr && m_selected.second > 0,
         .canPaste = m_canPaste,
         .canUndo = box != nullptr ? box->isUndoAvailable() : m_document.UndoCount() > 0,
         .canRedo = box == nullptr && m_document.RedoCount() > 0};
@@ -46,16 +54,27 @@ CommandState CEditorCommands::State() const
 
 void CEditorCommands::FocusChanged(QWidget *focus)
 {
-    auto *const box = qobject_cast<QLineEdit *>(focus);
-    if (m_editBox) {
-        m_editBox->disconnect(this);
-    }
-    m_editBox = box;
-    if (box != nullptr) {
-        connect(box, &QLineEdit::textChanged, this, &CEditorCommands::StateChanged);
-        connect(box, &QLineEdit::selectionChanged, this, &CEditorCommands::StateChanged);
+    if (qobject_cast<QMenuBar *>(focus) == nullptr && focus != m_editBox) {
+        if (m_editBox) {
+            m_editBox->disconnect(this);
+        }
+        m_editBox = qobject_cast<QLineEdit *>(focus);
+        if (m_editBox) {
+            connect(m_editBox, &QLineEdit::textChanged, this, &CEditorCommands::StateChanged);
+            connect(m_editBox, &QLineEdit::selectionChanged, this, &CEditorCommands::NoteSelection);
+        }
+        m_selected = {};
+        NoteSelection();
     }
     Q_EMIT StateChanged();
+}
+
+void CEditorCommands::NoteSelection()
+{
+    if (m_editBox && m_editBox->hasFocus()) {
+        m_selected = {m_editBox->selectionStart(), int(m_editBox->selectedText().size())};
+        Q_EMIT StateChanged();
+    }
 }
 
 void CEditorCommands::ClipboardChanged()
@@ -73,7 +92,10 @@ void CEditorCommands::ConnectText()
 {
     const auto onTextOrList = [this](int id, auto onText, auto onList) {
         m_actions.SetHandler(id, [this, onText, onList] {
-            if (QLineEdit *const box = focusedEditBox()) {
+            if (QLineEdit *const box = EditBox()) {
+                if (!box->hasFocus() && m_selected.second > 0) {
+                    box->setSelection(m_selected.first, m_selected.second);
+                }
                 onText(*box);
             } else {
                 onList(m_view);
@@ -132,7 +154,7 @@ void CEditorCommands::ConnectArranging()
 
 void CEditorCommands::Undo()
 {
-    if (QLineEdit *const box = focusedEditBox()) {
+    if (QLineEdit *const box = EditBox()) {
         box->undo();
     } else {
         m_document.Undo();
@@ -141,7 +163,7 @@ void CEditorCommands::Undo()
 
 void CEditorCommands::Redo()
 {
-    if (focusedEditBox() == nullptr) {
+    if (EditBox() == nullptr) {
         m_document.Redo();
     }
 }

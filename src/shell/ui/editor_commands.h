@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <utility>
+
 class CCommandActions;
 class CWin32Doc;
 class CWin32View;
@@ -33,7 +35,10 @@ private:
     void ConnectText();
     void ConnectList();
     void ConnectArranging();
+    /// The edit box that commands act on: the one with the focus.
+    QLineEdit *EditBox() const;
     void FocusChanged(QWidget *focus);
+    void NoteSelection();
     void ClipboardChanged();
     void SetHandler(int id, void (CEditorCommands::*handler)());
     void Undo();
@@ -44,5 +49,6 @@ private:
     CWin32Doc &m_document;
     ArrangeSettings &m_arrange;
     QPointer<QLineEdit> m_editBox;
+    std::pair<int, int> m_selected; // Start and length in the edit box.
     bool m_canPaste = false;
 };

@@ -30,6 +30,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -99,6 +100,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
     connect(m_view, &CWin32View::ColumnMenuRequested, this,
         [this](const QPoint &place) { ShowMenu(columnMenu(), place); });
     connect(&services.document, &CWin32Doc::FileConverted, m_view, &CWin32View::RefreshAll);
+    services.files.SetFinishEditing([this] { m_view->EndEditing(true); });
     setAcceptDrops(true);
     m_view->RefreshAll();
     m_view->setFocus();
@@ -109,6 +111,7 @@ CMainFrame::~CMainFrame()
 {
     // The focus changes once more while the window's parts are taken down.
     delete m_editorCommands;
+    m_services.files.SetFinishEditing([] {});
 }
 
 void CMainFrame::ShowAsBefore()
@@ -122,6 +125,11 @@ void CMainFrame::ShowAsBefore()
     m_place.Show();
     m_services.specialCharacters.DockBeside(*this);
     UpdateCommands();
+}
+
+void CMainFrame::FinishQuietly()
+{
+    m_view->EndEditingQuietly();
 }
 
 void CMainFrame::SavePlace()
@@ -177,7 +185,10 @@ void CMainFrame::ConnectCommands()
     m_actions->SetHandler(OpenFile, [&files] { files.Open(); });
     m_actions->SetHandler(SaveFile, [&files] { files.Save(); });
     m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
-    m_actions->SetHandler(SendMail, [this] { m_services.document.OnFileSendMail(); });
+    m_actions->SetHandler(SendMail, [this] {
+        m_view->EndEditing(true);
+        m_services.document.OnFileSendMail();
+    });
     m_actions->SetHandler(Exit, [this] { close(); });
     m_actions->SetHandler(SpecialCharacters, [this] { m_services.specialCharacters.Toggle(); });
     connect(&m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this,

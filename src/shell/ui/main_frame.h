@@ -74,6 +74,8 @@ public:
 
     /// Shows the window where and how it was when it was closed last.
     void ShowAsBefore();
+    /// Stores what is being typed, at an end that leaves no time for questions.
+    void FinishQuietly();
     /// Notes where the window stands; the settings are written at the program's end.
     void SavePlace();
 

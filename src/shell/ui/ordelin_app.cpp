@@ -13,7 +13,6 @@
 #include <QDesktopServices>
 #include <QIcon>
 #include <QProcess>
-#include <QSessionManager>
 #include <QTimer>
 #include <QUrl>
 
@@ -161,8 +160,11 @@ bool COrdelinApp::event(QEvent *event)
 void COrdelinApp::ExitFromOutside()
 {
     m_exitedFromOutside = true;
-    if (m_frame && m_frame->isVisible()) {
-        m_frame->SavePlace();
+    if (m_frame) {
+        m_frame->FinishQuietly();
+        if (m_frame->isVisible()) {
+            m_frame->SavePlace();
+        }
     }
     exit(0); // Ends the loop of an open question as well.
 }
@@ -172,6 +174,7 @@ void COrdelinApp::SessionEnds(QSessionManager &manager)
     if (!m_frame) {
         return;
     }
+    m_frame->FinishQuietly();
     if (manager.allowsInteraction()) {
         if (m_files->MayDiscard()) {
             m_givenUp = m_document.ChangeCounter();

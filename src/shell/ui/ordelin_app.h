@@ -17,12 +17,12 @@
 #include "shell/start_up.h"
 
 #include <QApplication>
+#include <QSessionManager>
 
 #include <memory>
 
 class CMainFrame;
 class CSpecialCharacterKeys;
-class QSessionManager;
 
 /// The application: owns the settings, the texts, the document and the main window.
 class COrdelinApp : public QApplication
