@@ -16,6 +16,8 @@ public:
     virtual std::vector<int> SelectedEntries() const = 0;
     virtual void SelectEntries(const std::vector<int> &entries) = 0;
     virtual void ShowMainWindow(bool show) = 0;
+    /// Gives the keyboard back to the list.
+    virtual void FocusList() = 0;
     /// Ends an open editing in the list and keeps what was typed.
     virtual void EndEditing() = 0;
     /// Shows entries that changed.

@@ -25,7 +25,7 @@ CQuizResult::CQuizResult(CQuizSession &session, ResultServices services, ResultM
 
 bool CQuizResult::showsRightAnswers() const
 {
-    return m_mode == ResultMode::AfterQuiz || m_session.settings().showAnswer;
+    return m_mode == ResultMode::AfterQuiz;
 }
 
 QString CQuizResult::summary() const
@@ -76,6 +76,16 @@ QString CQuizResult::table() const
     return text + summary();
 }
 
+bool CQuizResult::isListsOwnFile(const QString &path)
+{
+    const QString own = QFileInfo(m_session.document().Path()).canonicalFilePath();
+    if (own.isEmpty() || own != QFileInfo(path).canonicalFilePath()) {
+        return false;
+    }
+    m_services.prompt.Tell(m_services.texts.Prompt(Text::HoldsWholeList, {path}), PromptIcon::Warning);
+    return true;
+}
+
 QString CQuizResult::proposedFile(int name, const QString &suffix) const
 {
     const CWin32Doc &document = m_session.document();
@@ -98,7 +108,7 @@ void CQuizResult::saveTable()
                                                 .start = proposedFile(Text::ResultFileName, suffix),
                                                 .defaultSuffix = suffix},
             &filter);
-    if (path.isEmpty()) {
+    if (path.isEmpty() || isListsOwnFile(path)) {
         return;
     }
     CTextFileWriter writer;
@@ -127,7 +137,7 @@ void CQuizResult::saveMistakes()
         .filters = FileFilters(texts.Get(Text::OpenFilters)).mid(0, 1),
         .start = proposedFile(Text::MistakesFileName, suffix),
         .defaultSuffix = suffix});
-    if (!path.isEmpty()) {
+    if (!path.isEmpty() && !isListsOwnFile(path)) {
         m_session.document().SaveEntries(path, m_session.mistakes());
     }
 }

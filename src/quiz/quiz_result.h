@@ -29,7 +29,7 @@ public:
     CQuizResultModel &model() { return m_model; }
     /// During a quiz no flags can be changed.
     bool changesFlags() const { return m_mode == ResultMode::AfterQuiz; }
-    /// Whether wrong answers may be shown beside right ones: not while these are kept from the user.
+    /// Whether wrong answers may be shown beside right ones: not while words may still be asked.
     bool showsRightAnswers() const;
 
     /// Words, answers, right answers and their share in one sentence.
@@ -48,6 +48,8 @@ public:
     bool hasMistakes() const;
 
 private:
+    /// Tells so: neither a table nor a part takes the place of the whole list.
+    bool isListsOwnFile(const QString &path);
     QString proposedFile(int name, const QString &suffix) const;
 
     CQuizSession &m_session;

@@ -78,8 +78,9 @@ std::vector<int> CQuizSession::mistakes() const
 
 std::optional<std::vector<int>> CQuizSession::entriesToSelect() const
 {
-    if (m_selectMistakes) {
-        return mistakes();
+    // None is left when all of them were taken as right.
+    if (const std::vector<int> wrong = mistakes(); m_selectMistakes && !wrong.empty()) {
+        return wrong;
     }
     return m_settings.selectedTestedWordsAfterQuiz ? std::optional(m_candidates) : std::nullopt;
 }

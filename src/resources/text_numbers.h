@@ -73,6 +73,7 @@ inline constexpr int OverwriteForeignChange = 70160;
 inline constexpr int RecoverChanges = 70161;
 inline constexpr int NoRecentFiles = 70162;
 inline constexpr int SaveCopyTitle = 70163;
+inline constexpr int HoldsWholeList = 70171;
 
 // Quiz
 inline constexpr int DuplicatesBeforeQuiz = 61005;

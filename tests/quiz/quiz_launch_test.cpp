@@ -121,7 +121,7 @@ void QuizLaunchTest::callsInOrder()
     result->reject();
     QVERIFY(!run.launch.isRunning());
     // Nothing was changed, and flags are changed by OK alone.
-    QCOMPARE(run.host.calls.mid(3), QStringList{QStringLiteral("select")});
+    QCOMPARE(run.host.calls.mid(3), (QStringList{QStringLiteral("select"), QStringLiteral("focus")}));
     QCOMPARE(run.host.selected, std::vector<int>{1});
     QVERIFY(run.test.document.List().IsSaved());
 
@@ -132,7 +132,7 @@ void QuizLaunchTest::callsInOrder()
     run.test.document.BeginChange().SetEntryField(QStringLiteral("x"), 2, 0, false);
     Answer("cat");
     QVERIFY(FindWindow<CQuizResultDialog>() == nullptr);
-    QCOMPARE(run.host.calls.mid(2), (QStringList{QStringLiteral("show"), QStringLiteral("redraw")}));
+    QCOMPARE(run.host.calls.mid(2), (QStringList{QStringLiteral("show"), QStringLiteral("focus"), QStringLiteral("redraw")}));
 }
 
 void QuizLaunchTest::sizesAreRemembered()

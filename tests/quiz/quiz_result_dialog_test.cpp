@@ -154,22 +154,23 @@ void QuizResultDialogTest::duringTheQuiz()
     auto *dialog = FindWindow<CQuizResultDialog>();
     QVERIFY(dialog != nullptr);
     QCOMPARE(Find<QTableView>(dialog, "results")->model()->columnCount(), 3);
-    for (const char *hidden : {"flagLine", "flagsHint", "flagSettingsButton", "selectMistakes"}) {
+    for (const char *hidden :
+        {"flagLine", "flagsHint", "flagSettingsButton", "selectMistakes", "wrongAnswers"}) {
         QVERIFY2(Find<QWidget>(dialog, hidden) == nullptr, hidden);
     }
-    Press(dialog, Qt::Key_F8);
+    // A key held down confirms nothing.
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(Find<QTableView>(dialog, "results"), &held);
+    QVERIFY(dialog->isVisible());
     QTest::keyClick(dialog, Qt::Key_Return);
-    QCOMPARE(Flags(run), QStringLiteral("hund|dog * hound,<b>katt</b>|cat"));
-    QCOMPARE(Find<QLabel>(window, "rightText")->text(), QStringLiteral("1 rätt av 1."));
     QCOMPARE(Find<QLineEdit>(window, "answer")->text(), QStringLiteral("half ty"));
-    QVERIFY(!accept->isEnabled());
 
     // In the quiz window the same key leaves the word that is asked again.
     Find<QLineEdit>(window, "answer")->setText(QStringLiteral("doggy"));
     QTest::keyClick(window, Qt::Key_Return);
     Press(window, Qt::Key_F8);
     QCOMPARE(Find<QLabel>(window, "wordText")->text(), QStringLiteral("Glosa 2 av 2."));
-    QCOMPARE(Flags(run), QStringLiteral("hund|dog * hound * doggy,<b>katt</b>|cat"));
+    QCOMPARE(Flags(run), QStringLiteral("hund|dog * doggy,<b>katt</b>|cat"));
     run.test.prompt.answers = {PromptAnswer::Yes};
     window->reject();
     FindWindow<CQuizResultDialog>()->reject();

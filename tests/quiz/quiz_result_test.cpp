@@ -96,9 +96,7 @@ void QuizResultTest::duringAQuiz()
         QStringLiteral(
             "Svenska\tProcent\tFelaktiga svar\r\nhund\t-\t\r\nkatt\t0 av 1 (0%)\t\"x\"\r\nhäst\t-\t\r\n"
             "Totalt 3 glosor. Av 1 svar är 0 rätt (0%)."));
-    QVERIFY(run.result.showsRightAnswers() && !run.result.changesFlags());
-    run.settings.showAnswer = false;
-    QVERIFY(!run.result.showsRightAnswers());
+    QVERIFY(!run.result.showsRightAnswers() && !run.result.changesFlags());
 }
 
 void QuizResultTest::flagLine_data()
@@ -198,7 +196,8 @@ void QuizResultTest::savedMistakes()
     QVERIFY(run.test.document.OnSaveDocument(own));
 
     const QString path = folder.filePath(QStringLiteral("fel.gls"));
-    run.chooser.paths = {path, folder.filePath(QStringLiteral("none/x.gls"))};
+    run.chooser.paths = {path, folder.filePath(QStringLiteral("none/x.gls")),
+        folder.filePath(QStringLiteral("./djur.gls"))};
     run.result.saveMistakes();
     QCOMPARE(run.chooser.asked.at(0).start, folder.filePath(QStringLiteral("djur – fel.gls")));
     QCOMPARE(run.test.document.Path(), own);
@@ -210,6 +209,11 @@ void QuizResultTest::savedMistakes()
     QCOMPARE(run.test.prompt.numbers, QList<int>());
     run.result.saveMistakes();
     QCOMPARE(run.test.prompt.numbers, QList<int>{Text::CannotSave});
+    // The whole list is not replaced by a part of it.
+    run.result.saveMistakes();
+    QCOMPARE(run.test.prompt.numbers.last(), int(Text::HoldsWholeList));
+    QVERIFY(saved.document.OpenDocument(own));
+    QCOMPARE(saved.document.List().Count(), 3);
 }
 
 QTEST_GUILESS_MAIN(QuizResultTest)

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void wholeQuizByKeyboard();
     void cancelling();
     void nothingToAsk();
+    void buttonsByKeyboard();
 };
 
 void QuizWindowsTest::wholeQuizByKeyboard()
@@ -88,6 +89,26 @@ void QuizWindowsTest::nothingToAsk()
     TestQuiz run{QStringList()};
     run.launch.startQuiz(0);
     QVERIFY(!run.launch.isRunning() && run.host.shown && FindWindow<CStandardQuiz>() == nullptr);
+}
+
+void QuizWindowsTest::buttonsByKeyboard()
+{
+    TestQuiz run;
+    run.launch.startQuiz(0);
+    auto *window = FindWindow<CStandardQuiz>();
+    QApplication::setActiveWindow(window);
+    auto *answer = window->findChild<QLineEdit *>(QStringLiteral("answer"));
+    auto *skip = window->findChild<QPushButton *>(QStringLiteral("skipButton"));
+    skip->setFocus();
+    QTest::keyClick(skip, Qt::Key_Return); // Not the default button, which would record an empty answer.
+    QCOMPARE(window->findChild<QLabel *>(QStringLiteral("rightText"))->text(), QStringLiteral("0 rätt av 0."));
+    QVERIFY(answer->hasFocus());
+    auto *cancel = window->findChild<QPushButton *>(QStringLiteral("cancelButton"));
+    run.test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
+    cancel->setFocus();
+    cancel->click();
+    QVERIFY(answer->hasFocus());
+    window->close();
 }
 
 QTEST_MAIN(QuizWindowsTest)

@@ -24,6 +24,7 @@ public:
         shown = show;
         calls.append(show ? QStringLiteral("show") : QStringLiteral("hide"));
     }
+    void FocusList() override { calls.append(QStringLiteral("focus")); }
     void EndEditing() override { calls.append(QStringLiteral("end editing")); }
     void Redraw() override { calls.append(QStringLiteral("redraw")); }
 

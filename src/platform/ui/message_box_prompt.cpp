@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/message_box_prompt.h"
 
+#include "platform/ui/held_enter.h"
 #include "platform/ui/owner_window.h"
 
 #include <QApplication>
@@ -52,6 +53,7 @@ int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons b
     }
     box.setDefaultButton(defaultButton);
     box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+    ignoreHeldEnter(box);
     return box.exec();
 }
 

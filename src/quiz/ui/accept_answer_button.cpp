@@ -13,7 +13,6 @@ QPushButton *makeAcceptAnswerButton(const CTexts &texts, QWidget *window)
     const QKeySequence key(Qt::Key_F8);
     auto *button = new QPushButton(texts.Get(Text::AcceptAnswer), window);
     button->setObjectName(QStringLiteral("acceptAnswerButton"));
-    button->setAutoDefault(false);
     button->setFocusPolicy(Qt::TabFocus); // A click leaves the focus where the next answer is typed.
     button->setEnabled(false);
     const QString hint = texts.Fill(Text::AcceptAnswerHint, {key.toString(QKeySequence::NativeText)});

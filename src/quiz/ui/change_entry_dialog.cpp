@@ -33,7 +33,6 @@ CChangeEntryDialog::CChangeEntryDialog(CQuizSession &session, const CTexts &text
     change->setDefault(true);
     auto *close = new QPushButton(texts.Get(Text::Close), this);
     close->setObjectName(QStringLiteral("closeButton"));
-    close->setAutoDefault(false);
 
     auto *form = new QFormLayout;
     AddRow(*form, texts.Get(Text::ChangeEntryList), m_list);

@@ -2,6 +2,7 @@
 #include "quiz/ui/quiz_dialog.h"
 
 #include "platform/sound_player.h"
+#include "platform/ui/held_enter.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
 #include "quiz/ui/accept_answer_button.h"
@@ -12,7 +13,6 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -54,6 +54,7 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
     m_change = addButton(*buttons, Text::ChangeButton, "changeButton");
     auto *result = addButton(*buttons, Text::ResultButton, "resultButton");
     m_accept = makeAcceptAnswerButton(texts(), this);
+    m_accept->setFocusPolicy(Qt::TabFocus);
     buttons->addWidget(m_accept);
     buttons->addStretch(1);
 
@@ -68,11 +69,19 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
     connect(m_accept, &QPushButton::clicked, this, &CQuizDialog::acceptLastAnswer);
 }
 
+void CQuizDialog::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous() && !std::exchange(m_wasShown, true)) {
+        ignoreHeldEnter(*this); // The form has all its fields now.
+    }
+    QDialog::showEvent(event);
+}
+
 QPushButton *CQuizDialog::addButton(QVBoxLayout &column, int text, const char *name)
 {
     auto *button = new QPushButton(texts().Get(text), this);
     button->setObjectName(QLatin1StringView(name));
-    button->setAutoDefault(false);
+    button->setFocusPolicy(Qt::TabFocus); // A click leaves the focus where answers are typed.
     column.addWidget(button);
     return button;
 }
@@ -136,15 +145,7 @@ void CQuizDialog::acceptLastAnswer()
         proceed(more);
     } else {
         updateStatistics(); // What was typed for the next word stays.
-    }
-}
-
-void CQuizDialog::keyPressEvent(QKeyEvent *event)
-{
-    // A key held down since the message before must not answer the next question.
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || !event->isAutoRepeat()) {
-        QDialog::keyPressEvent(event);
+        focusInput();
     }
 }
 
@@ -153,6 +154,8 @@ void CQuizDialog::reject()
     if (prompt().Confirm(texts().Prompt(Text::ReallyEndQuiz), PromptIcon::Question, PromptButtons::YesNoCancel,
             PromptAnswer::No)) {
         QDialog::reject();
+    } else {
+        focusInput();
     }
 }
 
@@ -189,7 +192,6 @@ void CQuizDialog::showResult()
     auto *dialog =
         new CQuizResultDialog(m_form.session(), m_services, CQuizResultDialog::Mode::DuringQuiz, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    // An answer may have been taken as right there.
-    connect(dialog, &QDialog::finished, this, &CQuizDialog::updateStatistics);
+    connect(dialog, &QDialog::finished, this, &CQuizDialog::focusInput);
     dialog->open();
 }

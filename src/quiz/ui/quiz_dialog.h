@@ -49,6 +49,8 @@ protected:
     CQuizDialog(const QuizWindowServices &services, CQuizForm &form);
 
     virtual void showCurrentWord() = 0;
+    /// Gives the focus to where answers are given.
+    virtual void focusInput() = 0;
     void updateStatistics();
     /// After the form went on: shows the word on screen, or closes the window as finished.
     void proceed(bool more);
@@ -62,7 +64,7 @@ protected:
     /// The button of Enter; the form connects it.
     QPushButton *answerButton() const { return m_answer; }
 
-    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     QPushButton *addButton(QVBoxLayout &column, int text, const char *name);
@@ -74,6 +76,7 @@ private:
     QuizWindowServices m_services;
     CQuizForm &m_form;
     QVBoxLayout *m_fields = nullptr;
+    bool m_wasShown = false;
     QPushButton *m_answer = nullptr;
     QPushButton *m_change = nullptr;
     QPushButton *m_accept = nullptr;

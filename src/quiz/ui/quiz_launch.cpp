@@ -91,6 +91,7 @@ void CQuizLaunch::finish()
     if (const auto entries = m_session->entriesToSelect()) {
         m_services.host.SelectEntries(*entries);
     }
+    m_services.host.FocusList();
     m_lastSession = std::move(m_session);
     if (m_services.document.ChangeCounter() != m_changesBefore) {
         m_services.host.Redraw();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_result_dialog.h"
 
+#include "platform/ui/held_enter.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/quiz_session.h"
 #include "quiz/ui/accept_answer_button.h"
@@ -68,6 +69,7 @@ CQuizResultDialog::CQuizResultDialog(
     updateTotals();
     selectFirstMistake();
     m_list->setFocus();
+    ignoreHeldEnter(*this);
 }
 
 void CQuizResultDialog::makeList()
@@ -158,7 +160,6 @@ QPushButton *CQuizResultDialog::makeButton(int text, const char *name)
 {
     auto *button = new QPushButton(m_result.texts().Get(text), this);
     button->setObjectName(QLatin1StringView(name));
-    button->setAutoDefault(false);
     return button;
 }
 

@@ -56,7 +56,6 @@ void CQuizSettings3::AddSound(QGridLayout &grid, const char *name, const Sound &
     file->setAccessibleName(texts.Get(sound.file));
     auto *browse = new QPushButton(texts.Get(sound.browse), this);
     browse->setObjectName(QStringLiteral("browse") + suffix);
-    browse->setAutoDefault(false);
     file->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
     const int row = grid.rowCount();
     grid.addWidget(play, row, 0);

@@ -44,6 +44,11 @@ void CStandardQuiz::showCurrentWord()
     updateStatistics();
     m_answerField->setText(m_form.prefilledAnswer());
     m_answerField->selectAll();
+    focusInput();
+}
+
+void CStandardQuiz::focusInput()
+{
     m_answerField->setFocus();
 }
 

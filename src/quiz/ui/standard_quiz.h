@@ -17,6 +17,7 @@ public:
 
 protected:
     void showCurrentWord() override;
+    void focusInput() override;
 
 private:
     void answer();

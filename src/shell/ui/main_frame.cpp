@@ -279,7 +279,6 @@ std::vector<int> CMainFrame::SelectedEntries() const
 void CMainFrame::SelectEntries(const std::vector<int> &entries)
 {
     m_view->SelectEntries(entries);
-    m_view->setFocus();
 }
 
 void CMainFrame::ShowMainWindow(bool show)
@@ -294,6 +293,11 @@ void CMainFrame::ShowMainWindow(bool show)
     if (show) {
         activateWindow();
     }
+}
+
+void CMainFrame::FocusList()
+{
+    m_view->setFocus();
 }
 
 void CMainFrame::EndEditing()

@@ -82,6 +82,7 @@ public:
     std::vector<int> SelectedEntries() const override;
     void SelectEntries(const std::vector<int> &entries) override;
     void ShowMainWindow(bool show) override;
+    void FocusList() override;
     void EndEditing() override;
     void Redraw() override;
 
