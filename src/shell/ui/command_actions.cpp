@@ -9,6 +9,8 @@
 #include <QActionGroup>
 #include <QIcon>
 
+#include <utility>
+
 namespace {
 
 /// The desktop's icon of that name, else the program's own. Without a theme of the desktop's own there is only
@@ -37,7 +39,10 @@ CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject
     // One of them is always chosen.
     auto *radio = new QActionGroup(this);
     for (const Command &command : commandTable()) {
-        auto *action = new QAction(CommandIcon(command.icon), texts.Get(Text::Caption(command.id)), this);
+        auto *action = new QAction(texts.Get(Text::Caption(command.id)), this);
+        if (standardToolBar().contains(command.id)) {
+            action->setIcon(CommandIcon(command.icon));
+        }
         action->setObjectName(QStringLiteral("command%1").arg(command.id));
         QList<QKeySequence> shortcuts;
         for (const QString &shortcut : command.shortcuts) {
@@ -56,6 +61,18 @@ CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject
         }
         action->setEnabled(false);
         m_actions.insert(command.id, action);
+    }
+}
+
+void CCommandActions::LoadIcons()
+{
+    if (std::exchange(m_iconsLoaded, true)) {
+        return;
+    }
+    for (const Command &command : commandTable()) {
+        if (!command.icon.isEmpty() && Action(command.id)->icon().isNull()) {
+            Action(command.id)->setIcon(CommandIcon(command.icon));
+        }
     }
 }
 

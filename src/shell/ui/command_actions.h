@@ -21,6 +21,8 @@ public:
     CCommandActions(const CTexts &texts, QObject *parent);
 
     QAction *Action(int id) const { return m_actions.value(id); }
+    /// Loads the icons that are not in sight at the start, before a menu or a bar shows them.
+    void LoadIcons();
     void SetHandler(int id, std::function<void()> handler);
     void SetChecked(int id, bool checked);
     /// Refreshes what can be chosen.
@@ -32,6 +34,7 @@ private:
     const CTexts &m_texts;
     QHash<int, QAction *> m_actions;
     QSet<int> m_handled;
+    bool m_iconsLoaded = false;
     QString m_language1;
     QString m_language2;
 };

@@ -145,6 +145,7 @@ void CMainFrame::MakeMenus()
     for (const CommandMenu &menu : commandMenus()) {
         QMenu *const shown = addNamedMenu(*menuBar(), texts.Get(menu.title));
         fillMenu(*shown, menu.commands, *m_actions, texts);
+        connect(shown, &QMenu::aboutToShow, m_actions, &CCommandActions::LoadIcons);
         connect(shown, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
         const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
         if (recent >= 0) {
@@ -156,7 +157,10 @@ void CMainFrame::MakeMenus()
     MakeToolBar(
         texts.Get(Text::StandardToolBar), "standardToolBar", standardToolBar(), CommandId::StandardToolBar);
     addToolBarBreak();
-    MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", quizToolBar(), CommandId::QuizToolBar)->hide();
+    auto *const quizBar =
+        MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", quizToolBar(), CommandId::QuizToolBar);
+    quizBar->hide();
+    connect(quizBar, &QToolBar::visibilityChanged, m_actions, &CCommandActions::LoadIcons);
     // The menus have commands for it.
     setContextMenuPolicy(Qt::NoContextMenu);
     m_actions->SetHandler(CommandId::StatusBar, [this] { statusBar()->setVisible(statusBar()->isHidden()); });
@@ -265,6 +269,7 @@ void CMainFrame::UpdateCommands()
 void CMainFrame::ShowMenu(const QList<int> &commands, const QPoint &place)
 {
     UpdateCommands();
+    m_actions->LoadIcons();
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, commands, *m_actions, m_services.texts);
