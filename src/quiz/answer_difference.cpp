@@ -16,6 +16,8 @@ using Characters = std::vector<QStringView>;
 
 /// The most cells of the tables that are filled for one answer.
 constexpr qint64 MostCells = 1'000'000;
+/// More parts than these nobody reads.
+constexpr qsizetype MostParts = 400;
 
 /// What the reader takes for characters: a letter with its combining marks is one.
 Characters SplitCharacters(QStringView text)
@@ -30,28 +32,77 @@ Characters SplitCharacters(QStringView text)
     return characters;
 }
 
-/// Two texts as characters, and how many they have in common at their start and at their end.
+/// A text as it is compared, character by character, and what stands for each in the text as it was written.
+struct ComparedText
+{
+    struct Character
+    {
+        QStringView compared;
+        QStringView ignored; ///< What does not count, before it.
+        QStringView shown;
+    };
+
+    QString compared = {};
+    std::vector<Character> characters = {};
+    QStringView tail = {}; ///< What does not count, after the last character.
+
+    /// `text` must outlive it.
+    ComparedText(QStringView text, const CheckingOptions &options)
+    {
+        std::vector<QStringView> origins; // For every unit that counts.
+        for (const QStringView written : SplitCharacters(text)) {
+            compared += normalizeForCheck(written.toString(), options);
+            origins.resize(size_t(compared.size()), written);
+        }
+        // Not those of the text: what was apart in it may make one character without what stood between.
+        const QChar *position = text.begin();
+        for (const QStringView character : SplitCharacters(compared)) {
+            const size_t first = size_t(character.begin() - compared.constBegin());
+            const QChar *const start = std::max(position, origins[first].begin());
+            const QChar *const end = std::max(start, origins[first + size_t(character.size()) - 1].end());
+            characters.push_back({character, {position, start}, {start, end}});
+            position = end;
+        }
+        tail = QStringView(position, text.end());
+    }
+    QStringView Shown(size_t from, size_t count) const
+    {
+        return count == 0
+            ? QStringView()
+            : QStringView(characters[from].shown.begin(), characters[from + count - 1].shown.end());
+    }
+};
+
+/// Two texts, and how many characters they have in common at their start and at their end.
 struct Pair
 {
-    Characters typed;
-    Characters expected;
+    const ComparedText &typed;
+    const ComparedText &expected;
     size_t start = 0;
     size_t end = 0;
 
-    Pair(QStringView typedText, QStringView expectedText)
-        : typed(SplitCharacters(typedText)), expected(SplitCharacters(expectedText))
+    Pair(const ComparedText &typedText, const ComparedText &expectedText)
+        : typed(typedText), expected(expectedText)
     {
-        const size_t shorter = std::min(typed.size(), expected.size());
-        while (start < shorter && typed[start] == expected[start]) {
+        const size_t typedSize = typed.characters.size();
+        const size_t expectedSize = expected.characters.size();
+        const size_t shorter = std::min(typedSize, expectedSize);
+        while (start < shorter && same(start, start)) {
             ++start;
         }
-        while (end < shorter - start && typed[typed.size() - 1 - end] == expected[expected.size() - 1 - end]) {
+        while (end < shorter - start && same(typedSize - 1 - end, expectedSize - 1 - end)) {
             ++end;
         }
     }
-    size_t rows() const { return typed.size() - start - end; }
-    size_t columns() const { return expected.size() - start - end; }
-    bool sameAt(size_t row, size_t column) const { return typed[start + row] == expected[start + column]; }
+    size_t rows() const { return typed.characters.size() - start - end; }
+    size_t columns() const { return expected.characters.size() - start - end; }
+    bool sameAt(size_t row, size_t column) const { return same(start + row, start + column); }
+
+private:
+    bool same(size_t i, size_t j) const
+    {
+        return typed.characters[i].compared == expected.characters[j].compared;
+    }
 };
 
 /// cost(row, column): the fewest steps between what follows the first `row` and `column` characters of the
@@ -86,15 +137,44 @@ private:
     std::vector<int> m_costs;
 };
 
-/// Joins neighbours of one kind.
-void Append(QList<DifferencePart> &parts, Kind kind, QStringView typed, QStringView expected)
+/// Goes along both texts and notes the parts.
+class CWalk
 {
-    if (parts.isEmpty() || parts.last().kind != kind) {
-        parts.append({kind, {}, {}});
+public:
+    explicit CWalk(const Pair &pair) : m_typed(&pair.typed), m_expected(&pair.expected) { }
+
+    /// Takes the next characters of both. What does not count before them is the same.
+    void Take(Kind kind, size_t typed, size_t expected)
+    {
+        Append(Kind::Same, typed == 0 ? QStringView() : m_typed->characters[m_row].ignored,
+            expected == 0 ? QStringView() : m_expected->characters[m_column].ignored);
+        Append(kind, m_typed->Shown(m_row, typed), m_expected->Shown(m_column, expected));
+        m_row += typed;
+        m_column += expected;
     }
-    parts.last().typed.append(typed);
-    parts.last().expected.append(expected);
-}
+    void TakeTail() { Append(Kind::Same, m_typed->tail, m_expected->tail); }
+    const QList<DifferencePart> &Parts() const { return m_parts; }
+
+private:
+    /// Joins neighbours of one kind.
+    void Append(Kind kind, QStringView typed, QStringView expected)
+    {
+        if (typed.isEmpty() && expected.isEmpty()) {
+            return;
+        }
+        if (m_parts.isEmpty() || m_parts.last().kind != kind) {
+            m_parts.append({kind, {}, {}});
+        }
+        m_parts.last().typed.append(typed);
+        m_parts.last().expected.append(expected);
+    }
+
+    const ComparedText *m_typed;
+    const ComparedText *m_expected;
+    size_t m_row = 0;
+    size_t m_column = 0;
+    QList<DifferencePart> m_parts;
+};
 
 qint64 CellsFor(const Pair &pair)
 {
@@ -111,31 +191,50 @@ int Distance(const Pair &pair, qint64 &cells)
     return CCostTable(pair).At(0, 0);
 }
 
-void AppendSteps(QList<DifferencePart> &parts, const Pair &pair)
+/// Returns false when they get too many.
+bool TakeSteps(CWalk &walk, const Pair &pair)
 {
     const CCostTable costs(pair);
     size_t row = 0;
     size_t column = 0;
     while (row < pair.rows() || column < pair.columns()) {
-        const QStringView typed = row < pair.rows() ? pair.typed[pair.start + row] : QStringView();
-        const QStringView expected =
-            column < pair.columns() ? pair.expected[pair.start + column] : QStringView();
         const bool both = row < pair.rows() && column < pair.columns();
         const int cost = costs.At(row, column);
-        if (both && typed == expected && cost == costs.At(row + 1, column + 1)) {
-            Append(parts, Kind::Same, typed, expected);
+        if (both && pair.sameAt(row, column) && cost == costs.At(row + 1, column + 1)) {
+            walk.Take(Kind::Same, 1, 1);
             ++row, ++column;
         } else if (both && cost == costs.At(row + 1, column + 1) + 1) {
-            Append(parts, Kind::Changed, typed, expected);
+            walk.Take(Kind::Changed, 1, 1);
             ++row, ++column;
         } else if (row < pair.rows() && cost == costs.At(row + 1, column) + 1) {
-            Append(parts, Kind::Surplus, typed, {});
+            walk.Take(Kind::Surplus, 1, 0);
             ++row;
         } else {
-            Append(parts, Kind::Missing, {}, expected);
+            walk.Take(Kind::Missing, 0, 1);
             ++column;
         }
+        if (walk.Parts().size() > MostParts) {
+            return false;
+        }
     }
+    return true;
+}
+
+QList<DifferencePart> DifferenceBetween(const Pair &pair)
+{
+    CWalk before(pair);
+    before.Take(Kind::Same, pair.start, pair.start);
+    CWalk walk = before;
+    if (CellsFor(pair) > MostCells || !TakeSteps(walk, pair)) {
+        walk = before;
+        walk.Take(pair.rows() == 0    ? Kind::Missing
+                : pair.columns() == 0 ? Kind::Surplus
+                                      : Kind::Changed,
+            pair.rows(), pair.columns());
+    }
+    walk.Take(Kind::Same, pair.end, pair.end);
+    walk.TakeTail();
+    return walk.Parts();
 }
 
 QString WithoutMarks(const QString &text)
@@ -181,7 +280,7 @@ Slip SlipBetween(const QString &typed, const QString &expected)
 }
 
 /// The alternatives in their order, then the whole term, each as it may be typed.
-QStringList AcceptedTexts(const CWordEntry &entry, int answerColumn, const CheckingOptions &options)
+QStringList AcceptedTexts(const CWordEntry &entry, int answerColumn)
 {
     QStringList texts;
     const int last = entry.AlternativeCount(answerColumn);
@@ -191,56 +290,33 @@ QStringList AcceptedTexts(const CWordEntry &entry, int answerColumn, const Check
     if (last > 0) {
         texts += acceptedForms(entry.GetText(answerColumn));
     }
-    for (QString &text : texts) {
-        text = normalizeForCheck(text, options);
-    }
     return texts;
 }
 
 }
 
-QList<DifferencePart> differenceBetween(const QString &typed, const QString &expected)
-{
-    const Pair pair(typed, expected);
-    QList<DifferencePart> parts;
-    const auto join = [](const Characters &characters, size_t from, size_t to) {
-        return from == to ? QStringView() : QStringView(characters[from].begin(), characters[to - 1].end());
-    };
-    const auto appendSame = [&](size_t from, size_t to) {
-        if (from < to) {
-            Append(parts, Kind::Same, join(pair.typed, from, to), join(pair.typed, from, to));
-        }
-    };
-    appendSame(0, pair.start);
-    if (pair.rows() == 0 || pair.columns() == 0 || CellsFor(pair) <= MostCells) {
-        AppendSteps(parts, pair);
-    } else {
-        Append(parts, Kind::Changed, join(pair.typed, pair.start, pair.start + pair.rows()),
-            join(pair.expected, pair.start, pair.start + pair.columns()));
-    }
-    appendSame(pair.typed.size() - pair.end, pair.typed.size());
-    return parts;
-}
-
 AnswerDifference answerDifference(
     const CWordEntry &entry, int answerColumn, const QString &answer, const CheckingOptions &options)
 {
-    AnswerDifference difference = {.typed = normalizeForCheck(answer, options)};
+    AnswerDifference difference = {.typed = answer};
+    const ComparedText typed(difference.typed, options);
     qint64 cells = MostCells;
     std::optional<int> nearest;
-    for (const QString &text : AcceptedTexts(entry, answerColumn, options)) {
-        difference.slip = SlipBetween(difference.typed, text);
+    for (const QString &text : AcceptedTexts(entry, answerColumn)) {
+        const ComparedText accepted(text, options);
+        difference.slip = SlipBetween(typed.compared, accepted.compared);
         if (difference.slip != Slip::None) {
             difference.expected = text;
             break;
         }
-        const int distance = Distance(Pair(difference.typed, text), cells);
+        const int distance = Distance(Pair(typed, accepted), cells);
         if (!nearest || distance < *nearest) {
             nearest = distance;
             difference.expected = text;
         }
     }
-    difference.parts = differenceBetween(difference.typed, difference.expected);
+    const ComparedText expected(difference.expected, options);
+    difference.parts = DifferenceBetween(Pair(typed, expected));
     if (difference.slip == Slip::None && IsOneLetter(difference.parts)) {
         difference.slip = Slip::OneLetter;
     }

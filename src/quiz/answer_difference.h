@@ -5,11 +5,11 @@
 
 #include <QList>
 
-/// A stretch of the way from a typed text to the expected one.
+/// A stretch of the way from a typed text to the expected one, both as they were written.
 struct DifferencePart
 {
     enum class Kind {
-        Same,
+        Same, ///< Also what only one of them has and what is written otherwise, where it does not count.
         Missing, ///< In `expected` alone: to be added.
         Surplus, ///< In `typed` alone: to be left out.
         Changed,
@@ -21,19 +21,18 @@ struct DifferencePart
     bool operator==(const DifferencePart &) const = default;
 };
 
-/// The fewest characters to add, leave out or change, in order. Characters are what a reader takes for one;
-/// where two texts are too long to compare in reasonable time, all between their common start and end is one
-/// change.
-QList<DifferencePart> differenceBetween(const QString &typed, const QString &expected);
-
 /// Slips that have a name: nothing else is wrong.
 enum class Slip { None, LetterCase, Accent, PunctuationOrBlanks, OneLetter };
 
-/// How a wrong answer differs from the nearest text that would have been right, both as they were compared.
+/// How a wrong answer differs from the nearest text that would have been right. They are compared as the
+/// verdict compares them, and shown as they were written.
 struct AnswerDifference
 {
     QString typed = {};
     QString expected = {};
+    /// The fewest characters to add, leave out or change, in order. Characters are what a reader takes for one;
+    /// where there is too much to compare in reasonable time or to read, all between the common start and end
+    /// is one change.
     QList<DifferencePart> parts = {};
     Slip slip = Slip::None;
 };

@@ -21,7 +21,7 @@ void AnswerDifferenceTest::differences_data()
     QTest::addColumn<QString>("term");
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("options"); // i ignore case, 1 or 2 character check
-    QTest::addColumn<QString>("parts"); // +missing, -surplus, typed>expected, the rest is the same
+    QTest::addColumn<QString>("parts"); // +missing, -surplus, typed>expected, same or typed/expected
     QTest::addColumn<QString>("slip"); // The first letter of its name.
     const auto row = [](const char *name, const char *term, const char *answer, const char *options,
                          const char *parts, const char *slip) {
@@ -48,9 +48,17 @@ void AnswerDifferenceTest::differences_data()
     row("the whole term", "cat * dog", "cat dog", "", "cat |+* |dog", "P");
     row("the comment left out", "hus [n]", "huss", "", "hus|-s", "O");
     row("the comment typed", "hus [n]", "hus m", "", "hus |m>n", "O");
-    row("as it is compared: letters alone", "to-be!", "to-bee", "1", "tobe|-e", "O");
-    row("as it is compared: case ignored", "Hund", "HUNT", "i", "hun|t>d", "O");
-    row("nothing left to compare", "hund", "!!", "1", "+hund", "");
+    row("what does not count is the same", "to-be or Not", "Tobe or noot", "i1", "Tobe or no/to-be or No|-o|t",
+        "O");
+    row("also between steps", "fast, car!", "¡slow dog", "1", "¡/|slow>fast| /, |dog>car|/!", "");
+    row("only its case counts", "Hund!", "hUND", "1", "hUND>Hund|/!", "L");
+    row("case ignored", "Hund", "HUNT", "i", "HUN/Hun|T>d", "O");
+    row("nothing left to compare", "to-be", "!!", "1", "+to|/-|+be|!!/", "");
+    row("a mark that does not count stays with its letter", "e\u0301ne", "enn", "1", "en/e\u0301n|n>e", "O");
+    row("looks the same and is not", "e\u0301n", "én", "", "é>e\u0301|n", "A");
+    row("looks the same and counts as without its mark", "én", "e\u0301n", "1", "e\u0301>é|n", "A");
+    row("parts that make one character", "\u0e19\u0e33x", "\u0e19-\u0e33", "1", "\u0e19-\u0e33/\u0e19\u0e33|+x",
+        "O");
 }
 
 void AnswerDifferenceTest::differences()
@@ -66,7 +74,8 @@ void AnswerDifferenceTest::differences()
     QStringList found;
     for (const DifferencePart &part : difference.parts) {
         using enum DifferencePart::Kind;
-        found.append(part.kind == Same ? part.typed
+        found.append(part.kind == Same
+                ? (part.typed == part.expected ? part.typed : part.typed + u'/' + part.expected)
                 : part.kind == Missing ? u'+' + part.expected
                 : part.kind == Surplus ? u'-' + part.typed
                                        : part.typed + u'>' + part.expected);
@@ -89,6 +98,11 @@ void AnswerDifferenceTest::shown()
         answerDifference(CWordEntry(QStringLiteral("%s1")), 0, QStringLiteral("%1"), {});
     QCOMPARE(differenceInWords(letter, texts),
         QStringLiteral("\"%1\", rätt är \"%s1\": lägg till \"s\". En bokstav fel."));
+    const AnswerDifference ignored = answerDifference(CWordEntry(QStringLiteral("to-be")), 0,
+        QStringLiteral("Tobbe!"), {.ignoreCase = true, .characterCheck = CharacterCheck::OnlyLetters});
+    QCOMPARE(differenceAsHtml(ignored), QStringLiteral("Tob<s>b</s>e! → to-be"));
+    QCOMPARE(differenceInWords(ignored, texts),
+        QStringLiteral("\"Tobbe!\", rätt är \"to-be\": ta bort \"b\". En bokstav fel."));
     QStringList slips;
     for (int slip = 0; slip <= int(Slip::OneLetter); ++slip) {
         slips.append(slipName(Slip(slip), texts));
@@ -109,6 +123,10 @@ void AnswerDifferenceTest::longTexts()
     QCOMPARE(difference.parts.size(), 3);
     QCOMPARE(difference.parts.at(1), (DifferencePart{DifferencePart::Kind::Changed, other, middle}));
     QVERIFY(differenceAsHtml(difference).size() < 300);
+    // So many steps that nobody reads them, although they are found at once.
+    const AnswerDifference steps = answerDifference(CWordEntry(QStringLiteral("a-").repeated(100000)), 0,
+        QStringLiteral("!"), {.characterCheck = CharacterCheck::OnlyLetters});
+    QVERIFY(differenceAsHtml(steps).size() < 300);
 }
 
 QTEST_APPLESS_MAIN(AnswerDifferenceTest)
