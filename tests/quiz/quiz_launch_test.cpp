@@ -132,7 +132,8 @@ void QuizLaunchTest::callsInOrder()
     run.test.document.BeginChange().SetEntryField(QStringLiteral("x"), 2, 0, false);
     Answer("cat");
     QVERIFY(FindWindow<CQuizResultDialog>() == nullptr);
-    QCOMPARE(run.host.calls.mid(2), (QStringList{QStringLiteral("show"), QStringLiteral("focus"), QStringLiteral("redraw")}));
+    QCOMPARE(run.host.calls.mid(2),
+        (QStringList{QStringLiteral("show"), QStringLiteral("focus"), QStringLiteral("redraw")}));
 }
 
 void QuizLaunchTest::sizesAreRemembered()

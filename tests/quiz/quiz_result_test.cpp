@@ -196,8 +196,8 @@ void QuizResultTest::savedMistakes()
     QVERIFY(run.test.document.OnSaveDocument(own));
 
     const QString path = folder.filePath(QStringLiteral("fel.gls"));
-    run.chooser.paths = {path, folder.filePath(QStringLiteral("none/x.gls")),
-        folder.filePath(QStringLiteral("./djur.gls"))};
+    run.chooser.paths = {
+        path, folder.filePath(QStringLiteral("none/x.gls")), folder.filePath(QStringLiteral("./djur.gls"))};
     run.result.saveMistakes();
     QCOMPARE(run.chooser.asked.at(0).start, folder.filePath(QStringLiteral("djur – fel.gls")));
     QCOMPARE(run.test.document.Path(), own);
