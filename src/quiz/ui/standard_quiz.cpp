@@ -44,7 +44,7 @@ void CStandardQuiz::showCurrentWord()
     updateStatistics();
     m_answerField->setText(m_form.prefilledAnswer());
     m_answerField->selectAll();
-    focusInput();
+    m_answerField->setFocus();
 }
 
 void CStandardQuiz::focusInput()
