@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -57,20 +58,24 @@ void Run(int count)
     const auto nothing = [] {};
     Print("open", Measure(repeats, nothing, [&] { document.OpenDocument(path); }));
     Print("save", Measure(repeats, nothing, [&] { document.OnSaveDocument(path); }));
-    Print("snapshot", Measure(10, nothing, [&] { document.BeginChange(); }));
-    const std::vector<int> one = {count / 2};
-    Print("snapshot and a change of one entry",
-        Measure(10, nothing, [&] { document.BeginChange().SetFlags(0, one, FlagMode::Toggle); }));
+    Print("nothing changed", Measure(10, nothing, [&] { document.Change([](CWordList &) {}); }));
+    const auto toggle = [&](int entry) {
+        document.Change([entry](CWordList &list) { list.SetFlags(0, std::array{entry}, FlagMode::Toggle); });
+    };
+    Print("a change of one entry", Measure(10, nothing, [&] { toggle(count / 2); }));
+    Print("all entries inserted before the first", Measure(1, nothing, [&] {
+        document.Change([copy = document.List()](CWordList &list) { list.InsertAll(copy, 0); });
+    }));
+    document.Undo();
     Print("undo", Measure(10, nothing, [&] { document.Undo(); }));
     Print("redo", Measure(10, nothing, [&] { document.Redo(); }));
     const qint64 before = MemoryInUse();
     for (int step = 0; step < Steps; ++step) {
-        const std::vector<int> entry = {int(qint64(step) * count / Steps)};
-        document.BeginChange().SetFlags(0, entry, FlagMode::Toggle);
+        toggle(int(qint64(step) * count / Steps));
     }
     std::printf("  %-42s %13s %9.3f MB\n", "memory of a state with a change of its own", "",
         double(MemoryInUse() - before) / 1e6 / Steps);
-    Print("snapshot with a full history", Measure(10, nothing, [&] { document.BeginChange(); }));
+    Print("a change with a full history", Measure(10, nothing, [&] { toggle(count / 2); }));
     std::printf("\n");
 }
 

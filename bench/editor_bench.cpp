@@ -38,8 +38,7 @@ struct Editor
 {
     explicit Editor(int count)
     {
-        document.OnNewDocument();
-        document.BeginChange() = GenerateList(count, 1);
+        document.ReplaceList(GenerateList(count, 1));
         view.resize(900, 700);
     }
 

@@ -68,7 +68,6 @@ CRecovery::CRecovery(CWin32Doc &document, const QString &folder, int delay, QObj
     m_timer.setInterval(delay);
     connect(&m_timer, &QTimer::timeout, this, &CRecovery::WriteCopy);
     connect(&document, &CWin32Doc::Changed, this, &CRecovery::DocumentChanged);
-    connect(&document, &CWin32Doc::ListReplaced, this, &CRecovery::DocumentChanged);
     connect(&document, &CWin32Doc::Saved, this, &CRecovery::Discard);
 }
 

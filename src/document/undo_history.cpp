@@ -16,7 +16,7 @@ void CUndoHistory::Snapshot()
         --m_current;
     }
     // A copy of its own first: growing moves the states.
-    CWordList copy = m_states[m_current];
+    State copy = m_states[m_current];
     m_states.push_back(std::move(copy));
     ++m_current;
 }
@@ -40,7 +40,9 @@ void CUndoHistory::SetUndoSize(int steps)
     const size_t maxStates = size_t(std::max(steps, 0)) + 1;
     if (maxStates < m_maxStates) {
         // Kept: also where all states would still fit.
-        ResetHistory(std::move(m_states[m_current]));
+        const int insertionPoint = InsertionPoint();
+        ResetHistory(std::move(Current()));
+        SetInsertionPoint(insertionPoint);
     }
     m_maxStates = maxStates;
 }
@@ -48,15 +50,15 @@ void CUndoHistory::SetUndoSize(int steps)
 void CUndoHistory::ResetHistory(CWordList list)
 {
     m_states.clear();
-    m_states.push_back(std::move(list));
+    m_states.push_back({.list = std::move(list)});
     m_current = 0;
 }
 
 void CUndoHistory::MarkOthersChanged()
 {
-    for (CWordList &state : m_states) {
-        if (&state != &Current()) {
-            state.SetSaved(false);
+    for (State &state : m_states) {
+        if (&state != &m_states[m_current]) {
+            state.list.SetSaved(false);
         }
     }
 }

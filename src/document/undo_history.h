@@ -13,8 +13,13 @@ public:
     /// One empty list, and no undo.
     CUndoHistory();
 
-    CWordList &Current() { return m_states[m_current]; }
-    const CWordList &Current() const { return m_states[m_current]; }
+    CWordList &Current() { return m_states[m_current].list; }
+    const CWordList &Current() const { return m_states[m_current].list; }
+
+    /// Where the next entry goes, 0 to the number of entries. A state that is left keeps it, so undo brings it
+    /// back.
+    int InsertionPoint() const { return m_states[m_current].insertionPoint; }
+    void SetInsertionPoint(int entry) { m_states[m_current].insertionPoint = entry; }
 
     /// Call before a change: keeps the current state for undo and makes a copy of it current. States that were
     /// undone are lost, and so is the oldest where there are as many as are kept. Does nothing while undo is
@@ -36,7 +41,13 @@ public:
     void SetFilePath(const QString &path) { m_filePath = path; }
 
 private:
-    std::vector<CWordList> m_states;
+    struct State
+    {
+        CWordList list = {};
+        int insertionPoint = 0;
+    };
+
+    std::vector<State> m_states;
     size_t m_current = 0;
     size_t m_maxStates = 1;
     QString m_filePath;

@@ -30,6 +30,28 @@ QString FirstGiven(const QString &first, const QString &second)
     return first.isEmpty() ? second : first;
 }
 
+/// Where the insertion point comes to stand: it keeps its place between the entries around it, and what is
+/// inserted at it stands before it.
+int FollowedInsertionPoint(
+    int point, const CWordList &before, const CWordList &after, const ListDifference &difference)
+{
+    const int first = difference.first;
+    switch (difference.entries) {
+    case ListDifference::Entries::Inserted:
+        return point < first ? point : point + difference.inserted;
+    case ListDifference::Entries::Removed: {
+        int left = first;
+        for (int entry = first; entry < std::min(point, first + difference.removed); ++entry) {
+            left += int(left < first + difference.inserted && &before.Entry(entry) == &after.Entry(left));
+        }
+        return std::min(point, left) + std::max(point - first - difference.removed, 0);
+    }
+    default:
+        return point < first + difference.removed ? std::min(point, after.Count())
+                                                  : point + difference.inserted - difference.removed;
+    }
+}
+
 }
 
 CWin32Doc::CWin32Doc(DocumentServices services, QObject *parent)
@@ -38,37 +60,56 @@ CWin32Doc::CWin32Doc(DocumentServices services, QObject *parent)
     ApplyUndoSize();
 }
 
-CWordList &CWin32Doc::BeginChange()
+bool CWin32Doc::Change(const std::function<void(CWordList &)> &change, std::optional<quint64> joined)
 {
-    m_history.Snapshot();
-    return ContinueChange();
+    CWordList changed = List();
+    change(changed);
+    const ListDifference difference = List().DifferenceTo(changed);
+    if (difference.IsNone()) {
+        return false;
+    }
+    const int insertionPoint = FollowedInsertionPoint(InsertionPoint(), List(), changed, difference);
+    changed.SetSaved(false);
+    if (joined != m_changeCounter) {
+        m_history.Snapshot();
+    }
+    m_history.Current() = std::move(changed);
+    SetInsertionPoint(insertionPoint);
+    Tell({.difference = difference});
+    return true;
 }
 
-CWordList &CWin32Doc::ContinueChange()
+void CWin32Doc::SetInsertionPoint(int entry)
 {
-    ++m_changeCounter;
-    Q_EMIT Changed();
-    return m_history.Current();
+    m_history.SetInsertionPoint(std::clamp(entry, 0, List().Count()));
 }
 
 void CWin32Doc::Undo()
 {
     if (UndoCount() > 0) {
-        m_history.Undo();
-        ++m_changeCounter;
-        Q_EMIT Changed();
-        Q_EMIT ListReplaced();
+        GoTo(&CUndoHistory::Undo);
     }
 }
 
 void CWin32Doc::Redo()
 {
     if (RedoCount() > 0) {
-        m_history.Redo();
-        ++m_changeCounter;
-        Q_EMIT Changed();
-        Q_EMIT ListReplaced();
+        GoTo(&CUndoHistory::Redo);
     }
+}
+
+void CWin32Doc::GoTo(void (CUndoHistory::*step)())
+{
+    const CWordList before = List();
+    (m_history.*step)();
+    Tell({.difference = before.DifferenceTo(List())});
+}
+
+void CWin32Doc::Tell(const ListChange &change)
+{
+    ++m_changeCounter;
+    Q_EMIT Changed(change);
+    UpdateTitleMark();
 }
 
 void CWin32Doc::ApplyUndoSize()
@@ -115,10 +156,7 @@ void CWin32Doc::Replace(CWordList list, const QString &path, const FileStamp &st
     m_history.ResetHistory(std::move(list));
     m_history.SetFilePath(path);
     m_stamp = stamp;
-    ++m_changeCounter;
-    Q_EMIT DocumentReplaced();
-    Q_EMIT ListReplaced();
-    UpdateTitleMark();
+    Tell({.replaced = true});
 }
 
 void CWin32Doc::OnNewDocument()
@@ -136,7 +174,7 @@ void CWin32Doc::OnNewDocument()
             .language2 = fill(list.GetLanguage(1), FirstGiven(settings.language2, texts.Get(Text::Language2))),
             .author = fill(list.GetAuthor(), settings.author)});
     list.SetSaved(true);
-    Replace(std::move(list), {}, {});
+    ReplaceList(std::move(list));
 }
 
 bool CWin32Doc::OpenDocument(const QString &file)
@@ -163,7 +201,6 @@ bool CWin32Doc::OpenDocument(const QString &file)
     }
     const int message = result == ReadResult::NewerVersion ? Text::NewerVersion : Text::ReadAsPlainText;
     m_services.prompt.Tell(m_services.texts.Prompt(message), PromptIcon::Warning);
-    QMetaObject::invokeMethod(this, &CWin32Doc::FileConverted, Qt::QueuedConnection);
     return true;
 }
 
@@ -249,15 +286,7 @@ void CWin32Doc::SetListProperties(ListProperties properties)
             *text = OneLine(**text);
         }
     }
-    // Tried on a copy, which shares everything else: a step for undo is taken only when something differs.
-    CWordList changed = List();
-    changed.SetSaved(true);
-    changed.SetProperties(properties);
-    if (!changed.IsSaved()) {
-        BeginChange().SetProperties(properties);
-        Q_EMIT ListReplaced();
-        UpdateTitleMark();
-    }
+    Change([&properties](CWordList &list) { list.SetProperties(properties); });
 }
 
 QString CWin32Doc::ExpandPlaceholders(const QString &text) const

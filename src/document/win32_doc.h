@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/list_change.h"
 #include "document/undo_history.h"
 #include "model/word_list.h"
 
@@ -9,6 +10,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 class CTexts;
 class IUserPrompt;
@@ -46,11 +48,17 @@ public:
     explicit CWin32Doc(DocumentServices services, QObject *parent = nullptr);
 
     const CWordList &List() const { return m_history.Current(); }
-    /// The one way to change the list: call it once per command, right before its change, and only when
-    /// something will change. Takes the step for undo.
-    CWordList &BeginChange();
-    /// Changes more within the step that the last BeginChange() took: for a command that goes on over a while.
-    CWordList &ContinueChange();
+    /// The one way to change the list, once per command: runs `change` on a copy and makes it the list, as a
+    /// step for undo, if it really differs. Returns whether it did. Changed() has told it when this returns.
+    ///
+    /// A command that goes on over a while keeps the change counter as it was after its last change and hands
+    /// it in as `joined`: if nothing else changed since, its changes are one step.
+    bool Change(const std::function<void(CWordList &)> &change, std::optional<quint64> joined = {});
+    /// Where the next entry goes, 0 to the number of entries. It moves with the entries that it stands between,
+    /// and undo brings it back.
+    int InsertionPoint() const { return m_history.InsertionPoint(); }
+    /// What lies outside becomes the nearest.
+    void SetInsertionPoint(int entry);
     /// Grows with every change; compare it to learn whether something changed in between.
     quint64 ChangeCounter() const { return m_changeCounter; }
 
@@ -69,15 +77,14 @@ public:
     QString Name() const;
     /// The name shown for the list, with "* " in front while it has unsaved changes.
     QString Title() const;
-    /// Tells TitleChanged() when the title is another than at the call before. Called whenever the view
-    /// refreshes.
-    void UpdateTitleMark();
     /// An empty list is never modified: it holds nothing to save.
     bool IsModified() const { return !List().IsSaved() && List().Count() > 0; }
 
     /// Starts a new list with the standard properties; names and author of the list before stay when all are
     /// given.
     void OnNewDocument();
+    /// Puts a list that has no file in place of the one before; its saved mark says whether it is worth saving.
+    void ReplaceList(CWordList list) { Replace(std::move(list), {}, {}); }
     /// Reads a file of any kind in place of the list. On failure, which the user is told, an empty list is left
     /// and the result is false.
     bool OpenDocument(const QString &path);
@@ -105,21 +112,19 @@ public:
     QString SuggestFileName() const;
 
 Q_SIGNALS:
-    /// The list is about to change, or has changed by undo.
-    void Changed();
-    /// Another document takes the place of the one before; ListReplaced() follows.
-    void DocumentReplaced();
-    /// Another list, or another state of it, took the place of the one before: everything is to be shown anew.
-    void ListReplaced();
+    /// The list is another than before: by a command, by undo or redo, or with its document.
+    void Changed(const ListChange &change);
     void TitleChanged();
     /// The list was written to its file.
     void Saved();
-    /// From the event loop, after a file was read that is not of the program's own version: it lost its file
-    /// name.
-    void FileConverted();
 
 private:
     void DeleteContents();
+    /// Tells TitleChanged() when the title is another than at the call before.
+    void UpdateTitleMark();
+    /// Goes to another state of the history, and tells what that changed.
+    void GoTo(void (CUndoHistory::*step)());
+    void Tell(const ListChange &change);
     bool Write(CWordList copy, const QString &path);
     /// Makes the list the only state of the history and has it shown.
     void Replace(CWordList list, const QString &path, const FileStamp &stamp);

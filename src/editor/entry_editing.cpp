@@ -10,8 +10,6 @@
 #include "settings/editor_settings.h"
 #include "settings/shell_settings.h"
 
-#include <algorithm>
-
 using Action = EditStep::Action;
 
 SortOptions sortOptions(const ArrangeSettings &settings)
@@ -60,25 +58,13 @@ int CEntryEditing::Add(const EntryTexts &texts)
         .sortAfter = settings.sortNewWords,
         .sort = sortOptions(m_services.arrange)};
     int similar = CRowModel::NoEntry;
-    m_view.AddEntry(
-        [&] {
-            similar = m_services.document.BeginChange().Insert(
-                CWordEntry(texts[0], texts[1], texts[2], settings.newwordflag, settings.newwordflag), options);
-        },
-        settings.sortNewWords);
+    m_services.document.Change([&](CWordList &list) {
+        similar = list.Insert(
+            CWordEntry(texts[0], texts[1], texts[2], settings.newwordflag, settings.newwordflag), options);
+    });
+    // Below the place where the entry was typed, also when sorting took it elsewhere.
+    m_view.SetInsertionPoint(options.position + 1);
     return AskAboutSimilar(similar);
-}
-
-int CEntryEditing::Change(int entry, bool changes, const std::function<int(CWordList &)> &change)
-{
-    if (!changes) {
-        // No step for undo, but the entry may have been like another one before: asked of a copy.
-        CWordList copy = m_services.document.List();
-        return change(copy);
-    }
-    const int similar = change(m_services.document.BeginChange());
-    m_view.EntryChanged(entry);
-    return similar;
 }
 
 EditStep CEntryEditing::FromFields(const EntryTexts &texts, int entry)
@@ -102,12 +88,12 @@ EditStep CEntryEditing::FromFields(const EntryTexts &texts, int entry)
         const int similar = Add(wanted);
         return similar >= 0 ? EditStep{Action::SelectEntry, similar} : EditStep{Action::ClearFields};
     }
-    const CWordEntry &old = m_services.document.List().Entry(entry);
-    const bool changes =
-        old.GetText(0) != wanted[0] || old.GetText(1) != wanted[1] || old.GetNote() != wanted[2];
-    const bool warn = m_services.settings.duplicateVarning;
-    const int similar = AskAboutSimilar(Change(entry, changes,
-        [&](CWordList &list) { return list.ReplaceEntry(entry, wanted[0], wanted[1], wanted[2], warn); }));
+    int similar = CRowModel::NoEntry;
+    m_services.document.Change([&](CWordList &list) {
+        similar =
+            list.ReplaceEntry(entry, wanted[0], wanted[1], wanted[2], m_services.settings.duplicateVarning);
+    });
+    similar = AskAboutSimilar(similar);
     if (similar >= 0) {
         return {Action::SelectEntry, similar};
     }
@@ -135,10 +121,11 @@ EditStep CEntryEditing::CellEdited(int row, int field, const QString &text)
     if (isTerm && wanted.isEmpty()) {
         return {};
     }
-    const bool changes = wanted != m_services.document.List().Entry(entry).GetField(field);
-    const bool warn = m_services.settings.duplicateVarning;
-    const int accepted = AskAboutSimilar(Change(
-        entry, changes, [&](CWordList &list) { return list.SetEntryField(wanted, field, entry, warn); }));
+    int similar = CRowModel::NoEntry;
+    m_services.document.Change([&](CWordList &list) {
+        similar = list.SetEntryField(wanted, field, entry, m_services.settings.duplicateVarning);
+    });
+    const int accepted = AskAboutSimilar(similar);
     return accepted >= 0 ? EditStep{Action::SelectEntry, accepted} : EditStep{};
 }
 
@@ -181,17 +168,12 @@ bool CEntryEditing::DeleteEntries(std::span<const int> entries)
             PromptButtons::YesNoCancel, PromptAnswer::Yes)) {
         return false;
     }
-    m_view.RemoveEntries(entries, [&] { m_services.document.BeginChange().DeleteEntries(entries); });
-    return true;
+    return m_services.document.Change([entries](CWordList &list) { list.DeleteEntries(entries); });
 }
 
 void CEntryEditing::SetFlags(int language, std::span<const int> entries, FlagMode mode)
 {
-    const CWordList &list = m_services.document.List();
-    const auto changes = [&](int entry) {
-        return mode == FlagMode::Toggle || list.Entry(entry).GetFlag(language) != (mode == FlagMode::Set);
-    };
-    if ((language == 0 || language == 1) && std::ranges::any_of(entries, changes)) {
-        m_services.document.BeginChange().SetFlags(language, entries, mode);
+    if (language == 0 || language == 1) {
+        m_services.document.Change([&](CWordList &list) { list.SetFlags(language, entries, mode); });
     }
 }

@@ -23,13 +23,7 @@ public:
     IEntryView(const IEntryView &) = delete;
     IEntryView &operator=(const IEntryView &) = delete;
 
-    /// Runs `add`, which adds an entry at the insertion point or, when `sorted`, anywhere, and moves the
-    /// insertion point down by one.
-    virtual void AddEntry(const std::function<void()> &add, bool sorted) = 0;
-    virtual void EntryChanged(int entry) = 0;
-    /// Runs `remove`, which removes these entries, ascending, and moves the insertion point up by those that
-    /// stood above it.
-    virtual void RemoveEntries(std::span<const int> entries, const std::function<void()> &remove) = 0;
+    virtual void SetInsertionPoint(int row) = 0;
     /// A text of the new-entry row changed.
     virtual void PendingChanged() = 0;
     virtual void ShowNotes() = 0;
@@ -96,8 +90,6 @@ private:
     EditStep AddPending();
     /// Returns a similar entry that the user wants to see, or NoEntry.
     int Add(const EntryTexts &texts);
-    /// Runs `change`, which returns a similar entry, on the list when it `changes` something, and returns that.
-    int Change(int entry, bool changes, const std::function<int(CWordList &)> &change);
     /// The term as it is, or as the user lets it be corrected.
     QString Corrected(const QString &term);
     int AskAboutSimilar(int similar);

@@ -8,6 +8,7 @@
 #include "settings/editor_settings.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -19,10 +20,12 @@ bool IsLanguage(int field)
 }
 
 CWordListModel::CWordListModel(
-    const CWin32Doc &document, const EditorSettings &settings, const CTexts &texts, QObject *parent)
-    : QAbstractTableModel(parent), m_document(document), m_settings(settings), m_texts(texts)
+    CWin32Doc &document, const EditorSettings &settings, const CTexts &texts, QObject *parent)
+    : QAbstractTableModel(parent), m_document(document), m_list(document.List()), m_settings(settings),
+      m_texts(texts)
 {
-    m_rows.SetEntryCount(document.List().Count());
+    m_rows.SetEntryCount(m_list.Count());
+    m_rows.SetInsertionPoint(document.InsertionPoint());
 }
 
 int CWordListModel::field(int column) const
@@ -35,42 +38,87 @@ int CWordListModel::column(int field) const
     return m_settings.showWordNumber ? field + 1 : field;
 }
 
-void CWordListModel::AddEntry(const std::function<void()> &add)
+bool CWordListModel::Apply(const ListChange &change)
 {
-    const int row = m_rows.InsertionPoint();
-    beginInsertRows({}, row, row);
-    add();
-    m_rows.SetEntryCount(m_rows.EntryCount() + 1);
-    m_rows.SetInsertionPoint(row + 1);
+    using Entries = ListDifference::Entries;
+    const ListDifference &difference = change.difference;
+    const bool block = difference.entries == Entries::Removed && difference.inserted == 0;
+    const bool inPlace = difference.removed == difference.inserted;
+    if (change.replaced || !(block || inPlace || difference.entries == Entries::Inserted)) {
+        if (change.replaced) {
+            m_rows.pending = {};
+        }
+        Reset();
+        return false;
+    }
+    if (difference.entries == Entries::Inserted) {
+        InsertRows(difference);
+    } else if (block) {
+        RemoveRows(difference);
+    }
+    m_list = m_document.List();
+    if (inPlace && difference.inserted > 0) {
+        RowsChanged(
+            m_rows.RowOfEntry(difference.first), m_rows.RowOfEntry(difference.first + difference.inserted - 1));
+    }
+    if (difference.properties) {
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    }
+    TakeInsertionPoint();
+    return true;
+}
+
+void CWordListModel::InsertRows(const ListDifference &difference)
+{
+    // At the insertion point they come to stand above the new-entry row.
+    const int point = m_rows.InsertionPoint();
+    const bool above = difference.first <= point;
+    const int row = above ? difference.first : difference.first + 1;
+    beginInsertRows({}, row, row + difference.inserted - 1);
+    m_list = m_document.List();
+    m_rows.SetEntryCount(m_list.Count());
+    m_rows.SetInsertionPoint(above ? point + difference.inserted : point);
     endInsertRows();
 }
 
-void CWordListModel::RemoveEntries(std::span<const int> entries, const std::function<void()> &remove)
+void CWordListModel::RemoveRows(const ListDifference &difference)
 {
-    const int first = m_rows.RowOfEntry(entries.front());
-    const int last = m_rows.RowOfEntry(entries.back());
-    const int above = int(std::ranges::lower_bound(entries, m_rows.InsertionPoint()) - entries.begin());
-    // One block of rows goes as such; many, which would each move all that follow, at once.
-    const bool block = last - first + 1 == int(entries.size());
-    if (block) {
-        beginRemoveRows({}, first, last);
-    } else {
-        beginResetModel();
+    // The new-entry row may stand among them and stays.
+    const int end = difference.first + difference.removed;
+    const int middle = std::clamp(m_rows.InsertionPoint(), difference.first, end);
+    if (middle < end) {
+        RemoveStretch(middle, end - 1);
     }
-    remove();
-    m_rows.SetInsertionPoint(m_rows.InsertionPoint() - above);
-    m_rows.SetEntryCount(m_document.List().Count());
-    if (block) {
-        endRemoveRows();
-    } else {
-        endResetModel();
+    if (difference.first < middle) {
+        RemoveStretch(difference.first, middle - 1);
+    }
+}
+
+void CWordListModel::RemoveStretch(int first, int last)
+{
+    const int count = last - first + 1;
+    const int point = m_rows.InsertionPoint();
+    beginRemoveRows({}, m_rows.RowOfEntry(first), m_rows.RowOfEntry(last));
+    std::vector<int> entries(size_t(count), 0);
+    std::iota(entries.begin(), entries.end(), first);
+    m_list.DeleteEntries(entries);
+    m_rows.SetInsertionPoint(last < point ? point - count : point);
+    m_rows.SetEntryCount(m_list.Count());
+    endRemoveRows();
+}
+
+void CWordListModel::TakeInsertionPoint()
+{
+    if (m_rows.InsertionPoint() != m_document.InsertionPoint()) {
+        m_rows.SetInsertionPoint(m_document.InsertionPoint());
+        AllRowsChanged();
     }
 }
 
 void CWordListModel::SetInsertionPoint(int row)
 {
-    m_rows.SetInsertionPoint(row);
-    AllRowsChanged();
+    m_document.SetInsertionPoint(row);
+    TakeInsertionPoint();
 }
 
 void CWordListModel::RowsChanged(int first, int last)
@@ -81,7 +129,9 @@ void CWordListModel::RowsChanged(int first, int last)
 void CWordListModel::Reset()
 {
     beginResetModel();
-    m_rows.SetEntryCount(m_document.List().Count());
+    m_list = m_document.List();
+    m_rows.SetEntryCount(m_list.Count());
+    m_rows.SetInsertionPoint(m_document.InsertionPoint());
     endResetModel();
 }
 
@@ -117,12 +167,12 @@ QVariant CWordListModel::data(const QModelIndex &index, int role) const
         return NewEntryData(cellField, role);
     }
     const int entry = m_rows.EntryOfRow(index.row());
-    return entry < m_document.List().Count() ? EntryData(entry, cellField, role) : QVariant();
+    return EntryData(entry, cellField, role);
 }
 
 QVariant CWordListModel::EntryData(int entry, int field, int role) const
 {
-    const CWordEntry &shown = m_document.List().Entry(entry);
+    const CWordEntry &shown = m_list.Entry(entry);
     switch (role) {
     case Qt::ToolTipRole:
         return field == NumberColumn ? QVariant() : ShownAsPlainText(shown.GetField(field));
@@ -185,6 +235,6 @@ QVariant CWordListModel::headerData(int section, Qt::Orientation orientation, in
     case CWordEntry::NoteField:
         return m_texts.Get(Text::Note);
     default:
-        return m_document.List().GetLanguage(headerField).trimmed();
+        return m_list.GetLanguage(headerField).trimmed();
     }
 }

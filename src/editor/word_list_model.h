@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/list_change.h"
 #include "editor/row_model.h"
 
 #include <QAbstractTableModel>
-
-#include <functional>
-#include <span>
 
 class CTexts;
 class CWin32Doc;
 struct EditorSettings;
 
-/// The document's entries and the new-entry row as rows of a table; copies nothing and asks the document for
-/// every cell. Shown columns: the number (when the settings say so), language 1, language 2, the note (when the
-/// settings say so). When others changed the document, Reset() is called; a row that is asked for before and
-/// has no entry any more is empty.
+/// The document's entries and the new-entry row as rows of a table. Shows the list as it was at the last
+/// Apply(), by a copy that shares its entries, so that rows and cells agree at each moment. Shown columns: the
+/// number (when the settings say so), language 1, language 2, the note (when the settings say so). The
+/// insertion point is the document's.
 class CWordListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -28,8 +26,8 @@ public:
     /// What a field() can be besides the fields of an entry.
     static constexpr int NumberColumn = -1;
 
-    CWordListModel(const CWin32Doc &document, const EditorSettings &settings, const CTexts &texts,
-        QObject *parent = nullptr);
+    CWordListModel(
+        CWin32Doc &document, const EditorSettings &settings, const CTexts &texts, QObject *parent = nullptr);
 
     CRowModel &Rows() { return m_rows; }
     const CRowModel &Rows() const { return m_rows; }
@@ -38,11 +36,10 @@ public:
     /// The shown column of a field, which may not be shown.
     int column(int field) const;
 
-    /// Runs `add`, which adds one entry to the document; the insertion point moves down by one.
-    void AddEntry(const std::function<void()> &add);
-    /// Runs `remove`, which removes these entries, ascending, from the document; the insertion point moves up
-    /// by those that stood above it.
-    void RemoveEntries(std::span<const int> entries, const std::function<void()> &remove);
+    /// Follows a change of the document by the rows that it concerns; all rows are new where these cannot be
+    /// named in one stretch, and then the result is false.
+    bool Apply(const ListChange &change);
+    /// Moves the document's insertion point.
     void SetInsertionPoint(int row);
     void RowsChanged(int first, int last);
     void AllRowsChanged() { RowsChanged(0, m_rows.RowCount() - 1); }
@@ -58,8 +55,14 @@ public:
 private:
     QVariant EntryData(int entry, int field, int role) const;
     QVariant NewEntryData(int field, int role) const;
+    void InsertRows(const ListDifference &difference);
+    void RemoveRows(const ListDifference &difference);
+    /// Entries that stand in one stretch of rows.
+    void RemoveStretch(int first, int last);
+    void TakeInsertionPoint();
 
-    const CWin32Doc &m_document;
+    CWin32Doc &m_document;
+    CWordList m_list;
     const EditorSettings &m_settings;
     const CTexts &m_texts;
     CRowModel m_rows;

@@ -193,3 +193,32 @@ void CEntrySequence::Reorder(std::span<const int> order)
         AppendPointer(std::move(pointers[size_t(index)]));
     }
 }
+
+int CEntrySequence::SharedAtStart(const CEntrySequence &other) const
+{
+    const size_t blocks = std::min(m_blocks.size(), other.m_blocks.size());
+    size_t block = 0;
+    while (block < blocks && m_blocks[block] == other.m_blocks[block]) {
+        ++block;
+    }
+    int shared = block == 0 ? 0 : m_starts[block - 1] + int(m_blocks[block - 1]->entries.size());
+    const int most = std::min(m_count, other.m_count);
+    while (shared < most && &At(shared) == &other.At(shared)) {
+        ++shared;
+    }
+    return shared;
+}
+
+int CEntrySequence::SharedAtEnd(const CEntrySequence &other, int most) const
+{
+    int shared = 0;
+    for (auto own = m_blocks.rbegin(), others = other.m_blocks.rbegin();
+         own != m_blocks.rend() && others != other.m_blocks.rend() && *own == *others; ++own, ++others) {
+        shared += int((*own)->entries.size());
+    }
+    shared = std::min(shared, most);
+    while (shared < most && &At(m_count - 1 - shared) == &other.At(other.m_count - 1 - shared)) {
+        ++shared;
+    }
+    return shared;
+}

@@ -37,6 +37,11 @@ public:
     /// Puts the entry that was order[i] at i; `order` holds every index once.
     void Reorder(std::span<const int> order);
 
+    /// How many entries from the first on, or from the last back and not more than `most`, both sequences
+    /// share.
+    int SharedAtStart(const CEntrySequence &other) const;
+    int SharedAtEnd(const CEntrySequence &other, int most) const;
+
 private:
     struct SharedEntry : QSharedData
     {

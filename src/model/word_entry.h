@@ -60,6 +60,8 @@ public:
     /// Exchanges a text field, and its flag when it has one, with another entry.
     void SwapFieldWith(CWordEntry &other, int field);
 
+    bool operator==(const CWordEntry &) const = default;
+
 private:
     /// GetAlternative() with its comments, of an existing language and without a copy: lists are searched for
     /// it.

@@ -52,6 +52,28 @@ inline constexpr int WholeEntry = -1;
 /// The numbers of SetFlags().
 enum class FlagMode { Clear = 0, Set = 1, Cycle = 2, Toggle = 3 };
 
+/// What lies between two states of a list: one stretch of entries, and whether the properties differ. The saved
+/// mark doesn't count.
+struct ListDifference
+{
+    enum class Entries {
+        Same,
+        Inserted, ///< None of the former entries went.
+        Removed, ///< None came, and those that are left stand in their order; they need not be neighbours.
+        Reordered, ///< The same entries in another order.
+        Changed ///< Anything else, the number of entries included.
+    };
+    Entries entries = Entries::Same;
+    /// The `removed` entries from `first` on became `inserted` ones; what stands before and after is the same.
+    int first = 0;
+    int removed = 0;
+    int inserted = 0;
+    bool properties = false;
+
+    bool IsNone() const { return entries == Entries::Same && !properties; }
+    bool operator==(const ListDifference &) const = default;
+};
+
 /// The content of one document: entries in display order and the list's own properties. Every change clears the
 /// saved mark. Copies share the entries that neither has changed since, so a copy costs a pointer per entry; a
 /// list is used by one thread at a time, copies may be used by different threads. A selection is a sequence of
@@ -139,10 +161,15 @@ public:
     /// how many entries disappeared.
     int MergeAll();
 
+    // States of one list (word_list_difference.cpp)
+    /// What makes `after` another list than this one. Cheap where they share what did not change.
+    ListDifference DifferenceTo(const CWordList &after) const;
+
 private:
     void Assign(QString &member, const QString &text);
     void SortByKey(int key, const SortOptions &options);
     void MergeGroup(Selection group);
+    bool HasPropertiesOf(const CWordList &other) const;
 
     std::array<QString, 2> m_language;
     QString m_author;

@@ -20,6 +20,4 @@ public:
     virtual void FocusList() = 0;
     /// Ends an open editing in the list and keeps what was typed.
     virtual void EndEditing() = 0;
-    /// Shows entries that changed.
-    virtual void Redraw() = 0;
 };

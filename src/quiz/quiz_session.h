@@ -82,9 +82,8 @@ public:
     std::vector<int> mistakes() const;
 
     // What a quiz changes in the list, and what follows it (quiz_session_changes.cpp)
-    /// The one way to change the list during a quiz and its result: everything is one step for undo, taken
-    /// at the first change. Call it only when something will change.
-    CWordList &beginChange();
+    /// The one way to change the list during a quiz and its result: everything is one step for undo.
+    void changeList(const std::function<void(CWordList &)> &change);
     /// Replaces the texts of any entry of the list. Does nothing when they are those that it has; call
     /// recheckAll() after one or more changes.
     void changeEntry(int index, const QString &term1, const QString &term2, const QString &note);

@@ -20,23 +20,16 @@ FlagLimits FlagLimits::Of(const ResultSettings &settings)
         settings.changeUnasked ? settings.changeUnaskedTo : -1};
 }
 
-CWordList &CQuizSession::beginChange()
+void CQuizSession::changeList(const std::function<void(CWordList &)> &change)
 {
-    const bool goesOn = m_ownChange == m_document.ChangeCounter();
-    CWordList &list = goesOn ? m_document.ContinueChange() : m_document.BeginChange();
-    m_ownChange = m_document.ChangeCounter();
-    return list;
+    if (m_document.Change(change, m_ownChange)) {
+        m_ownChange = m_document.ChangeCounter();
+    }
 }
 
 void CQuizSession::changeEntry(int index, const QString &term1, const QString &term2, const QString &note)
 {
-    // A copy, since the texts may be those of an entry.
-    const CWordEntry changed(term1, term2, note);
-    const CWordEntry &stored = m_document.List().Entry(index);
-    if (stored.GetText(0) != changed.GetText(0) || stored.GetText(1) != changed.GetText(1)
-        || stored.GetNote() != changed.GetNote()) {
-        beginChange().ReplaceEntry(index, changed.GetText(0), changed.GetText(1), changed.GetNote(), false);
-    }
+    changeList([&](CWordList &list) { list.ReplaceEntry(index, term1, term2, note, false); });
 }
 
 CWordEntry CQuizSession::entryAccepting(int position, const QString &answer) const
@@ -120,10 +113,9 @@ FlagChanges CQuizSession::flagChanges(const FlagLimits &limits) const
 int CQuizSession::applyFlags(const FlagLimits &limits)
 {
     const FlagChanges changes = flagChanges(limits);
-    if (!changes.flag.empty() || !changes.unflag.empty()) {
-        CWordList &list = beginChange();
+    changeList([&](CWordList &list) {
         list.SetFlags(m_questionColumn, changes.flag, FlagMode::Set);
         list.SetFlags(m_questionColumn, changes.unflag, FlagMode::Clear);
-    }
+    });
     return int(changes.flag.size() + changes.unflag.size());
 }

@@ -44,7 +44,7 @@ void FileCommandsTest::unsavedChanges()
     QFETCH(bool, saved);
     const QTemporaryDir folder;
     TestDocument test(QStringList{QStringLiteral("a|b")});
-    test.document.BeginChange().SetSaved(false);
+    test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Toggle); });
     CScriptedChooser chooser;
     chooser.paths = {chosenName.isEmpty() ? QString() : folder.filePath(chosenName)};
     test.prompt.answers = {answer};
@@ -73,7 +73,7 @@ void FileCommandsTest::savingWithAndWithoutAName()
     QCOMPARE(chooser.asked[0].filters, QStringList{QStringLiteral("Glosfil (*.gls)")});
     QCOMPARE(chooser.asked[0].defaultSuffix, QStringLiteral("gls"));
     QVERIFY(chooser.asked[0].start.endsWith(QStringLiteral("/Engelska av mig.gls")));
-    test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Set);
+    test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Set); });
     QVERIFY(files.Save());
     QCOMPARE(chooser.asked.size(), 1);
     const QString copy = folder.filePath(QStringLiteral("kopia.gls"));

@@ -17,7 +17,10 @@ struct Program
     CRecovery recovery;
 
     explicit Program(const QString &folder) : recovery(test.document, folder, 0) { }
-    void Add(const char *entry) { test.document.BeginChange().Insert(MakeEntry(QString::fromUtf8(entry))); }
+    void Add(const char *entry)
+    {
+        test.document.Change([entry](CWordList &list) { list.Insert(MakeEntry(QString::fromUtf8(entry))); });
+    }
     /// Lets the copy be written.
     void Settle()
     {

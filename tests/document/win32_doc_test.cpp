@@ -25,6 +25,8 @@ private Q_SLOTS:
     void saving();
     void foreignChangesAreNotOverwritten();
     void undoAcrossSaving();
+    void tellsWhatChanged();
+    void insertionPointGoesWithItsState();
     void listProperties();
     void mailing();
     void placeholders();
@@ -49,7 +51,7 @@ void Win32DocTest::newDocument()
     QVERIFY(list.IsSaved());
     QCOMPARE(test.document.Title(), QStringLiteral("Namnlös"));
     // Properties alone make no list worth saving.
-    test.document.BeginChange().SetAuthor(QStringLiteral("x"));
+    test.document.Change([](CWordList &changed) { changed.SetAuthor(QStringLiteral("x")); });
     QVERIFY(!test.document.IsModified());
     QCOMPARE(test.document.Title(), QStringLiteral("* Namnlös"));
 }
@@ -63,14 +65,17 @@ void Win32DocTest::newKeepsNamesWhenAllAreGiven()
         const CWordList &list = test.document.List();
         return list.GetLanguage(0) + list.GetLanguage(1) + list.GetAuthor();
     };
-    test.document.BeginChange().SetProperties({.language1 = QStringLiteral("Tyska"),
-        .language2 = QStringLiteral("Franska"),
-        .author = QStringLiteral("Jag"),
-        .questionTemplate1 = QStringLiteral("t")});
+    test.document.Change([&](CWordList &list) {
+        list.SetProperties({.language1 = QStringLiteral("Tyska"),
+            .language2 = QStringLiteral("Franska"),
+            .author = QStringLiteral("Jag"),
+            .questionTemplate1 = QStringLiteral("t")});
+    });
     test.document.OnNewDocument();
     QCOMPARE(names(), QStringLiteral("TyskaFranskaJag"));
     QCOMPARE(test.document.List().GetQuestionTemplate(0), QString());
-    test.document.BeginChange().SetProperties({.language1 = QString(), .author = QString()});
+    test.document.Change(
+        [&](CWordList &list) { list.SetProperties({.language1 = QString(), .author = QString()}); });
     test.document.OnNewDocument();
     QCOMPARE(names(), QStringLiteral("FinskaFranskaNy"));
 }
@@ -102,24 +107,25 @@ void Win32DocTest::opening()
     QFETCH(bool, modified);
     QFETCH(int, count);
     TestDocument test(QStringList{QStringLiteral("old|list")});
-    const QSignalSpy replaced(&test.document, &CWin32Doc::ListReplaced);
-    const QSignalSpy converted(&test.document, &CWin32Doc::FileConverted);
+    QList<bool> replaced;
+    connect(&test.document, &CWin32Doc::Changed, this, [&](const ListChange &change) {
+        QCOMPARE(test.document.List().Count(), count); // Told of what is there by then.
+        replaced.append(change.replaced);
+    });
     const QString path = Write(bytes);
     QCOMPARE(test.document.OpenDocument(path), count > 0);
     QCOMPARE(test.prompt.numbers, shown);
     QCOMPARE(test.document.Path(), keepsPath ? path : QString());
     QCOMPARE(test.document.IsModified(), modified);
     QCOMPARE(test.document.List().Count(), count);
-    QCOMPARE(replaced.count(), 1);
-    QCOMPARE(converted.count(), 0); // Told from the event loop.
-    QCoreApplication::processEvents();
-    QCOMPARE(converted.count(), int(count > 0 && !keepsPath));
+    QCOMPARE(replaced, QList<bool>{true});
+    QVERIFY(disconnect(&test.document, &CWin32Doc::Changed, this, nullptr));
 }
 
 void Win32DocTest::saving()
 {
     TestDocument test(QStringList{QStringLiteral("a|b")});
-    test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Set);
+    test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Set); });
     const QString bad = m_folder.filePath(QStringLiteral("no/folder.gls"));
     QVERIFY(!test.document.OnSaveDocument(bad));
     QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotSave});
@@ -163,7 +169,7 @@ void Win32DocTest::foreignChangesAreNotOverwritten()
     QVERIFY(test.document.OpenDocument(QFileInfo(path).fileName()));
     QDir::setCurrent(QDir::rootPath());
     QCOMPARE(test.document.Path(), path); // Whatever folder the program is in later.
-    test.document.BeginChange().SetFlags(0, std::vector<int>{0}, FlagMode::Clear);
+    test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Clear); });
     Write(foreign);
     test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
     QVERIFY(!test.document.OnSaveDocument(path));
@@ -185,8 +191,7 @@ void Win32DocTest::undoAcrossSaving()
     TestDocument test(QStringList{QStringLiteral("a|b")});
     QSignalSpy titles(&test.document, &CWin32Doc::TitleChanged);
     QCOMPARE(test.document.UndoCount(), 0);
-    test.document.BeginChange().Insert(MakeEntry(QStringLiteral("c|d")));
-    test.document.UpdateTitleMark();
+    test.document.Change([&](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("c|d"))); });
     QCOMPARE(titles.count(), 1);
     QVERIFY(test.document.OnSaveDocument(m_folder.filePath(QStringLiteral("undo.gls"))));
     QVERIFY(!test.document.IsModified());
@@ -198,6 +203,78 @@ void Win32DocTest::undoAcrossSaving()
     QVERIFY(!test.document.IsModified());
     test.document.OnNewDocument();
     QCOMPARE(test.document.UndoCount() + test.document.RedoCount(), 0);
+}
+
+void Win32DocTest::tellsWhatChanged()
+{
+    using Entries = ListDifference::Entries;
+    TestDocument test(QStringList{QStringLiteral("a|1"), QStringLiteral("b|2"), QStringLiteral("c|3"),
+        QStringLiteral("d|4"), QStringLiteral("e|5")});
+    QList<ListDifference> told;
+    connect(&test.document, &CWin32Doc::Changed, this, [&](const ListChange &change) {
+        QVERIFY(!change.replaced);
+        told.append(change.difference);
+    });
+    CRandom random(1);
+    int steps = 0;
+    const auto change = [&](auto function) {
+        told.clear();
+        steps += int(test.document.Change(function));
+        QCOMPARE(test.document.UndoCount(), steps);
+        QCOMPARE(test.document.IsModified(), steps > 0);
+    };
+    // Written anew as it is, sorted as it was, nothing selected: no step, and the list stays saved.
+    change([&](CWordList &list) {
+        list.Sort(0, {}, random);
+        list.SetFlags(0, std::array{1}, FlagMode::Toggle);
+        list.SetFlags(0, std::array{1}, FlagMode::Toggle);
+        list.DeleteEntries({});
+    });
+    QVERIFY(told.isEmpty());
+    change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("x|y")), {.position = 2}); });
+    QCOMPARE(told, (QList{ListDifference{Entries::Inserted, 2, 0, 1}}));
+    change([](CWordList &list) { list.DeleteEntries(std::array{1, 2, 4}); });
+    QCOMPARE(told, (QList{ListDifference{Entries::Removed, 1, 4, 1}}));
+    change([&](CWordList &list) { list.Sort(0, {.ascending = false}, random); });
+    QCOMPARE(told, (QList{ListDifference{Entries::Reordered, 0, 3, 3}}));
+    change([](CWordList &list) {
+        list.SetEntryField(QStringLiteral("n"), 2, 1, false);
+        list.SetAuthor(QStringLiteral("Eva"));
+    });
+    QCOMPARE(told, (QList{ListDifference{Entries::Changed, 1, 1, 1, true}}));
+    told.clear();
+    for (int step = 0; step < 3; ++step) {
+        test.document.Undo();
+    }
+    QCOMPARE(told,
+        (QList{ListDifference{Entries::Changed, 1, 1, 1, true}, ListDifference{Entries::Reordered, 0, 3, 3},
+            ListDifference{Entries::Changed, 1, 1, 4}}));
+    QVERIFY(disconnect(&test.document, &CWin32Doc::Changed, this, nullptr));
+}
+
+void Win32DocTest::insertionPointGoesWithItsState()
+{
+    TestDocument test(QStringList{QStringLiteral("a|1"), QStringLiteral("b|2"), QStringLiteral("c|3")});
+    CWin32Doc &document = test.document;
+    document.SetInsertionPoint(7);
+    QCOMPARE(document.InsertionPoint(), 3);
+    document.SetInsertionPoint(2);
+    document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("x|y")), {.position = 2}); });
+    QCOMPARE(document.InsertionPoint(), 3);
+    document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("z|y"))); });
+    QCOMPARE(document.InsertionPoint(), 3);
+    document.Change([](CWordList &list) { list.DeleteEntries(std::array{0, 2, 4}); });
+    QCOMPARE(document.InsertionPoint(), 1);
+    document.Change([](CWordList &list) { list.DeleteAll(); });
+    QCOMPARE(document.InsertionPoint(), 0);
+    for (const int expected : {1, 3, 3, 2}) {
+        document.Undo();
+        QCOMPARE(document.InsertionPoint(), expected);
+    }
+    for (const int expected : {3, 3, 1, 0}) {
+        document.Redo();
+        QCOMPARE(document.InsertionPoint(), expected);
+    }
 }
 
 void Win32DocTest::listProperties()
@@ -216,7 +293,7 @@ void Win32DocTest::mailing()
 {
     TestDocument test(QStringList{QStringLiteral("a|b")});
     test.settings.standardFilename = QStringLiteral("%language2 av mig");
-    test.document.BeginChange().SetSaved(false);
+    test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Toggle); });
     test.document.OnFileSendMail();
     QCOMPARE(test.started.size(), 1);
     const QString file = test.started[0].value(2);
@@ -231,9 +308,11 @@ void Win32DocTest::mailing()
 void Win32DocTest::placeholders()
 {
     TestDocument test(QStringList{QStringLiteral("a|b")});
-    test.document.BeginChange().SetProperties({.language1 = QStringLiteral("%author"),
-        .author = QStringLiteral("A/B"),
-        .comments = QStringLiteral("c")});
+    test.document.Change([&](CWordList &list) {
+        list.SetProperties({.language1 = QStringLiteral("%author"),
+            .author = QStringLiteral("A/B"),
+            .comments = QStringLiteral("c")});
+    });
     QCOMPARE(test.document.ExpandPlaceholders(QStringLiteral("%language1 %language2 %comments %nwords %none")),
         QStringLiteral("A/B Engelska c 1 %none"));
     test.settings.standardFilename = QStringLiteral("%language2: av %author?*");

@@ -20,18 +20,11 @@ struct Editor : IEntryView
         rows.SetEntryCount(int(entries.size()));
     }
 
-    void AddEntry(const std::function<void()> &add, bool) override
+    void SetInsertionPoint(int row) override
     {
-        add();
-        const int point = rows.InsertionPoint();
-        rows.SetEntryCount(rows.EntryCount() + 1);
-        rows.SetInsertionPoint(point + 1);
-    }
-    void EntryChanged(int entry) override { shown.append(QStringLiteral("changed %1").arg(entry)); }
-    void RemoveEntries(std::span<const int> entries, const std::function<void()> &remove) override
-    {
-        remove();
-        shown.append(QStringLiteral("removed %1").arg(entries.size()));
+        test.document.SetInsertionPoint(row);
+        rows.SetEntryCount(test.document.List().Count());
+        rows.SetInsertionPoint(test.document.InsertionPoint());
     }
     void PendingChanged() override { }
     void ShowNotes() override
@@ -102,7 +95,7 @@ void EntryEditingTest::emptyFields()
 void EntryEditingTest::addingFromFields()
 {
     Editor editor({T("a|b"), T("c|d")});
-    editor.rows.SetInsertionPoint(1);
+    editor.SetInsertionPoint(1);
     editor.test.settings.newwordflag = true;
     editor.test.settings.showNotes = false;
     const EditStep step = editor.editing.FromFields(Texts(" hund ", "dog*hound", " note "), CRowModel::NoEntry);
@@ -165,7 +158,7 @@ void EntryEditingTest::corrections()
 void EntryEditingTest::similarEntries()
 {
     Editor editor({T("a|b"), T("c|d"), T("e|f")});
-    editor.rows.SetInsertionPoint(0);
+    editor.SetInsertionPoint(0);
     editor.test.prompt.answers = {PromptAnswer::Yes, PromptAnswer::No, PromptAnswer::Yes};
     QCOMPARE(
         editor.editing.FromFields(Texts("c * x", "y"), CRowModel::NoEntry), (EditStep{Action::SelectEntry, 2}));
@@ -199,7 +192,7 @@ void EntryEditingTest::chainedEntry()
     QFETCH(bool, notes);
     QFETCH(QList<int>, edited);
     Editor editor({T("x|y"), T("z|w")});
-    editor.rows.SetInsertionPoint(1);
+    editor.SetInsertionPoint(1);
     editor.test.settings.lang1first = lang1first;
     editor.test.settings.showNotes = notes;
     const QStringList words = {T(" hund "), T("dog"), T("n")};
@@ -218,7 +211,7 @@ void EntryEditingTest::chainedEntry()
 void EntryEditingTest::cells()
 {
     Editor editor({T("a|b|n"), T("c|d")});
-    editor.rows.SetInsertionPoint(2);
+    editor.SetInsertionPoint(2);
     editor.editing.CellEdited(0, 0, T("  "));
     editor.editing.CellEdited(0, 1, T("*"));
     editor.editing.CellEdited(9, 0, T("x"));
@@ -240,7 +233,7 @@ void EntryEditingTest::sortedEntries()
     Editor editor({T("a|1"), T("c|2")});
     editor.test.settings.sortNewWords = true;
     editor.arrange.descending = false;
-    editor.rows.SetInsertionPoint(0);
+    editor.SetInsertionPoint(0);
     editor.editing.FromFields(Texts("b", "3"), CRowModel::NoEntry);
     QCOMPARE(editor.List(), (QStringList{T("a|1"), T("b|3"), T("c|2")}));
     QCOMPARE(editor.rows.InsertionPoint(), 1);

@@ -22,7 +22,6 @@ struct View
     explicit View(const QStringList &entries) : test(entries)
     {
         QApplication::clipboard()->clear();
-        view.RefreshAll();
         view.show();
         QApplication::setActiveWindow(&view);
     }

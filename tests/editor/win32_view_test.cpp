@@ -26,7 +26,6 @@ struct View
         layout->addWidget(&view);
         layout->addWidget(&other);
         window.resize(700, 500);
-        view.RefreshAll();
         window.show();
         QApplication::setActiveWindow(&window);
         List()->setFocus();
@@ -195,12 +194,13 @@ void Win32ViewTest::commandsWhileACellIsEdited()
     QCOMPARE(deleting.Entries(), (QStringList{QStringLiteral("a0|b0"), QStringLiteral("a2|b2")}));
 
     View undoing(Numbered(3));
-    undoing.test.document.BeginChange().SetFlags(0, std::array{0}, FlagMode::Set);
+    undoing.test.document.Change([&](CWordList &list) { list.SetFlags(0, std::array{0}, FlagMode::Set); });
     editing(undoing);
     undoing.test.document.Undo();
     QCoreApplication::processEvents();
     QCOMPARE(undoing.Entries(), Numbered(3));
-    QVERIFY(!undoing.List()->IsEditing());
+    undoing.view.EndEditing(true);
+    QCOMPARE(undoing.Entries().at(1), QStringLiteral("x|b1")); // What is being typed is not lost.
 
     View hiding(Numbered(3));
     editing(hiding);
@@ -391,8 +391,7 @@ void Win32ViewTest::undoKeepsTheRows()
     run.view.SelectEntries({1, 4, 5});
     run.view.SetFlags(FlagMode::Set);
     run.view.SelectEntries({0, 4, 5});
-    run.test.document.BeginChange().DeleteEntries(std::array{5});
-    run.view.RefreshAll();
+    run.test.document.Change([&](CWordList &list) { list.DeleteEntries(std::array{5}); });
     QCOMPARE(run.Selected(), QStringLiteral("0 4"));
     run.test.document.Undo();
     QCOMPARE(run.Selected(), QStringLiteral("0 4"));

@@ -69,20 +69,27 @@ void WordListModelTest::tellsOfChangedRows()
     };
     model.SetInsertionPoint(3);
     QCOMPARE(shown(), QStringLiteral("0 1 2 << Ny >> 3 4"));
-    const auto remove = [&](const std::vector<int> &gone) {
-        model.RemoveEntries(gone, [&] {
-            test.document.BeginChange().DeleteEntries(gone);
-            // Asked for in between, a row without an entry is empty.
-            QVERIFY(!model.index(model.rowCount() - 1, 0).data().isValid());
-        });
+    QObject::connect(&test.document, &CWin32Doc::Changed, &model, [&](const ListChange &change) {
+        model.Apply(change);
         QCOMPARE(model.rowCount(), test.document.List().Count() + 1);
+    });
+    const auto remove = [&](const std::vector<int> &gone) {
+        test.document.Change([&gone](CWordList &list) { list.DeleteEntries(gone); });
     };
     remove({0, 2, 3, 39});
     QCOMPARE(shown(), QStringLiteral("1 << Ny >> 4 5 6 7"));
-    model.AddEntry(
-        [&] { test.document.BeginChange().Insert(MakeEntry(QStringLiteral("x|y")), {.position = 1}); });
+    test.document.Change(
+        [](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("x|y")), {.position = 1}); });
     QCOMPARE(shown(), QStringLiteral("1 x << Ny >> 4 5 6"));
-    remove({2, 3}); // One block.
+    test.document.Change(
+        [](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("z|y")), {.position = 3}); });
+    QCOMPARE(shown(), QStringLiteral("1 x << Ny >> 4 z 5"));
+    model.SetInsertionPoint(3);
+    remove({2, 3, 4}); // One block, with the new-entry row in it.
+    QCOMPARE(shown(), QStringLiteral("1 x << Ny >> 6 7 8"));
+    test.document.Undo();
+    QCOMPARE(shown(), QStringLiteral("1 x 4 << Ny >> z 5"));
+    test.document.Redo();
     QCOMPARE(shown(), QStringLiteral("1 x << Ny >> 6 7 8"));
     std::vector<int> many;
     for (int entry = 1; entry < 35; ++entry) {
@@ -117,7 +124,7 @@ void WordListModelTest::columns()
     TestDocument test(QStringList{QStringLiteral("a|b"), QStringLiteral("c|d|n")});
     test.settings.showWordNumber = numbers;
     test.settings.showNotes = notes;
-    test.document.BeginChange().SetLanguage(0, QStringLiteral("  Svenska "));
+    test.document.Change([&](CWordList &list) { list.SetLanguage(0, QStringLiteral("  Svenska ")); });
     CWordListModel model(test.document, test.settings, test.texts);
     model.SetInsertionPoint(2);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -162,7 +169,7 @@ void WordListModelTest::summaries()
     QCOMPARE(summary.Describe(1, 1, 1), QStringLiteral("Glosa nummer 2. ") + all);
     QCOMPARE(summary.Describe(1, 0, -1), QStringLiteral("Här kommer nästa glosa att läggas till."));
     QCOMPARE(summary.Describe(3, 2, 0), QStringLiteral("2 glosor markerade. ") + all);
-    test.document.BeginChange().DeleteAll();
+    test.document.Change([&](CWordList &list) { list.DeleteAll(); });
     QVERIFY(summary.Describe(0, 0, -1).startsWith(QStringLiteral("0 glosor, 0 (0%)")));
 }
 

@@ -47,7 +47,7 @@ void ChangeEntryTest::lines()
     const QAbstractItemModelTester tester(&run.entries);
     QCOMPARE(run.Line(0), QStringLiteral("hund - dog - %1 & %n"));
     QCOMPARE(run.Line(1), QStringLiteral("katt - kat - "));
-    run.test.document.BeginChange().SetLanguage(0, QStringLiteral("A & B"));
+    run.test.document.Change([&](CWordList &list) { list.SetLanguage(0, QStringLiteral("A & B")); });
     QCOMPARE(run.entries.Label(0), QStringLiteral("&1 A && B:"));
     QCOMPARE(run.entries.Label(1), QStringLiteral("&2 Engelska:"));
 }

@@ -191,7 +191,7 @@ void QuizResultTest::savedMistakes()
     run.Answer(0, {QStringLiteral("x"), QStringLiteral("dog")});
     run.Answer(1, {QStringLiteral("cat")});
     run.Answer(2, {QStringLiteral("x")});
-    run.test.document.BeginChange().SetAuthor(QStringLiteral("Eva"));
+    run.test.document.Change([&](CWordList &list) { list.SetAuthor(QStringLiteral("Eva")); });
     const QString own = folder.filePath(QStringLiteral("djur.gls"));
     QVERIFY(run.test.document.OnSaveDocument(own));
 

@@ -204,7 +204,7 @@ void QuizSessionTest::recheckAfterAChange()
     session.recordAnswer(0, QStringLiteral("new"));
     session.recordAnswer(1, QString());
     session.recordAnswer(1, QStringLiteral("y"));
-    test.document.BeginChange().SetEntryField(QStringLiteral("new"), 1, 0, false);
+    test.document.Change([&](CWordList &list) { list.SetEntryField(QStringLiteral("new"), 1, 0, false); });
     session.recheckAll();
     QCOMPARE(session.totalRight(), 1);
     QCOMPARE(session.totalWrong(), 2);
@@ -390,12 +390,15 @@ void QuizSessionTest::questions()
     const QuizSettings settings = PlainSettings();
     const CQuizSession session(test.document, settings, random, {});
     const QString standard = QStringLiteral("What is %word?");
-    test.document.BeginChange().SetAdaptQuestion(0, true); // There is none of its own yet.
+    test.document.Change(
+        [&](CWordList &list) { list.SetAdaptQuestion(0, true); }); // There is none of its own yet.
     QCOMPARE(session.questionText(0, standard), QStringLiteral("What is q0?"));
-    test.document.BeginChange().SetProperties({.questionTemplate1 = QStringLiteral("%word (%from, %to)"),
-        .questionTemplate2 = QStringLiteral("other")});
+    test.document.Change([&](CWordList &list) {
+        list.SetProperties({.questionTemplate1 = QStringLiteral("%word (%from, %to)"),
+            .questionTemplate2 = QStringLiteral("other")});
+    });
     QCOMPARE(session.questionText(0, standard), QStringLiteral("What is q0?"));
-    test.document.BeginChange().SetAdaptQuestion(0, true);
+    test.document.Change([&](CWordList &list) { list.SetAdaptQuestion(0, true); });
     QCOMPARE(session.questionText(0, standard), QStringLiteral("q0 (Svenska, Engelska)"));
 }
 

@@ -28,13 +28,11 @@ struct TestDocument
     }
     explicit TestDocument(const QStringList &entries) : TestDocument()
     {
+        CWordList list = document.List();
         for (const QString &entry : entries) {
-            document.BeginChange().Insert(MakeEntry(entry));
+            list.Insert(MakeEntry(entry));
         }
-        document.BeginChange().SetSaved(true);
-        settings.undoSize = 0; // Drops the steps taken so far.
-        document.ApplyUndoSize();
-        settings.undoSize = 10;
-        document.ApplyUndoSize();
+        list.SetSaved(true);
+        document.ReplaceList(std::move(list));
     }
 };

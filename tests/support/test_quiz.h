@@ -26,7 +26,6 @@ public:
     }
     void FocusList() override { calls.append(QStringLiteral("focus")); }
     void EndEditing() override { calls.append(QStringLiteral("end editing")); }
-    void Redraw() override { calls.append(QStringLiteral("redraw")); }
 
     std::vector<int> selected;
     bool shown = true;

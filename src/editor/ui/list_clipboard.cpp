@@ -51,9 +51,7 @@ void CListClipboard::Paste()
         return;
     }
     const int first = m_view.InsertionPoint();
-    m_document.BeginChange().InsertAll(pasted, first);
-    m_view.RefreshAll();
-    m_view.SetInsertionPoint(first + count);
+    m_document.Change([&pasted, first](CWordList &list) { list.InsertAll(pasted, first); });
     m_view.SelectEntryRange(first, first + count - 1);
     m_view.UpdateStatusText(m_texts.Fill(Text::EntriesPasted, {QString::number(count)}));
 }

@@ -21,6 +21,16 @@ CElidedLabel *MakeLabel(QWidget *parent, const char *name)
     return label;
 }
 
+/// The ranges of rows without what lies behind the last row.
+std::vector<std::pair<int, int>> RangesUpTo(std::vector<std::pair<int, int>> ranges, int last)
+{
+    std::erase_if(ranges, [last](const auto &range) { return range.first > last; });
+    if (!ranges.empty()) {
+        ranges.back().second = std::min(ranges.back().second, last);
+    }
+    return ranges;
+}
+
 }
 
 CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
@@ -52,16 +62,7 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
     ConnectList();
     connect(m_fields, &CEntryFields::NewEntry, this, &CWin32View::ClearFields);
     connect(m_fields, &CEntryFields::AddOrChange, this, &CWin32View::FieldsEntered);
-    connect(&services.document, &CWin32Doc::DocumentReplaced, this, [this] {
-        // What was typed and selected belonged to the document before.
-        m_list->EndEditing(false);
-        m_list->clearSelection();
-        m_list->setCurrentIndex({});
-        m_list->scrollToTop();
-        m_model->Rows().pending = {};
-        m_model->Rows().SetInsertionPoint(0);
-    });
-    connect(&services.document, &CWin32Doc::ListReplaced, this, &CWin32View::ListReplaced);
+    connect(&services.document, &CWin32Doc::Changed, this, &CWin32View::ListChanged);
     RefreshAll();
 }
 
@@ -87,17 +88,38 @@ void CWin32View::ConnectList()
     });
 }
 
-void CWin32View::ListReplaced()
+void CWin32View::ListChanged(const ListChange &change)
+{
+    if (change.replaced) {
+        ForgetDocument();
+    }
+    const int entries = m_model->Rows().EntryCount();
+    KeepSelection([this, &change] {
+        if (!m_model->Apply(change)) {
+            m_list->layoutChangedColumns();
+        }
+    });
+    if (m_model->Rows().EntryCount() > entries) {
+        m_list->widenNumberColumn();
+    }
+    if (change.PropertiesChanged()) {
+        ShowProperties();
+    }
+}
+
+void CWin32View::ForgetDocument()
 {
     m_list->EndEditing(false);
-    RefreshAll();
+    m_list->clearSelection();
+    m_list->setCurrentIndex({});
+    m_list->scrollToTop();
 }
 
 void CWin32View::RefreshAll()
 {
-    ResetRows(true);
+    KeepSelection([this] { m_model->Reset(); });
+    m_list->layoutChangedColumns();
     ShowProperties();
-    m_services.document.UpdateTitleMark();
 }
 
 void CWin32View::ShowProperties()
@@ -108,40 +130,33 @@ void CWin32View::ShowProperties()
     m_fields->SetLanguages(list.GetLanguage(0), list.GetLanguage(1));
 }
 
-void CWin32View::ResetRows(bool keepSelection, std::optional<std::pair<int, int>> cursor)
+void CWin32View::KeepSelection(const std::function<void()> &show)
 {
-    auto ranges = keepSelection ? m_list->SelectedRanges() : std::vector<std::pair<int, int>>();
-    const auto [cursorRow, usedField] = cursor.value_or(std::pair(m_list->CursorRow(), m_list->CursorField()));
-    const int cursorField = cursorRow < 0 ? int(!m_services.settings.lang1first) : std::max(usedField, 0);
-
+    const auto ranges = m_list->SelectedRanges();
+    const int row = m_list->CursorRow();
+    const int field = m_list->CursorField();
+    bool reset = false;
+    const auto connection = connect(m_model, &QAbstractItemModel::modelReset, this, [&reset] { reset = true; });
     m_suppressSelectionSync = true;
-    m_model->Reset();
-    const int last = m_model->rowCount() - 1;
-    std::erase_if(ranges, [last](const auto &range) { return range.first > last; });
-    if (!ranges.empty()) {
-        ranges.back().second = std::min(ranges.back().second, last);
+    show();
+    disconnect(connection);
+    if (reset) {
+        m_list->SelectRanges(RangesUpTo(ranges, m_model->rowCount() - 1));
     }
-    m_list->SelectRanges(ranges);
-    // Without a cursor no key would have a cell to go to.
-    const int lastField = m_model->column(CWordEntry::NoteField) < m_model->columnCount() ? 2 : 1;
-    const int row = cursorRow < 0 ? InsertionPoint() : std::min(cursorRow, last);
-    m_list->SetCursor(row, std::min(cursorField, lastField));
+    if (reset || m_list->CursorRow() < 0) {
+        PlaceCursor(row, field);
+    }
     m_suppressSelectionSync = false;
-    m_list->layoutChangedColumns();
     ReadSelection();
 }
 
-void CWin32View::RedrawEntries(int first, int last)
+void CWin32View::PlaceCursor(int row, int field)
 {
-    m_services.document.UpdateTitleMark();
-    if (m_model->Rows().EntryCount() != m_services.document.List().Count()) {
-        ResetRows(true);
-    } else if (first < 0) {
-        m_model->AllRowsChanged();
-    } else {
-        const CRowModel &rows = m_model->Rows();
-        m_model->RowsChanged(rows.RowOfEntry(first), rows.RowOfEntry(std::max(first, last)));
-    }
+    // Without a cursor no key would have a cell to go to.
+    const int lastField = m_model->column(CWordEntry::NoteField) < m_model->columnCount() ? 2 : 1;
+    const int wanted = row < 0 ? int(!m_services.settings.lang1first) : std::max(field, 0);
+    m_list->SetCursor(
+        row < 0 ? InsertionPoint() : std::min(row, m_model->rowCount() - 1), std::min(wanted, lastField));
 }
 
 void CWin32View::UpdateStatusText(const QString &text)

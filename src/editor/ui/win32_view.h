@@ -17,6 +17,7 @@ class CRandom;
 class CWordListControl;
 class CWordListModel;
 struct CellEdit;
+struct ListChange;
 
 /// What the view is handed; none of it is owned.
 struct ViewServices
@@ -53,14 +54,12 @@ public:
     void SelectEntries(const std::vector<int> &entries);
     void SelectEntryRange(int first, int last);
 
-    void SetInsertionPoint(int row);
+    void SetInsertionPoint(int row) override;
     void MoveInsertionPoint(int delta);
     int InsertionPoint() const;
 
-    /// Shows everything anew; the selected rows stay selected.
+    /// Shows everything anew, after columns came or went; the selected rows stay selected.
     void RefreshAll();
-    /// The entries changed; a last of -1 means the first only, two of them everything.
-    void RedrawEntries(int first, int last);
     /// Shows a text in the status line until something else is to be told; empty for what is selected.
     void UpdateStatusText(const QString &text = {});
     /// Empties the fields for a new entry.
@@ -99,11 +98,14 @@ Q_SIGNALS:
 
 private:
     void ConnectList();
-    void ListReplaced();
+    void ListChanged(const ListChange &change);
+    /// What was typed and selected belonged to the document before.
+    void ForgetDocument();
     void ShowProperties();
-    /// Shows the rows anew; the same rows stay selected, or none.
-    /// `cursor` is the row and field of the cell cursor; none where it stands now.
-    void ResetRows(bool keepSelection, std::optional<std::pair<int, int>> cursor = {});
+    /// Runs `show`, which may show all rows anew; the same rows stay selected, and the cell cursor stays.
+    void KeepSelection(const std::function<void()> &show);
+    /// Selects no row and puts the cell cursor in a cell that there is.
+    void PlaceCursor(int row, int field);
     void ReadSelection();
     void LoadFields(int entry);
 
@@ -113,11 +115,6 @@ private:
     void FlagClicked(int row, int language);
     void CellDoubleClicked(int row, int field, bool shift);
     void SearchTyped(const QString &start, int row);
-    void AfterChange();
-
-    void AddEntry(const std::function<void()> &add, bool sorted) override;
-    void EntryChanged(int entry) override;
-    void RemoveEntries(std::span<const int> entries, const std::function<void()> &remove) override;
     void PendingChanged() override;
     void ShowNotes() override;
     void MarkEntry(int entry) override;

@@ -30,7 +30,6 @@ void CWin32View::CellEdited(const CellEdit &edit)
     const EditStep step = m_editing.CellEdited(edit.row, edit.field, edit.text);
     // Typing goes on with Enter, and with Tab as in a table.
     Follow(step, edit.key == Key::Enter || (newEntry && edit.key == Key::Tab));
-    AfterChange();
     if (!newEntry && step.action == EditStep::Action::None && edit.key != Key::None && edit.key != Key::Enter) {
         const int field = edit.field + (edit.key == Key::Tab ? 1 : -1);
         if (field >= 0 && m_model->column(field) < m_model->columnCount()) {
@@ -44,7 +43,6 @@ void CWin32View::FieldsEntered()
     EndEditing(true);
     const int entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : CRowModel::NoEntry;
     Follow(m_editing.FromFields(m_fields->Texts(), entry), true);
-    AfterChange();
 }
 
 void CWin32View::Follow(const EditStep &step, bool byEnter)
@@ -73,12 +71,6 @@ void CWin32View::Follow(const EditStep &step, bool byEnter)
     }
 }
 
-void CWin32View::AfterChange()
-{
-    m_services.document.UpdateTitleMark();
-    UpdateStatusText();
-}
-
 void CWin32View::ClearFields()
 {
     m_list->SelectRow(-1, false);
@@ -90,43 +82,6 @@ void CWin32View::ClearFields()
         m_fields->FocusField(m_services.settings.lang1first ? 0 : 1);
     }
     UpdateStatusText();
-}
-
-void CWin32View::AddEntry(const std::function<void()> &add, bool sorted)
-{
-    {
-        std::optional<CWaitCursor> wait;
-        if (sorted) {
-            wait.emplace();
-        }
-        m_model->AddEntry(add);
-    }
-    if (sorted) {
-        m_model->AllRowsChanged();
-        ReadSelection(); // The selected rows may hold other entries.
-    }
-    m_list->widenNumberColumn();
-}
-
-void CWin32View::EntryChanged(int entry)
-{
-    RedrawEntries(entry, -1);
-    if (entry == FirstSelectedEntry()) {
-        LoadFields(entry);
-    }
-}
-
-void CWin32View::RemoveEntries(std::span<const int> entries, const std::function<void()> &remove)
-{
-    const CWaitCursor wait;
-    const int row = m_list->CursorRow();
-    const int field = m_list->CursorField();
-    const auto above =
-        std::ranges::count_if(entries, [&](int entry) { return m_model->Rows().RowOfEntry(entry) < row; });
-    m_suppressSelectionSync = true;
-    m_model->RemoveEntries(entries, remove);
-    m_suppressSelectionSync = false;
-    ResetRows(false, std::pair(std::max(row - int(above), 0), field));
 }
 
 void CWin32View::PendingChanged()
@@ -155,9 +110,7 @@ void CWin32View::DeleteSelection()
     EndEditing(true);
     const std::vector<int> entries = SelectedEntries();
     const bool hadKeyboard = m_list->hasFocus();
-    if (m_editing.DeleteEntries(entries)) {
-        AfterChange();
-    }
+    if (m_editing.DeleteEntries(entries)) { }
     if (hadKeyboard) {
         m_list->setFocus();
     }
@@ -212,13 +165,10 @@ void CWin32View::Sort(int field)
     if (m_services.document.List().Count() < 2) {
         return;
     }
-    {
-        const CWaitCursor wait;
-        m_services.document.BeginChange().Sort(field, sortOptions(m_services.arrange), m_services.random);
-    }
-    m_model->AllRowsChanged();
+    const CWaitCursor wait;
+    m_services.document.Change(
+        [&](CWordList &list) { list.Sort(field, sortOptions(m_services.arrange), m_services.random); });
     m_list->SelectRow(InsertionPoint(), false);
-    AfterChange();
 }
 
 void CWin32View::SetFlags(FlagMode mode)
@@ -232,9 +182,7 @@ void CWin32View::SetFlags(FlagMode mode)
         }
         m_editing.SetFlags(CursorField(), entries, mode);
     }
-    m_model->AllRowsChanged();
     m_list->TellCursorName();
-    AfterChange();
 }
 
 void CWin32View::FlagClicked(int row, int language)
@@ -243,8 +191,6 @@ void CWin32View::FlagClicked(int row, int language)
     const int entry = m_model->Rows().EntryOfRow(row);
     if (entry >= 0 && entry < m_services.document.List().Count()) {
         m_editing.SetFlags(language, std::array{entry}, FlagMode::Toggle);
-        m_model->RowsChanged(row, row);
-        AfterChange();
     }
 }
 

@@ -113,10 +113,6 @@ void CWin32View::SelectAll()
 void CWin32View::ReadSelection()
 {
     const int entry = FirstSelectedEntry();
-    if (entry >= m_services.document.List().Count()) {
-        RefreshAll(); // The rows are older than the list.
-        return;
-    }
     LoadFields(entry);
     UpdateStatusText();
     Q_EMIT SelectionChanged();

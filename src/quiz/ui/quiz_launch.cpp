@@ -32,7 +32,6 @@ void CQuizLaunch::startQuiz(int kind)
     }
     const CWaitCursor wait;
     m_kind = kind;
-    m_changesBefore = document.ChangeCounter();
     const std::vector<int> selected = m_services.host.SelectedEntries();
     m_session = std::make_unique<CQuizSession>(document, m_services.settings, m_services.random, selected);
     if (m_session->roundSize() == 0 || m_session->baseRound() > m_services.settings.quizNumber) {
@@ -93,7 +92,4 @@ void CQuizLaunch::finish()
     }
     m_services.host.FocusList();
     m_lastSession = std::move(m_session);
-    if (m_services.document.ChangeCounter() != m_changesBefore) {
-        m_services.host.Redraw();
-    }
 }

@@ -50,7 +50,6 @@ private:
     QuizLaunchServices m_services;
     QWidget &m_mainWindow;
     int m_kind = 0;
-    quint64 m_changesBefore = 0;
     std::unique_ptr<CQuizSession> m_session;
     std::unique_ptr<CQuizSession> m_lastSession; // Its windows are deleted a little later.
     std::unique_ptr<CQuizDialog> m_dialog;

@@ -84,27 +84,18 @@ CMainFrame::CMainFrame(const FrameServices &services)
     statusBar()->addWidget(m_statusText, 1);
 
     connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::setText);
-    connect(&services.document, &CWin32Doc::ListReplaced, this, &CMainFrame::Refresh);
-    connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::Refresh);
-    // A change is told before it is made, so what shows it waits for the event loop.
-    connect(
-        &services.document, &CWin32Doc::Changed, this,
-        [this] {
-            m_services.document.UpdateTitleMark();
-            UpdateCommands();
-        },
-        Qt::QueuedConnection);
+    connect(&services.document, &CWin32Doc::Changed, this, &CMainFrame::UpdateCommands);
+    connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::ShowTitle);
     connect(m_editorCommands, &CEditorCommands::StateChanged, this, &CMainFrame::UpdateCommands);
     connect(m_view, &CWin32View::RowMenuRequested, this,
         [this](const QPoint &place) { ShowMenu(rowMenu(), place); });
     connect(m_view, &CWin32View::ColumnMenuRequested, this,
         [this](const QPoint &place) { ShowMenu(columnMenu(), place); });
-    connect(&services.document, &CWin32Doc::FileConverted, m_view, &CWin32View::RefreshAll);
     services.files.SetFinishEditing([this] { m_view->EndEditing(true); });
     setAcceptDrops(true);
-    m_view->RefreshAll();
     m_view->setFocus();
-    Refresh();
+    ShowTitle();
+    UpdateCommands();
 }
 
 CMainFrame::~CMainFrame()
@@ -234,11 +225,10 @@ void CMainFrame::OpenQuizSettings()
     dialog->open();
 }
 
-void CMainFrame::Refresh()
+void CMainFrame::ShowTitle()
 {
     // The toolkit takes a single mark for the place of its own sign of changes.
     setWindowTitle(m_services.document.Title().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
-    UpdateCommands();
 }
 
 void CMainFrame::UpdateCommands()
@@ -308,11 +298,6 @@ void CMainFrame::FocusList()
 void CMainFrame::EndEditing()
 {
     m_view->EndEditing(true);
-}
-
-void CMainFrame::Redraw()
-{
-    m_view->RefreshAll();
 }
 
 void CMainFrame::OpenDropped(const QStringList &paths)

@@ -84,7 +84,6 @@ public:
     void ShowMainWindow(bool show) override;
     void FocusList() override;
     void EndEditing() override;
-    void Redraw() override;
 
 Q_SIGNALS:
     /// The window was closed and nothing stands against ending the program.
@@ -104,7 +103,7 @@ private:
     void ConnectCommands();
     void ConnectQuizCommands();
     void OpenQuizSettings();
-    void Refresh();
+    void ShowTitle();
     void UpdateCommands();
     /// A menu of the commands that a list names.
     void ShowMenu(const QList<int> &commands, const QPoint &place);

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "model/word_list.h"
+
+#include <algorithm>
+
+namespace {
+
+using Entries = ListDifference::Entries;
+
+/// Whether `after` holds entries of `before` alone, in their order. States share the entries that did not
+/// change, so an entry is known by its address.
+bool IsPartOf(const CWordList &before, const CWordList &after, const ListDifference &difference)
+{
+    int left = 0;
+    for (int i = 0; i < difference.removed && left < difference.inserted; ++i) {
+        left += int(&before.Entry(difference.first + i) == &after.Entry(difference.first + left));
+    }
+    return left == difference.inserted;
+}
+
+/// Whether the stretch holds the same entries before and after: by sums of their addresses, since sorting a
+/// million of them takes longer than what is told of.
+bool HoldsTheSame(const CWordList &before, const CWordList &after, const ListDifference &difference)
+{
+    quintptr sum = 0;
+    quintptr squares = 0;
+    for (int i = difference.first; i < difference.first + difference.removed; ++i) {
+        const auto was = reinterpret_cast<quintptr>(&before.Entry(i));
+        const auto is = reinterpret_cast<quintptr>(&after.Entry(i));
+        sum += was - is;
+        squares += was * was - is * is;
+    }
+    return sum == 0 && squares == 0;
+}
+
+Entries KindOf(const CWordList &before, const CWordList &after, const ListDifference &difference)
+{
+    if (difference.removed == difference.inserted) {
+        return HoldsTheSame(before, after, difference) ? Entries::Reordered : Entries::Changed;
+    }
+    if (difference.removed == 0) {
+        return Entries::Inserted;
+    }
+    return IsPartOf(before, after, difference) ? Entries::Removed : Entries::Changed;
+}
+
+}
+
+bool CWordList::HasPropertiesOf(const CWordList &other) const
+{
+    return m_language == other.m_language && m_author == other.m_author && m_comments == other.m_comments
+        && m_adaptQuestion == other.m_adaptQuestion && m_questionTemplate == other.m_questionTemplate;
+}
+
+ListDifference CWordList::DifferenceTo(const CWordList &after) const
+{
+    ListDifference difference = {.properties = !HasPropertiesOf(after)};
+    const int sharedAtStart = m_entries.SharedAtStart(after.m_entries);
+    const int sharedAtEnd =
+        m_entries.SharedAtEnd(after.m_entries, std::min(Count(), after.Count()) - sharedAtStart);
+    int first = sharedAtStart;
+    int removed = Count() - sharedAtStart - sharedAtEnd;
+    int inserted = after.Count() - sharedAtStart - sharedAtEnd;
+    if (removed == inserted) {
+        // Entries written anew, or moved, may be as they were.
+        while (removed > 0 && Entry(first) == after.Entry(first)) {
+            ++first;
+            --removed;
+        }
+        while (removed > 0 && Entry(first + removed - 1) == after.Entry(first + removed - 1)) {
+            --removed;
+        }
+        inserted = removed;
+    }
+    if (removed > 0 || inserted > 0) {
+        difference.first = first;
+        difference.removed = removed;
+        difference.inserted = inserted;
+        difference.entries = KindOf(*this, after, difference);
+    }
+    return difference;
+}
