@@ -42,8 +42,8 @@ void ReadHeader(CWordList &list, CTextFileReader &reader, const GlossaryVersion 
     if (version.hasQuestions) {
         for (const int direction : {0, 1}) {
             const QByteArray mark = NarrowHeaderLine(reader);
-            list.SetAdaptQuestion(direction, !mark.isEmpty() && mark.front() != '0');
             list.SetQuestionTemplate(direction, HeaderLine(reader));
+            list.SetAdaptQuestion(direction, !mark.isEmpty() && mark.front() != '0');
         }
     }
     HeaderLine(reader); // The empty line between header and records.

@@ -123,35 +123,6 @@ QString CWordEntry::GetCleanTerm(int index) const
     return StripComments(GetText(index));
 }
 
-void CWordEntry::AppendAlternative(const QString &text, int index)
-{
-    if (!IsLanguage(index)) {
-        return;
-    }
-    QString &term = m_terms[size_t(index)];
-    QStringList &alternatives = m_alternatives[size_t(index)];
-    if (alternatives.isEmpty() && !term.isEmpty()) {
-        alternatives.append(term);
-    }
-    if (!term.isEmpty()) {
-        term += AlternativeJoint;
-    }
-    term += text;
-    alternatives.append(text);
-}
-
-void CWordEntry::MergeAlternatives(const CWordEntry &other)
-{
-    for (int index = 0; index < LanguageCount; ++index) {
-        for (int k = 0; k <= other.AlternativeCount(index); ++k) {
-            const QString alternative = other.GetAlternative(index, k, false);
-            if (!HasAlternative(alternative, index, false)) {
-                AppendAlternative(alternative, index);
-            }
-        }
-    }
-}
-
 const QString &CWordEntry::StoredAlternative(int index, int k) const
 {
     const QStringList &alternatives = m_alternatives[size_t(index)];

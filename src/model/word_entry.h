@@ -38,6 +38,7 @@ public:
     void CycleFlags();
 
     bool HasNote() const { return !m_note.isEmpty(); }
+    bool HasTerm() const { return !m_terms[0].isEmpty() || !m_terms[1].isEmpty(); }
     /// True when the oldest file format with flags can hold what the entry has beside its terms.
     bool FitsOldFormat() const { return m_note.isEmpty() && !m_flags[1]; }
 
@@ -47,10 +48,6 @@ public:
     /// The whole term without its comments.
     QString GetCleanTerm(int index) const;
 
-    /// Adds `text`, as it is, behind the alternatives of the term.
-    void AppendAlternative(const QString &text, int index);
-    /// Appends the alternatives of `other` that this entry does not have, for both languages.
-    void MergeAlternatives(const CWordEntry &other);
     /// Alternatives are compared with their comments.
     bool HasAlternative(const QString &text, int index, bool caseInsensitive) const;
     bool SharesAlternative(const CWordEntry &other, int index, bool caseInsensitive) const;
@@ -60,7 +57,8 @@ public:
     /// Exchanges a text field, and its flag when it has one, with another entry.
     void SwapFieldWith(CWordEntry &other, int field);
 
-    bool operator==(const CWordEntry &) const = default;
+    /// True when all texts and flags are exactly the same.
+    bool operator==(const CWordEntry &other) const = default;
 
 private:
     /// GetAlternative() with its comments, of an existing language and without a copy: lists are searched for

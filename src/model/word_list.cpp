@@ -3,6 +3,21 @@
 
 #include <algorithm>
 
+namespace {
+
+bool IsLanguage(int index)
+{
+    return index == 0 || index == 1;
+}
+
+const QString &TextAt(const std::array<QString, 2> &texts, int index)
+{
+    static const QString empty;
+    return IsLanguage(index) ? texts[size_t(index)] : empty;
+}
+
+}
+
 void CWordList::Assign(QString &member, const QString &text)
 {
     if (member != text) {
@@ -11,9 +26,26 @@ void CWordList::Assign(QString &member, const QString &text)
     }
 }
 
+const QString &CWordList::GetLanguage(int index) const
+{
+    return TextAt(m_language, index);
+}
+
+bool CWordList::GetAdaptQuestion(int index) const
+{
+    return IsLanguage(index) && m_adaptQuestion[size_t(index)];
+}
+
+const QString &CWordList::GetQuestionTemplate(int index) const
+{
+    return TextAt(m_questionTemplate, index);
+}
+
 void CWordList::SetLanguage(int index, const QString &text)
 {
-    Assign(m_language[size_t(index)], text);
+    if (IsLanguage(index)) {
+        Assign(m_language[size_t(index)], text);
+    }
 }
 
 void CWordList::SetAuthor(const QString &text)
@@ -28,36 +60,54 @@ void CWordList::SetComments(const QString &text)
 
 void CWordList::SetAdaptQuestion(int index, bool value)
 {
-    if (m_adaptQuestion[size_t(index)] != value) {
-        m_adaptQuestion[size_t(index)] = value;
+    const bool adapt = value && !GetQuestionTemplate(index).isEmpty();
+    if (IsLanguage(index) && m_adaptQuestion[size_t(index)] != adapt) {
+        m_adaptQuestion[size_t(index)] = adapt;
         m_saved = false;
     }
 }
 
 void CWordList::SetQuestionTemplate(int index, const QString &text)
 {
-    Assign(m_questionTemplate[size_t(index)], text);
-    if (text.isEmpty()) {
-        SetAdaptQuestion(index, false);
+    if (IsLanguage(index)) {
+        Assign(m_questionTemplate[size_t(index)], text);
+        SetAdaptQuestion(index, GetAdaptQuestion(index));
     }
 }
 
 void CWordList::SetProperties(const ListProperties &properties)
 {
-    const auto apply = [](const std::optional<QString> &text, auto setter) {
-        if (text) {
-            setter(*text);
+    const auto apply = [](const auto &value, auto setter) {
+        if (value) {
+            setter(*value);
         }
     };
     apply(properties.language1, [this](const QString &text) { SetLanguage(0, text); });
     apply(properties.language2, [this](const QString &text) { SetLanguage(1, text); });
     apply(properties.author, [this](const QString &text) { SetAuthor(text); });
     apply(properties.comments, [this](const QString &text) { SetComments(text); });
-    // The templates come last, so that an empty one wins over an adapt mark.
-    SetAdaptQuestion(0, properties.adaptQuestion1);
-    SetAdaptQuestion(1, properties.adaptQuestion2);
+    // The templates come first: whether a mark may be set depends on them.
     apply(properties.questionTemplate1, [this](const QString &text) { SetQuestionTemplate(0, text); });
     apply(properties.questionTemplate2, [this](const QString &text) { SetQuestionTemplate(1, text); });
+    apply(properties.adaptQuestion1, [this](bool adapt) { SetAdaptQuestion(0, adapt); });
+    apply(properties.adaptQuestion2, [this](bool adapt) { SetAdaptQuestion(1, adapt); });
+}
+
+std::vector<int> CWordList::Existing(Selection selection) const
+{
+    std::vector<int> indices(selection.begin(), selection.end());
+    std::erase_if(indices, [this](int index) { return !m_entries.IsIndex(index); });
+    std::ranges::sort(indices);
+    indices.erase(std::unique(indices.begin(), indices.end()), indices.end());
+    return indices;
+}
+
+void CWordList::Store(int index, CWordEntry entry)
+{
+    if (entry != Entry(index)) {
+        m_entries.Mutable(index) = std::move(entry);
+        m_saved = false;
+    }
 }
 
 const CWordEntry &CWordList::Entry(int index) const
@@ -126,15 +176,12 @@ int CWordList::ReplaceEntry(
     }
     const CWordEntry &stored = Entry(index);
     // Made before anything changes: the texts may be those of the entry itself.
-    const CWordEntry changed(term1, term2, note, stored.GetFlag(0), stored.GetFlag(1));
+    CWordEntry changed(term1, term2, note, stored.GetFlag(0), stored.GetFlag(1));
     int similar = -1;
     if (checkSimilar) {
         FindSimilar(changed, similar, index, -1);
     }
-    if (stored.GetText(0) != term1 || stored.GetText(1) != term2 || stored.GetNote() != note) {
-        m_entries.Mutable(index) = changed;
-        m_saved = false;
-    }
+    Store(index, std::move(changed));
     return similar;
 }
 
@@ -150,70 +197,65 @@ int CWordList::SetEntryField(const QString &text, int field, int index, bool che
         candidate.SetTerm(text, target);
         FindSimilar(candidate, similar, index, target);
     }
-    if (Entry(index).GetField(target) != text) {
-        CWordEntry changed = Entry(index);
-        changed.SetField(text, target);
-        m_entries.Mutable(index) = changed;
-        m_saved = false;
-    }
+    CWordEntry changed = Entry(index);
+    changed.SetField(text, target);
+    Store(index, std::move(changed));
     return similar;
 }
 
 void CWordList::DeleteEntries(Selection selection)
 {
-    m_saved = false;
-    m_entries.Remove(selection);
+    const std::vector<int> indices = Existing(selection);
+    if (!indices.empty()) {
+        m_saved = false;
+        m_entries.Remove(indices);
+    }
 }
 
 void CWordList::SwapInEntries(Selection selection, bool swapTexts, bool swapFlags, int a, int b)
 {
-    m_saved = false;
-    for (const int index : selection) {
-        if (m_entries.IsIndex(index)) {
-            m_entries.Mutable(index).SwapFields(swapTexts, swapFlags, a, b);
-        }
+    for (const int index : Existing(selection)) {
+        CWordEntry changed = Entry(index);
+        changed.SwapFields(swapTexts, swapFlags, a, b);
+        Store(index, std::move(changed));
     }
 }
 
 void CWordList::MoveEntries(Selection selection, bool up, int field)
 {
-    m_saved = false;
     const auto exchange = [&](int index) {
         const int other = up ? index - 1 : index + 1;
-        if (!m_entries.IsIndex(index) || !m_entries.IsIndex(other)) {
+        if (!m_entries.IsIndex(other) || field > CWordEntry::NoteField) {
             return;
         }
+        m_saved = false;
         if (field < 0) {
             m_entries.Swap(index, other);
         } else {
             m_entries.Mutable(index).SwapFieldWith(m_entries.Mutable(other), field);
         }
     };
+    const std::vector<int> indices = Existing(selection);
     // The block's leading entry goes first, so that the entry in its way travels through the whole block.
     if (up) {
-        std::for_each(selection.begin(), selection.end(), exchange);
+        std::for_each(indices.begin(), indices.end(), exchange);
     } else {
-        std::for_each(selection.rbegin(), selection.rend(), exchange);
+        std::for_each(indices.rbegin(), indices.rend(), exchange);
     }
 }
 
 void CWordList::SetFlags(int language, Selection selection, FlagMode mode)
 {
-    for (const int index : selection) {
-        if (!m_entries.IsIndex(index)) {
-            continue;
-        }
-        const bool flag = Entry(index).GetFlag(language);
-        if ((mode == FlagMode::Clear && !flag) || (mode == FlagMode::Set && flag)) {
-            continue;
-        }
-        m_saved = false;
-        CWordEntry &entry = m_entries.Mutable(index);
-        if (mode == FlagMode::Cycle) {
-            entry.CycleFlags();
+    for (const int index : Existing(selection)) {
+        CWordEntry changed = Entry(index);
+        if (mode == FlagMode::Clear || mode == FlagMode::Set) {
+            changed.SetFlag(language, mode == FlagMode::Set);
+        } else if (mode == FlagMode::Cycle) {
+            changed.CycleFlags();
         } else {
-            entry.ToggleFlag(language);
+            changed.ToggleFlag(language);
         }
+        Store(index, std::move(changed));
     }
 }
 
@@ -237,9 +279,18 @@ bool CWordList::AnyNote() const
     return false;
 }
 
+int CWordList::CountWithoutTerms() const
+{
+    int count = 0;
+    for (int index = 0; index < Count(); ++index) {
+        count += int(!Entry(index).HasTerm());
+    }
+    return count;
+}
+
 bool CWordList::FindSimilar(const CWordEntry &candidate, int &outIndex, int excludeIndex, int language) const
 {
-    const bool oneLanguage = language == 0 || language == 1;
+    const bool oneLanguage = IsLanguage(language);
     for (int index = 0; index < Count(); ++index) {
         const CWordEntry &entry = Entry(index);
         // Kept: entries with different notes are never similar, whatever words they share.

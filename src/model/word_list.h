@@ -33,15 +33,15 @@ struct InsertOptions
     SortOptions sort = {};
 };
 
-/// The properties that several callers set at once; a text that is missing is left unchanged.
+/// The properties that several callers set at once; what is missing is left unchanged.
 struct ListProperties
 {
     std::optional<QString> language1 = {};
     std::optional<QString> language2 = {};
     std::optional<QString> author = {};
     std::optional<QString> comments = {};
-    bool adaptQuestion1 = false;
-    bool adaptQuestion2 = false;
+    std::optional<bool> adaptQuestion1 = {};
+    std::optional<bool> adaptQuestion2 = {};
     std::optional<QString> questionTemplate1 = {};
     std::optional<QString> questionTemplate2 = {};
 };
@@ -75,24 +75,26 @@ struct ListDifference
 };
 
 /// The content of one document: entries in display order and the list's own properties. Every change clears the
-/// saved mark. Copies share the entries that neither has changed since, so a copy costs a pointer per entry; a
-/// list is used by one thread at a time, copies may be used by different threads. A selection is a sequence of
-/// ascending entry indices. Indices out of range are skipped.
+/// saved mark; what changes nothing leaves it. Copies share the entries that neither has changed since, so a
+/// copy costs a pointer per entry; a list is used by one thread at a time, copies may be used by different
+/// threads. Indices and numbers out of range are skipped; a getter gives an empty text then. In a selection
+/// the order of the indices does not matter, and one that comes twice counts once.
 class CWordList
 {
 public:
     using Selection = std::span<const int>;
 
     // Properties; `index` is 0 or 1. A setter clears the saved mark only when the value differs.
-    const QString &GetLanguage(int index) const { return m_language[size_t(index)]; }
+    const QString &GetLanguage(int index) const;
     const QString &GetAuthor() const { return m_author; }
     const QString &GetComments() const { return m_comments; }
     /// Whether the question from language `index` is built from its template; never true without one.
-    bool GetAdaptQuestion(int index) const { return m_adaptQuestion[size_t(index)]; }
-    const QString &GetQuestionTemplate(int index) const { return m_questionTemplate[size_t(index)]; }
+    bool GetAdaptQuestion(int index) const;
+    const QString &GetQuestionTemplate(int index) const;
     void SetLanguage(int index, const QString &text);
     void SetAuthor(const QString &text);
     void SetComments(const QString &text);
+    /// Without a template the mark stays off.
     void SetAdaptQuestion(int index, bool value);
     /// An empty template switches its adapt mark off.
     void SetQuestionTemplate(int index, const QString &text);
@@ -125,14 +127,16 @@ public:
     void DeleteEntries(Selection selection);
     /// CWordEntry::SwapFields() on every selected entry: moves the contents of a column to the left or right.
     void SwapInEntries(Selection selection, bool swapTexts, bool swapFlags, int a, int b);
-    /// Moves entries, or one text field of them with its flag, one place. The caller sees to it that
-    /// none of them would leave the list; one that would is skipped.
+    /// Moves entries, or one text field of them with its flag, one place. One that would leave the list is
+    /// skipped; the next then changes places with it.
     void MoveEntries(Selection selection, bool up, int field = WholeEntry);
     void SetFlags(int language, Selection selection, FlagMode mode);
 
     /// Entries flagged in language `which`; 2 counts both, an entry flagged twice counting twice.
     int CountFlagged(int which) const;
     bool AnyNote() const;
+    /// Entries with neither term, which a file of the program does not keep.
+    int CountWithoutTerms() const;
 
     /// A similar entry has exactly the same note and, in the language asked for (any other number: in one of
     /// the two), an alternative in common, case and comments counting.
@@ -153,9 +157,9 @@ public:
     int FindPrefix(const QString &prefix, int column, int start) const;
 
     // Duplicates (word_list_merge.cpp); see CDuplicateSearch for finding them
-    /// Joins the others into the first selected entry and removes them: alternatives that it does not have,
-    /// notes that its note does not contain, and a flag only where all have it. Returns how many entries
-    /// disappeared.
+    /// Joins the others into the entry that the selection names first and removes them: alternatives that it
+    /// does not have, notes that its note does not contain, and a flag only where all have it. Returns how many
+    /// entries disappeared.
     int MergeEntries(Selection selection);
     /// Merges all entries that share an alternative, in either language, directly or through others. Returns
     /// how many entries disappeared.
@@ -167,6 +171,10 @@ public:
 
 private:
     void Assign(QString &member, const QString &text);
+    /// The entries of a selection that exist, ascending and each once.
+    std::vector<int> Existing(Selection selection) const;
+    /// Puts `entry` in the place of another; an equal one changes nothing.
+    void Store(int index, CWordEntry entry);
     void SortByKey(int key, const SortOptions &options);
     void MergeGroup(Selection group);
     bool HasPropertiesOf(const CWordList &other) const;

@@ -124,19 +124,19 @@ private:
 
 void CWordList::MergeGroup(Selection group)
 {
-    const CWordEntry &first = Entry(group.front());
     std::array<QStringList, CWordEntry::LanguageCount> alternatives;
     CNoteCollector notes;
     std::array<bool, CWordEntry::LanguageCount> flags = {true, true};
     std::array<QSet<QString>, CWordEntry::LanguageCount> known;
     for (const int index : group) {
         const CWordEntry &entry = Entry(index);
+        const bool isFirst = index == group.front(); // The same entry may stand at several places.
         for (size_t language = 0; language < alternatives.size(); ++language) {
             for (int k = 0; k <= entry.AlternativeCount(int(language)); ++k) {
                 const QString alternative = entry.GetAlternative(int(language), k, false);
                 // The first entry keeps its alternatives as they are, repeated ones too.
                 const bool isKnown = known[language].contains(alternative);
-                if (!alternative.isEmpty() && (&entry == &first || !isKnown)) {
+                if (!alternative.isEmpty() && (isFirst || !isKnown)) {
                     known[language].insert(alternative);
                     alternatives[language].append(alternative);
                 }
@@ -155,9 +155,14 @@ void CWordList::MergeGroup(Selection group)
 
 int CWordList::MergeEntries(Selection selection)
 {
-    std::vector<int> group(selection.begin(), selection.end());
-    std::erase_if(group, [this](int index) { return !m_entries.IsIndex(index); });
-    group.erase(std::unique(group.begin(), group.end()), group.end());
+    std::vector<int> group;
+    std::vector<bool> isKnown(size_t(Count()), false);
+    for (const int index : selection) {
+        if (m_entries.IsIndex(index) && !isKnown[size_t(index)]) {
+            isKnown[size_t(index)] = true;
+            group.push_back(index);
+        }
+    }
     if (group.size() < 2) {
         return 0;
     }

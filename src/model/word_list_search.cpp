@@ -14,9 +14,10 @@ TextMatch MatchEntry(const CTextMatcher &matcher, const TextSearch &search, cons
     if (!Passes(search.flag1, entry.GetFlag(0)) || !Passes(search.flag2, entry.GetFlag(1))) {
         return {};
     }
-    const bool all = search.column < 0;
-    const int last = all ? CWordEntry::NoteField : search.column;
-    for (int column = all ? 0 : search.column; column <= last; ++column) {
+    for (int column = 0; column < CWordEntry::FieldCount; ++column) {
+        if (search.column >= 0 && search.column != column) {
+            continue;
+        }
         if (const auto range = matcher.Find(entry.GetField(column))) {
             return {index, column, int(range->start), int(range->start + range->length) - 1};
         }

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void whatCountsAsShared();
     void mergesIntoTheFirst();
     void mergingAgreesWithAllPairs();
+    void mergesAnEntryThatStandsTwice();
     void mergesManyNotesQuickly();
     void nothingToMerge();
 };
@@ -153,6 +154,15 @@ void DuplicatesTest::mergingAgreesWithAllPairs()
         // What is left shares nothing.
         QVERIFY(AllPairs(merged).empty());
     }
+}
+
+void DuplicatesTest::mergesAnEntryThatStandsTwice()
+{
+    CWordList list = MakeList({QStringLiteral("a * b|c|n|1")});
+    const CWordList copy = list;
+    list.InsertAll(copy, InsertOptions::AtEnd); // Both places share one entry.
+    QCOMPARE(list.MergeEntries(std::vector<int>{0, 1}), 1);
+    QCOMPARE(Describe(list).join(u','), QStringLiteral("a * b|c|n|1"));
 }
 
 void DuplicatesTest::mergesManyNotesQuickly()

@@ -10,8 +10,6 @@ class WordEntryTest : public QObject
 
 private Q_SLOTS:
     void alternatives();
-    void appendedAlternativesAreNotParsed();
-    void mergingAlternatives();
     void hasAlternative();
     void flagsCycle();
     void swappingFields();
@@ -49,25 +47,6 @@ void WordEntryTest::alternatives()
     QCOMPARE(Alternatives(entry, 0), QStringList({QString()}));
     entry.SetNote(QStringLiteral(" a\n b "));
     QCOMPARE(entry.GetNote(), QStringLiteral("a b"));
-}
-
-void WordEntryTest::appendedAlternativesAreNotParsed()
-{
-    CWordEntry entry;
-    entry.AppendAlternative(QStringLiteral("a"), 0);
-    QCOMPARE(entry.GetText(0), QStringLiteral("a"));
-    QCOMPARE(Alternatives(entry, 0), QStringList({QStringLiteral("a")}));
-    entry.AppendAlternative(QStringLiteral("b * c"), 0);
-    QCOMPARE(entry.GetText(0), QStringLiteral("a * b * c"));
-    QCOMPARE(Alternatives(entry, 0), QStringList({QStringLiteral("a"), QStringLiteral("b * c")}));
-}
-
-void WordEntryTest::mergingAlternatives()
-{
-    CWordEntry entry = MakeEntry(QStringLiteral("hus * hem|house"));
-    entry.MergeAlternatives(MakeEntry(QStringLiteral("hem * Hus * bostad|house")));
-    QCOMPARE(entry.GetText(0), QStringLiteral("hus * hem * Hus * bostad"));
-    QCOMPARE(entry.GetText(1), QStringLiteral("house"));
 }
 
 void WordEntryTest::hasAlternative()
@@ -127,7 +106,6 @@ void WordEntryTest::indicesOutOfRange()
     entry.SetTerm(QStringLiteral("x"), 2);
     entry.SetFlag(-1, false);
     entry.SwapFields(true, true, 0, 3);
-    entry.AppendAlternative(QStringLiteral("x"), -1);
     QCOMPARE(Describe(entry), QStringLiteral("a|b|n|12"));
     QCOMPARE(entry.GetText(2), QString());
     QCOMPARE(entry.GetAlternative(5, 0, true), QString());

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <limits>
+
 class WordListTest : public QObject
 {
     Q_OBJECT
@@ -21,6 +23,8 @@ private Q_SLOTS:
     void moving();
     void swappingColumns();
     void flags();
+    void whatChangesNothingLeavesTheSavedMark();
+    void indicesOutOfRange();
     void copiesAreIndependent();
 };
 
@@ -198,6 +202,69 @@ void WordListTest::flags()
     QVERIFY(!list.IsSaved());
     list.SetFlags(0, std::vector<int>{1}, FlagMode::Cycle);
     QCOMPARE(Describe(list).join(u','), QStringLiteral("a,b,c|||1"));
+}
+
+void WordListTest::whatChangesNothingLeavesTheSavedMark()
+{
+    CWordList list = MakeList({QStringLiteral("a * b|c|a note|1"), QStringLiteral("d|d")});
+    list.SetEntryField(QStringLiteral("  a   note "), 2, 0, false);
+    list.SetEntryField(QStringLiteral("a*b"), 0, 0, false);
+    list.ReplaceEntry(0, QStringLiteral("a* b"), QStringLiteral("c*"), QStringLiteral("a\nnote"), false);
+    list.SwapInEntries(std::vector<int>{1}, true, true, 0, 1);
+    list.SwapInEntries(std::vector<int>{0}, true, true, 1, 3);
+    list.SetAdaptQuestion(0, true);
+    list.SetProperties({.adaptQuestion1 = true, .questionTemplate1 = QString()});
+    QVERIFY(list.IsSaved());
+    QVERIFY(!list.GetAdaptQuestion(0));
+    list.SetProperties({.adaptQuestion1 = true, .questionTemplate1 = QStringLiteral("t")});
+    list.SetSaved(true);
+    list.SetProperties({.language1 = QString()});
+    QVERIFY(list.IsSaved() && list.GetAdaptQuestion(0)); // Saying nothing of a mark leaves it.
+}
+
+void WordListTest::indicesOutOfRange()
+{
+    constexpr int Low = std::numeric_limits<int>::min();
+    constexpr int High = std::numeric_limits<int>::max();
+    const QStringList start = {QStringLiteral("a|1"), QStringLiteral("b|2||2"), QStringLiteral("c|3")};
+    CWordList list = MakeList(start);
+    const std::vector<int> none = {High, Low, -1, 3};
+    for (const int number : {Low, -1, 2, 3, High}) {
+        list.SetLanguage(number, QStringLiteral("x"));
+        list.SetQuestionTemplate(number, QStringLiteral("x"));
+        list.SetAdaptQuestion(number, true);
+        list.SetFlags(number, std::vector<int>{0}, FlagMode::Set);
+        list.SetFlags(number, std::vector<int>{1}, FlagMode::Toggle);
+        list.SwapInEntries(std::vector<int>{0}, true, true, 0, number == 2 ? 3 : number);
+        QCOMPARE(list.GetLanguage(number) + list.GetQuestionTemplate(number) + list.GetAuthor(), QString());
+        QVERIFY(!list.GetAdaptQuestion(number));
+    }
+    list.MoveEntries(none, true);
+    list.MoveEntries(none, false);
+    list.MoveEntries(std::vector<int>{0}, false, High);
+    list.DeleteEntries(none);
+    list.SwapInEntries(none, true, true, 0, 1);
+    list.SetFlags(0, none, FlagMode::Toggle);
+    QCOMPARE(list.MergeEntries(none), 0);
+    QVERIFY(list.IsSaved());
+    QCOMPARE(Describe(list), start);
+    QVERIFY(!list.FindNext({.text = QStringLiteral("a"), .column = High}, High, true).IsFound());
+    QCOMPARE(list.SetEntryField(QStringLiteral("x"), Low, 0, true), -1);
+    QCOMPARE(list.ReplaceEntry(High, {}, {}, {}, true), -1);
+
+    // The order of a selection and what it repeats don't matter; over several blocks of entries, too.
+    CWordList longList;
+    for (int i = 0; i < 2000; ++i) {
+        longList.Insert(CWordEntry(QString::number(i)));
+    }
+    longList.DeleteEntries(std::vector<int>{1500, 3, 700, 3, -1, 1500, 2000, 0});
+    QCOMPARE(longList.Count(), 1996);
+    QCOMPARE(longList.Entry(0).GetText(0) + longList.Entry(1995).GetText(0), QStringLiteral("11999"));
+    list.MoveEntries(std::vector<int>{2, 1, 2}, true);
+    list.SetFlags(0, std::vector<int>{1, 0, 1}, FlagMode::Toggle);
+    QCOMPARE(Describe(list).join(u','), QStringLiteral("b|2||12,c|3||1,a|1"));
+    QCOMPARE(list.MergeEntries(std::vector<int>{2, 0, 2, 0}), 1);
+    QCOMPARE(Describe(list).join(u','), QStringLiteral("c|3||1,a * b|1 * 2"));
 }
 
 void WordListTest::copiesAreIndependent()
