@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     file.setData(reinterpret_cast<const char *>(data), int(size));
     file.open(QIODevice::ReadOnly);
     CWordList list;
-    if (ReadWordList(list, file) == ReadResult::CannotOpen) {
+    if (IsRefused(ReadWordList(list, file))) {
         return 0;
     }
     for (const bool forceUnicode : {false, true}) {

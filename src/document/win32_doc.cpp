@@ -24,6 +24,23 @@ QString OneLine(QString text)
     return text;
 }
 
+/// What the user is told of a file that was not read as a list of this version.
+int MessageOf(ReadResult result)
+{
+    switch (result) {
+    case ReadResult::TooLarge:
+        return Text::FileTooLarge;
+    case ReadResult::LineTooLong:
+        return Text::LineTooLong;
+    case ReadResult::NewerVersion:
+        return Text::NewerVersion;
+    case ReadResult::PlainText:
+        return Text::ReadAsPlainText;
+    default:
+        return Text::CannotOpen;
+    }
+}
+
 /// The first of two texts that is not empty.
 QString FirstGiven(const QString &first, const QString &second)
 {
@@ -186,21 +203,17 @@ bool CWin32Doc::OpenDocument(const QString &file)
     CWordList list = List();
     const ReadResult result = ReadWordListFile(list, path);
     const bool own = result == ReadResult::Read || result == ReadResult::ReadLossy;
-    if (result == ReadResult::CannotOpen) {
-        list.Reset();
-    }
     // Without a path, saving asks for a name: a newer file is not overwritten by an older layout, nor a text
     // file.
     Replace(std::move(list), own ? path : QString(), own ? stamp : FileStamp());
     if (own) {
         return true;
     }
-    if (result == ReadResult::CannotOpen) {
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotOpen, {path}), PromptIcon::Error);
+    if (IsRefused(result)) {
+        m_services.prompt.Tell(m_services.texts.Prompt(MessageOf(result), {path}), PromptIcon::Error);
         return false;
     }
-    const int message = result == ReadResult::NewerVersion ? Text::NewerVersion : Text::ReadAsPlainText;
-    m_services.prompt.Tell(m_services.texts.Prompt(message), PromptIcon::Warning);
+    m_services.prompt.Tell(m_services.texts.Prompt(MessageOf(result)), PromptIcon::Warning);
     return true;
 }
 

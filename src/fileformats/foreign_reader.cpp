@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/foreign_reader.h"
 
+#include "fileformats/reading.h"
 #include "fileformats/text_file_reader.h"
 #include "model/term_syntax.h"
-#include "model/word_list.h"
 #include "platform/collation.h"
 
 // Entries are appended without the search for similar ones: what it finds changes nothing here, and it would
@@ -24,7 +24,7 @@ ReadResult ReadForeignVocabulary(CWordList &list, CTextFileReader &reader, const
     bool namesKnown = false;
     QString term1;
     QString term2;
-    while ((keepGoing == nullptr || *keepGoing) && reader.ReadLine(term1)) {
+    while (MayGoOn(list, keepGoing) && reader.ReadLine(term1)) {
         reader.ReadLine(term2);
         const qsizetype suffix = term1.lastIndexOf(u'[');
         if (suffix >= 0) {
@@ -51,7 +51,7 @@ void ReadPlainText(CWordList &list, CTextFileReader &reader, const KeepGoing *ke
     reader.Rewind();
     QString term1;
     QString term2;
-    while ((keepGoing == nullptr || *keepGoing) && reader.ReadLine(term1) && reader.ReadLine(term2)) {
+    while (MayGoOn(list, keepGoing) && reader.ReadLine(term1) && reader.ReadLine(term2)) {
         if (!term1.isEmpty() || !term2.isEmpty()) {
             list.Insert(CWordEntry(term1, term2));
         }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/glossary_reader.h"
 
+#include "fileformats/reading.h"
 #include "fileformats/text_file_reader.h"
 #include "model/term_syntax.h"
-#include "model/word_list.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 
 namespace {
@@ -49,6 +50,18 @@ void ReadHeader(CWordList &list, CTextFileReader &reader, const GlossaryVersion 
     HeaderLine(reader); // The empty line between header and records.
 }
 
+/// The two marks of a flag line.
+std::array<bool, 2> FlagsOf(QStringView line)
+{
+    std::array<bool, 2> flags = {};
+    for (bool &flag : flags) {
+        QStringView mark;
+        NextToken(line, mark, u' ');
+        flag = IsSet(mark);
+    }
+    return flags;
+}
+
 /// Takes the flag mark of version 1 off a term.
 bool TakeFlagMark(QString &term)
 {
@@ -65,29 +78,29 @@ void ReadGlossaryBody(
     CWordList &list, CTextFileReader &reader, const GlossaryVersion &version, const KeepGoing *keepGoing)
 {
     ReadHeader(list, reader, version);
-    while (keepGoing == nullptr || *keepGoing) {
-        QString flags;
+    while (MayGoOn(list, keepGoing)) {
+        QStringView line;
+        std::array<bool, 2> flags = {};
+        if (version.hasFlagLine) {
+            if (!reader.ReadLine(line)) {
+                break;
+            }
+            flags = FlagsOf(line);
+        }
         QString term1;
         QString term2;
         QString note;
-        if ((version.hasFlagLine && !reader.ReadLine(flags)) || !reader.ReadLine(term1)
-            || !reader.ReadLine(term2) || (version.hasNote && !reader.ReadLine(note))) {
+        if (!reader.ReadLine(term1) || !reader.ReadLine(term2) || (version.hasNote && !reader.ReadLine(note))) {
             break;
         }
         if (term1.isEmpty() && term2.isEmpty()) {
             continue;
         }
-        QString flag1;
-        QString flag2;
-        NextToken(flags, flag1, u' ');
-        NextToken(flags, flag2, u' ');
-        bool marked = false;
         if (version.hasFlagMark) {
-            marked = TakeFlagMark(term1);
-            marked = TakeFlagMark(term2) || marked;
+            const bool marked = TakeFlagMark(term1);
+            flags[0] = TakeFlagMark(term2) || marked;
         }
-        list.Insert(CWordEntry(
-            std::move(term1), std::move(term2), std::move(note), marked || IsSet(flag1), IsSet(flag2)));
+        list.Insert(CWordEntry(std::move(term1), std::move(term2), std::move(note), flags[0], flags[1]));
     }
     list.SetSaved(true);
 }

@@ -4,10 +4,10 @@
 #include "platform/windows_1252.h"
 
 #include <QFileInfo>
+#include <QtEndian>
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 
 bool CTextFileReader::Open(const QString &path)
 {
@@ -24,8 +24,8 @@ bool CTextFileReader::Open(const QString &path)
 void CTextFileReader::Open(QIODevice &device)
 {
     m_device = &device;
+    m_size = device.size();
     m_lossy = false;
-    m_failed = false;
     Rewind();
 }
 
@@ -41,6 +41,8 @@ void CTextFileReader::Rewind()
     m_position = 0;
     m_count = 0;
     m_atEnd = false;
+    m_failed = false;
+    m_lineTooLong = false;
     m_atStart = true;
     Detect();
 }
@@ -48,7 +50,7 @@ void CTextFileReader::Rewind()
 void CTextFileReader::Detect()
 {
     m_device->seek(0);
-    const QByteArray start = m_device->read(3);
+    const QByteArray start = m_device->read(std::min<qint64>(3, m_size));
     qint64 markSize = 0;
     m_encoding = TextEncoding::Ansi;
     if (start.startsWith("\xFF\xFE")) {
@@ -62,40 +64,56 @@ void CTextFileReader::Detect()
         markSize = 3;
     }
     m_device->seek(markSize);
+    m_bytesLeft = m_size - markSize;
 }
 
 bool CTextFileReader::Fill()
 {
-    m_position = 0;
-    m_count = 0;
+    m_bytes.resize(size_t(PieceSize));
+    m_units.resize(std::max(m_units.size(), size_t(m_count - m_position + PieceSize)));
+    if (m_position > 0) {
+        std::copy(m_units.begin() + m_position, m_units.begin() + m_count, m_units.begin());
+        m_count -= m_position;
+        m_position = 0;
+    }
     // A piece may hold no complete character, so it can take several.
-    while (m_count == 0) {
-        const qint64 read = m_device->read(m_bytes.data() + m_keptBytes, BufferSize - m_keptBytes);
+    for (const qsizetype before = m_count; m_count == before;) {
+        const qint64 wanted = std::min<qint64>(PieceSize - m_keptBytes, m_bytesLeft);
+        const qint64 read =
+            wanted == 0 ? 0 : m_device->read(reinterpret_cast<char *>(m_bytes.data()) + m_keptBytes, wanted);
         if (read <= 0) {
             m_atEnd = true;
-            m_failed = read < 0;
+            m_failed = wanted > 0; // Also a file that became shorter: half of it is not taken for the whole.
             return false;
         }
-        const auto *const bytes = reinterpret_cast<const uchar *>(m_bytes.data());
-        const qsizetype available = m_keptBytes + read;
-        m_keptBytes = 0;
-        if (m_encoding == TextEncoding::Ansi) {
-            std::transform(bytes, bytes + available, m_units.begin(),
-                [](uchar byte) { return byte < 0x80 ? char16_t(byte) : DecodeWindows1252(byte); });
-            m_count = available;
-        } else if (m_encoding == TextEncoding::Utf8) {
-            DecodeUtf8(bytes, available);
-        } else {
-            const qsizetype high = m_encoding == TextEncoding::Utf16BigEndian ? 0 : 1;
-            m_count = available / 2;
-            for (qsizetype i = 0; i < m_count; ++i) {
-                m_units[size_t(i)] = char16_t(bytes[2 * i + high] << 8 | bytes[2 * i + 1 - high]);
-            }
-            m_keptBytes = available % 2;
-            m_bytes[0] = m_bytes[size_t(available - 1)];
-        }
+        m_bytesLeft -= read;
+        Decode(m_bytes.data(), m_keptBytes + read);
     }
     return true;
+}
+
+void CTextFileReader::Decode(const uchar *bytes, qsizetype count)
+{
+    char16_t *const units = m_units.data() + m_count;
+    switch (m_encoding) {
+    case TextEncoding::Ansi:
+        std::transform(bytes, bytes + count, units,
+            [](uchar byte) { return byte < 0x80 ? char16_t(byte) : DecodeWindows1252(byte); });
+        m_count += count;
+        return;
+    case TextEncoding::Utf8:
+        DecodeUtf8(bytes, count);
+        return;
+    case TextEncoding::Utf16BigEndian:
+        qFromBigEndian<char16_t>(bytes, count / 2, units);
+        break;
+    case TextEncoding::Utf16LittleEndian:
+        qFromLittleEndian<char16_t>(bytes, count / 2, units);
+        break;
+    }
+    m_count += count / 2;
+    m_keptBytes = count % 2;
+    m_bytes[0] = bytes[count - 1];
 }
 
 void CTextFileReader::DecodeUtf8(const uchar *bytes, qsizetype count)
@@ -120,47 +138,58 @@ void CTextFileReader::DecodeUtf8(const uchar *bytes, qsizetype count)
         i += used;
     }
     m_keptBytes = count - i;
-    std::memmove(m_bytes.data(), bytes + i, size_t(m_keptBytes));
+    std::copy(bytes + i, bytes + count, m_bytes.begin());
 }
 
-bool CTextFileReader::Skip(char16_t unit)
+void CTextFileReader::Skip(char16_t unit)
 {
     if ((m_position < m_count || Fill()) && m_units[size_t(m_position)] == unit) {
         ++m_position;
-        return true;
     }
-    return false;
 }
 
-bool CTextFileReader::ReadLine(QString &line)
+bool CTextFileReader::ReadLine(QStringView &line)
 {
-    line.clear();
+    line = {};
+    if (m_lineTooLong) {
+        return false;
+    }
     if (!m_atStart) {
         // The end of the line before is still there: CR LF is skipped as one, LF CR is not.
         Skip(u'\r');
         Skip(u'\n');
     }
     m_atStart = false;
-    bool any = false;
-    while (m_position < m_count || Fill()) {
-        any = true;
-        const auto begin = m_units.begin() + m_position;
-        const auto end = m_units.begin() + m_count;
-        const auto lineEnd =
-            std::find_if(begin, end, [](char16_t unit) { return unit == u'\n' || unit == u'\r'; });
-        line.append(QStringView(begin, lineEnd));
-        m_position = lineEnd - m_units.begin();
-        if (lineEnd != end) {
-            return true;
+    for (qsizetype length = 0;;) {
+        const char16_t *const begin = m_units.data() + m_position;
+        const char16_t *const end = m_units.data() + m_count;
+        const char16_t *const lineEnd =
+            std::find_if(begin + length, end, [](char16_t unit) { return unit == u'\n' || unit == u'\r'; });
+        length = lineEnd - begin;
+        if (length > LongestLine) {
+            m_lineTooLong = true;
+            return false;
+        }
+        if (lineEnd != end || !Fill()) {
+            line = QStringView(m_units.data() + m_position, length);
+            m_position += length;
+            return length > 0 || m_position < m_count;
         }
     }
-    return any;
+}
+
+bool CTextFileReader::ReadLine(QString &line)
+{
+    QStringView view;
+    const bool read = ReadLine(view);
+    line = view.toString();
+    return read;
 }
 
 bool CTextFileReader::ReadNarrowLine(QByteArray &line)
 {
     line.clear();
-    QString wide;
+    QStringView wide;
     if (!ReadLine(wide)) {
         return false;
     }

@@ -18,13 +18,33 @@ enum class ReadResult {
     NewerVersion = 3,
     /// Not a word-list file: read as plain text, one term a line.
     PlainText = 4,
+    /// Refused: a file above FileLimits, or more than the memory takes.
+    TooLarge = 5,
+    /// Refused: a line longer than CTextFileReader reads.
+    LineTooLong = 6,
 };
+
+/// Whether nothing was read, so that there is no list to show.
+constexpr bool IsRefused(ReadResult result)
+{
+    return result == ReadResult::CannotOpen || result == ReadResult::TooLarge
+        || result == ReadResult::LineTooLong;
+}
+
+/// What is opened at most, so that a file that is no list can't take all memory and time.
+namespace FileLimits {
+
+inline constexpr qint64 MostBytes = qint64(512) * 1024 * 1024;
+inline constexpr int MostEntries = 20'000'000;
+
+}
 
 /// Set to false, from any thread, it stops a reading between two records.
 using KeepGoing = std::atomic<bool>;
 
 /// Replaces the content of `list` by that of a glossary file of any version, of a foreign vocabulary file or of
-/// plain text; `keepGoing` may be null. Neither counts nor lengths in the file are trusted.
+/// plain text; `keepGoing` may be null. Neither counts nor lengths in the file are trusted. The list is empty
+/// when the file is refused.
 [[nodiscard]] ReadResult ReadWordListFile(
     CWordList &list, const QString &path, const KeepGoing *keepGoing = nullptr);
 /// The same from an open, random-access device.

@@ -7,6 +7,8 @@
 #include "model/word_list.h"
 
 #include <algorithm>
+#include <new>
+#include <optional>
 
 namespace {
 
@@ -31,13 +33,35 @@ ReadResult Dispatch(CWordList &list, CTextFileReader &reader, const KeepGoing *k
     return ReadResult::PlainText;
 }
 
+/// What became of the reading when it did not reach the end.
+std::optional<ReadResult> Failure(const CWordList &list, const CTextFileReader &reader)
+{
+    if (reader.Failed()) {
+        return ReadResult::CannotOpen;
+    }
+    if (reader.LineTooLong()) {
+        return ReadResult::LineTooLong;
+    }
+    if (list.Count() > FileLimits::MostEntries) {
+        return ReadResult::TooLarge;
+    }
+    return std::nullopt;
+}
+
 /// Half a file is not taken for a whole one: saving it would lose the rest.
 ReadResult ReadAll(CWordList &list, CTextFileReader &reader, const KeepGoing *keepGoing)
 {
-    const ReadResult result = Dispatch(list, reader, keepGoing);
-    if (reader.Failed()) {
+    ReadResult result = ReadResult::TooLarge;
+    if (reader.Size() <= FileLimits::MostBytes) {
+        try {
+            result = Dispatch(list, reader, keepGoing);
+            result = Failure(list, reader).value_or(result);
+        } catch (const std::bad_alloc &) {
+            result = ReadResult::TooLarge;
+        }
+    }
+    if (IsRefused(result)) {
         list.Reset();
-        return ReadResult::CannotOpen;
     }
     return result;
 }

@@ -75,23 +75,21 @@ void RemoveEmptyComments(QString &text)
     text = following;
 }
 
-bool NextToken(QString &source, QString &token, QChar separator)
+bool NextToken(QStringView &source, QStringView &token, QChar separator)
 {
     const qsizetype found = source.indexOf(separator);
-    if (found < 0) {
-        token = source;
-        source.clear();
-        return false;
-    }
-    token = source.left(found);
-    source.remove(0, found + 1);
-    return true;
+    token = source.first(found < 0 ? source.size() : found);
+    source = source.sliced(found < 0 ? source.size() : found + 1);
+    return found >= 0;
 }
 
 QStringList SplitAlternatives(const QString &text)
 {
     QStringList alternatives;
-    for (const QStringView piece : QStringView(text).split(Separator)) {
+    QStringView rest = text;
+    for (bool more = true; more;) {
+        QStringView piece;
+        more = NextToken(rest, piece, Separator);
         QString alternative = piece.toString();
         // Kept: in this order, so a comment of control characters alone stays, as one of a space.
         RemoveEmptyComments(alternative);

@@ -34,8 +34,8 @@ void CleanSpaces(QString &text);
 void RemoveEmptyComments(QString &text);
 
 /// Moves the text before the first separator from `source` to `token` and drops the separator. Without a
-/// separator `token` takes everything and the result is false.
-bool NextToken(QString &source, QString &token, QChar separator);
+/// separator `token` takes everything and the result is false. Both are parts of one text, which must live on.
+bool NextToken(QStringView &source, QStringView &token, QChar separator);
 
 /// `text` with commas outside brackets taken as alternative separators and round brackets as comment brackets,
 /// in normal form; nothing when there is nothing to correct.

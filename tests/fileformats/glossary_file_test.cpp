@@ -275,6 +275,13 @@ void GlossaryFileTest::strangeTextsSurvive()
     list.SetAuthor(QString(u"a\0b\xD800"_qs));
     const QString huge = QStringLiteral("åäö ").repeated(300000) + u'x';
     list.Insert(CWordEntry(huge, u"\xDC00 lone \xD83D"_qs, u"\u0085\u2028"_qs));
+    for (const char16_t *term :
+        {u"!", u"! x", u"!*!", u"Ordelin 1", u"WordQuiz", u"0 0", u"1", u"a\r\nb\0c*\x7F", u"[a*b]", u"]x[",
+            u"[ [x] ]", u"\uFEFF", u"\uFFFE", u"\u2028\u2029\f\v", u"\xA0"}) {
+        const QString text = QStringView(term).toString();
+        list.Insert(CWordEntry(text, {}, text, true));
+        list.Insert(CWordEntry({}, text, text, false, true));
+    }
     CWordList read;
     QCOMPARE(Read(read, Write(list)), ReadResult::Read);
     QCOMPARE(DescribeAll(read), DescribeAll(list));

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void charactersAcrossPieces();
     void narrowLines();
     void filesThatCannotBeRead();
+    void growingFiles();
+    void longLines();
     void writtenBytes();
 };
 
@@ -151,6 +153,37 @@ void TextFileReaderTest::filesThatCannotBeRead()
     QVERIFY(!reader.Open(folder.path()));
     QVERIFY(!reader.Open(QStringLiteral("/dev/zero"))); // Would never end.
     QVERIFY(!reader.IsOpen());
+}
+
+void TextFileReaderTest::growingFiles()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("growing")));
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    const QByteArray line = "line\n";
+    file.write(line.repeated(30000));
+    CTextFileReader reader;
+    QVERIFY(reader.Open(file.fileName()));
+    int lines = 0;
+    for (QString text; reader.ReadLine(text); ++lines) {
+        file.write(line);
+    }
+    QCOMPARE(lines, 30000);
+    QVERIFY(!reader.Failed());
+    // One that becomes shorter is no whole file.
+    reader.Rewind();
+    QString text;
+    QVERIFY(reader.ReadLine(text));
+    QVERIFY(file.resize(100000));
+    while (reader.ReadLine(text)) { }
+    QVERIFY(reader.Failed());
+}
+
+void TextFileReaderTest::longLines()
+{
+    const QByteArray longest(CTextFileReader::LongestLine, 'x');
+    QCOMPARE(Lines("a\n" + longest + "\nb").size(), 3);
+    QCOMPARE(Lines("a\n" + longest + "x\nb"), QStringList({QStringLiteral("a")}));
 }
 
 void TextFileReaderTest::writtenBytes()

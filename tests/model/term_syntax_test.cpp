@@ -152,14 +152,14 @@ void TermSyntaxTest::hugeTermsTakeNoQuadraticTime()
 
 void TermSyntaxTest::tokens()
 {
-    QString source = QStringLiteral("1 0 rest");
-    QString token;
+    QStringView source = u"1 0 rest";
+    QStringView token;
     QVERIFY(NextToken(source, token, u' '));
-    QCOMPARE(token, QStringLiteral("1"));
-    QCOMPARE(source, QStringLiteral("0 rest"));
-    source = QStringLiteral("last");
+    QCOMPARE(token, u"1");
+    QCOMPARE(source, u"0 rest");
+    source = u"last";
     QVERIFY(!NextToken(source, token, u' '));
-    QCOMPARE(token, QStringLiteral("last"));
+    QCOMPARE(token, u"last");
     QVERIFY(source.isEmpty());
 }
 

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "fileformats/word_list_file.h"
+#include "model/word_list.h"
+
+/// Whether a reader takes the next record. It stops one entry above the limit, by which the excess is known.
+inline bool MayGoOn(const CWordList &list, const KeepGoing *keepGoing)
+{
+    return (keepGoing == nullptr || *keepGoing) && list.Count() <= FileLimits::MostEntries;
+}
