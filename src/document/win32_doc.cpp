@@ -250,8 +250,18 @@ bool CWin32Doc::OnSaveDocument(const QString &file)
     m_history.SetFilePath(path);
     m_stamp = FileStamp::Of(path);
     Q_EMIT Saved();
+    TellOfLostEntries(m_history.Current());
     UpdateTitleMark();
     return true;
+}
+
+void CWin32Doc::TellOfLostEntries(CWordList &saved)
+{
+    if (const int lost = saved.CountWithoutTerms(); lost > 0) {
+        saved.SetSaved(false);
+        m_services.prompt.Tell(
+            m_services.texts.Prompt(Text::EntriesNotSaved, {FormatNumber(lost)}), PromptIcon::Warning);
+    }
 }
 
 bool CWin32Doc::SaveCopy(const QString &path)
@@ -276,6 +286,7 @@ bool CWin32Doc::Write(CWordList copy, const QString &path)
         m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
         return false;
     }
+    TellOfLostEntries(copy);
     return true;
 }
 

@@ -126,6 +126,8 @@ private:
     void GoTo(void (CUndoHistory::*step)());
     void Tell(const ListChange &change);
     bool Write(CWordList copy, const QString &path);
+    /// Tells how many entries of a list that was written are not in its file, and marks it changed then.
+    void TellOfLostEntries(CWordList &saved);
     /// Makes the list the only state of the history and has it shown.
     void Replace(CWordList list, const QString &path, const FileStamp &stamp);
 

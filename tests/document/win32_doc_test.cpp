@@ -22,8 +22,10 @@ private Q_SLOTS:
     void newKeepsNamesWhenAllAreGiven();
     void opening_data();
     void opening();
+    void refusedFiles();
     void saving();
     void foreignChangesAreNotOverwritten();
+    void entriesWithoutTerms();
     void undoAcrossSaving();
     void tellsWhatChanged();
     void insertionPointGoesWithItsState();
@@ -122,6 +124,19 @@ void Win32DocTest::opening()
     QVERIFY(disconnect(&test.document, &CWin32Doc::Changed, this, nullptr));
 }
 
+void Win32DocTest::refusedFiles()
+{
+    TestDocument test(QStringList{QStringLiteral("old|list")});
+    const QString path = Write("Ordelin 2.0\n" + QByteArray(16'000'001, 'x'));
+    QVERIFY(!test.document.OpenDocument(path));
+    QCOMPARE(test.document.List().Count(), 0);
+    QVERIFY(QFile::resize(path, qint64(512) * 1024 * 1024 + 1));
+    QVERIFY(!test.document.OpenDocument(path));
+    QCOMPARE(test.prompt.numbers, QList<int>({Text::LineTooLong, Text::FileTooLarge}));
+    QVERIFY(test.prompt.texts[0].contains(path) && test.prompt.texts[1].contains(path));
+    QCOMPARE(test.document.Path(), QString());
+}
+
 void Win32DocTest::saving()
 {
     TestDocument test(QStringList{QStringLiteral("a|b")});
@@ -183,6 +198,24 @@ void Win32DocTest::foreignChangesAreNotOverwritten()
     QCOMPARE(test.prompt.numbers.size(), 2);
     QVERIFY(QFile::remove(path));
     QVERIFY(test.document.OnSaveDocument(path)); // A file that is gone is made again.
+    QCOMPARE(test.prompt.numbers.size(), 2);
+}
+
+void Win32DocTest::entriesWithoutTerms()
+{
+    TestDocument test(
+        QStringList{QStringLiteral("a|b"), QStringLiteral("|| a note"), QStringLiteral("*|[ ]||1")});
+    const QString path = m_folder.filePath(QStringLiteral("without.gls"));
+    QVERIFY(test.document.OnSaveDocument(path));
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::EntriesNotSaved});
+    QVERIFY(test.prompt.texts[0].contains(u'2'));
+    QVERIFY(test.document.IsModified());
+    QCOMPARE(test.document.Title(), QStringLiteral("* without.gls"));
+    QVERIFY(test.document.SaveCopy(m_folder.filePath(QStringLiteral("copy.gls"))));
+    QCOMPARE(test.prompt.numbers.size(), 2);
+    test.document.Change([](CWordList &list) { list.DeleteEntries(std::array{1, 2}); });
+    QVERIFY(test.document.OnSaveDocument(path));
+    QVERIFY(!test.document.IsModified());
     QCOMPARE(test.prompt.numbers.size(), 2);
 }
 
