@@ -87,7 +87,7 @@ void CWordList::Sort(int key, const SortOptions &options, CRandom &random)
         std::vector<int> order;
         order.resize(size_t(Count()));
         std::iota(order.begin(), order.end(), 0);
-        Shuffle(order, random);
+        ShuffleCyclically(order, random);
         m_entries.Reorder(order);
     } else {
         SortByKey(key, options);

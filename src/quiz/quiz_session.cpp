@@ -73,7 +73,7 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
         wanted = std::min(std::max<qint64>((available * m_settings.partOfWords + 50) / 100, 1), available);
     }
     if (wanted < available) {
-        Shuffle(m_candidates, random);
+        ShuffleEvenly(m_candidates, random);
         m_candidates.resize(size_t(wanted));
         std::ranges::sort(m_candidates);
     }
@@ -81,9 +81,9 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
 
 void CQuizSession::shuffleAvoiding(int last)
 {
-    Shuffle(m_roundOrder, m_random);
+    ShuffleEvenly(m_roundOrder, m_random);
     while (m_roundOrder.size() >= 2 && m_roundOrder.front() == last) {
-        std::swap(m_roundOrder.front(), m_roundOrder[size_t(m_random.Next()) % m_roundOrder.size()]);
+        std::swap(m_roundOrder.front(), m_roundOrder[size_t(DrawBelow(m_random, roundSize()))]);
     }
 }
 

@@ -86,7 +86,7 @@ void Change(CEntrySequence &sequence, Plain &plain, CRandom &random, int number)
     case 4: {
         Plain order(plain.size());
         std::iota(order.begin(), order.end(), 0);
-        Shuffle(order, random);
+        ShuffleEvenly(order, random);
         Plain reordered;
         for (const int index : order) {
             reordered.push_back(plain[size_t(index)]);

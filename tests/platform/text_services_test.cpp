@@ -23,7 +23,6 @@ private Q_SLOTS:
     void lettersAndCase();
     void codePageByBytes();
     void codePageRefusesLookAlikes();
-    void shuffleKeepsEveryElement();
 };
 
 void TextServicesTest::swedishOrder()
@@ -128,28 +127,6 @@ void TextServicesTest::codePageRefusesLookAlikes()
     QVERIFY(!FitsWindows1252(u"α"));
     QVERIFY(!FitsWindows1252(u"e\u0301"));
     QVERIFY(FitsWindows1252(u"“Smörgås” – 5 €"));
-}
-
-void TextServicesTest::shuffleKeepsEveryElement()
-{
-    std::vector<int> numbers(40000);
-    std::iota(numbers.begin(), numbers.end(), 0);
-    CRandom random(1);
-    Shuffle(numbers, random);
-    QVERIFY(!std::ranges::is_sorted(numbers));
-    // Beyond 32767 elements the draws are widened, so that late elements reach late places too.
-    QVERIFY(std::any_of(numbers.begin() + 35000, numbers.end(), [](int number) { return number < 20000; }));
-    QCOMPARE(std::set<int>(numbers.begin(), numbers.end()).size(), numbers.size());
-
-    // Two elements: the first exchange decides, the second puts element 1 in front of element 0.
-    for (quint32 seed = 0; seed < 20; ++seed) {
-        CRandom draws(seed);
-        const bool swapped = draws.Next() % 2 == 1;
-        CRandom same(seed);
-        std::vector<int> pair = {0, 1};
-        Shuffle(pair, same);
-        QCOMPARE(pair, swapped ? (std::vector<int>{0, 1}) : (std::vector<int>{1, 0}));
-    }
 }
 
 QTEST_APPLESS_MAIN(TextServicesTest)

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+#include <array>
 #include <set>
 
 namespace {
@@ -54,6 +55,7 @@ class QuizSessionTest : public QObject
 private Q_SLOTS:
     void selection_data();
     void selection();
+    void evenChoice();
     void flaggedWords();
     void selectedEntries();
     void randomRounds();
@@ -110,6 +112,31 @@ void QuizSessionTest::selection()
         chosen.insert(session.candidates().begin(), session.candidates().end());
     }
     QCOMPARE(int(chosen.size()), expected == 0 ? 0 : available); // Every word at some time.
+}
+
+void QuizSessionTest::evenChoice()
+{
+    TestDocument test(Words(5));
+    QuizSettings settings = PlainSettings();
+    settings.wordsToQuiz = 1;
+    settings.numberOfWords = 2;
+    std::array<int, 5> chosen = {};
+    std::set<QString> orders;
+    constexpr int Sessions = 3000;
+    for (quint32 seed = 0; seed < Sessions; ++seed) {
+        CRandom random(seed);
+        const CQuizSession some(test.document, settings, random, {});
+        for (const int entry : some.candidates()) {
+            ++chosen[size_t(entry)];
+        }
+        QuizSettings all = PlainSettings();
+        all.order = 2;
+        orders.insert(Round(CQuizSession(test.document, all, random, {})));
+    }
+    for (const int count : chosen) {
+        QVERIFY2(count > 1100 && count < 1300, qPrintable(QString::number(count)));
+    }
+    QCOMPARE(orders.size(), size_t(120)); // Every order of five words.
 }
 
 void QuizSessionTest::flaggedWords()
