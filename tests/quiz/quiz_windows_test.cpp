@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "platform/ui/input_guard_filter.h"
 #include "quiz/ui/quiz_result_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "resources/text_numbers.h"
 #include "support/test_quiz.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -21,6 +24,8 @@ private Q_SLOTS:
     void cancelling();
     void nothingToAsk();
     void buttonsByKeyboard();
+    void hastyInput();
+    void hastyInputInAMessage();
 };
 
 void QuizWindowsTest::wholeQuizByKeyboard()
@@ -109,6 +114,60 @@ void QuizWindowsTest::buttonsByKeyboard()
     cancel->click();
     QVERIFY(answer->hasFocus());
     window->close();
+}
+
+void QuizWindowsTest::hastyInput()
+{
+    TestQuiz run({QStringLiteral("hund|dog"), QStringLiteral("katt|cat"), QStringLiteral("ko|cow")});
+    run.settings.requiz = 0;
+    run.settings.showAnswer = false;
+    run.clock.step = {};
+    run.launch.startQuiz(0);
+    auto *window = FindWindow<CStandardQuiz>();
+    auto *answer = window->findChild<QLineEdit *>(QStringLiteral("answer"));
+    auto *skip = window->findChild<QPushButton *>(QStringLiteral("skipButton"));
+    const auto word = [&] { return window->findChild<QLabel *>(QStringLiteral("wordText"))->text(); };
+    QTest::mouseClick(skip, Qt::LeftButton);
+    QTest::mouseDClick(skip, Qt::LeftButton); // It belongs to the same double click.
+    QTest::keyClick(answer, Qt::Key_Return);
+    QCOMPARE(word(), QStringLiteral("Glosa 2 av 3."));
+    QTest::keyClicks(answer, QStringLiteral("cat"));
+    QTest::keyClick(answer, Qt::Key_Return); // What was typed is an answer.
+    QCOMPARE(word(), QStringLiteral("Glosa 3 av 3."));
+    run.clock.now += CInputGuard::Pause;
+    QTest::keyClick(answer, Qt::Key_Return); // So is nothing, once the word was seen.
+
+    auto *result = FindWindow<CQuizResultDialog>();
+    QVERIFY(result != nullptr);
+    run.clock.now += CInputGuard::Pause;
+    QVERIFY(QTest::qWaitForWindowExposed(result)); // The pause begins when it is painted.
+    auto *list = result->findChild<QWidget *>(QStringLiteral("results"));
+    auto *ok = result->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+    QTest::keyClick(list, Qt::Key_Return);
+    QTest::keyClick(list, Qt::Key_Escape);
+    QTest::mouseClick(ok, Qt::LeftButton);
+    QVERIFY(result->isVisible());
+    QVERIFY(!run.test.document.IsModified());
+    run.clock.now += CInputGuard::Pause;
+    QTest::keyClick(list, Qt::Key_Return);
+    QVERIFY(!run.launch.isRunning() && run.test.document.IsModified());
+}
+
+void QuizWindowsTest::hastyInputInAMessage()
+{
+    std::chrono::milliseconds now{0};
+    CInputGuardFilter guard([&] { return now; });
+    guard.NextDialogOpens();
+    QMessageBox box(QMessageBox::Information, {}, QStringLiteral("x"), QMessageBox::Ok);
+    box.open();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space}) {
+        QTest::keyClick(box.button(QMessageBox::Ok), key);
+        QVERIFY(box.isVisible());
+    }
+    now += CInputGuard::Pause;
+    QTest::keyClick(box.button(QMessageBox::Ok), Qt::Key_Return);
+    QVERIFY(!box.isVisible());
 }
 
 QTEST_MAIN(QuizWindowsTest)

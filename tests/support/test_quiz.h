@@ -32,6 +32,15 @@ public:
     QStringList calls;
 };
 
+/// A clock that tests set. By default it is a second later each time it is read, so that nobody waits.
+struct TestClock
+{
+    std::chrono::milliseconds now{0};
+    std::chrono::milliseconds step{1000};
+
+    std::chrono::milliseconds Read() { return now += step; }
+};
+
 /// The window of this class on screen.
 template<class Window>
 Window *FindWindow()
@@ -56,6 +65,7 @@ struct TestQuiz
     CTestHost host;
     CSilentSounds sounds;
     CScriptedChooser chooser;
+    TestClock clock;
     QWidget mainWindow;
     CQuizLaunch launch;
 
@@ -73,7 +83,8 @@ struct TestQuiz
                                         .sounds = sounds,
                                         .chooser = chooser,
                                         .resultSettings = resultSettings,
-                                        .dataFolders = folders}},
+                                        .dataFolders = folders,
+                                        .clock = [this] { return clock.Read(); }}},
                              mainWindow)
     {
         settings.order = 0;

@@ -3,6 +3,7 @@
 
 #include "platform/sound_player.h"
 #include "platform/ui/held_enter.h"
+#include "platform/ui/input_guard_filter.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
 #include "quiz/ui/accept_answer_button.h"
@@ -34,7 +35,7 @@ void ShowProgress(QLabel &label, QProgressBar &bar, const QuizProgress &progress
 }
 
 CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
-    : m_services(services), m_form(form)
+    : m_services(services), m_form(form), m_guard(new CInputGuardFilter(services.clock, this))
 {
     setWindowTitle(texts().Get(Text::QuizTitle));
     setWindowModality(Qt::WindowModal);
@@ -134,10 +135,16 @@ void CQuizDialog::updateStatistics()
 void CQuizDialog::proceed(bool more)
 {
     if (more) {
-        showCurrentWord();
+        showNextWord();
     } else {
         accept();
     }
+}
+
+void CQuizDialog::showNextWord()
+{
+    showCurrentWord();
+    m_guard->QuestionAppeared(*this, [this] { return isAnswerEmpty(); });
 }
 
 void CQuizDialog::acceptLastAnswer()
@@ -171,6 +178,8 @@ void CQuizDialog::showFeedback(AnswerVerdict verdict, const std::optional<Feedba
     if (feedback) {
         // One sound is enough.
         const PromptIcon icon = sound.isEmpty() ? PromptIcon::Information : PromptIcon::PlainInformation;
+        CInputGuardFilter guard(m_services.clock);
+        guard.NextDialogOpens();
         prompt().Tell({feedback->number, feedback->text}, icon);
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/clock.h"
 #include "quiz/answer_check.h"
 
 #include <QDialog>
@@ -9,6 +10,7 @@
 
 #include <optional>
 
+class CInputGuardFilter;
 class CQuizForm;
 class CTexts;
 class IFileChooser;
@@ -33,6 +35,8 @@ struct QuizWindowServices
     QStringList dataFolders = {};
     /// The user's own font, for all quiz windows.
     std::optional<QFont> font = {};
+    /// By which it is told what was not meant for a window that opened by itself.
+    Clock clock = SteadyClock;
 };
 
 /// The common base of quiz windows: statistics, the buttons that every form has, and the question before a quiz
@@ -51,6 +55,8 @@ protected:
     virtual void showCurrentWord() = 0;
     /// Gives the focus to where answers are given.
     virtual void focusInput() = 0;
+    /// Whether Enter would record an answer of nothing.
+    virtual bool isAnswerEmpty() const = 0;
     void updateStatistics();
     /// After the form went on: shows the word on screen, or closes the window as finished.
     void proceed(bool more);
@@ -73,8 +79,11 @@ private:
     void showResult();
     void acceptLastAnswer();
 
+    void showNextWord();
+
     QuizWindowServices m_services;
     CQuizForm &m_form;
+    CInputGuardFilter *m_guard;
     QVBoxLayout *m_fields = nullptr;
     bool m_wasShown = false;
     QPushButton *m_answer = nullptr;

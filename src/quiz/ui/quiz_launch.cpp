@@ -2,6 +2,7 @@
 #include "quiz/ui/quiz_launch.h"
 
 #include "document/win32_doc.h"
+#include "platform/ui/input_guard_filter.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/duplicate_question.h"
 #include "quiz/quiz_host.h"
@@ -81,6 +82,7 @@ void CQuizLaunch::showResult()
         *m_session, m_services.windows, CQuizResultDialog::Mode::AfterQuiz, &m_mainWindow);
     result->setAttribute(Qt::WA_DeleteOnClose);
     connect(result, &QDialog::finished, this, &CQuizLaunch::finish);
+    (new CInputGuardFilter(m_services.windows.clock, result))->WindowOpens(*result);
     result->open();
 }
 

@@ -52,6 +52,11 @@ void CStandardQuiz::focusInput()
     m_answerField->setFocus();
 }
 
+bool CStandardQuiz::isAnswerEmpty() const
+{
+    return m_answerField->text().trimmed().isEmpty();
+}
+
 void CStandardQuiz::answer()
 {
     const CStandardQuizForm::Outcome outcome = m_form.answer(m_answerField->text());

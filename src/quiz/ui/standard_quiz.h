@@ -18,6 +18,7 @@ public:
 protected:
     void showCurrentWord() override;
     void focusInput() override;
+    bool isAnswerEmpty() const override;
 
 private:
     void answer();
