@@ -4,12 +4,15 @@
 #include "document/win32_doc.h"
 #include "model/term_syntax.h"
 #include "platform/plain_text.h"
+#include "platform/user_prompt.h"
 #include "quiz/quiz_session.h"
+#include "quiz/shortened.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-CChangeEntry::CChangeEntry(CQuizSession &session, const CTexts &texts, QObject *parent)
-    : QAbstractListModel(parent), m_session(session), m_texts(texts), m_lineFormat(texts.Get(Text::EntryLine))
+CChangeEntry::CChangeEntry(CQuizSession &session, const CTexts &texts, IUserPrompt &prompt, QObject *parent)
+    : QAbstractListModel(parent), m_session(session), m_texts(texts), m_prompt(prompt),
+      m_lineFormat(texts.Get(Text::EntryLine))
 {
 }
 
@@ -20,12 +23,12 @@ int CChangeEntry::rowCount(const QModelIndex &parent) const
 
 QVariant CChangeEntry::data(const QModelIndex &index, int role) const
 {
-    return role == Qt::DisplayRole && index.isValid() ? Line(index.row()) : QVariant();
+    return role == Qt::DisplayRole && index.isValid() ? line(index.row()) : QVariant();
 }
 
-QString CChangeEntry::Line(int entry) const
+QString CChangeEntry::line(int entry) const
 {
-    const Fields fields = FieldsOf(entry);
+    const Fields fields = fieldsOf(entry);
     QString line;
     for (qsizetype i = 0; i < m_lineFormat.size(); ++i) {
         const QStringView variable = QStringView(m_lineFormat).mid(i, 2);
@@ -39,19 +42,19 @@ QString CChangeEntry::Line(int entry) const
     return line;
 }
 
-QString CChangeEntry::Label(int language) const
+QString CChangeEntry::label(int language) const
 {
     return m_texts.Fill(language == 0 ? Text::ChangeEntryTerm1 : Text::ChangeEntryTerm2,
         {ShownInCaption(m_session.document().List().GetLanguage(language))});
 }
 
-CChangeEntry::Fields CChangeEntry::FieldsOf(int entry) const
+CChangeEntry::Fields CChangeEntry::fieldsOf(int entry) const
 {
     const CWordEntry &stored = m_session.document().List().Entry(entry);
     return {stored.GetText(0), stored.GetText(1), stored.GetNote()};
 }
 
-bool CChangeEntry::Change(int entry, const Fields &typed)
+bool CChangeEntry::change(int entry, const Fields &typed)
 {
     const QString term1 = NormalizeTerm(typed.term1);
     const QString term2 = NormalizeTerm(typed.term2);
@@ -62,4 +65,35 @@ bool CChangeEntry::Change(int entry, const Fields &typed)
     const QModelIndex line = index(entry);
     Q_EMIT dataChanged(line, line);
     return true;
+}
+
+QString CChangeEntry::storedLine(int entry) const
+{
+    constexpr qsizetype Kept = 20;
+    return m_texts.Fill(Text::EntryWasChanged, {shortened(line(entry), Kept)});
+}
+
+bool CChangeEntry::wouldChange(int entry, const Fields &typed) const
+{
+    const CWordEntry changed(typed.term1, typed.term2, typed.note);
+    const CWordEntry &stored = m_session.document().List().Entry(entry);
+    return changed.GetText(0) != stored.GetText(0) || changed.GetText(1) != stored.GetText(1)
+        || changed.GetNote() != stored.GetNote();
+}
+
+bool CChangeEntry::mayLeave(int entry, const Fields &typed)
+{
+    if (!wouldChange(entry, typed)) {
+        return true;
+    }
+    switch (m_prompt.Ask(m_texts.Prompt(Text::SaveChangedEntry), PromptIcon::Question,
+        PromptButtons::YesNoCancel, PromptAnswer::Yes)) {
+    case PromptAnswer::Yes:
+        return change(entry, typed);
+    case PromptAnswer::No:
+        return true;
+    case PromptAnswer::Cancel:
+        break;
+    }
+    return false;
 }

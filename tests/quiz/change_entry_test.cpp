@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/change_entry.h"
 #include "quiz/quiz_session.h"
+#include "resources/text_numbers.h"
 #include "settings/quiz_settings.h"
 #include "support/test_document.h"
 
@@ -18,7 +19,10 @@ struct Change
     CQuizSession session;
     CChangeEntry entries;
 
-    Change() : session(test.document, InListOrder(settings), random, {}), entries(session, test.texts) { }
+    Change()
+        : session(test.document, InListOrder(settings), random, {}), entries(session, test.texts, test.prompt)
+    {
+    }
     static const QuizSettings &InListOrder(QuizSettings &settings)
     {
         settings.order = 0;
@@ -38,6 +42,8 @@ private Q_SLOTS:
     void lines();
     void changing();
     void emptyTerms();
+    void leaving_data();
+    void leaving();
     void judgedAnewInOneStep();
 };
 
@@ -47,9 +53,9 @@ void ChangeEntryTest::lines()
     const QAbstractItemModelTester tester(&run.entries);
     QCOMPARE(run.Line(0), QStringLiteral("hund - dog - %1 & %n"));
     QCOMPARE(run.Line(1), QStringLiteral("katt - kat - "));
-    run.test.document.Change([&](CWordList &list) { list.SetLanguage(0, QStringLiteral("A & B")); });
-    QCOMPARE(run.entries.Label(0), QStringLiteral("&1 A && B:"));
-    QCOMPARE(run.entries.Label(1), QStringLiteral("&2 Engelska:"));
+    run.test.document.Change([](CWordList &list) { list.SetLanguage(0, QStringLiteral("A & B")); });
+    QCOMPARE(run.entries.label(0), QStringLiteral("&1 A && B:"));
+    QCOMPARE(run.entries.label(1), QStringLiteral("&2 Engelska:"));
 }
 
 void ChangeEntryTest::changing()
@@ -57,7 +63,7 @@ void ChangeEntryTest::changing()
     Change run;
     const QSignalSpy changed(&run.entries, &QAbstractItemModel::dataChanged);
     QVERIFY(
-        run.entries.Change(0, {QStringLiteral(" jycke*hund "), QStringLiteral("dog "), QStringLiteral(" n ")}));
+        run.entries.change(0, {QStringLiteral(" jycke*hund "), QStringLiteral("dog "), QStringLiteral(" n ")}));
     QCOMPARE(changed.count(), 1);
     QCOMPARE(run.Line(0), QStringLiteral("jycke * hund - dog - n"));
     QCOMPARE(Describe(run.test.document.List()),
@@ -68,12 +74,39 @@ void ChangeEntryTest::emptyTerms()
 {
     Change run;
     const QStringList before = Describe(run.test.document.List());
-    QVERIFY(!run.entries.Change(0, {QStringLiteral(" * "), QStringLiteral("x"), {}}));
-    QVERIFY(!run.entries.Change(0, {QStringLiteral("x"), QStringLiteral("[ ]"), {}}));
-    QVERIFY(run.entries.Change(1, run.entries.FieldsOf(1))); // Nothing differs.
+    QVERIFY(!run.entries.change(0, {QStringLiteral(" * "), QStringLiteral("x"), {}}));
+    QVERIFY(!run.entries.change(0, {QStringLiteral("x"), QStringLiteral("[ ]"), {}}));
+    QVERIFY(run.entries.change(1, run.entries.fieldsOf(1))); // Nothing differs.
     QCOMPARE(Describe(run.test.document.List()), before);
     QCOMPARE(run.test.document.UndoCount(), 0);
     QVERIFY(run.test.document.List().IsSaved());
+}
+
+void ChangeEntryTest::leaving_data()
+{
+    QTest::addColumn<QString>("term1");
+    QTest::addColumn<QList<PromptAnswer>>("answers");
+    QTest::addColumn<bool>("mayLeave");
+    QTest::addColumn<bool>("stored");
+    using Answers = QList<PromptAnswer>;
+    QTest::newRow("nothing would change") << " katt " << Answers() << true << false;
+    QTest::newRow("stored") << "hane" << Answers{PromptAnswer::Yes} << true << true;
+    QTest::newRow("thrown away") << "hane" << Answers{PromptAnswer::No} << true << false;
+    QTest::newRow("stays") << "hane" << Answers{PromptAnswer::Cancel} << false << false;
+    QTest::newRow("can't be stored") << " " << Answers{PromptAnswer::Yes} << false << false;
+}
+
+void ChangeEntryTest::leaving()
+{
+    QFETCH(QString, term1);
+    QFETCH(QList<PromptAnswer>, answers);
+    QFETCH(bool, mayLeave);
+    QFETCH(bool, stored);
+    Change run;
+    run.test.prompt.answers = answers;
+    QCOMPARE(run.entries.mayLeave(1, {term1, QStringLiteral("kat"), {}}), mayLeave);
+    QCOMPARE(run.test.prompt.numbers, QList<int>(answers.size(), Text::SaveChangedEntry));
+    QCOMPARE(run.Line(1), stored ? QStringLiteral("hane - kat - ") : QStringLiteral("katt - kat - "));
 }
 
 void ChangeEntryTest::judgedAnewInOneStep()
@@ -82,8 +115,8 @@ void ChangeEntryTest::judgedAnewInOneStep()
     run.session.recordAnswer(0, QStringLiteral("doggy"));
     run.session.recordAnswer(1, QStringLiteral("cat"));
     const QStringList before = Describe(run.test.document.List());
-    QVERIFY(run.entries.Change(1, {QStringLiteral("katt"), QStringLiteral("cat"), {}}));
-    QVERIFY(run.entries.Change(0, {QStringLiteral("hund"), QStringLiteral("dog*doggy"), {}}));
+    QVERIFY(run.entries.change(1, {QStringLiteral("katt"), QStringLiteral("cat"), {}}));
+    QVERIFY(run.entries.change(0, {QStringLiteral("hund"), QStringLiteral("dog*doggy"), {}}));
     run.session.recheckAll();
     QCOMPARE(run.session.totalRight(), 2);
     QCOMPARE(run.session.totalWrong(), 0);

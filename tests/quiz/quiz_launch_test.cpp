@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -182,6 +183,16 @@ void QuizLaunchTest::changingAnEntry()
     QTest::keyClick(term1, Qt::Key_Return);
     QVERIFY(dialog->isVisible());
     QCOMPARE(list->currentText(), QStringLiteral("katt - cat - "));
+    auto *const stored = dialog->findChild<QLabel *>(QStringLiteral("storedLine"));
+    QCOMPARE(stored->text(), QStringLiteral("Sparad: katt - cat - "));
+    term1->clear();
+    QTest::keyClicks(term1, QStringLiteral("hane"));
+    QCOMPARE(stored->text(), QString());
+    run.test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::Cancel, PromptAnswer::No};
+    list->setCurrentIndex(0);
+    QVERIFY(list->currentIndex() == 1 && term1->text() == QStringLiteral("hane"));
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QVERIFY(dialog->isVisible());
     list->setCurrentIndex(0);
     QCOMPARE(term2->text(), QStringLiteral("dog"));
     term2->setText(QStringLiteral("dog*doggy"));

@@ -2,6 +2,7 @@
 #include "quiz/ui/change_entry_dialog.h"
 
 #include "platform/plain_text.h"
+#include "platform/ui/elided_label.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -11,20 +12,26 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 namespace {
 
 void AddRow(QFormLayout &form, const QString &caption, QWidget *control)
 {
     control->setAccessibleName(CaptionReadOut(caption));
-    form.addRow(caption, control);
+    auto *label = new QLabel(control->parentWidget());
+    label->setTextFormat(Qt::PlainText);
+    label->setText(caption);
+    label->setBuddy(control);
+    form.addRow(label, control);
 }
 
 }
 
-CChangeEntryDialog::CChangeEntryDialog(CQuizSession &session, const CTexts &texts, int start, QWidget *parent)
-    : QDialog(parent), m_entries(session, texts), m_list(MakeList(start)), m_term1(MakeField("term1")),
-      m_term2(MakeField("term2")), m_note(MakeField("note"))
+CChangeEntryDialog::CChangeEntryDialog(
+    CQuizSession &session, const CTexts &texts, IUserPrompt &prompt, int start, QWidget *parent)
+    : QDialog(parent), m_entries(session, texts, prompt), m_list(makeList(start)), m_term1(makeField("term1")),
+      m_term2(makeField("term2")), m_note(makeField("note")), m_stored(new CElidedLabel(this))
 {
     setWindowTitle(texts.Get(Text::ChangeEntryTitle));
     setWindowModality(Qt::WindowModal);
@@ -36,11 +43,11 @@ CChangeEntryDialog::CChangeEntryDialog(CQuizSession &session, const CTexts &text
 
     auto *form = new QFormLayout;
     AddRow(*form, texts.Get(Text::ChangeEntryList), m_list);
-    AddRow(*form, m_entries.Label(0), m_term1);
-    AddRow(*form, m_entries.Label(1), m_term2);
+    AddRow(*form, m_entries.label(0), m_term1);
+    AddRow(*form, m_entries.label(1), m_term2);
     AddRow(*form, texts.Get(Text::ChangeEntryNote), m_note);
     auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
+    buttons->addWidget(m_stored, 1);
     buttons->addWidget(change);
     buttons->addWidget(close);
     auto *layout = new QVBoxLayout(this);
@@ -48,14 +55,18 @@ CChangeEntryDialog::CChangeEntryDialog(CQuizSession &session, const CTexts &text
     layout->addStretch(1);
     layout->addLayout(buttons);
 
-    connect(m_list, &QComboBox::currentIndexChanged, this, &CChangeEntryDialog::ShowFields);
-    connect(change, &QPushButton::clicked, this, &CChangeEntryDialog::Change);
+    m_stored->setObjectName(QStringLiteral("storedLine"));
+    connect(m_list, &QComboBox::currentIndexChanged, this, &CChangeEntryDialog::chooseEntry);
+    connect(change, &QPushButton::clicked, this, &CChangeEntryDialog::change);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    ShowFields();
+    for (const QLineEdit *field : {m_term1, m_term2, m_note}) {
+        connect(field, &QLineEdit::textEdited, m_stored, &QLabel::clear);
+    }
+    showEntry(start);
     m_term1->setFocus();
 }
 
-QComboBox *CChangeEntryDialog::MakeList(int start)
+QComboBox *CChangeEntryDialog::makeList(int start)
 {
     auto *list = new QComboBox(this);
     list->setObjectName(QStringLiteral("entries"));
@@ -75,25 +86,51 @@ QComboBox *CChangeEntryDialog::MakeList(int start)
     return list;
 }
 
-QLineEdit *CChangeEntryDialog::MakeField(const char *name)
+QLineEdit *CChangeEntryDialog::makeField(const char *name)
 {
     auto *field = new QLineEdit(this);
     field->setObjectName(QLatin1StringView(name));
     return field;
 }
 
-void CChangeEntryDialog::ShowFields()
+CChangeEntry::Fields CChangeEntryDialog::typed() const
 {
-    const CChangeEntry::Fields fields = m_entries.FieldsOf(m_list->currentIndex());
+    return {m_term1->text(), m_term2->text(), m_note->text()};
+}
+
+void CChangeEntryDialog::showEntry(int entry)
+{
+    m_entry = entry;
+    const CChangeEntry::Fields fields = m_entries.fieldsOf(entry);
     m_term1->setText(fields.term1);
     m_term2->setText(fields.term2);
     m_note->setText(fields.note);
+    m_stored->clear();
 }
 
-void CChangeEntryDialog::Change()
+void CChangeEntryDialog::chooseEntry(int entry)
 {
-    const CChangeEntry::Fields typed = {m_term1->text(), m_term2->text(), m_note->text()};
-    if (m_entries.Change(m_list->currentIndex(), typed)) {
-        ShowFields();
+    if (m_entries.mayLeave(m_entry, typed())) {
+        showEntry(entry);
+    } else {
+        const QSignalBlocker blocker(m_list);
+        m_list->setCurrentIndex(m_entry);
+    }
+}
+
+void CChangeEntryDialog::change()
+{
+    if (m_entries.change(m_entry, typed())) {
+        showEntry(m_entry);
+        m_stored->setText(m_entries.storedLine(m_entry));
+    } else {
+        (m_term1->text().trimmed().isEmpty() ? m_term1 : m_term2)->setFocus();
+    }
+}
+
+void CChangeEntryDialog::reject()
+{
+    if (m_entries.mayLeave(m_entry, typed())) {
+        QDialog::reject();
     }
 }

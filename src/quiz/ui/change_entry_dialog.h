@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class CElidedLabel;
 class QComboBox;
 class QLineEdit;
 
@@ -15,17 +16,25 @@ class CChangeEntryDialog : public QDialog
 
 public:
     /// Starts on the entry `start`. Nothing handed in is owned.
-    CChangeEntryDialog(CQuizSession &session, const CTexts &texts, int start, QWidget *parent = nullptr);
+    CChangeEntryDialog(
+        CQuizSession &session, const CTexts &texts, IUserPrompt &prompt, int start, QWidget *parent = nullptr);
+
+    /// Asks first where something typed would be lost.
+    void reject() override;
 
 private:
-    QComboBox *MakeList(int start);
-    QLineEdit *MakeField(const char *name);
-    void ShowFields();
-    void Change();
+    QComboBox *makeList(int start);
+    QLineEdit *makeField(const char *name);
+    CChangeEntry::Fields typed() const;
+    void showEntry(int entry);
+    void chooseEntry(int entry);
+    void change();
 
     CChangeEntry m_entries;
+    int m_entry = 0;
     QComboBox *m_list;
     QLineEdit *m_term1;
     QLineEdit *m_term2;
     QLineEdit *m_note;
+    CElidedLabel *m_stored;
 };

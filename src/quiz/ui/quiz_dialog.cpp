@@ -187,7 +187,7 @@ void CQuizDialog::showFeedback(AnswerVerdict verdict, const std::optional<Feedba
 void CQuizDialog::changeEntry()
 {
     auto *dialog = new CChangeEntryDialog(
-        m_form.session(), texts(), m_form.session().entryOfRound(m_form.roundPosition()), this);
+        m_form.session(), texts(), prompt(), m_form.session().entryOfRound(m_form.roundPosition()), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (m_services.font) {
         dialog->setFont(*m_services.font);
