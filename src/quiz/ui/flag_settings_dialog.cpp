@@ -68,7 +68,9 @@ QSpinBox *CFlagSettingsDialog::addLimit(QGridLayout &grid, QCheckBox &toggle, co
     limit->setValue(value);
     limit->setEnabled(toggle.isChecked());
     connect(&toggle, &QCheckBox::toggled, limit, &QWidget::setEnabled);
-    auto *unit = new QLabel(m_texts.Get(Text::PercentRight), this);
+    auto *unit = new QLabel(this);
+    unit->setTextFormat(Qt::PlainText);
+    unit->setText(m_texts.Get(Text::PercentRight));
     grid.addWidget(limit, grid.rowCount() - 1, 1);
     grid.addWidget(unit, grid.rowCount() - 1, 2);
     return limit;

@@ -66,7 +66,8 @@ QLabel *makeExplanation(QWidget *page, const QString &text)
 QList<QWidget *> addRow(QFormLayout &form, const QString &caption, QWidget *control, const QString &unit)
 {
     QWidget *const page = control->parentWidget();
-    auto *label = new QLabel(caption, page);
+    auto *label = makeExplanation(page, caption);
+    label->setWordWrap(false);
     label->setBuddy(control);
     control->setAccessibleName(CaptionReadOut(caption));
     auto *field = new QHBoxLayout;
