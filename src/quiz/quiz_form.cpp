@@ -6,6 +6,8 @@
 #include "resources/texts.h"
 #include "settings/quiz_settings.h"
 
+#include <utility>
+
 CQuizForm::CQuizForm(CQuizSession &session, const QuizSettings &settings, const CTexts &texts)
     : m_session(session), m_settings(settings), m_texts(texts)
 {
@@ -50,9 +52,16 @@ QuizProgress CQuizForm::rightProgress() const
     return {m_texts.Fill(Text::RightLine, {QString::number(right), QString::number(total)}), right, total};
 }
 
+AnswerVerdict CQuizForm::recordAnswer(const QString &answer)
+{
+    m_skipped = false;
+    return m_session.recordAnswer(m_roundPosition, answer);
+}
+
 bool CQuizForm::advance(AnswerVerdict verdict)
 {
     constexpr int AskAgainAtOnce = 2;
+    m_leftByAccepting = false;
     m_askedAgain = verdict == AnswerVerdict::Wrong && m_settings.requiz == AskAgainAtOnce;
     if (!m_askedAgain) {
         ++m_roundPosition;
@@ -64,20 +73,57 @@ bool CQuizForm::advance(AnswerVerdict verdict)
     return m_session.startRound();
 }
 
+bool CQuizForm::skip()
+{
+    m_skipped = true;
+    return advance(AnswerVerdict::Right);
+}
+
 QString CQuizForm::lastAnswer() const
 {
-    const int position = m_session.lastAnswered();
-    return position < 0 ? QString() : m_session.record(position).answers.last();
+    return m_session.record(m_session.lastAnswered()).answers.last();
 }
 
-bool CQuizForm::mayAcceptLastAnswer() const
+AcceptOffer CQuizForm::acceptOffer() const
 {
-    return m_session.lastAnswered() >= 0 && m_session.mayAccept(m_session.lastAnswered(), lastAnswer());
+    if (m_session.acceptedAnswer()) {
+        return takeBackOffer(m_session);
+    }
+    const int last = m_session.lastAnswered();
+    return last >= 0 && !m_skipped ? ::acceptOffer(m_session, last, lastAnswer()) : AcceptOffer();
 }
 
-bool CQuizForm::acceptLastAnswer()
+CQuizForm::Next CQuizForm::takeAcceptOffer()
 {
-    const bool accepted =
-        m_session.lastAnswered() >= 0 && m_session.acceptAnswer(m_session.lastAnswered(), lastAnswer());
-    return accepted && m_askedAgain ? advance(AnswerVerdict::Right) : true;
+    switch (acceptOffer().kind) {
+    case AcceptOffer::Kind::Nothing:
+        break;
+    case AcceptOffer::Kind::Accept:
+        return acceptLastAnswer();
+    case AcceptOffer::Kind::TakeBack:
+        return takeBackLastAnswer();
+    }
+    return Next::SameWord;
+}
+
+CQuizForm::Next CQuizForm::acceptLastAnswer()
+{
+    m_session.acceptAnswer(m_session.lastAnswered(), lastAnswer());
+    if (!m_askedAgain) {
+        return Next::SameWord;
+    }
+    const bool more = advance(AnswerVerdict::Right);
+    m_leftByAccepting = m_roundPosition > 0;
+    return more ? Next::OtherWord : Next::Over;
+}
+
+CQuizForm::Next CQuizForm::takeBackLastAnswer()
+{
+    m_session.takeBackAcceptedAnswer();
+    if (!std::exchange(m_leftByAccepting, false)) {
+        return Next::SameWord;
+    }
+    --m_roundPosition;
+    m_askedAgain = true;
+    return Next::OtherWord;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "quiz/accept_offer.h"
 #include "quiz/quiz_session.h"
 
 #include <QString>
@@ -40,24 +41,32 @@ public:
     /// over.
     bool advance(AnswerVerdict verdict);
     /// Goes on without recording an answer. False when the quiz is over.
-    bool skip() { return advance(AnswerVerdict::Right); }
+    bool skip();
 
-    /// Whether the word on screen is asked again since the last answer was wrong.
-    bool isAskedAgain() const { return m_askedAgain; }
-    /// Whether the last answer is judged wrong and may be taken as right.
-    bool mayAcceptLastAnswer() const;
-    /// Makes it a further alternative of its entry. A word that is asked again because of it is left as after a
-    /// right answer. False when the quiz is over.
-    bool acceptLastAnswer();
+    /// What "I was right" would do: accept the last answer, unless a word was skipped after it, or take back
+    /// what was accepted.
+    AcceptOffer acceptOffer() const;
+    /// What there is to show afterwards.
+    enum class Next { SameWord, OtherWord, Over };
+    /// Does it. A word that is asked again because of the answer is left as after a right one, and comes back
+    /// when the answer is taken back on the next word.
+    Next takeAcceptOffer();
 
 protected:
+    /// Judges and records an answer to the word on screen.
+    AnswerVerdict recordAnswer(const QString &answer);
+
     CQuizSession &m_session;
     const QuizSettings &m_settings;
     const CTexts &m_texts;
 
 private:
     QString lastAnswer() const;
+    Next acceptLastAnswer();
+    Next takeBackLastAnswer();
 
     int m_roundPosition = 0;
     bool m_askedAgain = false;
+    bool m_skipped = false; // After the last answer.
+    bool m_leftByAccepting = false; // The word before this one in the round.
 };

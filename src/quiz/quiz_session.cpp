@@ -161,6 +161,7 @@ AnswerVerdict CQuizSession::recordAnswer(int roundPosition, const QString &text)
     const AnswerVerdict verdict = judge(position, text);
     count(position, verdict);
     m_lastAnswered = position;
+    m_accepted.reset();
     if (verdict == AnswerVerdict::Wrong && std::ranges::find(m_wrongList, position) == m_wrongList.end()) {
         m_wrongList.push_back(position);
     }

@@ -91,6 +91,16 @@ public:
     bool mayAccept(int position, const QString &answer) const;
     /// Makes it one and judges again. Returns false when it may not be.
     bool acceptAnswer(int position, const QString &answer);
+    /// What was accepted last, until the next answer or change of an entry.
+    struct AcceptedAnswer
+    {
+        int position = 0;
+        QString answer;
+        CWordEntry before;
+    };
+    const std::optional<AcceptedAnswer> &acceptedAnswer() const { return m_accepted; }
+    /// Gives the entry the texts that it had before, and judges again.
+    void takeBackAcceptedAnswer();
     /// 0 or 1: the flag stays like that; 2: it will be taken off; 3: it will be set.
     int flagDecision(int position, const FlagLimits &limits) const;
     FlagChanges flagChanges(const FlagLimits &limits) const;
@@ -123,6 +133,7 @@ private:
     int m_totalRight = 0;
     int m_totalWrong = 0;
     int m_lastAnswered = -1;
+    std::optional<AcceptedAnswer> m_accepted;
     bool m_selectMistakes = false;
     std::optional<quint64> m_ownChange; // The document's change counter after the session's last change.
 };

@@ -6,6 +6,8 @@
 #include "quiz/rounding.h"
 #include "settings/quiz_settings.h"
 
+#include <utility>
+
 namespace {
 
 /// The decisions about a flag that are changes.
@@ -24,6 +26,7 @@ void CQuizSession::changeList(const std::function<void(CWordList &)> &change)
 {
     if (m_document.Change(change, m_ownChange)) {
         m_ownChange = m_document.ChangeCounter();
+        m_accepted.reset();
     }
 }
 
@@ -52,10 +55,22 @@ bool CQuizSession::acceptAnswer(int position, const QString &answer)
     if (!mayAccept(position, answer)) {
         return false;
     }
-    const CWordEntry entry = entryAccepting(position, answer);
-    changeEntry(m_candidates[size_t(position)], entry.GetText(0), entry.GetText(1), entry.GetNote());
+    const CWordEntry before = questionAt(position).entry;
+    const CWordEntry changed = entryAccepting(position, answer);
+    changeEntry(m_candidates[size_t(position)], changed.GetText(0), changed.GetText(1), changed.GetNote());
+    m_accepted = {position, answer, before};
     recheckAll();
     return true;
+}
+
+void CQuizSession::takeBackAcceptedAnswer()
+{
+    if (const auto accepted = std::exchange(m_accepted, std::nullopt)) {
+        const CWordEntry &before = accepted->before;
+        changeEntry(
+            m_candidates[size_t(accepted->position)], before.GetText(0), before.GetText(1), before.GetNote());
+        recheckAll();
+    }
 }
 
 std::vector<int> CQuizSession::mistakes() const

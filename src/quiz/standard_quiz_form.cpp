@@ -23,7 +23,7 @@ QString CStandardQuizForm::prefilledAnswer() const
 CStandardQuizForm::Outcome CStandardQuizForm::answer(const QString &typed)
 {
     const QString tidied = NormalizeTerm(typed);
-    const AnswerVerdict verdict = m_session.recordAnswer(roundPosition(), tidied);
+    const AnswerVerdict verdict = recordAnswer(tidied);
     return {verdict,
         feedbackText(m_texts, m_settings, verdict, m_session.questionOfRound(roundPosition()), tidied)};
 }

@@ -2,6 +2,7 @@
 #include "quiz/wrong_answers_model.h"
 
 #include "quiz/quiz_session.h"
+#include "quiz/shortened.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -9,23 +10,13 @@ namespace {
 
 using Kind = DifferencePart::Kind;
 
-QString Shortened(const QString &text)
-{
-    constexpr qsizetype Kept = 40;
-    if (text.size() <= 3 * Kept) {
-        return text;
-    }
-    qsizetype start = Kept;
-    qsizetype end = text.size() - Kept;
-    start += text.at(start).isLowSurrogate() ? 1 : 0;
-    end += text.at(end).isLowSurrogate() ? 1 : 0;
-    return text.left(start) + QChar(u'…') + text.mid(end);
-}
+/// Of each text at its start and end.
+constexpr qsizetype Kept = 40;
 
 QString Escaped(const QString &text)
 {
     // Blanks must not run into one.
-    return Shortened(text).toHtmlEscaped().replace(u' ', QChar(QChar::Nbsp));
+    return shortened(text, Kept).toHtmlEscaped().replace(u' ', QChar(QChar::Nbsp));
 }
 
 QString Tagged(const QString &text, const char *tag)
@@ -55,12 +46,12 @@ QList<DifferencePart> Steps(const QList<DifferencePart> &parts)
 QString StepInWords(const DifferencePart &step, const CTexts &texts)
 {
     if (step.typed.isEmpty()) {
-        return texts.Fill(Text::StepAdd, {Shortened(step.expected)});
+        return texts.Fill(Text::StepAdd, {shortened(step.expected, Kept)});
     }
     if (step.expected.isEmpty()) {
-        return texts.Fill(Text::StepLeaveOut, {Shortened(step.typed)});
+        return texts.Fill(Text::StepLeaveOut, {shortened(step.typed, Kept)});
     }
-    return texts.Fill(Text::StepChange, {Shortened(step.typed), Shortened(step.expected)});
+    return texts.Fill(Text::StepChange, {shortened(step.typed, Kept), shortened(step.expected, Kept)});
 }
 
 }
@@ -89,7 +80,7 @@ QString differenceInWords(const AnswerDifference &difference, const CTexts &text
         steps.append(StepInWords(step, texts));
     }
     const QString sentence = texts.Fill(Text::DifferenceInWords,
-        {Shortened(difference.typed), Shortened(difference.expected),
+        {shortened(difference.typed, Kept), shortened(difference.expected, Kept),
             steps.join(texts.Get(Text::QuotedSeparator))});
     const QString slip = slipName(difference.slip, texts);
     return slip.isEmpty() ? sentence : sentence + u' ' + slip + u'.';
@@ -109,9 +100,10 @@ void CWrongAnswersModel::setPosition(int position)
     endResetModel();
 }
 
-bool CWrongAnswersModel::mayAccept(int row) const
+AcceptOffer CWrongAnswersModel::acceptOffer(int row) const
 {
-    return row >= 0 && row < m_answers.size() && m_session.mayAccept(m_position, m_answers.at(row));
+    const bool exists = row >= 0 && row < m_answers.size();
+    return exists ? ::acceptOffer(m_session, m_position, m_answers.at(row)) : AcceptOffer();
 }
 
 int CWrongAnswersModel::rowCount(const QModelIndex &parent) const

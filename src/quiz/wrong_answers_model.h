@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "quiz/accept_offer.h"
 #include "quiz/answer_difference.h"
 
 #include <QAbstractListModel>
@@ -31,8 +32,8 @@ public:
     /// Shows the answers of another word, or of the same as it is now judged; -1 for none.
     void setPosition(int position);
     int position() const { return m_position; }
-    /// An answer that may be taken as right.
-    bool mayAccept(int row) const;
+    /// What "I was right" would do about an answer.
+    AcceptOffer acceptOffer(int row) const;
     const QStringList &answers() const { return m_answers; }
 
     int rowCount(const QModelIndex &parent = {}) const override;

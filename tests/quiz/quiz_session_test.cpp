@@ -365,6 +365,12 @@ void QuizSessionTest::acceptedAnswers()
     if (!changed.isEmpty()) {
         QCOMPARE(Describe(test.document.List().Entry(0)), QStringLiteral("hund|%1|n|12").arg(changed));
         QCOMPARE(session.mistakes(), std::vector<int>{1});
+        session.takeBackAcceptedAnswer();
+        QCOMPARE(Describe(test.document.List().Entry(0)), QStringLiteral("hund|%1|n|12").arg(term));
+        QCOMPARE(session.mistakes(), (std::vector<int>{0, 1}));
+        QVERIFY(session.acceptAnswer(0, answer));
+        session.recordAnswer(1, answer);
+        QVERIFY(!session.acceptedAnswer()); // The next answer: it stays.
     }
     settings.allowChanges = false;
     QVERIFY(!session.mayAccept(1, QStringLiteral("x")));

@@ -19,8 +19,8 @@ QuizSettings InOrder(int requiz, int rounds)
 }
 
 /// Plays a quiz by script and returns a line per step: the question, the statistics, and the number of the text
-/// shown after the answer. A step is an answer, "-" to skip, "!" for "I was right", or "term 1=term 2" to
-/// change the entry asked.
+/// shown after the answer. A step is an answer, "-" to skip, "!" for the button "I was right", or "term 1=term
+/// 2" to change the entry asked.
 QStringList Play(TestDocument &test, const QuizSettings &settings, const QString &script)
 {
     CRandom random(1);
@@ -37,8 +37,8 @@ QStringList Play(TestDocument &test, const QuizSettings &settings, const QString
         if (step == u'-') {
             more = form.skip();
         } else if (step == u'!') {
-            line += form.mayAcceptLastAnswer() ? QStringLiteral(" accepted") : QStringLiteral(" refused");
-            more = form.acceptLastAnswer();
+            line += u' ' + acceptCaption(form.acceptOffer(), test.texts);
+            more = form.takeAcceptOffer() != CQuizForm::Next::Over;
         } else if (step.contains(u'=')) {
             session.changeEntry(session.entryOfRound(form.roundPosition()), step.section(u'=', 0, 0),
                 step.section(u'=', 1, 1), {});
@@ -142,19 +142,22 @@ Vad heter "aa" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 1 rätt av 1.
 Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 2 rätt av 2.
 over)";
 
-    QTest::newRow("I was right: a word asked again is left") << letters << InOrder(2, 1) << "! 0 ! ! 1 !"
-                                                             <<
-        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. refused
+    QTest::newRow("I was right: a word asked again is left, and comes back")
+        << letters << InOrder(2, 1) << "! 0 ! ! 0 - ! y"
+        <<
+        R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. Ja&g hade rätt
 Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. 63005
-Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 1. accepted
-Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1. refused
-Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1. 63005
-Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 2. accepted
+Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 1. Ja&g hade rätt: 0 = a
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1. Ån&gra: 0 = a
+Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 1. 63005
+Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 2.
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 2. Ja&g hade rätt
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 2.
 over)";
     QTest::newRow("I was right: a word left behind is not repeated") << letters << repeated << "0 ! y"
                                                                      <<
         R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0.
-Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 1. accepted
+Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 1. Ja&g hade rätt: 0 = a
 Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1.
 over)";
 }
@@ -189,7 +192,7 @@ void StandardQuizFormTest::nothingToAsk()
     CRandom random(1);
     CQuizSession session(test.document, settings, random, {});
     CStandardQuizForm form(session, settings, test.texts);
-    QVERIFY(!form.skip() && !form.mayAcceptLastAnswer());
+    QVERIFY(!form.skip() && form.acceptOffer().kind == AcceptOffer::Kind::Nothing);
 }
 
 QTEST_APPLESS_MAIN(StandardQuizFormTest)

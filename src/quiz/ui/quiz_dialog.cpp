@@ -6,7 +6,7 @@
 #include "platform/ui/input_guard_filter.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
-#include "quiz/ui/accept_answer_button.h"
+#include "quiz/ui/accept_answer_bar.h"
 #include "quiz/ui/change_entry_dialog.h"
 #include "quiz/ui/quiz_result_dialog.h"
 #include "resources/text_numbers.h"
@@ -47,7 +47,9 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
 
     m_fields = new QVBoxLayout;
     auto *left = new QVBoxLayout;
+    m_accept = new CAcceptAnswerBar(texts(), this);
     left->addLayout(m_fields, 1);
+    left->addWidget(m_accept);
     left->addWidget(makeStatistics());
 
     auto *buttons = new QVBoxLayout;
@@ -57,9 +59,6 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
     auto *cancel = addButton(*buttons, Text::Cancel, "cancelButton");
     m_change = addButton(*buttons, Text::ChangeButton, "changeButton");
     auto *result = addButton(*buttons, Text::ResultButton, "resultButton");
-    m_accept = makeAcceptAnswerButton(texts(), this);
-    m_accept->setFocusPolicy(Qt::TabFocus);
-    buttons->addWidget(m_accept);
     buttons->addStretch(1);
 
     auto *layout = new QHBoxLayout(this);
@@ -70,7 +69,7 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
     connect(cancel, &QPushButton::clicked, this, &CQuizDialog::reject);
     connect(m_change, &QPushButton::clicked, this, &CQuizDialog::changeEntry);
     connect(result, &QPushButton::clicked, this, &CQuizDialog::showResult);
-    connect(m_accept, &QPushButton::clicked, this, &CQuizDialog::acceptLastAnswer);
+    connect(m_accept, &CAcceptAnswerBar::pressed, this, &CQuizDialog::takeAcceptOffer);
 }
 
 void CQuizDialog::showEvent(QShowEvent *event)
@@ -129,7 +128,7 @@ void CQuizDialog::updateStatistics()
     m_roundText->setText(m_form.roundText());
     ShowProgress(*m_wordText, *m_wordBar, m_form.wordProgress());
     ShowProgress(*m_rightText, *m_rightBar, m_form.rightProgress());
-    m_accept->setEnabled(m_form.mayAcceptLastAnswer());
+    m_accept->showOffer(m_form.acceptOffer());
 }
 
 void CQuizDialog::proceed(bool more)
@@ -147,15 +146,19 @@ void CQuizDialog::showNextWord()
     m_guard->QuestionAppeared(*this, [this] { return isAnswerEmpty(); });
 }
 
-void CQuizDialog::acceptLastAnswer()
+void CQuizDialog::takeAcceptOffer()
 {
-    const bool goesOn = m_form.isAskedAgain();
-    const bool more = m_form.acceptLastAnswer();
-    if (goesOn) {
-        proceed(more);
-    } else {
+    switch (m_form.takeAcceptOffer()) {
+    case CQuizForm::Next::SameWord:
         updateStatistics(); // What was typed for the next word stays.
         focusInput();
+        break;
+    case CQuizForm::Next::OtherWord:
+        showNextWord();
+        break;
+    case CQuizForm::Next::Over:
+        accept();
+        break;
     }
 }
 

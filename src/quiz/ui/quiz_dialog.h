@@ -10,6 +10,7 @@
 
 #include <optional>
 
+class CAcceptAnswerBar;
 class CInputGuardFilter;
 class CQuizForm;
 class CTexts;
@@ -77,7 +78,7 @@ private:
     QWidget *makeStatistics();
     void changeEntry();
     void showResult();
-    void acceptLastAnswer();
+    void takeAcceptOffer();
 
     void showNextWord();
 
@@ -88,7 +89,7 @@ private:
     bool m_wasShown = false;
     QPushButton *m_answer = nullptr;
     QPushButton *m_change = nullptr;
-    QPushButton *m_accept = nullptr;
+    CAcceptAnswerBar *m_accept = nullptr;
     QLabel *m_roundText = nullptr;
     QLabel *m_wordText = nullptr;
     QLabel *m_rightText = nullptr;

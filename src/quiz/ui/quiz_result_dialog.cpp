@@ -4,7 +4,7 @@
 #include "platform/ui/held_enter.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/quiz_session.h"
-#include "quiz/ui/accept_answer_button.h"
+#include "quiz/ui/accept_answer_bar.h"
 #include "quiz/ui/difference_delegate.h"
 #include "quiz/ui/flag_settings_dialog.h"
 #include "quiz/ui/share_delegate.h"
@@ -52,7 +52,8 @@ CQuizResultDialog::CQuizResultDialog(
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_list, 3);
-    if (m_result.showsRightAnswers() && m_result.hasMistakes()) {
+    const bool mayTakeBack = session.acceptedAnswer().has_value();
+    if (m_result.showsRightAnswers() && (m_result.hasMistakes() || mayTakeBack)) {
         layout->addWidget(makeWrongAnswers(), 1);
     }
     layout->addWidget(m_summary);
@@ -68,6 +69,10 @@ CQuizResultDialog::CQuizResultDialog(
     layout->addLayout(makeButtons());
     updateTotals();
     selectFirstMistake();
+    if (m_accept != nullptr) {
+        m_offersTakeBack = mayTakeBack;
+        updateAcceptOffer();
+    }
     m_list->setFocus();
     ignoreHeldEnter(*this);
 }
@@ -111,6 +116,7 @@ QWidget *CQuizResultDialog::makeWrongAnswers()
     const CTexts &texts = m_result.texts();
     auto *pane = new QWidget(this);
     auto *label = new QLabel(texts.Get(Text::WhatWasWrong), pane);
+    label->setTextFormat(Qt::PlainText);
     m_answers = new QListView(pane);
     m_answers->setObjectName(QStringLiteral("wrongAnswers"));
     m_answers->setAccessibleName(texts.Get(Text::WhatWasWrong).remove(u'&'));
@@ -122,16 +128,16 @@ QWidget *CQuizResultDialog::makeWrongAnswers()
     large.setPointSizeF(large.pointSizeF() * 1.25); // Single letters and their marks are to be seen.
     m_answers->setFont(large);
     label->setBuddy(m_answers);
-    m_accept = makeAcceptAnswerButton(texts, this);
-    connect(m_accept, &QPushButton::clicked, this, &CQuizResultDialog::acceptAnswer);
+    m_accept = new CAcceptAnswerBar(texts, this);
+    connect(m_accept, &CAcceptAnswerBar::pressed, this, &CQuizResultDialog::takeAcceptOffer);
     connect(m_answers->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-        &CQuizResultDialog::updateAcceptButton);
+        &CQuizResultDialog::answerSelected);
 
-    auto *grid = new QGridLayout(pane);
-    grid->setContentsMargins({});
-    grid->addWidget(label, 0, 0, 1, 2);
-    grid->addWidget(m_answers, 1, 0);
-    grid->addWidget(m_accept, 1, 1, Qt::AlignTop);
+    auto *layout = new QVBoxLayout(pane);
+    layout->setContentsMargins({});
+    layout->addWidget(label);
+    layout->addWidget(m_answers, 1);
+    layout->addWidget(m_accept);
     return pane;
 }
 
@@ -204,13 +210,20 @@ void CQuizResultDialog::showWord(int position)
     m_wrongAnswers.setPosition(position);
     if (m_answers != nullptr) {
         m_answers->setCurrentIndex(m_wrongAnswers.index(0));
-        updateAcceptButton();
+        answerSelected();
     }
 }
 
-void CQuizResultDialog::updateAcceptButton()
+void CQuizResultDialog::answerSelected()
 {
-    m_accept->setEnabled(m_wrongAnswers.mayAccept(m_answers->currentIndex().row()));
+    m_offersTakeBack = false;
+    updateAcceptOffer();
+}
+
+void CQuizResultDialog::updateAcceptOffer()
+{
+    m_accept->showOffer(m_offersTakeBack ? takeBackOffer(m_result.session())
+                                         : m_wrongAnswers.acceptOffer(m_answers->currentIndex().row()));
 }
 
 void CQuizResultDialog::updateTotals()
@@ -225,19 +238,22 @@ void CQuizResultDialog::updateTotals()
     }
 }
 
-void CQuizResultDialog::acceptAnswer()
+void CQuizResultDialog::takeAcceptOffer()
 {
-    const int position = m_wrongAnswers.position();
-    const QString answer = m_wrongAnswers.answers().value(m_answers->currentIndex().row());
-    if (!m_result.session().acceptAnswer(position, answer)) {
-        return;
+    CQuizSession &session = m_result.session();
+    const bool takeBack = m_offersTakeBack;
+    const int position = takeBack ? session.acceptedAnswer()->position : m_wrongAnswers.position();
+    if (takeBack) {
+        session.takeBackAcceptedAnswer();
+    } else {
+        session.acceptAnswer(position, m_wrongAnswers.answers().value(m_answers->currentIndex().row()));
     }
     m_result.model().wordChanged(position);
     updateTotals();
+    m_list->selectRow(position);
     showWord(position);
-    if (!m_accept->isEnabled()) {
-        m_list->setFocus();
-    }
+    m_offersTakeBack = !takeBack;
+    updateAcceptOffer();
 }
 
 void CQuizResultDialog::copyTable()

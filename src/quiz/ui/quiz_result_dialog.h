@@ -5,6 +5,7 @@
 #include "quiz/ui/quiz_dialog.h"
 #include "quiz/wrong_answers_model.h"
 
+class CAcceptAnswerBar;
 class QCheckBox;
 class QListView;
 class QTableView;
@@ -32,9 +33,10 @@ private:
     QPushButton *makeButton(int text, const char *name);
     void selectFirstMistake();
     void showWord(int position);
-    void updateAcceptButton();
+    void answerSelected();
+    void updateAcceptOffer();
     void updateTotals();
-    void acceptAnswer();
+    void takeAcceptOffer();
     void copyTable();
     void openFlagSettings();
 
@@ -44,7 +46,8 @@ private:
     CWrongAnswersModel m_wrongAnswers;
     QTableView *m_list;
     QListView *m_answers = nullptr;
-    QPushButton *m_accept = nullptr;
+    CAcceptAnswerBar *m_accept = nullptr;
+    bool m_offersTakeBack = false; // Until another word or answer is looked at.
     QLabel *m_summary;
     QProgressBar *m_share;
     QCheckBox *m_selectMistakes = nullptr;

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/accept_offer.h"
+
+#include "platform/plain_text.h"
+#include "quiz/quiz_session.h"
+#include "quiz/shortened.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+namespace {
+
+AcceptOffer Offer(AcceptOffer::Kind kind, const QuizQuestion &question, const QString &answer)
+{
+    return {kind, answer, question.entry.GetText(question.questionColumn)};
+}
+
+}
+
+AcceptOffer acceptOffer(const CQuizSession &session, int position, const QString &answer)
+{
+    return session.mayAccept(position, answer)
+        ? Offer(AcceptOffer::Kind::Accept, session.questionAt(position), answer)
+        : AcceptOffer();
+}
+
+AcceptOffer takeBackOffer(const CQuizSession &session)
+{
+    const auto &accepted = session.acceptedAnswer();
+    return accepted
+        ? Offer(AcceptOffer::Kind::TakeBack, session.questionAt(accepted->position), accepted->answer)
+        : AcceptOffer();
+}
+
+QString acceptCaption(const AcceptOffer &offer, const CTexts &texts)
+{
+    if (offer.kind == AcceptOffer::Kind::Nothing) {
+        return texts.Get(Text::AcceptAnswer);
+    }
+    constexpr qsizetype Kept = 12;
+    return texts.Fill(offer.kind == AcceptOffer::Kind::Accept ? Text::AcceptThisAnswer : Text::TakeBackAnswer,
+        {ShownInCaption(shortened(offer.answer, Kept)), ShownInCaption(shortened(offer.word, Kept))});
+}
+
+QString acceptedLine(const AcceptOffer &offer, const QString &key, const CTexts &texts)
+{
+    if (offer.kind != AcceptOffer::Kind::TakeBack) {
+        return {};
+    }
+    constexpr qsizetype Kept = 20;
+    return texts.Fill(
+        Text::AnswerWasAccepted, {shortened(offer.answer, Kept), shortened(offer.word, Kept), key});
+}

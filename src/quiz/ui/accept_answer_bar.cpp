@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "quiz/ui/accept_answer_bar.h"
+
+#include "platform/plain_text.h"
+#include "platform/ui/elided_label.h"
+#include "resources/text_numbers.h"
+#include "resources/texts.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace {
+
+constexpr Qt::Key Key = Qt::Key_F8;
+
+QString KeyName()
+{
+    return QKeySequence(Key).toString(QKeySequence::NativeText);
+}
+
+}
+
+CAcceptAnswerBar::CAcceptAnswerBar(const CTexts &texts, QWidget *window)
+    : QWidget(window), m_texts(texts), m_button(new QPushButton(this)), m_line(new CElidedLabel(this))
+{
+    m_button->setObjectName(QStringLiteral("acceptAnswerButton"));
+    m_button->setFocusPolicy(Qt::TabFocus); // A click leaves the focus where the next answer is typed.
+    m_button->setAutoDefault(false);
+    const QString hint = texts.Fill(Text::AcceptAnswerHint, {KeyName()});
+    m_button->setToolTip(ShownAsPlainText(hint));
+    m_button->setAccessibleDescription(hint);
+    m_line->setObjectName(QStringLiteral("acceptedLine"));
+    // A shortcut of the button's own would take the place of its mnemonic.
+    auto *shortcut = new QShortcut(Key, window);
+    shortcut->setAutoRepeat(false);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_button);
+    layout->addWidget(m_line, 1);
+
+    connect(shortcut, &QShortcut::activated, m_button, &QPushButton::click);
+    connect(m_button, &QPushButton::clicked, this, &CAcceptAnswerBar::pressed);
+    showOffer({});
+}
+
+void CAcceptAnswerBar::showOffer(const AcceptOffer &offer)
+{
+    m_button->setText(acceptCaption(offer, m_texts));
+    m_button->setEnabled(offer.kind != AcceptOffer::Kind::Nothing);
+    m_line->setText(acceptedLine(offer, KeyName(), m_texts));
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quiz/accept_offer.h"
+
+#include <QWidget>
+
+class CElidedLabel;
+class CTexts;
+class QPushButton;
+
+/// The button "I was right", with a key that works everywhere in its window, and the line beside it that says
+/// what was accepted.
+class CAcceptAnswerBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    CAcceptAnswerBar(const CTexts &texts, QWidget *window);
+
+    /// Without an offer the button is disabled.
+    void showOffer(const AcceptOffer &offer);
+
+Q_SIGNALS:
+    void pressed();
+
+private:
+    const CTexts &m_texts;
+    QPushButton *m_button;
+    CElidedLabel *m_line;
+};
