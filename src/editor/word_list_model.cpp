@@ -12,6 +12,9 @@
 
 namespace {
 
+/// In code units; far more than anybody reads in a tool tip.
+constexpr qsizetype LongestToolTip = 1000;
+
 bool IsLanguage(int field)
 {
     return field == 0 || field == 1;
@@ -175,7 +178,7 @@ QVariant CWordListModel::EntryData(int entry, int field, int role) const
     const CWordEntry &shown = m_list.Entry(entry);
     switch (role) {
     case Qt::ToolTipRole:
-        return field == NumberColumn ? QVariant() : ShownAsPlainText(shown.GetField(field));
+        return field == NumberColumn ? QVariant() : ShownShort(shown.GetField(field), LongestToolTip);
     case Qt::DisplayRole:
         return field == NumberColumn ? QString::number(entry + 1) : shown.GetField(field);
     case Qt::EditRole:

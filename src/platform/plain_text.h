@@ -3,28 +3,20 @@
 
 #include <QString>
 
-/// `text` for a place that guesses whether it is given markup, as tool tips do: it is shown as it reads.
-inline QString ShownAsPlainText(const QString &text)
-{
-    return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
-}
+/// `text` cut to at most `longest` code units, the last of them an ellipsis then: what comes from a file may be
+/// far longer than anything that can be shown.
+QString ShownShort(const QString &text, qsizetype longest);
 
-/// `text` for a part of a caption: an ampersand in it marks no key.
-inline QString ShownInCaption(QString text)
-{
-    return text.replace(u'&', QStringLiteral("&&"));
-}
+/// `text` for a part of a caption: short and on one line, and an ampersand in it marks no key.
+QString ShownInCaption(const QString &text);
 
 /// A caption as it is read out: without its marked key and the colon at its end.
-inline QString CaptionReadOut(const QString &caption)
-{
-    QString text;
-    for (qsizetype i = 0; i < caption.size(); ++i) {
-        i += caption.at(i) == u'&' && i + 1 < caption.size() ? 1 : 0;
-        text += caption.at(i);
-    }
-    if (text.endsWith(u':')) {
-        text.chop(1);
-    }
-    return text;
-}
+QString CaptionReadOut(const QString &caption);
+
+/// Whether `text` holds letters that run from right to left, or marks that turn the direction of what follows.
+bool HoldsOtherDirections(const QString &text);
+
+/// `text` for a place between others: it runs in its own direction, and nothing in it turns what follows. Holds
+/// invisible marks where that takes some, or always with `force`, so it is only to be shown, never stored or
+/// compared.
+QString Isolated(const QString &text, bool force = false);

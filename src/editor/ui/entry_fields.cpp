@@ -2,6 +2,7 @@
 #include "editor/ui/entry_fields.h"
 
 #include "platform/plain_text.h"
+#include "platform/ui/label.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -17,7 +18,7 @@ CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(paren
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     for (size_t i = 0; i < m_fields.size(); ++i) {
-        m_labels[i] = new QLabel(this);
+        m_labels[i] = MakeLabel({}, this);
         m_fields[i] = new QLineEdit(this);
         m_fields[i]->setObjectName(QStringLiteral("field%1").arg(i));
         m_fields[i]->setMaxLength(std::numeric_limits<int>::max()); // No term is cut off.

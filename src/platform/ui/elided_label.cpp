@@ -14,20 +14,34 @@ CElidedLabel::CElidedLabel(QWidget *parent) : QLabel(parent)
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
+QSize CElidedLabel::sizeHint() const
+{
+    return minimumSizeHint();
+}
+
 QSize CElidedLabel::minimumSizeHint() const
 {
-    return {0, QLabel::minimumSizeHint().height()};
+    // Not by the text, which may be endless.
+    const QMargins margins = contentsMargins();
+    return {0, fontMetrics().height() + margins.top() + margins.bottom()};
+}
+
+QString CElidedLabel::Shown() const
+{
+    // More than fits in any line.
+    constexpr qsizetype Longest = 2000;
+    return Isolated(ShownShort(text(), Longest));
 }
 
 bool CElidedLabel::Fits() const
 {
-    return fontMetrics().horizontalAdvance(text()) <= contentsRect().width();
+    return fontMetrics().horizontalAdvance(Shown()) <= contentsRect().width();
 }
 
 void CElidedLabel::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    const QString shown = fontMetrics().elidedText(Shown(), Qt::ElideRight, contentsRect().width());
     style()->drawItemText(
         &painter, contentsRect(), int(alignment()), palette(), isEnabled(), shown, foregroundRole());
 }
@@ -35,7 +49,7 @@ void CElidedLabel::paintEvent(QPaintEvent * /*event*/)
 bool CElidedLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && !Fits()) {
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), ShownAsPlainText(text()), this);
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), Shown(), this);
         return true;
     }
     return QLabel::event(event);

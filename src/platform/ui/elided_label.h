@@ -4,7 +4,7 @@
 #include <QLabel>
 
 /// A line of plain text that takes the room it is given: what does not fit is elided at the end, and the whole
-/// text is the tool tip then.
+/// text, as far as anybody would read it, is the tool tip then.
 class CElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -12,6 +12,7 @@ class CElidedLabel : public QLabel
 public:
     explicit CElidedLabel(QWidget *parent = nullptr);
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
@@ -19,5 +20,6 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    QString Shown() const;
     bool Fits() const;
 };

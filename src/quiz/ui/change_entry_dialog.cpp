@@ -1,32 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/change_entry_dialog.h"
 
-#include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
+#include "platform/ui/label.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QSignalBlocker>
-
-namespace {
-
-void AddRow(QFormLayout &form, const QString &caption, QWidget *control)
-{
-    control->setAccessibleName(CaptionReadOut(caption));
-    auto *label = new QLabel(control->parentWidget());
-    label->setTextFormat(Qt::PlainText);
-    label->setText(caption);
-    label->setBuddy(control);
-    form.addRow(label, control);
-}
-
-}
 
 CChangeEntryDialog::CChangeEntryDialog(
     CQuizSession &session, const CTexts &texts, IUserPrompt &prompt, int start, QWidget *parent)
@@ -42,10 +27,10 @@ CChangeEntryDialog::CChangeEntryDialog(
     close->setObjectName(QStringLiteral("closeButton"));
 
     auto *form = new QFormLayout;
-    AddRow(*form, texts.Get(Text::ChangeEntryList), m_list);
-    AddRow(*form, m_entries.label(0), m_term1);
-    AddRow(*form, m_entries.label(1), m_term2);
-    AddRow(*form, texts.Get(Text::ChangeEntryNote), m_note);
+    AddLabelledRow(*form, texts.Get(Text::ChangeEntryList), m_list);
+    AddLabelledRow(*form, m_entries.label(0), m_term1);
+    AddLabelledRow(*form, m_entries.label(1), m_term2);
+    AddLabelledRow(*form, texts.Get(Text::ChangeEntryNote), m_note);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(m_stored, 1);
     buttons->addWidget(change);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/flag_settings_dialog.h"
 
+#include "platform/ui/label.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_result.h"
 #include "resources/text_numbers.h"
@@ -68,9 +69,7 @@ QSpinBox *CFlagSettingsDialog::addLimit(QGridLayout &grid, QCheckBox &toggle, co
     limit->setValue(value);
     limit->setEnabled(toggle.isChecked());
     connect(&toggle, &QCheckBox::toggled, limit, &QWidget::setEnabled);
-    auto *unit = new QLabel(this);
-    unit->setTextFormat(Qt::PlainText);
-    unit->setText(m_texts.Get(Text::PercentRight));
+    QLabel *const unit = MakeLabel(m_texts.Get(Text::PercentRight), this);
     grid.addWidget(limit, grid.rowCount() - 1, 1);
     grid.addWidget(unit, grid.rowCount() - 1, 2);
     return limit;

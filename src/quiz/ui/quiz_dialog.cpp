@@ -4,6 +4,7 @@
 #include "platform/sound_player.h"
 #include "platform/ui/held_enter.h"
 #include "platform/ui/input_guard_filter.h"
+#include "platform/ui/label.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
 #include "quiz/ui/accept_answer_bar.h"
@@ -94,9 +95,8 @@ QWidget *CQuizDialog::makeStatistics()
     auto *frame = new QGroupBox(texts().Get(Text::Statistics), this);
     frame->setObjectName(QStringLiteral("statistics"));
     const auto makeLabel = [&](const char *name) {
-        auto *label = new QLabel(frame);
+        QLabel *const label = MakeLabel({}, frame);
         label->setObjectName(QLatin1StringView(name));
-        label->setTextFormat(Qt::PlainText);
         return label;
     };
     const auto makeBar = [&](const char *name, int accessibleName) {

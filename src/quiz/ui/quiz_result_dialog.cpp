@@ -2,6 +2,7 @@
 #include "quiz/ui/quiz_result_dialog.h"
 
 #include "platform/ui/held_enter.h"
+#include "platform/ui/label.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/quiz_session.h"
 #include "quiz/ui/accept_answer_bar.h"
@@ -30,7 +31,7 @@ CQuizResultDialog::CQuizResultDialog(
     CQuizSession &session, const QuizWindowServices &services, Mode mode, QWidget *parent)
     : QDialog(parent), m_prompt(services.prompt), m_settings(services.resultSettings),
       m_result(session, {services.texts, services.prompt, services.chooser, services.resultSettings}, mode),
-      m_wrongAnswers(session, services.texts), m_list(new QTableView(this)), m_summary(new QLabel(this)),
+      m_wrongAnswers(session, services.texts), m_list(new QTableView(this)), m_summary(MakeLabel({}, this)),
       m_share(new QProgressBar(this))
 {
     const CTexts &texts = services.texts;
@@ -44,7 +45,6 @@ CQuizResultDialog::CQuizResultDialog(
     resize(wanted.boundedTo(screen()->availableSize() * 0.9));
     makeList();
     m_summary->setObjectName(QStringLiteral("summary"));
-    m_summary->setTextFormat(Qt::PlainText);
     m_share->setObjectName(QStringLiteral("rightShare"));
     m_share->setAccessibleName(texts.Get(Text::ResultRightShare));
     m_share->setRange(0, 1000);
@@ -115,8 +115,7 @@ QWidget *CQuizResultDialog::makeWrongAnswers()
 {
     const CTexts &texts = m_result.texts();
     auto *pane = new QWidget(this);
-    auto *label = new QLabel(texts.Get(Text::WhatWasWrong), pane);
-    label->setTextFormat(Qt::PlainText);
+    QLabel *const label = MakeLabel(texts.Get(Text::WhatWasWrong), pane);
     m_answers = new QListView(pane);
     m_answers->setObjectName(QStringLiteral("wrongAnswers"));
     m_answers->setAccessibleName(texts.Get(Text::WhatWasWrong).remove(u'&'));
@@ -144,14 +143,10 @@ QWidget *CQuizResultDialog::makeWrongAnswers()
 QLayout *CQuizResultDialog::makeFlagLine()
 {
     const CTexts &texts = m_result.texts();
-    m_flagLine = new QLabel(this);
+    m_flagLine = MakeWrappedLabel({}, this);
     m_flagLine->setObjectName(QStringLiteral("flagLine"));
-    auto *hint = new QLabel(texts.Get(Text::ResultFlagsHint), this);
+    QLabel *const hint = MakeWrappedLabel(texts.Get(Text::ResultFlagsHint), this);
     hint->setObjectName(QStringLiteral("flagsHint"));
-    for (QLabel *label : {m_flagLine, hint}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-    }
     auto *settings = makeButton(Text::ResultFlagSettings, "flagSettingsButton");
     connect(settings, &QPushButton::clicked, this, &CQuizResultDialog::openFlagSettings);
     auto *grid = new QGridLayout;

@@ -2,6 +2,7 @@
 #include "quiz/ui/setting_controls.h"
 
 #include "platform/plain_text.h"
+#include "platform/ui/label.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -57,17 +58,13 @@ QRadioButton *makeRadioButton(QWidget *page, const char *name, const QString &ca
 
 QLabel *makeExplanation(QWidget *page, const QString &text)
 {
-    auto *label = new QLabel(text, page);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
+    return MakeWrappedLabel(text, page);
 }
 
 QList<QWidget *> addRow(QFormLayout &form, const QString &caption, QWidget *control, const QString &unit)
 {
     QWidget *const page = control->parentWidget();
-    auto *label = makeExplanation(page, caption);
-    label->setWordWrap(false);
+    QLabel *const label = MakeLabel(caption, page);
     label->setBuddy(control);
     control->setAccessibleName(CaptionReadOut(caption));
     auto *field = new QHBoxLayout;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/about_dialog.h"
 
+#include "platform/ui/label.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -14,7 +15,7 @@ CAboutDialog::CAboutDialog(const CTexts &texts, QWidget *parent) : QDialog(paren
     setWindowTitle(texts.Get(Text::AboutTitle));
     setWindowModality(Qt::WindowModal);
 
-    auto *picture = new QLabel(this);
+    QLabel *const picture = MakeLabel({}, this);
     picture->setPixmap(QApplication::windowIcon().pixmap(64));
     picture->setAccessibleName(texts.Get(Text::ApplicationTitle));
     auto *layout = new QGridLayout(this);
@@ -23,10 +24,8 @@ CAboutDialog::CAboutDialog(const CTexts &texts, QWidget *parent) : QDialog(paren
     layout->setVerticalSpacing(fontMetrics().lineSpacing() / 2);
 
     const auto addText = [&](int row, const QString &text, const char *name) {
-        auto *label = new QLabel(text, this);
+        QLabel *const label = MakeWrappedLabel(text, this);
         label->setObjectName(QLatin1StringView(name));
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
         label->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
         layout->addWidget(label, row, 1);
         return label;

@@ -2,6 +2,7 @@
 #include "shell/ui/language_dialog.h"
 
 #include "platform/plain_text.h"
+#include "platform/ui/label.h"
 
 #include <QBitmap>
 #include <QBuffer>
@@ -36,20 +37,18 @@ QPixmap MakePicture(const QByteArray &png)
     return picture;
 }
 
-QLabel *MakeLabel(QWidget *parent, const char *name)
+QLabel *MakeLine(QWidget *parent, const char *name)
 {
-    auto *label = new QLabel(parent);
+    QLabel *const label = MakeWrappedLabel({}, parent);
     label->setObjectName(QLatin1StringView(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
     return label;
 }
 
 }
 
 CLanguageDialog::CLanguageDialog(CLanguageChoice &choice, const QString &listName, QWidget *parent)
-    : QDialog(parent), m_choice(choice), m_question(MakeLabel(this, "question")), m_list(new QListWidget(this)),
-      m_confirmation(MakeLabel(this, "confirmation")), m_ok(new QPushButton(this)),
+    : QDialog(parent), m_choice(choice), m_question(MakeLine(this, "question")), m_list(new QListWidget(this)),
+      m_confirmation(MakeLine(this, "confirmation")), m_ok(new QPushButton(this)),
       m_cancel(new QPushButton(this))
 {
     setWindowModality(Qt::WindowModal);
@@ -99,7 +98,7 @@ void CLanguageDialog::FillList()
         if (!picture.isNull()) {
             item->setIcon(QIcon(picture));
         }
-        item->setToolTip(ShownAsPlainText(m_choice.RowText(row)));
+        item->setToolTip(m_choice.RowText(row));
     }
     m_list->setCurrentRow(m_choice.Selected());
     m_list->scrollToItem(m_list->currentItem());

@@ -8,6 +8,7 @@
 #include "platform/exit_signals.h"
 #include "platform/random.h"
 #include "platform/ui/file_dialog_chooser.h"
+#include "platform/ui/label.h"
 #include "platform/ui/message_box_prompt.h"
 #include "platform/ui/sound_effect_player.h"
 #include "resources/qt_texts.h"
@@ -58,6 +59,7 @@ private:
     void ExitFromOutside();
     void SessionEnds(QSessionManager &manager);
 
+    CPlainTextRule m_plainText;
     CTexts m_texts;
     CQtTexts m_qtTexts;
     CIniStore m_store;

@@ -2,6 +2,7 @@
 #include "shell/ui/special_character_window.h"
 
 #include "platform/ui/elided_label.h"
+#include "platform/ui/label.h"
 #include "platform/ui/window_placing.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
@@ -54,11 +55,11 @@ CSpecialCharacterWindow::CSpecialCharacterWindow(CSpecialCharacters &characters,
     QComboBox *const docking = MakeCombo(Text::DockingSides, settings.dock, "docking");
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(MakeLabel(Text::SpecialCharacterSet, *sets));
+    layout->addWidget(MakeCaption(Text::SpecialCharacterSet, *sets));
     layout->addWidget(sets);
     layout->addWidget(m_list, 1);
     layout->addWidget(m_message);
-    layout->addWidget(MakeLabel(Text::SpecialCharacterDocking, *docking));
+    layout->addWidget(MakeCaption(Text::SpecialCharacterDocking, *docking));
     layout->addWidget(docking);
     setTabOrder(sets, m_list);
     setTabOrder(m_list, docking);
@@ -92,10 +93,10 @@ QComboBox *CSpecialCharacterWindow::MakeCombo(int items, int current, const char
     return combo;
 }
 
-QLabel *CSpecialCharacterWindow::MakeLabel(int text, QWidget &buddy)
+QLabel *CSpecialCharacterWindow::MakeCaption(int text, QWidget &buddy)
 {
     // Assistive technology names a drop-down list by its label.
-    auto *label = new QLabel(m_texts.Get(text), this);
+    QLabel *const label = MakeLabel(m_texts.Get(text), this);
     label->setBuddy(&buddy);
     return label;
 }

@@ -51,7 +51,7 @@ protected:
 
 private:
     QComboBox *MakeCombo(int items, int current, const char *name);
-    QLabel *MakeLabel(int text, QWidget &buddy);
+    QLabel *MakeCaption(int text, QWidget &buddy);
     void SetAcceptsFocus(bool accepts);
     void RestorePlace();
     void StorePlace();

@@ -1,0 +1,122 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Finds what may take a text from outside for markup: labels made without the factory, and the toolkit's windows
+that make labels of their own."""
+
+import pathlib
+import re
+import sys
+import tempfile
+
+# Where labels are made, and the one message box.
+FACTORIES = {"platform/ui/label.cpp", "platform/ui/elided_label.h", "platform/ui/elided_label.cpp"}
+PROMPT = "platform/ui/message_box_prompt.cpp"
+
+LABEL = "a label that MakeLabel() did not make"
+RULES = [
+    (re.compile(r"\bnew\s+QLabel\b"), LABEL, FACTORIES),
+    (re.compile(r"\bmake_(unique|shared)<\s*QLabel\s*>"), LABEL, FACTORIES),
+    # A base class, the call of its constructor, a member or a local by value, or several.
+    (re.compile(r"(public|protected|private|virtual)\s+QLabel\b"), LABEL, FACTORIES),
+    (re.compile(r"[:,]\s*QLabel\s*[({]"), LABEL, FACTORIES),
+    (re.compile(r"\bQLabel\s+\w+\s*[;({=,\[]"), LABEL, FACTORIES),
+    (re.compile(r"\b(array|vector|list|deque|optional)<\s*QLabel\s*[,>]"), LABEL, FACTORIES),
+    (re.compile(r"\bsetTextFormat\s*\((?!\s*Qt::PlainText\s*\))"), "a text format that is not plain", set()),
+    (re.compile(r"\bQMessageBox\b(?!>)"), "a message box beside IUserPrompt", {PROMPT}),
+    (re.compile(r"\bQ(ErrorMessage|InputDialog|ProgressDialog|WizardPage|SplashScreen|TextBrowser|WhatsThis)\b"),
+     "a window of the toolkit that guesses markup", set()),
+    (re.compile(r"\bsetWhatsThis\b|\bWhatsThisRole\b"), "a What's This text, which guesses markup", set()),
+]
+ADD_ROW = re.compile(r"(\.|->)\s*addRow\s*\(")
+COMMENT = re.compile(r"//[^\n]*")
+
+
+def arguments(text, start):
+    """The arguments of the call whose bracket ends in front of `start`."""
+    depth, found, first = 0, [], start
+    for position in range(start, len(text)):
+        character = text[position]
+        if character in "([{":
+            depth += 1
+        elif character in ")]}" and depth > 0:
+            depth -= 1
+        elif character == ")":
+            return [*found, text[first:position].strip()]
+        elif character == "," and depth == 0:
+            found.append(text[first:position].strip())
+            first = position + 1
+    return found
+
+
+def faults_of(root):
+    faults = []
+    for path in sorted(root.rglob("*")):
+        if path.suffix not in (".h", ".cpp"):
+            continue
+        name = path.relative_to(root).as_posix()
+        text = COMMENT.sub("", path.read_text(encoding="utf-8"))
+
+        def fault(position, what):
+            faults.append(f"{path}:{text.count(chr(10), 0, position) + 1}: {what}")
+
+        for pattern, what, allowed in RULES:
+            if name not in allowed:
+                for match in pattern.finditer(text):
+                    fault(match.start(), what)
+        # A row of a form with a caption makes its label itself; with a label it is a name without a call.
+        if name not in FACTORIES:
+            for match in ADD_ROW.finditer(text):
+                given = arguments(text, match.end())
+                if len(given) == 2 and not re.fullmatch(r"\w*[lL]abel\w*|MakeLabel\(.*\)", given[0], re.DOTALL):
+                    fault(match.start(), "a row whose label the form makes; use AddLabelledRow()")
+    return faults
+
+
+def self_test():
+    """Every way around the factory is found once, and right ones are not."""
+    cases = {
+        "a/new.cpp": ("auto *x = new QLabel(\n    text, this);\n", 1),
+        "a/unique.cpp": ("auto x = std::make_unique<QLabel>(text);\n", 1),
+        "a/derived.h": ("class CMine : public QLabel\n{\n};\n", 1),
+        "a/constructor.cpp": ("CMine::CMine(QWidget *parent) : QLabel(parent)\n{\n}\n", 1),
+        "a/member.h": ("    QLabel m_label;\n", 1),
+        "a/local.cpp": ("    QLabel label(text);\n", 1),
+        "a/several.h": ("    std::array<QLabel, 3> m_labels;\n", 1),
+        "a/row.cpp": ('    form.addRow(texts.Get(Text::A), f(1, 2));\n', 1),
+        "a/format.cpp": ("    label->setTextFormat(Qt::RichText);\n", 1),
+        "a/box.cpp": ("    QMessageBox::warning(this, title, text);\n", 1),
+        "a/progress.cpp": ("    QProgressDialog dialog(text, cancel, 0, 1);\n", 1),
+        "a/whats.cpp": ("    button->setWhatsThis(text);\n", 1),
+        "platform/ui/label.cpp": ("auto *x = new QLabel(parent);\nform.addRow(text, control);\n", 0),
+        "platform/ui/message_box_prompt.cpp": ("QMessageBox box(icon, title, text);\n", 0),
+        "a/right.cpp": ("class QLabel;\nQLabel *const x = MakeLabel(text, this);\nform.addRow(label, field);\n"
+                        "rows->addRow(MakeLabel(a, b));\nstd::array<QLabel *, 3> labels;\n"
+                        "for (QLabel *label : {a, b}) {}\nfindChild<QLabel *>(name);\n"
+                        "label->setTextFormat(Qt::PlainText); // never new QLabel(text)\n", 0),
+    }
+    with tempfile.TemporaryDirectory() as folder:
+        root = pathlib.Path(folder)
+        for name, (text, _) in cases.items():
+            (root / name).parent.mkdir(parents=True, exist_ok=True)
+            (root / name).write_text(text, encoding="utf-8")
+        faults = faults_of(root)
+    wrong = [name for name, (_, count) in cases.items() if sum(f"/{name}:" in fault for fault in faults) != count]
+    for name in wrong:
+        print(f"self-test: {name} is judged wrongly")
+    return 1 if wrong else 0
+
+
+def main():
+    if sys.argv[1:] == ["--self-test"]:
+        return self_test()
+    if len(sys.argv) != 2:
+        print("usage: check_plain_text.py SOURCE-FOLDER | --self-test", file=sys.stderr)
+        return 2
+    faults = faults_of(pathlib.Path(sys.argv[1]))
+    for fault in faults:
+        print(fault)
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
