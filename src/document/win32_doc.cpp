@@ -315,17 +315,15 @@ void CWin32Doc::SetListProperties(ListProperties properties)
 
 QString CWin32Doc::ExpandPlaceholders(const QString &text) const
 {
-    QString expanded = text;
-    expanded.replace(QStringLiteral("%language1"), List().GetLanguage(0));
-    expanded.replace(QStringLiteral("%language2"), List().GetLanguage(1));
-    expanded.replace(QStringLiteral("%comments"), List().GetComments());
-    expanded.replace(QStringLiteral("%author"), List().GetAuthor());
-    expanded.replace(QStringLiteral("%nwords"), FormatNumber(List().Count()));
+    QList<Placeholder> placeholders = {{QStringLiteral("%language1"), List().GetLanguage(0)},
+        {QStringLiteral("%language2"), List().GetLanguage(1)},
+        {QStringLiteral("%comments"), List().GetComments()}, {QStringLiteral("%author"), List().GetAuthor()},
+        {QStringLiteral("%nwords"), FormatNumber(List().Count())}};
     const QString date = FormatShortDate(m_services.today());
     if (!date.isEmpty()) {
-        expanded.replace(QStringLiteral("%date"), date);
+        placeholders.append({QStringLiteral("%date"), date});
     }
-    return expanded;
+    return FillInOrder(text, placeholders, FilledFor::Storage);
 }
 
 QString CWin32Doc::SuggestFileName() const

@@ -58,13 +58,13 @@ AnswerVerdict checkAnswer(
 QString expandEntryVariables(const QString &questionTemplate, const QuizQuestion &question)
 {
     const int answerColumn = question.AnswerColumn();
-    QString text = questionTemplate;
-    text.replace(QStringLiteral("%word"), question.entry.GetText(question.questionColumn));
-    text.replace(QStringLiteral("%answer"), question.entry.GetText(answerColumn));
-    text.replace(QStringLiteral("%note"), question.entry.GetNote());
-    text.replace(QStringLiteral("%from"), question.languages[size_t(question.questionColumn)]);
-    text.replace(QStringLiteral("%to"), question.languages[size_t(answerColumn)]);
-    return text;
+    return FillInOrder(questionTemplate,
+        {{QStringLiteral("%word"), question.entry.GetText(question.questionColumn)},
+            {QStringLiteral("%answer"), question.entry.GetText(answerColumn)},
+            {QStringLiteral("%note"), question.entry.GetNote()},
+            {QStringLiteral("%from"), question.languages[size_t(question.questionColumn)]},
+            {QStringLiteral("%to"), question.languages[size_t(answerColumn)]}},
+        FilledFor::Screen);
 }
 
 std::optional<FeedbackText> feedbackText(const CTexts &texts, const QuizSettings &settings,
@@ -78,7 +78,7 @@ std::optional<FeedbackText> feedbackText(const CTexts &texts, const QuizSettings
     } else {
         return std::nullopt;
     }
-    QString text = expandEntryVariables(texts.Get(number), question);
-    text.replace(QStringLiteral("%useranswer"), typed);
-    return FeedbackText{number, text};
+    return FeedbackText{number,
+        FillPlaceholders(expandEntryVariables(texts.Get(number), question),
+            {{QStringLiteral("%useranswer"), typed}}, FilledFor::Screen)};
 }

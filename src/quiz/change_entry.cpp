@@ -29,17 +29,10 @@ QVariant CChangeEntry::data(const QModelIndex &index, int role) const
 QString CChangeEntry::line(int entry) const
 {
     const Fields fields = fieldsOf(entry);
-    QString line;
-    for (qsizetype i = 0; i < m_lineFormat.size(); ++i) {
-        const QStringView variable = QStringView(m_lineFormat).mid(i, 2);
-        if (variable == u"%1" || variable == u"%2" || variable == u"%n") {
-            line += variable == u"%1" ? fields.term1 : variable == u"%2" ? fields.term2 : fields.note;
-            ++i;
-        } else {
-            line += m_lineFormat.at(i);
-        }
-    }
-    return line;
+    return FillPlaceholders(m_lineFormat,
+        {{QStringLiteral("%1"), fields.term1}, {QStringLiteral("%2"), fields.term2},
+            {QStringLiteral("%n"), fields.note}},
+        FilledFor::Screen);
 }
 
 QString CChangeEntry::label(int language) const

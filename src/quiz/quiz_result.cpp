@@ -71,7 +71,7 @@ QString CQuizResult::table() const
     };
     QString text = line([&](int column) { return m_model.headerData(column, Qt::Horizontal); });
     for (int row = 0; row < m_model.rowCount(); ++row) {
-        text += line([&](int column) { return m_model.index(row, column).data(); });
+        text += line([&](int column) { return m_model.index(row, column).data(CQuizResultModel::StoredRole); });
     }
     return text + summary();
 }
@@ -94,7 +94,7 @@ QString CQuizResult::proposedFile(int name, const QString &suffix) const
     const QString folder =
         named ? file.absolutePath() : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString base = named ? file.completeBaseName() : document.SuggestFileName();
-    return QDir(folder).filePath(m_services.texts.Fill(name, {base}) + u'.' + suffix);
+    return QDir(folder).filePath(m_services.texts.Fill(name, {base}, FilledFor::Storage) + u'.' + suffix);
 }
 
 void CQuizResult::saveTable()

@@ -2,6 +2,7 @@
 #include "quiz/quiz_result_model.h"
 
 #include "document/win32_doc.h"
+#include "platform/plain_text.h"
 #include "quiz/quiz_session.h"
 #include "quiz/rounding.h"
 #include "resources/text_numbers.h"
@@ -39,8 +40,8 @@ QVariant CQuizResultModel::data(const QModelIndex &index, int role) const
         return {};
     }
     const Column shown = content(index.column());
-    if (role == Qt::DisplayRole) {
-        return cell(index.row(), shown);
+    if (role == Qt::DisplayRole || role == StoredRole) {
+        return cell(index.row(), shown, role == StoredRole ? FilledFor::Storage : FilledFor::Screen);
     }
     if (shown == Share && role == PercentRole) {
         return RoundHalfUp(m_session.percentRight(index.row()));
@@ -70,18 +71,20 @@ QVariant CQuizResultModel::headerData(int section, Qt::Orientation orientation, 
     return {};
 }
 
-QString CQuizResultModel::cell(int position, Column content) const
+QString CQuizResultModel::cell(int position, Column content, FilledFor use) const
 {
     switch (content) {
     case Question:
     case Answer: {
         const QuizQuestion question = m_session.questionAt(position);
-        return question.entry.GetText(content == Question ? question.questionColumn : question.AnswerColumn());
+        const QString term =
+            question.entry.GetText(content == Question ? question.questionColumn : question.AnswerColumn());
+        return use == FilledFor::Storage ? term : Isolated(term);
     }
     case Share:
         return share(position);
     case WrongAnswers:
-        return wrongAnswers(position);
+        return wrongAnswers(position, use);
     }
     return {};
 }
@@ -97,11 +100,11 @@ QString CQuizResultModel::share(int position) const
             QString::number(RoundHalfUp(m_session.percentRight(position)))});
 }
 
-QString CQuizResultModel::wrongAnswers(int position) const
+QString CQuizResultModel::wrongAnswers(int position, FilledFor use) const
 {
     QStringList wrong = m_session.wrongAnswers(position);
     for (QString &answer : wrong) {
-        answer = m_texts.Fill(Text::Quoted, {answer});
+        answer = m_texts.Fill(Text::Quoted, {answer}, use);
     }
     return wrong.join(m_texts.Get(Text::QuotedSeparator));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "resources/placeholders.h"
+
 #include <QAbstractTableModel>
 
 class CQuizSession;
@@ -19,6 +21,8 @@ public:
     enum Column { Question, Answer, Share, WrongAnswers };
     /// Of a share: the right answers in percent, rounded half up; 0 without answers.
     static constexpr int PercentRole = Qt::UserRole;
+    /// The text of a cell as it is saved and copied; that which is shown is isolated.
+    static constexpr int StoredRole = Qt::UserRole + 1;
 
     CQuizResultModel(
         const CQuizSession &session, const CTexts &texts, ResultMode mode, QObject *parent = nullptr);
@@ -34,9 +38,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
-    QString cell(int position, Column content) const;
+    QString cell(int position, Column content, FilledFor use) const;
     QString share(int position) const;
-    QString wrongAnswers(int position) const;
+    QString wrongAnswers(int position, FilledFor use) const;
 
     const CQuizSession &m_session;
     const CTexts &m_texts;

@@ -3,25 +3,6 @@
 
 #include <QFile>
 
-QString FillText(const QString &format, const QStringList &values)
-{
-    QString text;
-    qsizetype used = 0;
-    for (qsizetype i = 0; i < format.size(); ++i) {
-        const QChar next = format.at(i) == u'%' && i + 1 < format.size() ? format.at(i + 1) : QChar();
-        if (next == u'%') {
-            text += u'%';
-            ++i;
-        } else if (next == u's' || next == u'd') {
-            text += values.value(used++);
-            ++i;
-        } else {
-            text += format.at(i);
-        }
-    }
-    return text;
-}
-
 CTexts::CTexts()
 {
     if (!m_own.Load(OwnModule())) {

@@ -2,14 +2,11 @@
 #pragma once
 
 #include "platform/user_prompt.h"
+#include "resources/placeholders.h"
 #include "resources/string_table.h"
 
 #include <QString>
 #include <QStringList>
-
-/// Fills each "%s", and "%d" likewise, of `format` with the next value, and turns "%%" into "%", in one pass:
-/// what stands in a value is never filled or turned. A placeholder without a value becomes empty.
-QString FillText(const QString &format, const QStringList &values);
 
 /// The source of every text the user sees: a language module where one is loaded, and the program's own Swedish
 /// texts where it has none or lacks a number.
@@ -30,7 +27,11 @@ public:
     /// A text of any module, with the program's own in place of one that it lacks or that can't be shown: an
     /// empty one where there is something to say, or an endless one.
     QString TextOf(const CStringTable &module, int number) const;
-    QString Fill(int number, const QStringList &values) const { return FillText(Get(number), values); }
+    /// The text with its placeholders filled; see FillText().
+    QString Fill(int number, const QStringList &values, FilledFor use = FilledFor::Screen) const
+    {
+        return FillText(Get(number), values, use);
+    }
     PromptText Prompt(int number, const QStringList &values = {}) const
     {
         return {number, Fill(number, values)};

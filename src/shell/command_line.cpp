@@ -43,7 +43,7 @@ CommandLineAnswer answerCommandLine(const CommandLine &commandLine, const CTexts
 {
     const QString usage = texts.Get(Text::Usage);
     if (commandLine.error != 0) {
-        const QString message = texts.Fill(commandLine.error, {commandLine.wrongArgument});
+        const QString message = texts.Fill(commandLine.error, {commandLine.wrongArgument}, FilledFor::Storage);
         return {.text = (message + usage).toLocal8Bit(), .isError = true, .exitCode = 2};
     }
     switch (commandLine.action) {

@@ -2,6 +2,7 @@
 #include "shell/commands.h"
 
 #include "platform/plain_text.h"
+#include "resources/placeholders.h"
 #include "resources/text_numbers.h"
 
 #include <algorithm>
@@ -122,28 +123,9 @@ const QList<int> &quizToolBar()
     return bar;
 }
 
-QString shownInMenu(const QString &name)
-{
-    constexpr qsizetype Longest = 40;
-    // A tab would begin the shortcut's text.
-    QString shown = name.simplified();
-    if (shown.size() > Longest) {
-        shown = shown.left(Longest - 1) + u'…';
-    }
-    return ShownInCaption(shown);
-}
-
 QString fillCaption(const QString &caption, const QString &language1, const QString &language2)
 {
-    QString text;
-    for (qsizetype i = 0; i < caption.size(); ++i) {
-        const QStringView next = QStringView(caption).mid(i, 2);
-        if (next == u"%1" || next == u"%2") {
-            text += shownInMenu(next == u"%1" ? language1 : language2);
-            ++i;
-        } else {
-            text += caption.at(i);
-        }
-    }
-    return text;
+    return FillPlaceholders(caption,
+        {{QStringLiteral("%1"), ShownInCaption(language1)}, {QStringLiteral("%2"), ShownInCaption(language2)}},
+        FilledFor::Screen);
 }

@@ -152,8 +152,5 @@ QList<int> columnMenu();
 const QList<int> &standardToolBar();
 const QList<int> &quizToolBar();
 
-/// A name from outside as part of a caption: one line, not too long, and an ampersand in it is shown as itself.
-QString shownInMenu(const QString &name);
-
 /// A caption with the names of the languages filled in; what stands in a name is shown as it is.
 QString fillCaption(const QString &caption, const QString &language1, const QString &language2);

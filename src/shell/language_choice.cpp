@@ -2,6 +2,7 @@
 #include "shell/language_choice.h"
 
 #include "platform/user_prompt.h"
+#include "resources/placeholders.h"
 #include "resources/text_numbers.h"
 #include "settings/shell_settings.h"
 
@@ -47,7 +48,9 @@ int CLanguageChoice::Preselected(const QString &loadedModule, const QString &use
 QString CLanguageChoice::RowText(int row) const
 {
     const LanguageEntry &entry = m_entries.at(row);
-    return entry.path.isEmpty() ? entry.name : QStringLiteral("%1 (%2)").arg(entry.name, entry.path);
+    return entry.path.isEmpty()
+        ? entry.name
+        : FillText(QStringLiteral("%s (%s)"), {entry.name, entry.path}, FilledFor::Screen);
 }
 
 void CLanguageChoice::Select(int row)

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void modules();
     void damagedModules();
     void filling();
+    void directions();
     void ownTextsBehindAModule();
     void shippedModulesAreComplete();
     void mnemonicsAreUnique();
@@ -89,10 +90,31 @@ void TextsTest::damagedModules()
 void TextsTest::filling()
 {
     QCOMPARE(FillText(QStringLiteral("%s av %s (%s%%)"),
-                 {QStringLiteral("%s"), QStringLiteral("%%"), QStringLiteral("3")}),
+                 {QStringLiteral("%s"), QStringLiteral("%%"), QStringLiteral("3")}, FilledFor::Screen),
         QStringLiteral("%s av %% (3%)"));
-    QCOMPARE(FillText(QStringLiteral("border=%d%s%"), {QStringLiteral("1")}), QStringLiteral("border=1%"));
-    QCOMPARE(FillText(QStringLiteral("%word %s"), {QStringLiteral("x")}), QStringLiteral("%word x"));
+    QCOMPARE(FillText(QStringLiteral("border=%d%s%"), {QStringLiteral("1")}, FilledFor::Storage),
+        QStringLiteral("border=1%"));
+    QCOMPARE(FillText(QStringLiteral("%word %s"), {QStringLiteral("x")}, FilledFor::Screen),
+        QStringLiteral("%word x"));
+    const QList<Placeholder> both = {
+        {QStringLiteral("%1"), QStringLiteral("<%2>")}, {QStringLiteral("%2"), QStringLiteral("b")}};
+    QCOMPARE(FillPlaceholders(QStringLiteral("%%1 %2%"), both, FilledFor::Screen), QStringLiteral("%<%2> b%"));
+    QCOMPARE(FillInOrder(QStringLiteral("%%1 %2%"), both, FilledFor::Screen), QStringLiteral("%<b> b%"));
+}
+
+void TextsTest::directions()
+{
+    const CTexts texts;
+    // A file name or a language may not turn the sentence round; what is stored has no marks of ours.
+    const QString turned = QStringLiteral("a\u202Eb");
+    QCOMPARE(
+        texts.Fill(61014, {turned}), QStringLiteral("Det gick inte att spara filen \u2068a\u202Eb\u2069."));
+    QCOMPARE(texts.Prompt(61014, {turned}).text, texts.Fill(61014, {turned}));
+    QCOMPARE(texts.Fill(203013, {turned}, FilledFor::Storage), QStringLiteral("a\u202Eb – resultat"));
+    // In a sentence from right to left the other letters run the other way; numbers never need a mark.
+    QCOMPARE(
+        FillText(QStringLiteral("א %s %s"), {QStringLiteral("x"), QStringLiteral("12")}, FilledFor::Screen),
+        QStringLiteral("א \u2068x\u2069 12"));
 }
 
 void TextsTest::ownTextsBehindAModule()

@@ -25,6 +25,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTableView>
@@ -75,6 +76,7 @@ private Q_SLOTS:
     void droppedFiles();
     void barsAndPlaceComeBack();
     void captionsFollowTheLanguages();
+    void textsFromOutsideArePlain();
 };
 
 void MainFrameTest::showsTheSampleList()
@@ -298,6 +300,49 @@ void MainFrameTest::captionsFollowTheLanguages()
     direction->click();
     settings->accept();
     QVERIFY(run.Command(CommandId::FromLanguage1)->isChecked());
+}
+
+void MainFrameTest::textsFromOutsideArePlain()
+{
+    Frame run;
+    const QString markup = QStringLiteral("<img src=\"/missing/picture.png\">");
+    CWordList &list = run.test.document.BeginChange();
+    list.SetProperties({.language1 = markup,
+        .language2 = QString(1000000, u'x'),
+        .author = QStringLiteral("\u202E") + markup,
+        .comments = QString(1000000, u'<')});
+    list.Insert(CWordEntry(markup, markup));
+    QByteArray module = "Ordelin-spr\xC3\xA5kmodul\n";
+    for (const int number : run.test.texts.Own().Numbers()) {
+        module += QByteArray::number(number) + "=<img src=\"/missing/picture.png\"> %s %word\n";
+    }
+    QVERIFY(run.test.texts.LoadModule(module));
+    run.frame.findChild<CWin32View *>()->RefreshAll();
+    run.frame.ShowAsBefore();
+    QVERIFY(run.frame.minimumSizeHint().width() < 2000);
+    run.specialCharacters.Toggle();
+    run.Command(CommandId::About)->trigger();
+    run.Command(CommandId::QuizSettings)->trigger();
+    run.Command(CommandId::StandardQuiz)->trigger();
+    CStandardQuiz *quiz = nullptr;
+    for (QWidget *const window : QApplication::topLevelWidgets()) {
+        quiz = quiz == nullptr ? qobject_cast<CStandardQuiz *>(window) : quiz;
+    }
+    QVERIFY(quiz != nullptr);
+    quiz->findChild<QPushButton *>(QStringLiteral("changeButton"))->click();
+    quiz->findChild<QPushButton *>(QStringLiteral("resultButton"))->click();
+    quiz->findChild<QPushButton *>(QStringLiteral("answerButton"))->click();
+    int labels = 0;
+    for (const QWidget *const widget : QApplication::allWidgets()) {
+        if (const auto *const label = qobject_cast<const QLabel *>(widget)) {
+            QVERIFY2(label->textFormat() == Qt::PlainText, qPrintable(label->objectName() + label->text()));
+            ++labels;
+        }
+    }
+    QVERIFY2(labels > 30, qPrintable(QString::number(labels)));
+    // What is turned in it turns nothing behind it.
+    const QString author = run.frame.findChild<QLabel *>(QStringLiteral("author"))->text();
+    QVERIFY2(author.contains(QStringLiteral("\u2068\u202E%1\u2069").arg(markup)), qPrintable(author));
 }
 
 QTEST_MAIN(MainFrameTest)

@@ -4,6 +4,7 @@
 #include "editor/ui/cell_colours.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
+#include "platform/plain_text.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -65,8 +66,8 @@ void CWordListDelegate::paint(
     painter->drawText(room,
         (alignment.isValid() ? Qt::Alignment(alignment.toInt()) : Qt::AlignVCenter | Qt::AlignLeft)
             | Qt::Alignment(Qt::TextSingleLine),
-        option.fontMetrics.elidedText(
-            index.data(Qt::DisplayRole).toString(), Qt::ElideRight, room.width(), Qt::TextSingleLine));
+        option.fontMetrics.elidedText(Isolated(index.data(Qt::DisplayRole).toString()), Qt::ElideRight,
+            room.width(), Qt::TextSingleLine));
 }
 
 QWidget *CWordListDelegate::createEditor(

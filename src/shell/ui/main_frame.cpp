@@ -5,6 +5,7 @@
 #include "document/recent_files.h"
 #include "document/win32_doc.h"
 #include "editor/ui/win32_view.h"
+#include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
 #include "quiz/ui/quiz_launch.h"
 #include "quiz/ui/quiz_settings_dialog.h"
@@ -228,7 +229,8 @@ void CMainFrame::OpenQuizSettings()
 void CMainFrame::ShowTitle()
 {
     // The toolkit takes a single mark for the place of its own sign of changes.
-    setWindowTitle(m_services.document.Title().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    setWindowTitle(
+        Isolated(m_services.document.Title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 void CMainFrame::UpdateCommands()

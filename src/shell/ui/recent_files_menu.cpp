@@ -3,6 +3,7 @@
 
 #include "document/file_commands.h"
 #include "document/recent_files.h"
+#include "platform/plain_text.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/commands.h"
@@ -31,7 +32,7 @@ void CRecentFilesMenu::Fill()
     qDeleteAll(m_actions);
     m_actions.clear();
     for (const QString &path : m_recent.Paths()) {
-        const QString name = shownInMenu(QFileInfo(path).fileName());
+        const QString name = Isolated(ShownInCaption(QFileInfo(path).fileName()));
         QAction *const action = Add(QStringLiteral("&%1 %2").arg(m_actions.size() + 1).arg(name));
         action->setStatusTip(path);
         // From the event loop: opening fills this menu anew.
