@@ -158,6 +158,19 @@ QRect DockedRect(int dock, const QRect &frame, int ownWidth, const QRect &workAr
     return FittedRect(QRect(left, frame.y(), ownWidth, frame.height()), workArea);
 }
 
+QRect StoredRect(const EasyKeySettings &settings)
+{
+    constexpr int Farthest = 1000000; // Far beyond any desktop, and far from where numbers end.
+    constexpr int Largest = 0x7FFF;
+    const qint64 width = qint64(settings.right) - settings.left;
+    const qint64 height = qint64(settings.bottom) - settings.top;
+    if (width <= 0 || height <= 0) {
+        return {};
+    }
+    return {std::clamp(settings.left, -Farthest, Farthest), std::clamp(settings.top, -Farthest, Farthest),
+        int(std::min<qint64>(width, Largest)), int(std::min<qint64>(height, Largest))};
+}
+
 QRect FittedRect(QRect rect, const QRect &workArea)
 {
     rect.setSize(rect.size().boundedTo(workArea.size()));

@@ -65,5 +65,8 @@ private:
 /// (0).
 QRect DockedRect(int dock, const QRect &frame, int ownWidth, const QRect &workArea);
 
+/// The place of the window in the settings; empty for none, or for one that can't be.
+QRect StoredRect(const EasyKeySettings &settings);
+
 /// The rectangle moved, and cut where it is too large, so that it lies within the work area.
 QRect FittedRect(QRect rect, const QRect &workArea);

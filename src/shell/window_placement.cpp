@@ -37,12 +37,14 @@ std::optional<WindowPlacement> loadWindowPlacement(
         || width > Largest || height > Largest) {
         return {};
     }
+    // A window larger than all screens takes memory for what nobody sees.
+    const QSize size = QSize(int(width), int(height)).boundedTo(desktop.screens.size());
     // Kept: a place too far to the left or the top is not corrected.
     const qint64 x =
         std::min(qint64(left) + desktop.workArea.left(), qint64(desktop.screens.right()) + 1 - IconSize);
     const qint64 y =
         std::min(qint64(top) + desktop.workArea.top(), qint64(desktop.screens.bottom()) + 1 - IconSize);
-    return WindowPlacement{QRect(int(x), int(y), int(width), int(height)), status == Maximised};
+    return WindowPlacement{QRect({int(x), int(y)}, size), status == Maximised};
 }
 
 void saveWindowPlacement(ISettingsStore &store, const QString &root, const WindowPlacement &placement,

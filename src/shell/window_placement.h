@@ -24,7 +24,8 @@ struct DesktopGeometry
 };
 
 /// The placement that saveWindowPlacement() stored, with its corner moved in so that at least the size of an
-/// icon lies inside the right and the bottom edge. None when a value is missing or no size is left.
+/// icon lies inside the right and the bottom edge, and no larger than all screens together. None when a value
+/// is missing or no size is left.
 std::optional<WindowPlacement> loadWindowPlacement(
     const ISettingsStore &store, const QString &root, const DesktopGeometry &desktop);
 /// Stores the rectangle relative to the work area, in the section "Winpos" below `root`.

@@ -147,6 +147,11 @@ void SpecialCharactersTest::docking()
     // No room beside the frame, and the frame higher than the work area.
     QCOMPARE(DockedRect(1, QRect(120, -20, 500, 900), 150, workArea), QRect(100, 0, 150, 700));
     QCOMPARE(DockedRect(2, QRect(600, 500, 450, 400), 150, workArea), QRect(950, 300, 150, 400));
+    EasyKeySettings stored;
+    QVERIFY(StoredRect(stored).isEmpty());
+    stored.left = -2147483647;
+    stored.right = stored.bottom = 2147483647;
+    QCOMPARE(FittedRect(StoredRect(stored), workArea), workArea);
     QCOMPARE(FittedRect(QRect(5000, -100, 3000, 200), workArea), QRect(100, 0, 1000, 200));
 }
 

@@ -280,6 +280,8 @@ void StartUpTest::placement_data()
                                 << "";
     QTest::newRow("no size") << "1 100 50 100 350"
                              << "";
+    QTest::newRow("larger than the screens") << "1 0 0 32767 32767"
+                                             << "10,30 1000x800";
     QTest::newRow("absurd") << "1 -2147483648 0 2147483647 9"
                             << "";
 }

@@ -160,9 +160,7 @@ void CSpecialCharacterWindow::DockBeside(const QWidget &other)
 // shown.
 void CSpecialCharacterWindow::RestorePlace()
 {
-    const EasyKeySettings &settings = m_characters.Settings();
-    const QRect stored(
-        settings.left, settings.top, settings.right - settings.left, settings.bottom - settings.top);
+    const QRect stored = StoredRect(m_characters.Settings());
     if (!stored.isEmpty()) {
         const QRect rect = FittedRect(stored, WorkArea(stored));
         resize(rect.size());
