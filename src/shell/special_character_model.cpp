@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/special_character_model.h"
 
+#include "platform/plain_text.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/special_characters.h"
@@ -30,6 +31,11 @@ CSpecialCharacterModel::CSpecialCharacterModel(
 bool CSpecialCharacterModel::ShowsOwn() const
 {
     return m_characters.ShowsOwn();
+}
+
+bool CSpecialCharacterModel::IsEditedByDoubleClick(int item) const
+{
+    return ShowsOwn() && item >= 0 && !m_characters.IsRowForAdding(item);
 }
 
 void CSpecialCharacterModel::SetGridColumns(int columns)
@@ -99,7 +105,7 @@ QString CSpecialCharacterModel::Shown(int item) const
     }
     const QString text = m_characters.Text(item);
     // A mark that combines with the letter before it can't be read alone.
-    return !text.isEmpty() && text.at(0).isMark() ? QChar(u'\u25CC') + text : text;
+    return !text.isEmpty() && text.at(0).isMark() ? QChar(u'\u25CC') + text : Isolated(text);
 }
 
 QString CSpecialCharacterModel::Described(int item) const

@@ -17,6 +17,8 @@ public:
     CSpecialCharacterModel(CSpecialCharacters &characters, const CTexts &texts, QObject *parent = nullptr);
 
     bool ShowsOwn() const;
+    /// Not the row for adding, which a single click edits.
+    bool IsEditedByDoubleClick(int item) const;
     /// How many columns the grid has.
     int GridColumns() const { return m_gridColumns; }
     void SetGridColumns(int columns);

@@ -104,6 +104,8 @@ private Q_SLOTS:
     void typesFromTheKeyboard();
     void digits();
     void ownCharacters();
+    void editingTypesNothing();
+    void clicksOnOwnCharacters();
     void withoutATarget();
     void keepsItsPlace();
 };
@@ -128,6 +130,13 @@ void SpecialCharacterWindowTest::opensAndCloses()
     QVERIFY(!desk.keys->IsOpen() && !desk.Characters()->isVisible());
     QTRY_VERIFY(desk.edit->hasFocus());
 
+    // Held, the key opens the window once.
+    QTest::keyClick(desk.edit, Qt::Key_F9);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_F9, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(desk.edit, &held);
+    QVERIFY(desk.keys->IsOpen() && !desk.Characters()->HasFocus());
+    desk.keys->Close();
+
     QDialog dialog(&desk.window);
     dialog.setWindowModality(Qt::WindowModal);
     QLineEdit inDialog(&dialog);
@@ -138,7 +147,7 @@ void SpecialCharacterWindowTest::opensAndCloses()
     desk.keys->Toggle();
     QTest::keyClick(desk.List(), Qt::Key_Escape);
     QVERIFY(!desk.keys->IsOpen());
-    QCOMPARE(changed.count(), 4);
+    QCOMPARE(changed.count(), 6);
     QCOMPARE(triggered.count(), 0);
 }
 
@@ -245,9 +254,9 @@ void SpecialCharacterWindowTest::ownCharacters()
     QTRY_COMPARE(desk.settings.keys, QStringList({QStringLiteral("æ"), QStringLiteral("ø")}));
     QTRY_VERIFY(desk.edit->hasFocus());
 
-    // The click of a double click types, the second one edits.
+    // A double click edits and types nothing.
     desk.DoubleClick(0);
-    QCOMPARE(desk.edit->text(), QStringLiteral("æ"));
+    QCOMPARE(desk.edit->text(), QString());
     QTRY_VERIFY(desk.OwnEditor() != nullptr && desk.OwnEditor()->hasFocus());
     QTest::keyClick(desk.OwnEditor(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(desk.OwnEditor(), Qt::Key_2, Qt::ControlModifier);
@@ -269,7 +278,57 @@ void SpecialCharacterWindowTest::ownCharacters()
     QTest::keyClick(desk.List(), Qt::Key_Delete);
     QCOMPARE(desk.settings.keys, QStringList(QStringLiteral("ø")));
     QTest::keyClick(desk.List(), Qt::Key_Return);
-    QCOMPARE(desk.edit->text(), QStringLiteral("æø"));
+    QCOMPARE(desk.edit->text(), QStringLiteral("ø"));
+}
+
+void SpecialCharacterWindowTest::editingTypesNothing()
+{
+    Desk desk(0, {QStringLiteral("xr"), QStringLiteral("ø")});
+    desk.Open();
+    // Enter stores the text as it was changed.
+    desk.DoubleClick(0);
+    QTRY_VERIFY(desk.OwnEditor() != nullptr && desk.OwnEditor()->hasFocus());
+    QTest::keyClicks(desk.OwnEditor(), QStringLiteral("w"));
+    QTest::keyClick(desk.OwnEditor(), Qt::Key_Return);
+    QTRY_COMPARE(desk.settings.keys, QStringList({QStringLiteral("w"), QStringLiteral("ø")}));
+    QTRY_VERIFY(desk.edit->hasFocus());
+    QCOMPARE(desk.edit->text(), QString());
+
+    // A click on another one ends the edit and stores it, no more.
+    desk.DoubleClick(0);
+    QTRY_VERIFY(desk.OwnEditor() != nullptr && desk.OwnEditor()->hasFocus());
+    QTest::keyClicks(desk.OwnEditor(), QStringLiteral("v"));
+    const QPoint other = desk.List()->visualRect(desk.List()->model()->index(1, 0)).center();
+    QTest::mouseClick(desk.List()->viewport(), Qt::LeftButton, {}, other);
+    QTRY_COMPARE(desk.settings.keys.first(), QStringLiteral("v"));
+    desk.Characters()->ChooseWaiting();
+    QTRY_VERIFY(desk.edit->hasFocus());
+    QCOMPARE(desk.edit->text(), QString());
+}
+
+void SpecialCharacterWindowTest::clicksOnOwnCharacters()
+{
+    // They wait for a second click, and what is done after them comes after them.
+    QApplication::setDoubleClickInterval(100000);
+    Desk desk(0, {QStringLiteral("æ"), QStringLiteral("ø")});
+    desk.Open();
+    desk.Click(0, Qt::ShiftModifier);
+    QCOMPARE(desk.edit->text(), QString());
+    desk.Click(1);
+    QCOMPARE(desk.edit->text(), QStringLiteral("Æ"));
+    QTest::keyClicks(desk.edit, QStringLiteral("l"));
+    QCOMPARE(desk.edit->text(), QStringLiteral("Æøl"));
+    desk.Click(0);
+    QTest::mouseClick(desk.edit, Qt::LeftButton);
+    QCOMPARE(desk.edit->text(), QStringLiteral("Æølæ"));
+    desk.Click(1);
+    desk.Characters()->findChild<QComboBox *>(QStringLiteral("characterSet"))->setCurrentIndex(Latin2);
+    QCOMPARE(desk.edit->text(), QStringLiteral("Æølæø"));
+    desk.Characters()->findChild<QComboBox *>(QStringLiteral("characterSet"))->setCurrentIndex(0);
+
+    QApplication::setDoubleClickInterval(1);
+    desk.Click(0);
+    QTRY_COMPARE(desk.edit->text(), QStringLiteral("Æølæøæ"));
 }
 
 void SpecialCharacterWindowTest::withoutATarget()

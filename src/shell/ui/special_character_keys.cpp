@@ -143,11 +143,17 @@ bool CSpecialCharacterKeys::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
+        ChooseWaiting();
         // Consumed where it comes first, before it goes from window to widget to parent: so it is handled once,
         // and a key claimed in its override starts no shortcut.
         if (HandleKey(*static_cast<QKeyEvent *>(event))) {
             event->accept();
             return true;
+        }
+        break;
+    case QEvent::MouseButtonPress:
+        if (m_open && watched != m_window->windowHandle() && !m_window->Holds(watched)) {
+            ChooseWaiting();
         }
         break;
     case QEvent::FocusOut:
@@ -163,6 +169,14 @@ bool CSpecialCharacterKeys::eventFilter(QObject *watched, QEvent *event)
         break;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void CSpecialCharacterKeys::ChooseWaiting()
+{
+    // What is clicked first is typed first.
+    if (m_open) {
+        m_window->ChooseWaiting();
+    }
 }
 
 bool CSpecialCharacterKeys::HandleKey(const QKeyEvent &event)

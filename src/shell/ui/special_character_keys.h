@@ -45,6 +45,7 @@ private:
     void MakeWindow();
     void Closed();
     void Dock();
+    void ChooseWaiting();
     bool HandleKey(const QKeyEvent &event);
     void Send(const QString &text);
     /// The widget of ours that the user is typing in; none while that is another program.

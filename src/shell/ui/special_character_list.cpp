@@ -5,6 +5,7 @@
 #include "resources/texts.h"
 #include "shell/special_character_model.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -12,6 +13,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -54,6 +56,9 @@ CSpecialCharacterList::CSpecialCharacterList(
     horizontalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
+    m_doubleClick.setSingleShot(true);
+    m_doubleClick.callOnTimeout(
+        this, [this] { Q_EMIT Chosen(m_model.Item(std::exchange(m_waiting, {})), m_waitingModifiers); });
     EnlargeFont();
     LayOut();
 }
@@ -128,9 +133,18 @@ void CSpecialCharacterList::EditItem(int item)
     edit(m_model.Cell(item));
 }
 
+void CSpecialCharacterList::ChooseWaiting()
+{
+    if (m_doubleClick.isActive()) {
+        m_doubleClick.stop();
+        Q_EMIT Chosen(m_model.Item(std::exchange(m_waiting, {})), m_waitingModifiers);
+    }
+}
+
 void CSpecialCharacterList::mousePressEvent(QMouseEvent *event)
 {
-    m_pressed = indexAt(event->position().toPoint());
+    ChooseWaiting();
+    m_pressed = std::exchange(m_clickEndedEdit, false) ? QModelIndex() : indexAt(event->position().toPoint());
     QTableView::mousePressEvent(event);
 }
 
@@ -140,20 +154,25 @@ void CSpecialCharacterList::mouseReleaseEvent(QMouseEvent *event)
     const int item = m_model.Item(m_pressed);
     const bool chosen = event->button() == Qt::LeftButton && item >= 0
         && item == m_model.Item(indexAt(event->position().toPoint()));
-    m_pressed = QPersistentModelIndex();
-    if (chosen) {
+    const QPersistentModelIndex pressed = std::exchange(m_pressed, {});
+    if (!chosen) {
+        return;
+    }
+    if (m_model.IsEditedByDoubleClick(item)) {
+        m_waiting = pressed;
+        m_waitingModifiers = event->modifiers();
+        m_doubleClick.start(QApplication::doubleClickInterval());
+    } else {
         Q_EMIT Chosen(item, event->modifiers());
     }
 }
 
 void CSpecialCharacterList::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    // A click types at once: a window for typing that waited, to see whether a second click makes a double
-    // click of it, would be slow at every character. So the first click of a double click that edits has typed
-    // the character once, and the second one doesn't. In a grid there is nothing to edit: two fast clicks are
-    // two characters.
+    // In a grid there is nothing to edit: two fast clicks are two characters.
     const int item = m_model.Item(indexAt(event->position().toPoint()));
     if (m_model.ShowsOwn() && item >= 0 && event->button() == Qt::LeftButton) {
+        m_doubleClick.stop();
         Q_EMIT EditWanted(item);
     } else {
         mousePressEvent(event);
@@ -162,6 +181,9 @@ void CSpecialCharacterList::mouseDoubleClickEvent(QMouseEvent *event)
 
 void CSpecialCharacterList::keyPressEvent(QKeyEvent *event)
 {
+    if (IsEditing()) {
+        return; // What the edit box leaves, Enter above all, is no choice.
+    }
     const int item = CurrentItem();
     switch (event->key()) {
     case Qt::Key_Return:
@@ -201,6 +223,8 @@ void CSpecialCharacterList::currentChanged(const QModelIndex &current, const QMo
 
 void CSpecialCharacterList::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    // A click gives the list the focus, which ends the edit before the list is told of the click.
+    m_clickEndedEdit = hasFocus();
     // Tab ends the editing too: the next character is not edited unasked.
     const bool goesOn =
         hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;

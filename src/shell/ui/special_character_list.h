@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTableView>
+#include <QTimer>
 
 class CSpecialCharacterModel;
 class CTexts;
@@ -22,6 +23,9 @@ public:
     void SetCurrentItem(int item);
     void EditItem(int item);
     bool IsEditing() const { return state() == EditingState; }
+    /// A click on an own character waits, since a second one may make it a double click. Call it before
+    /// anything else is typed or clicked: a click that waits chooses now.
+    void ChooseWaiting();
 
     QSize sizeHint() const override;
 
@@ -52,6 +56,10 @@ private:
     void EnlargeFont();
 
     CSpecialCharacterModel &m_model;
-    QPersistentModelIndex m_pressed;
+    QPersistentModelIndex m_pressed; // None for a click that only ends an edit.
+    bool m_clickEndedEdit = false;
+    QPersistentModelIndex m_waiting;
+    Qt::KeyboardModifiers m_waitingModifiers;
+    QTimer m_doubleClick;
     bool m_layingOut = false;
 };

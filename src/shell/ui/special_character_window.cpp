@@ -181,6 +181,11 @@ void CSpecialCharacterWindow::StorePlace()
     settings.bottom = place.y() + height();
 }
 
+void CSpecialCharacterWindow::ChooseWaiting()
+{
+    m_list->ChooseWaiting();
+}
+
 void CSpecialCharacterWindow::ShowMessage(const QString &message)
 {
     m_message->setText(message);
@@ -196,6 +201,7 @@ bool CSpecialCharacterWindow::Holds(const QObject *object) const
 
 void CSpecialCharacterWindow::ShowSet(int set)
 {
+    ChooseWaiting();
     m_characters.Settings().subset = set;
     m_characters.Settings().selected = -1;
     m_model->Reset();
@@ -269,6 +275,7 @@ void CSpecialCharacterWindow::keyPressEvent(QKeyEvent *event)
 
 void CSpecialCharacterWindow::closeEvent(QCloseEvent *event)
 {
+    ChooseWaiting();
     StorePlace();
     Q_EMIT Closing();
     QWidget::closeEvent(event);

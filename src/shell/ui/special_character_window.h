@@ -27,6 +27,8 @@ public:
     /// Makes it the active window, to be used by keyboard.
     void TakeFocus();
     bool HasFocus() const;
+    /// A click that waits types now; see CSpecialCharacterList.
+    void ChooseWaiting();
     /// Docks it beside a window, as the settings say, if that one is in its normal state.
     void DockBeside(const QWidget &other);
     /// The line below the characters; empty for none.
