@@ -2,6 +2,7 @@
 #include "document/file_commands.h"
 
 #include "document/file_filters.h"
+#include "document/pending_work.h"
 #include "document/recent_files.h"
 #include "document/win32_doc.h"
 #include "platform/file_chooser.h"
@@ -19,15 +20,26 @@ CFileCommands::CFileCommands(
 {
 }
 
+void CFileCommands::StorePending()
+{
+    if (m_pending != nullptr) {
+        m_pending->StoreWhole();
+    }
+}
+
 bool CFileCommands::MayDiscard()
 {
-    m_finishEditing();
-    if (!m_document.IsModified()) {
+    StorePending();
+    const bool hasRest = m_pending != nullptr && m_pending->HasRest();
+    if (!m_document.IsModified() && !hasRest) {
         return true;
     }
     switch (m_prompt.Ask(m_texts.Prompt(Text::SaveChanges, {m_document.Name()}), PromptIcon::Warning,
         PromptButtons::YesNoCancel, PromptAnswer::Yes)) {
     case PromptAnswer::Yes:
+        if (hasRest) {
+            m_pending->StoreRest();
+        }
         return Save();
     case PromptAnswer::No:
         return true;
@@ -96,9 +108,15 @@ bool CFileCommands::SaveAs()
     return DoSave({}, true);
 }
 
+void CFileCommands::Send()
+{
+    StorePending();
+    m_document.OnFileSendMail();
+}
+
 bool CFileCommands::DoSave(const QString &path, bool replace)
 {
-    m_finishEditing();
+    StorePending();
     QString target = path;
     if (target.isEmpty()) {
         const QString name = m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls")

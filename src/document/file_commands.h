@@ -3,15 +3,14 @@
 
 #include <QString>
 
-#include <functional>
-
 class CRecentFiles;
 class CTexts;
 class CWin32Doc;
 class IFileChooser;
+class IPendingWork;
 class IUserPrompt;
 
-/// The commands New, Open, Save and Save as, with the question before unsaved changes would be lost. Each
+/// The commands New, Open, Save, Save as and Send, with the question before unsaved changes would be lost. Each
 /// returns false when it was cancelled or failed; nothing is lost then.
 class CFileCommands
 {
@@ -20,8 +19,8 @@ public:
     CFileCommands(CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser,
         CRecentFiles &recent);
 
-    /// What is called before a list is saved or given up: whoever edits it stores what is still being typed.
-    void SetFinishEditing(std::function<void()> finishEditing) { m_finishEditing = std::move(finishEditing); }
+    /// What is typed and not yet in the list; null for none. It is stored before the list is saved or given up.
+    void SetPendingWork(IPendingWork *pending) { m_pending = pending; }
 
     bool New();
     /// Asks for a file and opens it.
@@ -33,6 +32,8 @@ public:
     /// Saves to the list's own file, and asks for a name where it has none.
     bool Save();
     bool SaveAs();
+    /// Hands a copy to the e-mail program.
+    void Send();
     /// Saves to `path`, and asks for a name where it is empty. With `replace` the file becomes the list's own;
     /// without it a copy is saved.
     bool DoSave(const QString &path, bool replace);
@@ -40,6 +41,7 @@ public:
     bool MayDiscard();
 
 private:
+    void StorePending();
     QString StartFolder() const;
     bool OpenNow(const QString &path);
 
@@ -49,5 +51,5 @@ private:
     IFileChooser &m_chooser;
     CRecentFiles &m_recent;
     QString m_lastFolder;
-    std::function<void()> m_finishEditing = [] {};
+    IPendingWork *m_pending = nullptr;
 };

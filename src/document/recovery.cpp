@@ -62,13 +62,15 @@ private:
 };
 
 CRecovery::CRecovery(CWin32Doc &document, const QString &folder, int delay, QObject *parent)
-    : QObject(parent), m_document(document), m_folder(folder), m_writer(std::make_unique<CWriter>(*this))
+    : QObject(parent), m_document(document), m_listToKeep([&document] { return document.List(); }),
+      m_folder(folder), m_writer(std::make_unique<CWriter>(*this))
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(delay);
     connect(&m_timer, &QTimer::timeout, this, &CRecovery::WriteCopy);
-    connect(&document, &CWin32Doc::Changed, this, &CRecovery::DocumentChanged);
+    connect(&document, &CWin32Doc::Changed, this, &CRecovery::KeepSoon);
     connect(&document, &CWin32Doc::Saved, this, &CRecovery::Discard);
+    connect(&document, &CWin32Doc::Saved, this, &CRecovery::KeepSoon); // What no file holds yet.
 }
 
 CRecovery::~CRecovery()
@@ -104,7 +106,7 @@ std::unique_ptr<QLockFile> CRecovery::Lock(const QString &id) const
     return lock->tryLock(0) ? std::move(lock) : nullptr;
 }
 
-void CRecovery::DocumentChanged()
+void CRecovery::KeepSoon()
 {
     // Not started anew by each change: who types without a pause has a copy too.
     if (!m_timer.isActive()) {
@@ -114,7 +116,8 @@ void CRecovery::DocumentChanged()
 
 void CRecovery::WriteCopy()
 {
-    if (!m_document.IsModified()) {
+    CWordList list = m_listToKeep();
+    if (list.IsSaved() || list.Count() == 0) {
         Discard();
         return;
     }
@@ -136,7 +139,7 @@ void CRecovery::WriteCopy()
                                .arg(stamp.modified.toMSecsSinceEpoch())
                                .arg(stamp.size)
                                .arg(m_document.Path());
-    m_writer->Write(m_document.List(), FilePath(m_id, ListSuffix), origin.toUtf8(), FilePath(m_id, PathSuffix));
+    m_writer->Write(std::move(list), FilePath(m_id, ListSuffix), origin.toUtf8(), FilePath(m_id, PathSuffix));
 }
 
 void CRecovery::CopyWritten()

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -48,6 +49,11 @@ public:
     /// first change.
     bool Offer(const CTexts &texts, IUserPrompt &prompt);
 
+    /// Where the list to keep comes from, when it is more than the document's.
+    void SetListToKeep(std::function<CWordList()> list) { m_listToKeep = std::move(list); }
+    /// What is to be kept changed: a copy is written soon.
+    void KeepSoon();
+
     /// Removes the copy, after a save; one that is being written, as soon as that is done.
     void Discard();
     /// Waits until nothing is being written.
@@ -61,7 +67,6 @@ public:
 private:
     class CWriter;
 
-    void DocumentChanged();
     void WriteCopy();
     QString FilePath(const QString &id, const char *suffix) const;
     void Remove(const QString &id) const;
@@ -71,6 +76,7 @@ private:
     std::unique_ptr<QLockFile> Lock(const QString &id) const;
 
     CWin32Doc &m_document;
+    std::function<CWordList()> m_listToKeep;
     QString m_folder;
     QTimer m_timer;
     QString m_id; // Empty until there is something to keep.

@@ -10,6 +10,9 @@
 #include "settings/editor_settings.h"
 #include "settings/shell_settings.h"
 
+#include <algorithm>
+#include <utility>
+
 using Action = EditStep::Action;
 
 SortOptions sortOptions(const ArrangeSettings &settings)
@@ -17,6 +20,23 @@ SortOptions sortOptions(const ArrangeSettings &settings)
     return {.ascending = !settings.descending,
         .groupFlagged = settings.groupFlagged,
         .byLength = settings.byLength};
+}
+
+bool HasBothTerms(const EntryTexts &texts)
+{
+    return !texts[0].isEmpty() && !texts[1].isEmpty();
+}
+
+std::optional<CWordEntry> RestAsEntry(const EntryTexts &texts)
+{
+    CWordEntry entry(texts[0], texts[1], texts[2].trimmed());
+    if (entry.GetText(0).isEmpty() && entry.GetText(1).isEmpty()) {
+        entry = CWordEntry(texts[2]);
+        if (entry.GetText(0).isEmpty()) {
+            return std::nullopt;
+        }
+    }
+    return entry;
 }
 
 CEntryEditing::CEntryEditing(EntryEditingServices services, IEntryView &view)
@@ -78,28 +98,64 @@ EditStep CEntryEditing::FromFields(const EntryTexts &texts, int entry)
             return {Action::FocusField, language};
         }
     }
-    for (const size_t language : {0u, 1u}) {
-        wanted[language] = Corrected(wanted[language]);
-    }
-    if (!wanted[2].isEmpty() && !m_services.settings.showNotes) {
-        m_view.ShowNotes();
-    }
-    if (entry < 0 || entry >= m_services.document.List().Count()) {
-        const int similar = Add(wanted);
-        return similar >= 0 ? EditStep{Action::SelectEntry, similar} : EditStep{Action::ClearFields};
-    }
-    int similar = CRowModel::NoEntry;
-    m_services.document.Change([&](CWordList &list) {
-        similar =
-            list.ReplaceEntry(entry, wanted[0], wanted[1], wanted[2], m_services.settings.duplicateVarning);
-    });
-    similar = AskAboutSimilar(similar);
+    const bool adds = entry < 0 || entry >= m_services.document.List().Count();
+    const int similar = AddOrChange(std::move(wanted), entry);
     if (similar >= 0) {
         return {Action::SelectEntry, similar};
+    }
+    if (adds) {
+        return {Action::ClearFields};
     }
     // The next one is loaded at once, so that a list is gone through quickly.
     return entry + 1 < m_services.document.List().Count() ? EditStep{Action::SelectEntry, entry + 1}
                                                           : EditStep{Action::ClearSelection};
+}
+
+int CEntryEditing::AddOrChange(EntryTexts texts, int entry)
+{
+    for (const size_t language : {0u, 1u}) {
+        texts[language] = Corrected(texts[language]);
+    }
+    if (!texts[2].isEmpty() && !m_services.settings.showNotes) {
+        m_view.ShowNotes();
+    }
+    if (entry < 0 || entry >= m_services.document.List().Count()) {
+        return Add(texts);
+    }
+    int similar = CRowModel::NoEntry;
+    m_services.document.Change([&](CWordList &list) {
+        similar = list.ReplaceEntry(entry, texts[0], texts[1], texts[2], m_services.settings.duplicateVarning);
+    });
+    return AskAboutSimilar(similar);
+}
+
+EditStep CEntryEditing::StoreFields(const EntryTexts &texts, int entry)
+{
+    EntryTexts wanted = {NormalizeTerm(texts[0]), NormalizeTerm(texts[1]), texts[2]};
+    if (!HasBothTerms(wanted)) {
+        return {};
+    }
+    const int similar = AddOrChange(std::move(wanted), entry);
+    return similar >= 0 ? EditStep{Action::SelectEntry, similar} : EditStep{};
+}
+
+EditStep CEntryEditing::StorePending()
+{
+    if (!HasBothTerms(m_services.rows.pending)) {
+        return {};
+    }
+    const EditStep step = AddPending();
+    m_view.PendingChanged();
+    return step;
+}
+
+void CEntryEditing::AddRest(const EntryTexts &texts)
+{
+    if (const std::optional<CWordEntry> entry = RestAsEntry(texts)) {
+        const bool asking = std::exchange(m_asking, false);
+        Add({entry->GetText(0), entry->GetText(1), entry->GetNote()});
+        m_asking = asking;
+    }
 }
 
 EditStep CEntryEditing::CellEdited(int row, int field, const QString &text)

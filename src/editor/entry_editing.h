@@ -5,6 +5,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <span>
 
 class CRowModel;
@@ -33,6 +34,12 @@ public:
 
 /// What an edit box or the entry fields held.
 using EntryTexts = std::array<QString, CWordEntry::FieldCount>;
+
+/// Whether texts, in normal form, have both terms of an entry.
+bool HasBothTerms(const EntryTexts &texts);
+/// The entry that texts make of which some may be missing; none when they hold nothing. A note alone stands as
+/// a term, since no file holds an entry without one.
+std::optional<CWordEntry> RestAsEntry(const EntryTexts &texts);
 
 /// What the view does after an edit.
 struct EditStep
@@ -76,6 +83,13 @@ public:
 
     /// The add-or-change button. `entry` is the one to change, CRowModel::NoEntry to add one.
     EditStep FromFields(const EntryTexts &texts, int entry);
+    /// The same without going on to another entry: the step is SelectEntry or None. Does nothing without two
+    /// terms.
+    EditStep StoreFields(const EntryTexts &texts, int entry);
+    /// Makes an entry of the texts of the new-entry row when both terms are there.
+    EditStep StorePending();
+    /// Makes an entry of texts of which some may be missing, without a question. See RestAsEntry().
+    void AddRest(const EntryTexts &texts);
     /// A cell was edited and not cancelled.
     EditStep CellEdited(int row, int field, const QString &text);
     /// Asks before it deletes; true when the entries are gone. `entries` is ascending.
@@ -88,6 +102,8 @@ public:
 private:
     EditStep NewEntryCellEdited(int field, const QString &text);
     EditStep AddPending();
+    /// Returns a similar entry that the user wants to see, or NoEntry.
+    int AddOrChange(EntryTexts texts, int entry);
     /// Returns a similar entry that the user wants to see, or NoEntry.
     int Add(const EntryTexts &texts);
     /// The term as it is, or as the user lets it be corrected.

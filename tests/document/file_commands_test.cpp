@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/file_commands.h"
 #include "document/file_filters.h"
+#include "document/pending_work.h"
 #include "document/recent_files.h"
 #include "resources/text_numbers.h"
 #include "settings/settings_store.h"
@@ -17,6 +18,7 @@ class FileCommandsTest : public QObject
 private Q_SLOTS:
     void unsavedChanges_data();
     void unsavedChanges();
+    void pendingWork();
     void savingWithAndWithoutAName();
     void openingByDialog();
     void recentFiles();
@@ -55,6 +57,47 @@ void FileCommandsTest::unsavedChanges()
     QCOMPARE(test.document.List().Count(), discarded ? 0 : 1);
     QCOMPARE(test.prompt.texts.value(0), QStringLiteral("Vill du spara ändringarna i Namnlös?"));
     QCOMPARE(QFile::exists(folder.filePath(QStringLiteral("x.gls"))), saved);
+}
+
+void FileCommandsTest::pendingWork()
+{
+    struct CPending : IPendingWork
+    {
+        explicit CPending(CWin32Doc &edited) : document(edited) { }
+        void StoreWhole() override { calls += u'w'; }
+        bool HasRest() const override { return rest; }
+        void StoreRest() override
+        {
+            document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("|rest"))); });
+            rest = false;
+        }
+        CWordList ListWithAll() const override { return {}; }
+        CWin32Doc &document;
+        QString calls;
+        bool rest = true;
+    };
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("x.gls"));
+    TestDocument test;
+    CScriptedChooser chooser;
+    CMemoryStore store;
+    CRecentFiles recent(store, QStringLiteral("root"));
+    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
+    CPending pending(test.document);
+    files.SetPendingWork(&pending);
+    QVERIFY(test.document.OnSaveDocument(path));
+    QVERIFY(files.Save() && pending.rest);
+    files.Send();
+    QCOMPARE(pending.calls, QStringLiteral("ww"));
+    // An empty list with a word beside it is no empty list.
+    QVERIFY(!files.New() && pending.rest);
+    test.prompt.answers = {PromptAnswer::Yes, PromptAnswer::No};
+    QVERIFY(files.OpenFile(path));
+    QCOMPARE(Describe(test.document.List()), QStringList{QStringLiteral("|rest")});
+    pending.rest = true;
+    QVERIFY(files.MayDiscard());
+    QCOMPARE(test.document.List().Count(), 1);
+    QCOMPARE(test.prompt.numbers, QList<int>(3, Text::SaveChanges));
 }
 
 void FileCommandsTest::savingWithAndWithoutAName()

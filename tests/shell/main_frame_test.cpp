@@ -73,6 +73,7 @@ private Q_SLOTS:
     void everyCommandOnAnEmptyList();
     void clipboardCommands();
     void whatIsTypedIsNotLost();
+    void wordsThatAreNoEntryYet();
     void droppedFiles();
     void barsAndPlaceComeBack();
     void captionsFollowTheLanguages();
@@ -215,6 +216,55 @@ void MainFrameTest::whatIsTypedIsNotLost()
     QCOMPARE(run.test.document.List().Entry(0).GetText(0), QStringLiteral("asked"));
 }
 
+void MainFrameTest::wordsThatAreNoEntryYet()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("x.gls"));
+    Frame run;
+    run.test.document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("a|b"))); });
+    QVERIFY(run.test.document.OnSaveDocument(path));
+    run.frame.ShowAsBefore();
+    QApplication::setActiveWindow(&run.frame);
+    auto *const list = run.frame.findChild<CWordListControl *>();
+    const auto read = [&] {
+        CWordList saved;
+        (void)ReadWordListFile(saved, path);
+        return Describe(saved);
+    };
+    const auto type = [](QLatin1StringView text) {
+        for (const char unit : text) {
+            QTest::keyClick(QApplication::focusWidget(), unit == '\n' ? '\r' : unit);
+        }
+    };
+    // A pair is saved, half of one stays; what is typed next goes beside it.
+    list->SetCursor(0, 0);
+    type(QLatin1StringView("abc\ndef"));
+    run.Command(CommandId::SaveFile)->trigger();
+    QCOMPARE(read(), (QStringList{QStringLiteral("abc|def"), QStringLiteral("a|b")}));
+    type(QLatin1StringView("half"));
+    run.Command(CommandId::SaveFile)->trigger();
+    QCOMPARE(read().size(), 2);
+    QCOMPARE(Describe(run.frame.ListWithTyped()),
+        (QStringList{QStringLiteral("abc|def"), QStringLiteral("half"), QStringLiteral("a|b")}));
+    type(QLatin1StringView("pair\n\n"));
+    QCOMPARE(run.test.document.List().Entry(1).GetText(1), QStringLiteral("pair"));
+
+    // In the fields as well; half a pair is asked about.
+    list->EndEditing(false);
+    run.Command(CommandId::ShowEditFields)->trigger();
+    list->SelectRow(-1, false);
+    run.frame.findChild<QLineEdit *>(QStringLiteral("field1"))->setFocus();
+    type(QLatin1StringView("alone"));
+    run.test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::Yes};
+    run.Command(CommandId::NewFile)->trigger();
+    QCOMPARE(run.test.document.List().Count(), 3);
+    run.Command(CommandId::NewFile)->trigger();
+    QCOMPARE(read(),
+        (QStringList{QStringLiteral("abc|def"), QStringLiteral("half|pair"), QStringLiteral("|alone"),
+            QStringLiteral("a|b")}));
+    QCOMPARE(run.frame.findChild<QLineEdit *>(QStringLiteral("field1"))->text(), QString());
+}
+
 void MainFrameTest::droppedFiles()
 {
     const QTemporaryDir folder;
@@ -306,12 +356,13 @@ void MainFrameTest::textsFromOutsideArePlain()
 {
     Frame run;
     const QString markup = QStringLiteral("<img src=\"/missing/picture.png\">");
-    CWordList &list = run.test.document.BeginChange();
-    list.SetProperties({.language1 = markup,
-        .language2 = QString(1000000, u'x'),
-        .author = QStringLiteral("\u202E") + markup,
-        .comments = QString(1000000, u'<')});
-    list.Insert(CWordEntry(markup, markup));
+    run.test.document.Change([&markup](CWordList &list) {
+        list.SetProperties({.language1 = markup,
+            .language2 = QString(1000000, u'x'),
+            .author = QStringLiteral("\u202E") + markup,
+            .comments = QString(1000000, u'<')});
+        list.Insert(CWordEntry(markup, markup));
+    });
     QByteArray module = "Ordelin-spr\xC3\xA5kmodul\n";
     for (const int number : run.test.texts.Own().Numbers()) {
         module += QByteArray::number(number) + "=<img src=\"/missing/picture.png\"> %s %word\n";

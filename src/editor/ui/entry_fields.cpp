@@ -26,6 +26,7 @@ CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(paren
         layout->addWidget(m_labels[i], int(i), 0);
         layout->addWidget(m_fields[i], int(i), 1);
         connect(m_fields[i], &QLineEdit::returnPressed, this, &CEntryFields::AddOrChange);
+        connect(m_fields[i], &QLineEdit::textEdited, this, &CEntryFields::Typed);
     }
     auto *newEntry = MakeButton(Text::ClearFieldsButton, "newEntryButton");
     m_addOrChange = MakeButton(Text::AddEntryButton, "addButton");

@@ -31,6 +31,8 @@ public:
 Q_SIGNALS:
     void NewEntry();
     void AddOrChange();
+    /// The user typed in a field.
+    void Typed();
 
 private:
     QPushButton *MakeButton(int text, const char *name);

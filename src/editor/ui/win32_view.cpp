@@ -41,6 +41,7 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
       m_editing({services.document, m_model->Rows(), services.settings, services.arrange, services.texts,
                     services.prompt},
           *this),
+      m_pending(services.document, m_model->Rows(), m_editing, *this),
       m_clipboard(*this, services.document, services.texts)
 {
     m_list->setObjectName(QStringLiteral("wordList"));
@@ -63,6 +64,7 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
     connect(m_fields, &CEntryFields::NewEntry, this, &CWin32View::ClearFields);
     connect(m_fields, &CEntryFields::AddOrChange, this, &CWin32View::FieldsEntered);
     connect(&services.document, &CWin32Doc::Changed, this, &CWin32View::ListChanged);
+    connect(m_fields, &CEntryFields::Typed, this, &CWin32View::TypedChanged);
     RefreshAll();
 }
 
@@ -74,6 +76,7 @@ void CWin32View::ConnectList()
         }
     });
     connect(m_list, &CWordListControl::CursorMoved, this, &CWin32View::SelectionChanged);
+    connect(m_list, &CWordListControl::Typed, this, &CWin32View::TypedChanged);
     connect(m_list, &CWordListControl::CellEdited, this, &CWin32View::CellEdited);
     connect(m_list, &CWordListControl::FlagClicked, this, &CWin32View::FlagClicked);
     connect(m_list, &CWordListControl::FlagKeyPressed, this, [this] { SetFlags(FlagMode::Toggle); });
@@ -113,6 +116,7 @@ void CWin32View::ForgetDocument()
     m_list->clearSelection();
     m_list->setCurrentIndex({});
     m_list->scrollToTop();
+    EmptyFields();
 }
 
 void CWin32View::RefreshAll()

@@ -3,6 +3,7 @@
 
 #include "editor/entry_editing.h"
 #include "editor/list_summary.h"
+#include "editor/pending_entries.h"
 #include "editor/row_model.h"
 #include "editor/ui/list_clipboard.h"
 
@@ -32,7 +33,7 @@ struct ViewServices
 
 /// The view of the document: author and comments, the word list below them, and the entry fields. Owns its
 /// widgets; hands every edit to CEntryEditing and shows what came of it, and the clipboard to CListClipboard.
-class CWin32View : public QWidget, private IEntryView
+class CWin32View : public QWidget, private IEntryView, private IPendingView
 {
     Q_OBJECT
 
@@ -68,6 +69,8 @@ public:
     void EndEditing(bool commit);
     /// Stores what is being typed without asking anything.
     void EndEditingQuietly();
+    /// What is typed and no entry yet.
+    IPendingWork &PendingWork() { return m_pending; }
 
     // Commands (win32_view_editing.cpp)
     void DeleteSelection();
@@ -92,6 +95,8 @@ Q_SIGNALS:
     void StatusTextChanged(const QString &text);
     /// What is selected, or where the cell cursor stands, is another.
     void SelectionChanged();
+    /// What is typed and no entry yet is another.
+    void TypedChanged();
     /// Menus for the selected rows and for the columns, at places on the screen.
     void RowMenuRequested(const QPoint &place);
     void ColumnMenuRequested(const QPoint &place);
@@ -119,6 +124,12 @@ private:
     void ShowNotes() override;
     void MarkEntry(int entry) override;
 
+    std::optional<OpenEdit> EditedCell() const override;
+    FieldTexts Fields() const override;
+    EditStep StoreEdit() override;
+    void EmptyFields() override;
+    void Stored(const EditStep &step) override;
+
     ViewServices m_services;
     CListSummary m_summary;
     CWordListModel *m_model;
@@ -127,9 +138,12 @@ private:
     CElidedLabel *m_author;
     CElidedLabel *m_comments;
     CEntryEditing m_editing;
+    CPendingEntries m_pending;
     CListClipboard m_clipboard;
     bool m_suppressSelectionSync = false;
     // What the fields were given last: they are given it anew only when it is another.
     int m_loadedEntry = CRowModel::NoEntry;
     EntryTexts m_loadedTexts;
+    /// While an edit is stored and not followed: what would follow.
+    std::optional<EditStep> m_storedStep;
 };

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 void CWin32View::EndEditing(bool commit)
 {
@@ -28,6 +29,10 @@ void CWin32View::CellEdited(const CellEdit &edit)
     using Key = CellEdit::Key;
     const bool newEntry = m_model->Rows().IsNewEntryRow(edit.row);
     const EditStep step = m_editing.CellEdited(edit.row, edit.field, edit.text);
+    if (m_storedStep) {
+        m_storedStep = step;
+        return;
+    }
     // Typing goes on with Enter, and with Tab as in a table.
     Follow(step, edit.key == Key::Enter || (newEntry && edit.key == Key::Tab));
     if (!newEntry && step.action == EditStep::Action::None && edit.key != Key::None && edit.key != Key::Enter) {
@@ -74,10 +79,7 @@ void CWin32View::Follow(const EditStep &step, bool byEnter)
 void CWin32View::ClearFields()
 {
     m_list->SelectRow(-1, false);
-    m_fields->SetTexts({});
-    m_loadedEntry = CRowModel::NoEntry;
-    m_loadedTexts = {};
-    m_fields->SetChangeMode(false);
+    EmptyFields();
     if (m_services.settings.showEditFields) {
         m_fields->FocusField(m_services.settings.lang1first ? 0 : 1);
     }
@@ -87,6 +89,7 @@ void CWin32View::ClearFields()
 void CWin32View::PendingChanged()
 {
     m_model->RowsChanged(InsertionPoint(), InsertionPoint());
+    Q_EMIT TypedChanged();
 }
 
 void CWin32View::ShowNotes()
@@ -103,6 +106,46 @@ void CWin32View::MarkEntry(int entry)
         m_list->scrollTo(m_model->index(row, m_model->column(0)));
     }
     m_list->SetHotRow(row);
+}
+
+std::optional<OpenEdit> CWin32View::EditedCell() const
+{
+    return m_list->EditedCell();
+}
+
+FieldTexts CWin32View::Fields() const
+{
+    return {.typed = m_fields->Texts(),
+        .given = m_loadedTexts,
+        .entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : CRowModel::NoEntry};
+}
+
+EditStep CWin32View::StoreEdit()
+{
+    m_storedStep.emplace();
+    EndEditing(true);
+    return *std::exchange(m_storedStep, std::nullopt);
+}
+
+void CWin32View::EmptyFields()
+{
+    m_fields->SetTexts({});
+    m_loadedEntry = CRowModel::NoEntry;
+    m_loadedTexts = {};
+    m_fields->SetChangeMode(false);
+    Q_EMIT TypedChanged();
+}
+
+void CWin32View::Stored(const EditStep &step)
+{
+    if (step.action == EditStep::Action::SelectEntry) {
+        SelectEntry(step.index);
+    } else if (step.action == EditStep::Action::EditNewEntry && m_list->CursorRow() == InsertionPoint()) {
+        // Who types on doesn't type over what waits there.
+        m_list->SetCursor(InsertionPoint(), step.index);
+    }
+    PendingChanged();
+    UpdateStatusText();
 }
 
 void CWin32View::DeleteSelection()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/word_list_control.h"
 
+#include "editor/pending_entries.h"
 #include "editor/ui/word_list_delegate.h"
 #include "editor/word_list_model.h"
 
@@ -15,6 +16,7 @@ CWordListControl::CWordListControl(QWidget *parent)
     : QTableView(parent), m_delegate(new CWordListDelegate(*this)), m_quickEdit([] { return false; })
 {
     setItemDelegate(m_delegate);
+    connect(m_delegate, &CWordListDelegate::Typed, this, &CWordListControl::Typed);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -237,6 +239,11 @@ void CWordListControl::EditCell(int row, int field)
     scrollTo(index);
     setFocus();
     edit(index, AllEditTriggers, nullptr);
+}
+
+std::optional<OpenEdit> CWordListControl::EditedCell() const
+{
+    return m_delegate->Edited();
 }
 
 void CWordListControl::EndEditing(bool commit)

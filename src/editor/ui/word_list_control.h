@@ -12,6 +12,7 @@
 
 class CWordListDelegate;
 class CWordListModel;
+struct OpenEdit;
 
 /// How editing a cell in place ended, when it was not cancelled.
 struct CellEdit
@@ -71,12 +72,16 @@ public:
 
     bool IsEditing() const { return state() == EditingState; }
     void EditCell(int row, int field);
+    /// What is being edited; none without an open edit.
+    std::optional<OpenEdit> EditedCell() const;
     /// Ends editing in place. A committed edit, also one that ended a moment ago, is told by CellEdited()
     /// before this returns.
     void EndEditing(bool commit);
 
 Q_SIGNALS:
     void CellEdited(const CellEdit &edit);
+    /// The text of the cell that is being edited is another.
+    void Typed();
     void FlagClicked(int row, int language);
     void FlagKeyPressed();
     void CellDoubleClicked(int row, int field, bool shift);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/word_list_delegate.h"
 
+#include "editor/pending_entries.h"
 #include "editor/ui/cell_colours.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
@@ -80,6 +81,7 @@ QWidget *CWordListDelegate::createEditor(
     line->setMaxLength(std::numeric_limits<int>::max()); // No term is cut off.
     line->setFrame(false);
     line->setAutoFillBackground(true);
+    connect(line, &QLineEdit::textEdited, this, &CWordListDelegate::Typed);
     m_editor = line;
     m_edited = index;
     return line;
@@ -116,6 +118,16 @@ void CWordListDelegate::EndEditing(bool commit, int key)
         m_endKey = 0;
     }
     Q_EMIT closeEditor(editor, NoHint);
+}
+
+std::optional<OpenEdit> CWordListDelegate::Edited() const
+{
+    const auto *const line = qobject_cast<const QLineEdit *>(m_editor);
+    if (line == nullptr || !m_edited.isValid()) {
+        return {};
+    }
+    const auto *const model = static_cast<const CWordListModel *>(m_edited.model());
+    return OpenEdit{m_edited.row(), model->field(m_edited.column()), line->text()};
 }
 
 std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const

@@ -12,6 +12,7 @@
 class CWordListControl;
 class QLineEdit;
 struct CellEdit;
+struct OpenEdit;
 
 /// Draws the cells of the word list: the mark at the left edge, then the text, in the colours of the row's
 /// selection and of the cell cursor; the number column in a quieter colour. Edits a cell in place in a line.
@@ -37,11 +38,17 @@ public:
     void EndEditing(bool commit, int key = 0);
     /// The open editor; none without one.
     QWidget *Editor() const { return m_editor; }
+    /// What it edits.
+    std::optional<OpenEdit> Edited() const;
     /// What an editor that ends holds.
     std::optional<CellEdit> TakeEdit(QWidget *editor) const;
 
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
         const QModelIndex &index) override;
+
+Q_SIGNALS:
+    /// The text in the open editor is another.
+    void Typed() const;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/accept_answer_bar.h"
 
-#include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
@@ -28,7 +27,7 @@ CAcceptAnswerBar::CAcceptAnswerBar(const CTexts &texts, QWidget *window)
     m_button->setFocusPolicy(Qt::TabFocus); // A click leaves the focus where the next answer is typed.
     m_button->setAutoDefault(false);
     const QString hint = texts.Fill(Text::AcceptAnswerHint, {KeyName()});
-    m_button->setToolTip(ShownAsPlainText(hint));
+    m_button->setToolTip(hint);
     m_button->setAccessibleDescription(hint);
     m_line->setObjectName(QStringLiteral("acceptedLine"));
     // A shortcut of the button's own would take the place of its mnemonic.

@@ -92,7 +92,8 @@ CMainFrame::CMainFrame(const FrameServices &services)
         [this](const QPoint &place) { ShowMenu(rowMenu(), place); });
     connect(m_view, &CWin32View::ColumnMenuRequested, this,
         [this](const QPoint &place) { ShowMenu(columnMenu(), place); });
-    services.files.SetFinishEditing([this] { m_view->EndEditing(true); });
+    connect(m_view, &CWin32View::TypedChanged, this, &CMainFrame::TypedChanged);
+    services.files.SetPendingWork(&m_view->PendingWork());
     setAcceptDrops(true);
     m_view->setFocus();
     ShowTitle();
@@ -103,7 +104,7 @@ CMainFrame::~CMainFrame()
 {
     // The focus changes once more while the window's parts are taken down.
     delete m_editorCommands;
-    m_services.files.SetFinishEditing([] {});
+    m_services.files.SetPendingWork(nullptr);
 }
 
 void CMainFrame::ShowAsBefore()
@@ -122,6 +123,11 @@ void CMainFrame::ShowAsBefore()
 void CMainFrame::FinishQuietly()
 {
     m_view->EndEditingQuietly();
+}
+
+CWordList CMainFrame::ListWithTyped() const
+{
+    return m_view->PendingWork().ListWithAll();
 }
 
 void CMainFrame::SavePlace()
@@ -181,10 +187,7 @@ void CMainFrame::ConnectCommands()
     m_actions->SetHandler(OpenFile, [&files] { files.Open(); });
     m_actions->SetHandler(SaveFile, [&files] { files.Save(); });
     m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
-    m_actions->SetHandler(SendMail, [this] {
-        m_view->EndEditing(true);
-        m_services.document.OnFileSendMail();
-    });
+    m_actions->SetHandler(SendMail, [&files] { files.Send(); });
     m_actions->SetHandler(Exit, [this] { close(); });
     m_actions->SetHandler(SpecialCharacters, [this] { m_services.specialCharacters.Toggle(); });
     connect(&m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this,

@@ -21,6 +21,7 @@ class CSpecialCharacterKeys;
 class CTexts;
 class CWin32Doc;
 class CWin32View;
+class CWordList;
 class IFileChooser;
 class ISoundPlayer;
 class IUserPrompt;
@@ -76,6 +77,8 @@ public:
     void ShowAsBefore();
     /// Stores what is being typed, at an end that leaves no time for questions.
     void FinishQuietly();
+    /// The list with what is typed and no entry yet.
+    CWordList ListWithTyped() const;
     /// Notes where the window stands; the settings are written at the program's end.
     void SavePlace();
 
@@ -88,6 +91,8 @@ public:
 Q_SIGNALS:
     /// The window was closed and nothing stands against ending the program.
     void Closed();
+    /// What is typed and no entry yet is another.
+    void TypedChanged();
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -98,6 +98,11 @@ void COrdelinApp::MakeMainWindow()
         m_settings.editor, m_settings.arrange, m_settings.quiz, m_settings.quizWindows, m_settings.result,
         m_prompt, m_chooser, m_sounds, m_random, m_store, CAppSettings::RootPath(), *m_specialCharacters,
         [this] { OpenHelp(); }, m_dataFolders, fonts});
+    m_recovery.SetListToKeep([this] { return m_frame->ListWithTyped(); });
+    connect(m_frame.get(), &CMainFrame::TypedChanged, this, [this] {
+        m_givenUp.reset(); // Whoever types on wants to keep it.
+        m_recovery.KeepSoon();
+    });
     connect(m_frame.get(), &CMainFrame::Closed, this, [this] {
         // The user ends the program, also after a session that went on, and has answered for the changes.
         m_sessionEnds = false;

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "editor/pending_entries.h"
+
+#include "document/win32_doc.h"
+#include "model/term_syntax.h"
+
+#include <utility>
+
+namespace {
+
+/// What the fields hold when they add an entry; nothing when they change one.
+EntryTexts Added(const FieldTexts &fields)
+{
+    return fields.entry == CRowModel::NoEntry ? fields.typed : EntryTexts();
+}
+
+/// The texts that an entry gets from the fields. A term that was emptied stays as it was.
+EntryTexts Changed(const FieldTexts &fields)
+{
+    EntryTexts texts = fields.given;
+    for (const size_t language : {0u, 1u}) {
+        const QString term = NormalizeTerm(fields.typed[language]);
+        texts[language] = term.isEmpty() ? texts[language] : term;
+    }
+    texts[2] = fields.typed[2];
+    return texts;
+}
+
+/// Whether the fields hold another text than they were given.
+bool HasChanges(const FieldTexts &fields)
+{
+    return fields.entry != CRowModel::NoEntry && fields.typed != fields.given
+        && Changed(fields) != fields.given;
+}
+
+EntryTexts InNormalForm(EntryTexts texts)
+{
+    for (const size_t language : {0u, 1u}) {
+        texts[language] = NormalizeTerm(texts[language]);
+    }
+    return texts;
+}
+
+}
+
+CPendingEntries::CPendingEntries(
+    const CWin32Doc &document, CRowModel &rows, CEntryEditing &editing, IPendingView &view)
+    : m_document(document), m_rows(rows), m_editing(editing), m_view(view)
+{
+}
+
+void CPendingEntries::StoreWhole()
+{
+    if (std::exchange(m_storing, true)) {
+        return; // The session ends while a question about it is open.
+    }
+    // Taken first: an entry that is stored may load the fields with others.
+    const FieldTexts fields = m_view.Fields();
+    EditStep step;
+    const auto store = [&step](const EditStep &next) {
+        if (step.action != EditStep::Action::SelectEntry) {
+            step = next;
+        }
+    };
+    if (HasChanges(fields)) {
+        // Before the open edit, which may add an entry and with it change the number of this one.
+        store(m_editing.StoreFields(Changed(fields), fields.entry));
+    }
+    store(m_view.StoreEdit());
+    const EntryTexts added = InNormalForm(Added(fields));
+    if (HasBothTerms(added)) {
+        store(m_editing.StoreFields(added, CRowModel::NoEntry));
+        m_view.EmptyFields();
+    }
+    if (HasBothTerms(m_rows.pending)) {
+        store(m_editing.StorePending());
+    }
+    // Selecting an entry would load it over what is left in the fields.
+    const bool keepsFields = RestAsEntry(Added(m_view.Fields())).has_value();
+    m_view.Stored(keepsFields && step.action == EditStep::Action::SelectEntry ? EditStep() : step);
+    m_storing = false;
+}
+
+bool CPendingEntries::HasRest() const
+{
+    return RestAsEntry(m_rows.pending) || RestAsEntry(Added(m_view.Fields()));
+}
+
+void CPendingEntries::StoreRest()
+{
+    const EntryTexts row = std::exchange(m_rows.pending, {});
+    const EntryTexts fields = Added(m_view.Fields());
+    if (RestAsEntry(fields)) {
+        m_view.EmptyFields();
+    }
+    m_editing.AddRest(row);
+    m_editing.AddRest(fields);
+    m_view.Stored({});
+}
+
+CWordList CPendingEntries::ListWithAll() const
+{
+    CWordList list = m_document.List();
+    const FieldTexts fields = m_view.Fields();
+    if (HasChanges(fields)) {
+        const EntryTexts texts = Changed(fields);
+        list.ReplaceEntry(fields.entry, texts[0], texts[1], texts[2], false);
+    }
+    EntryTexts row = m_rows.pending;
+    if (const std::optional<OpenEdit> edit = m_view.EditedCell()) {
+        const bool isNote = edit->field == CWordEntry::NoteField;
+        const QString text = isNote ? edit->text.trimmed() : NormalizeTerm(edit->text);
+        if (!isNote && text.isEmpty()) {
+            // A term is never emptied.
+        } else if (m_rows.IsNewEntryRow(edit->row)) {
+            row[size_t(edit->field)] = text;
+        } else {
+            list.SetEntryField(text, edit->field, m_rows.EntryOfRow(edit->row), false);
+        }
+    }
+    int position = m_rows.InsertionPoint();
+    for (const EntryTexts &texts : {row, Added(fields)}) {
+        if (std::optional<CWordEntry> entry = RestAsEntry(texts)) {
+            list.Insert(std::move(*entry), {.position = position++});
+        }
+    }
+    return list;
+}
