@@ -224,6 +224,7 @@ void MainFrameTest::wordsThatAreNoEntryYet()
     run.test.document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("a|b"))); });
     QVERIFY(run.test.document.OnSaveDocument(path));
     run.frame.ShowAsBefore();
+    run.frame.findChild<CWin32View *>()->SetInsertionPoint(0);
     QApplication::setActiveWindow(&run.frame);
     auto *const list = run.frame.findChild<CWordListControl *>();
     const auto read = [&] {
