@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "document/win32_doc.h"
+#include "editor/arranging.h"
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "generator.h"
@@ -7,8 +8,7 @@
 #include "platform/random.h"
 #include "platform/user_prompt.h"
 #include "resources/texts.h"
-#include "settings/editor_settings.h"
-#include "settings/shell_settings.h"
+#include "settings/settings.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -43,13 +43,14 @@ struct Editor
     }
 
     CTexts texts;
-    EditorSettings settings;
-    ArrangeSettings arrange;
+    Settings settings;
+    CSettingsChanges settingsChanges;
     CYesPrompt prompt;
     CRandom random{1};
-    CWin32Doc document{{texts, settings, prompt, [] { return QDate(2004, 5, 6); },
+    CWin32Doc document{{texts, settings.editor, prompt, [] { return QDate(2004, 5, 6); },
         [](const QString &, const QStringList &) { return false; }}};
-    CWin32View view{{document, settings, arrange, texts, prompt, random}};
+    CWin32View view{{document, settings, settingsChanges, texts, prompt}};
+    CArranging arranging{view, document, settings.arrange, random};
 };
 
 void Print(const char *name, const Measurement &measured)
@@ -119,7 +120,7 @@ void Run(int count)
         Settle();
     }));
     Print("sort", Measure(1, nothing, [&] {
-        view.Sort(0);
+        editor.arranging.Sort(0);
         Settle();
     }));
     std::vector<int> half;

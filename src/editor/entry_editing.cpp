@@ -2,6 +2,7 @@
 #include "editor/entry_editing.h"
 
 #include "document/win32_doc.h"
+#include "editor/arranging.h"
 #include "editor/row_model.h"
 #include "model/term_syntax.h"
 #include "platform/user_prompt.h"
@@ -14,13 +15,6 @@
 #include <utility>
 
 using Action = EditStep::Action;
-
-SortOptions sortOptions(const ArrangeSettings &settings)
-{
-    return {.ascending = !settings.descending,
-        .groupFlagged = settings.groupFlagged,
-        .byLength = settings.byLength};
-}
 
 bool HasBothTerms(const EntryTexts &texts)
 {
@@ -76,7 +70,7 @@ int CEntryEditing::Add(const EntryTexts &texts)
     const InsertOptions options = {.checkSimilar = settings.duplicateVarning,
         .position = m_services.rows.InsertionPoint(),
         .sortAfter = settings.sortNewWords,
-        .sort = sortOptions(m_services.arrange)};
+        .sort = SortOptionsOf(m_services.arrange)};
     int similar = CRowModel::NoEntry;
     m_services.document.Change([&](CWordList &list) {
         similar = list.Insert(
@@ -225,11 +219,4 @@ bool CEntryEditing::DeleteEntries(std::span<const int> entries)
         return false;
     }
     return m_services.document.Change([entries](CWordList &list) { list.DeleteEntries(entries); });
-}
-
-void CEntryEditing::SetFlags(int language, std::span<const int> entries, FlagMode mode)
-{
-    if (language == 0 || language == 1) {
-        m_services.document.Change([&](CWordList &list) { list.SetFlags(language, entries, mode); });
-    }
 }

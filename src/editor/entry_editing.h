@@ -96,8 +96,6 @@ public:
     bool DeleteEntries(std::span<const int> entries);
     /// Whether anything is asked; without it terms stay as typed and similar entries unmentioned.
     void SetAsking(bool asking) { m_asking = asking; }
-    /// Flags or unflags entries in a language; does nothing when all of them are like that.
-    void SetFlags(int language, std::span<const int> entries, FlagMode mode);
 
 private:
     EditStep NewEntryCellEdited(int field, const QString &text);
@@ -114,6 +112,3 @@ private:
     IEntryView &m_view;
     bool m_asking = true;
 };
-
-/// The sort options as the list takes them: stored is whether the order descends.
-SortOptions sortOptions(const ArrangeSettings &settings);

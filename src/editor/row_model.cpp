@@ -21,12 +21,3 @@ int CRowModel::EntryOfRow(int row) const
     }
     return row < m_insertionPoint ? row : row - 1;
 }
-
-int steppedRow(int row, int step, int rowCount)
-{
-    const int target = row + step;
-    if (target >= rowCount) {
-        return 0;
-    }
-    return target < 0 ? rowCount - 1 : target;
-}

@@ -34,7 +34,3 @@ private:
     int m_entryCount = 0;
     int m_insertionPoint = 0;
 };
-
-/// The row that "previous" (step -1) and "next" (step 1) go to from `row`, -1 for none, among `rowCount` rows:
-/// beyond the last comes the first, before the first the last.
-int steppedRow(int row, int step, int rowCount);

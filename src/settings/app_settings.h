@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "settings/editor_settings.h"
-#include "settings/quiz_settings.h"
 #include "settings/registry_settings.h"
-#include "settings/shell_settings.h"
-#include "settings/tool_settings.h"
+#include "settings/settings.h"
 
 class CTexts;
 class IUserPrompt;
 
 /// Every setting of the program, held by the application for the whole run: loaded at its start and saved at
-/// its exit. Whoever needs settings is handed the struct of its section.
-class CAppSettings : public CRegistrySettings
+/// its exit.
+class CAppSettings : public CRegistrySettings, public Settings
 {
 public:
     /// Neither is owned.
@@ -29,20 +26,6 @@ public:
 
     /// True in a run that found no settings.
     bool isFirstRun = false;
-
-    MiscSettings misc;
-    EditorSettings editor;
-    EasyKeySettings easykey;
-    QuizSettings quiz;
-    QuizChallengeSettings quizChallenge;
-    FallingWordSettings fallingWord;
-    QuizWindowSettings quizWindows;
-    ImportSettings import;
-    CreateTableSettings createTable;
-    FileSearchSettings filesearch;
-    ResultSettings result;
-    FindSettings find;
-    ArrangeSettings arrange;
 
 private:
     /// Calls `visit(section struct, section name)` for every section in the order of the exchange.

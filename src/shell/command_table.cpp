@@ -3,6 +3,8 @@
 
 #include "quiz/quiz_kinds.h"
 
+#include <algorithm>
+
 using namespace CommandId;
 
 namespace {
@@ -43,31 +45,32 @@ QList<Command> MakeTable()
 {
     using enum EnabledRule;
     using enum CommandKind;
+    using enum OpenEditRule;
     QList<Command> table = {
-        {NewFile, Keys("Ctrl+N"), Icon("document-new")},
-        {OpenFile, Keys("Ctrl+O"), Icon("document-open")},
-        {SaveFile, Keys("Ctrl+S"), Icon("document-save")},
-        {SaveFileAs, Keys("Ctrl+Shift+S"), Icon("document-save-as")},
+        {NewFile, Keys("Ctrl+N"), Icon("document-new"), Always, Plain, Left},
+        {OpenFile, Keys("Ctrl+O"), Icon("document-open"), Always, Plain, Left},
+        {SaveFile, Keys("Ctrl+S"), Icon("document-save"), Always, Plain, Left},
+        {SaveFileAs, Keys("Ctrl+Shift+S"), Icon("document-save-as"), Always, Plain, Left},
         {Properties, Keys("Alt+Return", "Alt+Enter"), Icon("document-properties")},
-        {SendMail, {}, Icon("mail-send")},
-        {Exit, Keys("Ctrl+Q"), Icon("application-exit")},
+        {SendMail, {}, Icon("mail-send"), Always, Plain, Left},
+        {Exit, Keys("Ctrl+Q"), Icon("application-exit"), Always, Plain, Left},
 
-        {Undo, Keys("Ctrl+Z"), Icon("edit-undo"), CanUndo},
-        {Redo, Keys("Ctrl+Y", "Ctrl+Shift+Z"), Icon("edit-redo"), CanRedo},
-        {Cut, Keys("Ctrl+X"), Icon("edit-cut"), TextOrEntriesSelected},
-        {Copy, Keys("Ctrl+C"), Icon("edit-copy"), TextOrEntriesSelected},
+        {Undo, Keys("Ctrl+Z"), Icon("edit-undo"), CanUndo, Plain, LeftInEditBox},
+        {Redo, Keys("Ctrl+Y", "Ctrl+Shift+Z"), Icon("edit-redo"), CanRedo, Plain, LeftInEditBox},
+        {Cut, Keys("Ctrl+X"), Icon("edit-cut"), TextOrEntriesSelected, Plain, LeftInEditBox},
+        {Copy, Keys("Ctrl+C"), Icon("edit-copy"), TextOrEntriesSelected, Plain, LeftInEditBox},
         {CopyLanguage1, Keys("Ctrl+Shift+C"), {}, EntriesSelected},
         {CopyLanguage2, Keys("Ctrl+Alt+C"), {}, EntriesSelected},
         {CopyNotes, {}, {}, EntriesSelected},
-        {Paste, Keys("Ctrl+V"), Icon("edit-paste"), CanPaste},
+        {Paste, Keys("Ctrl+V"), Icon("edit-paste"), CanPaste, Plain, LeftInEditBox},
         // Not the toolkit's standard key for deleting, which includes Ctrl+D.
-        {Delete, Keys("Del"), Icon("edit-delete"), TextOrEntriesSelected},
-        {SelectAll, Keys("Ctrl+A"), Icon("edit-select-all")},
+        {Delete, Keys("Del"), Icon("edit-delete"), TextOrEntriesSelected, Plain, LeftInEditBox},
+        {SelectAll, Keys("Ctrl+A"), Icon("edit-select-all"), Always, Plain, LeftInEditBox},
         {SetFlag, {}, Icon("ordelin-flag"), FlagsSelected},
         {ClearFlag, {}, Icon("ordelin-flag-clear"), FlagsSelected},
         {InvertFlag, {}, Icon("ordelin-flag-invert"), FlagsSelected},
-        {InsertSynonym, Keys("F2"), Icon("ordelin-synonym"), InEditBox},
-        {InsertComment, Keys("F4"), Icon("ordelin-comment"), InEditBox},
+        {InsertSynonym, Keys("F2"), Icon("ordelin-synonym"), InEditBox, Plain, Left},
+        {InsertComment, Keys("F4"), Icon("ordelin-comment"), InEditBox, Plain, Left},
         {PlaceInsertionPoint, Keys("Ctrl+J"), Icon("ordelin-insertion-point"), OneRowSelected},
         {Previous, Keys("Ctrl+Up")},
         {Next, Keys("Ctrl+Down")},
@@ -77,9 +80,9 @@ QList<Command> MakeTable()
         {SortByLanguage1, {}, Icon("ordelin-sort-1"), ListHasTwoEntries},
         {SortByLanguage2, {}, Icon("ordelin-sort-2"), ListHasTwoEntries},
         {SortByNote, {}, Icon("ordelin-sort-3"), ListHasTwoEntries},
-        {Descending, {}, {}, Always, Check},
-        {GroupFlagged, {}, {}, Always, Check},
-        {SortByLength, {}, {}, Always, Check},
+        {Descending, {}, {}, Always, Check, Left},
+        {GroupFlagged, {}, {}, Always, Check, Left},
+        {SortByLength, {}, {}, Always, Check, Left},
         {Shuffle, {}, Icon("ordelin-shuffle"), ListHasTwoEntries},
         {MoveUp, Keys("F6"), Icon("go-up"), EntriesSelected},
         {MoveDown, Keys("Shift+F6"), Icon("go-down"), EntriesSelected},
@@ -88,17 +91,17 @@ QList<Command> MakeTable()
         {MoveLeft, {}, Icon("go-previous"), EntriesSelected},
         {MoveRight, {}, Icon("go-next"), EntriesSelected},
 
-        {FromLanguage1, {}, Icon("ordelin-direction-1"), Always, Radio},
-        {FromLanguage2, {}, Icon("ordelin-direction-2"), Always, Radio},
+        {FromLanguage1, {}, Icon("ordelin-direction-1"), Always, Radio, Left},
+        {FromLanguage2, {}, Icon("ordelin-direction-2"), Always, Radio, Left},
         {CommandId::QuizSettings, Keys("Ctrl+Shift+F"), Icon("ordelin-quiz-settings")},
 
-        {CommandId::StandardToolBar, {}, {}, Always, Check},
-        {QuizToolBar, {}, {}, Always, Check},
-        {StatusBar, {}, {}, Always, Check},
-        {ShowEditFields, Keys("F11"), {}, Always, Check},
-        {ShowWordNumber, Keys("F12"), {}, Always, Check},
-        {ShowNotes, Keys("Shift+F12"), {}, Always, Check},
-        {SpecialCharacters, Keys("F9"), Icon("ordelin-characters"), Always, Check},
+        {CommandId::StandardToolBar, {}, {}, Always, Check, Left},
+        {QuizToolBar, {}, {}, Always, Check, Left},
+        {StatusBar, {}, {}, Always, Check, Left},
+        {ShowEditFields, Keys("F11"), {}, Always, Check, Cancelled},
+        {ShowWordNumber, Keys("F12"), {}, Always, Check, Cancelled},
+        {ShowNotes, Keys("Shift+F12"), {}, Always, Check, Cancelled},
+        {SpecialCharacters, Keys("F9"), Icon("ordelin-characters"), Always, Check, Left},
 
         {FindDuplicates, Keys("Ctrl+D"), Icon("ordelin-duplicates"), ListHasTwoEntries},
         {MakeOneEntry, Keys("Ctrl+Shift+D"), {}, EntriesSelected},
@@ -108,8 +111,8 @@ QList<Command> MakeTable()
         {TableGuide, Keys("Ctrl+P"), Icon("ordelin-table")},
         {Settings, {}, Icon("preferences-system")},
 
-        {Help, Keys("F1"), Icon("help-contents")},
-        {About, {}, Icon("help-about")},
+        {Help, Keys("F1"), Icon("help-contents"), Always, Plain, Left},
+        {About, {}, Icon("help-about"), Always, Plain, Left},
     };
     AddQuizzes(table);
     return table;
@@ -121,4 +124,9 @@ const QList<Command> &commandTable()
 {
     static const QList<Command> table = MakeTable();
     return table;
+}
+
+const Command &commandOf(int id)
+{
+    return *std::ranges::find(commandTable(), id, &Command::id);
 }

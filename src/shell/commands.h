@@ -69,7 +69,7 @@ enum : int {
     About = 57664,
     Exit = 57665,
     Help = 57670,
-    /// The bars of the main window by their old bar ids.
+    /// The bars of the main window.
     StandardToolBar = 0xE800,
     StatusBar = 0xE801,
     QuizToolBar = 0xE80A,
@@ -116,6 +116,15 @@ bool isEnabled(EnabledRule rule, const CommandState &state);
 
 enum class CommandKind { Plain, Check, Radio };
 
+/// What becomes of an edit that is open in the list when a command begins.
+enum class OpenEditRule {
+    Stored,
+    Cancelled,
+    Left,
+    /// Left where the command acts on the text of its edit box, else stored.
+    LeftInEditBox
+};
+
 /// One command. Its caption is the text 100000 + id, with "%1" and "%2" for the names of the languages; its
 /// status line and tool tip are the two lines of the text id.
 struct Command
@@ -127,10 +136,13 @@ struct Command
     QString icon = {};
     EnabledRule enabled = EnabledRule::Always;
     CommandKind kind = CommandKind::Plain;
+    OpenEditRule openEdit = OpenEditRule::Stored;
 };
 
 /// The table of all commands.
 const QList<Command> &commandTable();
+/// The command of an id that stands in the table.
+const Command &commandOf(int id);
 
 /// A menu: its title's text number, and the ids of its commands with Separator between groups. A number that
 /// isSubmenu() is the title of one of the commandSubmenus().

@@ -70,7 +70,6 @@ private Q_SLOTS:
     void chainedEntry();
     void cells();
     void sortedEntries();
-    void flags();
     void deleting();
     void textBoxes_data();
     void textBoxes();
@@ -237,18 +236,6 @@ void EntryEditingTest::sortedEntries()
     editor.editing.FromFields(Texts("b", "3"), CRowModel::NoEntry);
     QCOMPARE(editor.List(), (QStringList{T("a|1"), T("b|3"), T("c|2")}));
     QCOMPARE(editor.rows.InsertionPoint(), 1);
-    QVERIFY(!sortOptions(ArrangeSettings()).ascending);
-}
-
-void EntryEditingTest::flags()
-{
-    Editor editor({T("a|b||1"), T("c|d")});
-    editor.editing.SetFlags(0, std::array{0}, FlagMode::Set);
-    editor.editing.SetFlags(0, std::array{1}, FlagMode::Clear);
-    editor.editing.SetFlags(2, std::array{0}, FlagMode::Toggle);
-    QCOMPARE(editor.test.document.UndoCount(), 0);
-    editor.editing.SetFlags(0, std::array{0, 1}, FlagMode::Set);
-    QCOMPARE(editor.List(), (QStringList{T("a|b||1"), T("c|d||1")}));
 }
 
 void EntryEditingTest::deleting()

@@ -1,39 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "editor/clipboard_text.h"
-#include "editor/ui/edit_box_commands.h"
-#include "editor/ui/win32_view.h"
-#include "editor/ui/word_list_control.h"
-#include "platform/random.h"
-#include "resources/text_numbers.h"
-#include "settings/shell_settings.h"
-#include "support/test_document.h"
+#include "editor/list_clipboard.h"
+#include "support/test_editor_view.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QSignalSpy>
 #include <QTest>
 
 namespace {
 
-struct View
+struct Clipboard
 {
-    explicit View(const QStringList &entries) : test(entries)
-    {
-        QApplication::clipboard()->clear();
-        view.show();
-        QApplication::setActiveWindow(&view);
-    }
+    explicit Clipboard(const QStringList &entries) : test(entries) { }
 
     QStringList Entries() const { return Describe(test.document.List()); }
-    QString LastStatus() const { return status.last().first().toString(); }
 
     TestDocument test;
-    ArrangeSettings arrange;
-    CRandom random{1};
-    CWin32View view{{test.document, test.settings, arrange, test.texts, test.prompt, random}};
-    QSignalSpy status{&view, &CWin32View::StatusTextChanged};
+    CTestEditorView view{test.document};
+    CTestClipboard system;
+    CListClipboard clipboard{view, test.document, system, test.texts};
 };
 
 QStringList List(const char *entries)
@@ -50,105 +33,74 @@ class ListClipboardTest : public QObject
 private Q_SLOTS:
     void copyAndPaste();
     void pasteNothing();
-    void cut();
-    void copyOneColumn();
-    void whileACellIsEdited();
+    void cutAndColumns();
 };
 
 void ListClipboardTest::copyAndPaste()
 {
-    View run(List("a|1|x|1 b|2||2 c|3 d|4"));
+    Clipboard run(List("a|1|x|1 b|2||2 c|3 d|4"));
     run.view.SetInsertionPoint(1);
-    run.view.SelectEntries({0, 1, 3});
-    run.view.CopySelection(AllColumns);
+    run.view.selected = {0, 1, 3};
+    run.clipboard.Copy(AllColumns);
     QCOMPARE(run.test.document.UndoCount(), 0);
     run.test.settings.newwordflag = true;
     run.test.settings.sortNewWords = true;
     run.view.SetInsertionPoint(3);
-    run.view.PasteEntries();
+    QVERIFY(run.clipboard.CanPaste());
+    run.clipboard.Paste();
     QCOMPARE(run.Entries(), List("a|1|x|1 b|2||2 c|3 a|1|x|1 b|2||2 d|4 d|4"));
     QCOMPARE(run.view.InsertionPoint(), 6);
-    QCOMPARE(run.view.SelectedEntries(), (std::vector{3, 4, 5}));
-    QCOMPARE(run.LastStatus(), QStringLiteral("3 glosor klistrades in."));
+    QCOMPARE(run.view.selected, (std::vector{3, 4, 5}));
+    QCOMPARE(run.view.status, QStringLiteral("3 glosor klistrades in."));
     QVERIFY(run.test.prompt.numbers.isEmpty()); // Nobody asks about similar entries.
     QVERIFY(run.test.document.IsModified());
 
     // Text from elsewhere follows below; each paste is a step for undo.
-    QApplication::clipboard()->setText(QStringLiteral("e - 5\nno entry\nf - (6)\n"));
-    run.view.PasteEntries();
+    run.system.SetText(QStringLiteral("e - 5\nno entry\nf - (6)\n"));
+    run.clipboard.Paste();
     QCOMPARE(run.Entries().mid(5), List("d|4 e|5 f|(6) d|4"));
     QCOMPARE(run.test.document.UndoCount(), 2);
     run.test.document.Undo();
     QCOMPARE(run.Entries().size(), 7);
     run.test.document.Undo();
     QCOMPARE(run.Entries(), List("a|1|x|1 b|2||2 c|3 d|4"));
-    QVERIFY(run.view.InsertionPoint() <= 4);
+    QCOMPARE(run.view.InsertionPoint(), 3);
 }
 
 void ListClipboardTest::pasteNothing()
 {
-    View run(List("a|1 b|2"));
-    run.view.SelectEntry(1);
-    QApplication::clipboard()->setText(QStringLiteral("one word"));
-    run.view.PasteEntries();
-    QCOMPARE(run.LastStatus(), QStringLiteral("Inga glosor kunde klistras in."));
+    Clipboard run(List("a|1 b|2"));
+    run.view.selected = {1};
+    QVERIFY(!run.clipboard.CanPaste());
+    run.clipboard.Paste();
+    run.system.SetText(QStringLiteral("one word"));
+    run.clipboard.Paste();
+    QCOMPARE(run.view.status, QStringLiteral("Inga glosor kunde klistras in."));
     QCOMPARE(run.test.document.UndoCount(), 0);
-    QCOMPARE(run.view.SelectedEntries(), std::vector{1});
-    QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+    QCOMPARE(run.view.selected, std::vector{1});
 }
 
-void ListClipboardTest::cut()
+void ListClipboardTest::cutAndColumns()
 {
-    View run(List("a|1 b|2 c|3"));
-    run.view.SelectEntries({0, 1});
-    run.test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
-    run.view.CutSelection();
-    QCOMPARE(
-        run.test.prompt.texts, QStringList{QStringLiteral("2 glosor är markerade. Vill du ta bort dessa?")});
+    Clipboard run(List("a|1|x b|2|y c|3"));
+    run.view.selected = {0, 1, 2};
+    run.clipboard.Copy(1);
+    QCOMPARE(run.system.Data()->text(), QStringLiteral("1\r\n2\r\n3\r\n"));
+    run.clipboard.Copy(2);
+    QCOMPARE(run.system.Data()->text(), QStringLiteral("x\r\ny\r\n\r\n"));
+    run.clipboard.Paste(); // A column is no entries.
     QCOMPARE(run.Entries().size(), 3);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a\t1\t\r\nb\t2\t\r\n"));
-    run.view.SelectEntry(2);
-    run.view.CutSelection();
-    QCOMPARE(run.Entries(), List("a|1 b|2"));
-    // With nothing selected the clipboard keeps what it has, and nothing is asked.
-    run.view.CopySelection(AllColumns);
-    run.view.CutSelection();
-    QCOMPARE(run.test.prompt.numbers.size(), 2);
+    run.view.selected = {0, 1};
+    run.clipboard.Cut();
+    QCOMPARE(run.system.Data()->text(), QStringLiteral("a\t1\tx\r\nb\t2\ty\r\n"));
+    QCOMPARE(run.view.deletions, 1);
+    // With nothing selected the clipboard keeps what it has.
+    run.view.selected.clear();
+    run.clipboard.Copy(AllColumns);
     run.view.SetInsertionPoint(0);
-    run.view.PasteEntries();
-    QCOMPARE(run.Entries(), List("c|3 a|1 b|2"));
+    run.clipboard.Paste();
+    QCOMPARE(run.Entries(), List("a|1|x b|2|y a|1|x b|2|y c|3"));
 }
 
-void ListClipboardTest::copyOneColumn()
-{
-    View run(List("a|1|x b|2|y c|3"));
-    run.view.SelectAll();
-    run.view.CopySelection(1);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("1\r\n2\r\n3\r\n"));
-    run.view.CopySelection(2);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("x\r\ny\r\n\r\n"));
-    // It is no entries to paste again.
-    run.view.PasteEntries();
-    QCOMPARE(run.Entries().size(), 3);
-}
-
-void ListClipboardTest::whileACellIsEdited()
-{
-    View run(List("a|1 b|2"));
-    auto *const list = run.view.findChild<CWordListControl *>();
-    const auto type = [&](const QString &text) {
-        list->EditCell(1, 0);
-        focusedEditBox()->setText(text);
-    };
-    run.view.SetInsertionPoint(2);
-    type(QStringLiteral("new"));
-    run.view.CopySelection(AllColumns);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("new\t2\t\r\n"));
-    type(QStringLiteral("newer"));
-    run.view.PasteEntries();
-    QCOMPARE(run.Entries(), List("a|1 newer|2 new|2"));
-    QVERIFY(!list->IsEditing());
-}
-
-QTEST_MAIN(ListClipboardTest)
+QTEST_GUILESS_MAIN(ListClipboardTest)
 #include "list_clipboard_test.moc"

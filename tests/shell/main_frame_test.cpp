@@ -40,20 +40,28 @@ struct Frame
     TestDocument test;
     CScriptedChooser chooser;
     CSilentSounds sounds;
-    QuizSettings quizSettings;
-    QuizWindowSettings quizWindows;
-    ResultSettings result;
+    QuizSettings &quizSettings = test.allSettings.quiz;
     CRandom random{1};
     CMemoryStore store;
     CRecentFiles recent{store, QStringLiteral("root")};
     CFileCommands files{test.document, test.texts, test.prompt, chooser, recent};
     EasyKeySettings easyKey;
-    ArrangeSettings arrange;
     CSpecialCharacterKeys specialCharacters{easyKey, test.texts, nullptr};
     int helpOpened = 0;
-    CMainFrame frame{{test.document, files, recent, test.texts, test.settings, arrange, quizSettings,
-        quizWindows, result, test.prompt, chooser, sounds, random, store, QStringLiteral("root"),
-        specialCharacters, [this] { ++helpOpened; }}};
+    CMainFrame frame{{.document = test.document,
+        .files = files,
+        .recent = recent,
+        .texts = test.texts,
+        .settings = test.allSettings,
+        .settingsChanges = test.settingsChanges,
+        .prompt = test.prompt,
+        .chooser = chooser,
+        .sounds = sounds,
+        .random = random,
+        .store = store,
+        .root = QStringLiteral("root"),
+        .specialCharacters = specialCharacters,
+        .openHelp = [this] { ++helpOpened; }}};
 
     QAction *Command(int id) const { return frame.findChild<QAction *>(QStringLiteral("command%1").arg(id)); }
     QString Status() const { return frame.findChild<QLabel *>(QStringLiteral("statusText"))->text(); }
@@ -72,6 +80,7 @@ private Q_SLOTS:
     void closing();
     void everyCommandOnAnEmptyList();
     void clipboardCommands();
+    void commandsWhileACellIsEdited();
     void whatIsTypedIsNotLost();
     void wordsThatAreNoEntryYet();
     void droppedFiles();
@@ -188,6 +197,37 @@ void MainFrameTest::clipboardCommands()
     box->setSelection(0, 1);
     run.Command(Cut)->trigger();
     QCOMPARE(clipboard.text(), QStringLiteral("a"));
+}
+
+void MainFrameTest::commandsWhileACellIsEdited()
+{
+    using namespace CommandId;
+    struct Expected
+    {
+        int command;
+        const char *first; // The term of the first entry afterwards.
+        bool edited; // The edit is still open.
+    };
+    for (const Expected &expected : {Expected{SortByLanguage2, "x", false}, {CopyLanguage1, "x", false},
+             {Next, "x", false}, {ShowWordNumber, "a", false}, {ShowNotes, "a", false}, {Descending, "a", true},
+             {Paste, "a", true}, {SelectAll, "a", true}, {InsertComment, "a", true}}) {
+        Frame run;
+        run.test.allSettings.arrange.descending = false;
+        run.test.document.ReplaceList([] {
+            CWordList list;
+            list.Insert(MakeEntry(QStringLiteral("a|1")));
+            list.Insert(MakeEntry(QStringLiteral("b|2")));
+            return list;
+        }());
+        run.frame.show();
+        QApplication::setActiveWindow(&run.frame);
+        auto *const list = run.frame.findChild<CWordListControl *>();
+        list->EditCell(1, 0);
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
+        run.Command(expected.command)->trigger();
+        QCOMPARE(run.test.document.List().Entry(0).GetText(0), QLatin1StringView(expected.first));
+        QCOMPARE(list->IsEditing(), expected.edited);
+    }
 }
 
 void MainFrameTest::whatIsTypedIsNotLost()

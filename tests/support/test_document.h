@@ -3,7 +3,7 @@
 
 #include "document/win32_doc.h"
 #include "resources/texts.h"
-#include "settings/editor_settings.h"
+#include "settings/settings.h"
 #include "support/lists.h"
 #include "support/scripted_prompt.h"
 
@@ -11,7 +11,9 @@
 struct TestDocument
 {
     CTexts texts;
-    EditorSettings settings;
+    Settings allSettings;
+    CSettingsChanges settingsChanges;
+    EditorSettings &settings = allSettings.editor;
     CScriptedPrompt prompt;
     bool canStartPrograms = true;
     QList<QStringList> started; // Program and arguments.

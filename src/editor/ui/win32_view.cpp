@@ -8,7 +8,7 @@
 #include "platform/ui/elided_label.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
-#include "settings/editor_settings.h"
+#include "settings/settings.h"
 
 #include <QGridLayout>
 
@@ -35,20 +35,19 @@ std::vector<std::pair<int, int>> RangesUpTo(std::vector<std::pair<int, int>> ran
 
 CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
     : QWidget(parent), m_services(services), m_summary(services.document, services.texts),
-      m_model(new CWordListModel(services.document, services.settings, services.texts, this)),
+      m_model(new CWordListModel(services.document, services.settings.editor, services.texts, this)),
       m_list(new CWordListControl(this)), m_fields(new CEntryFields(services.texts, this)),
       m_author(MakeLabel(this, "author")), m_comments(MakeLabel(this, "comments")),
-      m_editing({services.document, m_model->Rows(), services.settings, services.arrange, services.texts,
-                    services.prompt},
+      m_editing({services.document, m_model->Rows(), services.settings.editor, services.settings.arrange,
+                    services.texts, services.prompt},
           *this),
-      m_pending(services.document, m_model->Rows(), m_editing, *this),
-      m_clipboard(*this, services.document, services.texts)
+      m_pending(services.document, m_model->Rows(), m_editing, *this)
 {
     m_list->setObjectName(QStringLiteral("wordList"));
     m_list->setAccessibleName(services.texts.Get(Text::ViewList));
     m_list->setListModel(m_model);
-    m_list->setQuickEdit([this] { return m_services.settings.quickedit; });
-    m_fields->setVisible(services.settings.showEditFields);
+    m_list->setQuickEdit([this] { return m_services.settings.editor.quickedit; });
+    m_fields->setVisible(services.settings.editor.showEditFields);
 
     auto *layout = new QGridLayout(this);
     layout->addWidget(m_author, 0, 0);
@@ -65,6 +64,11 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
     connect(m_fields, &CEntryFields::AddOrChange, this, &CWin32View::FieldsEntered);
     connect(&services.document, &CWin32Doc::Changed, this, &CWin32View::ListChanged);
     connect(m_fields, &CEntryFields::Typed, this, &CWin32View::TypedChanged);
+    connect(&services.settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
+        if (section == SettingsSection::Editor) {
+            FollowSettings();
+        }
+    });
     RefreshAll();
 }
 
@@ -78,15 +82,21 @@ void CWin32View::ConnectList()
     connect(m_list, &CWordListControl::CursorMoved, this, &CWin32View::SelectionChanged);
     connect(m_list, &CWordListControl::Typed, this, &CWin32View::TypedChanged);
     connect(m_list, &CWordListControl::CellEdited, this, &CWin32View::CellEdited);
-    connect(m_list, &CWordListControl::FlagClicked, this, &CWin32View::FlagClicked);
-    connect(m_list, &CWordListControl::FlagKeyPressed, this, [this] { SetFlags(FlagMode::Toggle); });
+    connect(m_list, &CWordListControl::FlagClicked, this, [this](int row, int language) {
+        EndEditing(true);
+        if (const int entry = m_model->Rows().EntryOfRow(row); entry >= 0) {
+            Q_EMIT FlagClicked(entry, language);
+        }
+    });
+    connect(m_list, &CWordListControl::FlagKeyPressed, this, &CWin32View::InvertFlagsRequested);
     connect(m_list, &CWordListControl::CellDoubleClicked, this, &CWin32View::CellDoubleClicked);
     connect(m_list, &CWordListControl::SearchTyped, this, &CWin32View::SearchTyped);
     connect(m_list, &CWordListControl::RowMenuRequested, this, &CWin32View::RowMenuRequested);
     connect(m_list, &CWordListControl::HeaderMenuRequested, this, &CWin32View::ColumnMenuRequested);
     connect(m_list, &CWordListControl::HeaderClicked, this, [this](int field) {
         if (field >= 0) { // The numbers are the order itself.
-            Sort(field);
+            EndEditing(true);
+            Q_EMIT SortRequested(field);
         }
     });
 }
@@ -108,6 +118,21 @@ void CWin32View::ListChanged(const ListChange &change)
     if (change.PropertiesChanged()) {
         ShowProperties();
     }
+    if (!change.replaced && m_list->hasFocus()) {
+        m_list->TellCursorName(); // Its flag may be another.
+    }
+}
+
+void CWin32View::FollowSettings()
+{
+    const bool fields = m_services.settings.editor.showEditFields;
+    if (fields == m_fields->isHidden()) {
+        m_fields->setVisible(fields);
+        if (!fields) {
+            m_list->setFocus();
+        }
+    }
+    RefreshAll();
 }
 
 void CWin32View::ForgetDocument()
@@ -158,7 +183,7 @@ void CWin32View::PlaceCursor(int row, int field)
 {
     // Without a cursor no key would have a cell to go to.
     const int lastField = m_model->column(CWordEntry::NoteField) < m_model->columnCount() ? 2 : 1;
-    const int wanted = row < 0 ? int(!m_services.settings.lang1first) : std::max(field, 0);
+    const int wanted = row < 0 ? int(!m_services.settings.editor.lang1first) : std::max(field, 0);
     m_list->SetCursor(
         row < 0 ? InsertionPoint() : std::min(row, m_model->rowCount() - 1), std::min(wanted, lastField));
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/editor_view.h"
 #include "editor/entry_editing.h"
 #include "editor/list_summary.h"
 #include "editor/pending_entries.h"
 #include "editor/row_model.h"
-#include "editor/ui/list_clipboard.h"
 
 #include <QWidget>
 
@@ -14,26 +14,26 @@
 
 class CElidedLabel;
 class CEntryFields;
-class CRandom;
+class CSettingsChanges;
 class CWordListControl;
 class CWordListModel;
 struct CellEdit;
 struct ListChange;
+struct Settings;
 
 /// What the view is handed; none of it is owned.
 struct ViewServices
 {
     CWin32Doc &document;
-    EditorSettings &settings;
-    ArrangeSettings &arrange;
+    Settings &settings;
+    CSettingsChanges &settingsChanges;
     const CTexts &texts;
     IUserPrompt &prompt;
-    CRandom &random;
 };
 
 /// The view of the document: author and comments, the word list below them, and the entry fields. Owns its
-/// widgets; hands every edit to CEntryEditing and shows what came of it, and the clipboard to CListClipboard.
-class CWin32View : public QWidget, private IEntryView, private IPendingView
+/// widgets; hands every edit to CEntryEditing and shows what came of it. Commands work on it as an IEditorView.
+class CWin32View : public QWidget, public IEditorView, private IEntryView, private IPendingView
 {
     Q_OBJECT
 
@@ -41,28 +41,32 @@ public:
     explicit CWin32View(const ViewServices &services, QWidget *parent = nullptr);
 
     // Selection (win32_view_selection.cpp)
-    /// Ascending.
-    std::vector<int> SelectedEntries() const;
+    std::vector<int> SelectedEntries() const override;
     int SelectedEntryCount() const;
     int SelectedRowCount() const;
     /// CRowModel::NoEntry when no entry is selected.
     int FirstSelectedEntry() const;
-    /// The field of the cell cursor.
-    int CursorField() const;
+    int FirstSelectedRow() const override;
+    int RowCount() const override;
+    int CursorRow() const override;
+    int CursorField() const override;
+    void SetCursorField(int field);
+    void SelectRow(int row, bool ensureVisible) override;
     /// A negative entry selects nothing.
     void SelectEntry(int entry);
     /// Selects exactly these entries, and scrolls to the first when none of them is in sight.
     void SelectEntries(const std::vector<int> &entries);
-    void SelectEntryRange(int first, int last);
+    void SelectEntryRange(int first, int last) override;
+    void SelectAll();
 
     void SetInsertionPoint(int row) override;
     void MoveInsertionPoint(int delta);
-    int InsertionPoint() const;
+    int InsertionPoint() const override;
 
     /// Shows everything anew, after columns came or went; the selected rows stay selected.
     void RefreshAll();
     /// Shows a text in the status line until something else is to be told; empty for what is selected.
-    void UpdateStatusText(const QString &text = {});
+    void UpdateStatusText(const QString &text = {}) override;
     /// Empties the fields for a new entry.
     void ClearFields();
     /// Ends editing in place; what was committed is stored when this returns.
@@ -72,24 +76,7 @@ public:
     /// What is typed and no entry yet.
     IPendingWork &PendingWork() { return m_pending; }
 
-    // Commands (win32_view_editing.cpp)
-    void DeleteSelection();
-    void SelectAll();
-    void PlaceInsertionPoint();
-    /// The previous row for -1, the next for 1.
-    void Step(int step);
-    void ToggleWordNumber();
-    void ToggleEditFields();
-    void ToggleNotes();
-    /// By a field; a negative one shuffles.
-    void Sort(int field);
-    /// In the language of the cell cursor.
-    void SetFlags(FlagMode mode);
-    /// One field of the selected entries; a negative one copies all.
-    void CopySelection(int column) { m_clipboard.Copy(column); }
-    /// Copies all fields, and asks before it deletes.
-    void CutSelection() { m_clipboard.Cut(); }
-    void PasteEntries() { m_clipboard.Paste(); }
+    void DeleteSelection() override;
 
 Q_SIGNALS:
     void StatusTextChanged(const QString &text);
@@ -97,6 +84,12 @@ Q_SIGNALS:
     void SelectionChanged();
     /// What is typed and no entry yet is another.
     void TypedChanged();
+    /// The heading of a field was clicked.
+    void SortRequested(int field);
+    /// The flag of an entry in a language was clicked.
+    void FlagClicked(int entry, int language);
+    /// The flags of the selected entries are to be turned round.
+    void InvertFlagsRequested();
     /// Menus for the selected rows and for the columns, at places on the screen.
     void RowMenuRequested(const QPoint &place);
     void ColumnMenuRequested(const QPoint &place);
@@ -106,6 +99,7 @@ private:
     void ListChanged(const ListChange &change);
     /// What was typed and selected belonged to the document before.
     void ForgetDocument();
+    void FollowSettings();
     void ShowProperties();
     /// Runs `show`, which may show all rows anew; the same rows stay selected, and the cell cursor stays.
     void KeepSelection(const std::function<void()> &show);
@@ -117,7 +111,6 @@ private:
     void CellEdited(const CellEdit &edit);
     void FieldsEntered();
     void Follow(const EditStep &step, bool byEnter);
-    void FlagClicked(int row, int language);
     void CellDoubleClicked(int row, int field, bool shift);
     void SearchTyped(const QString &start, int row);
     void PendingChanged() override;
@@ -139,7 +132,6 @@ private:
     CElidedLabel *m_comments;
     CEntryEditing m_editing;
     CPendingEntries m_pending;
-    CListClipboard m_clipboard;
     bool m_suppressSelectionSync = false;
     // What the fields were given last: they are given it anew only when it is another.
     int m_loadedEntry = CRowModel::NoEntry;

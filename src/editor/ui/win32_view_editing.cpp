@@ -4,9 +4,7 @@
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
-#include "platform/ui/wait_cursor.h"
-#include "settings/editor_settings.h"
-#include "settings/shell_settings.h"
+#include "settings/settings.h"
 
 #include <algorithm>
 #include <optional>
@@ -80,8 +78,8 @@ void CWin32View::ClearFields()
 {
     m_list->SelectRow(-1, false);
     EmptyFields();
-    if (m_services.settings.showEditFields) {
-        m_fields->FocusField(m_services.settings.lang1first ? 0 : 1);
+    if (m_services.settings.editor.showEditFields) {
+        m_fields->FocusField(m_services.settings.editor.lang1first ? 0 : 1);
     }
     UpdateStatusText();
 }
@@ -94,8 +92,9 @@ void CWin32View::PendingChanged()
 
 void CWin32View::ShowNotes()
 {
-    if (!m_services.settings.showNotes) {
-        ToggleNotes();
+    if (!m_services.settings.editor.showNotes) {
+        m_services.settings.editor.showNotes = true;
+        m_services.settingsChanges.Tell(SettingsSection::Editor);
     }
 }
 
@@ -150,90 +149,11 @@ void CWin32View::Stored(const EditStep &step)
 
 void CWin32View::DeleteSelection()
 {
-    EndEditing(true);
     const std::vector<int> entries = SelectedEntries();
     const bool hadKeyboard = m_list->hasFocus();
     if (m_editing.DeleteEntries(entries)) { }
     if (hadKeyboard) {
         m_list->setFocus();
-    }
-}
-
-void CWin32View::PlaceInsertionPoint()
-{
-    EndEditing(true);
-    if (m_list->CursorRow() >= 0) {
-        SetInsertionPoint(m_list->CursorRow());
-    }
-}
-
-void CWin32View::Step(int step)
-{
-    EndEditing(true);
-    const auto ranges = m_list->SelectedRanges();
-    const int row = ranges.empty() ? -1 : ranges.front().first;
-    m_list->SelectRow(steppedRow(row, step, m_model->rowCount()), true);
-}
-
-void CWin32View::ToggleWordNumber()
-{
-    EndEditing(false);
-    const CWaitCursor wait;
-    m_services.settings.showWordNumber = !m_services.settings.showWordNumber;
-    RefreshAll();
-    m_list->SetCursorField(0);
-}
-
-void CWin32View::ToggleEditFields()
-{
-    EndEditing(false);
-    m_services.settings.showEditFields = !m_services.settings.showEditFields;
-    m_fields->setVisible(m_services.settings.showEditFields);
-    if (!m_services.settings.showEditFields) {
-        m_list->setFocus();
-    }
-}
-
-void CWin32View::ToggleNotes()
-{
-    EndEditing(false);
-    const CWaitCursor wait;
-    m_services.settings.showNotes = !m_services.settings.showNotes;
-    RefreshAll();
-}
-
-void CWin32View::Sort(int field)
-{
-    EndEditing(true);
-    if (m_services.document.List().Count() < 2) {
-        return;
-    }
-    const CWaitCursor wait;
-    m_services.document.Change(
-        [&](CWordList &list) { list.Sort(field, sortOptions(m_services.arrange), m_services.random); });
-    m_list->SelectRow(InsertionPoint(), false);
-}
-
-void CWin32View::SetFlags(FlagMode mode)
-{
-    {
-        const std::vector<int> entries = SelectedEntries();
-        constexpr size_t Many = 10000;
-        std::optional<CWaitCursor> wait;
-        if (entries.size() > Many) {
-            wait.emplace();
-        }
-        m_editing.SetFlags(CursorField(), entries, mode);
-    }
-    m_list->TellCursorName();
-}
-
-void CWin32View::FlagClicked(int row, int language)
-{
-    EndEditing(true);
-    const int entry = m_model->Rows().EntryOfRow(row);
-    if (entry >= 0 && entry < m_services.document.List().Count()) {
-        m_editing.SetFlags(language, std::array{entry}, FlagMode::Toggle);
     }
 }
 

@@ -48,6 +48,32 @@ int CWin32View::FirstSelectedEntry() const
     return CRowModel::NoEntry;
 }
 
+int CWin32View::FirstSelectedRow() const
+{
+    const auto &ranges = m_list->SelectedRanges();
+    return ranges.empty() ? -1 : ranges.front().first;
+}
+
+int CWin32View::RowCount() const
+{
+    return m_model->rowCount();
+}
+
+int CWin32View::CursorRow() const
+{
+    return m_list->CursorRow();
+}
+
+void CWin32View::SetCursorField(int field)
+{
+    m_list->SetCursorField(field);
+}
+
+void CWin32View::SelectRow(int row, bool ensureVisible)
+{
+    m_list->SelectRow(row, ensureVisible);
+}
+
 int CWin32View::CursorField() const
 {
     return m_list->CursorField();
@@ -98,7 +124,6 @@ void CWin32View::SelectEntryRange(int first, int last)
 
 void CWin32View::SelectAll()
 {
-    EndEditing(true);
     const CRowModel &rows = m_model->Rows();
     std::vector<std::pair<int, int>> ranges;
     if (InsertionPoint() > 0) {

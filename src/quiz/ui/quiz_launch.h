@@ -39,6 +39,8 @@ public:
     /// Does nothing while a quiz runs, when the list is too short for the kind, when the user does not want it
     /// with duplicates in the list, and when there is no word to ask.
     void startQuiz(int kind);
+    /// The user's own font, for the windows of quizzes to come; none for the desktop's.
+    void setFont(const std::optional<QFont> &font) { m_services.windows.font = font; }
     bool isRunning() const { return m_session != nullptr; }
 
 private:

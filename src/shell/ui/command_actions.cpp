@@ -76,21 +76,26 @@ void CCommandActions::LoadIcons()
     }
 }
 
-void CCommandActions::SetHandler(int id, std::function<void()> handler)
+void CCommandActions::SetHandler(int id, std::function<void()> handler, std::function<bool()> isChecked)
 {
     m_handled.insert(id);
-    connect(Action(id), &QAction::triggered, this, [handler = std::move(handler)] { handler(); });
+    if (isChecked) {
+        m_checks.insert(id, std::move(isChecked));
+    }
+    connect(Action(id), &QAction::triggered, this, [this, id, handler = std::move(handler)] {
+        m_prepare(commandOf(id));
+        handler();
+        Q_EMIT CommandDone();
+    });
 }
 
-void CCommandActions::SetChecked(int id, bool checked)
-{
-    Action(id)->setChecked(checked);
-}
-
-void CCommandActions::UpdateEnabled(const CommandState &state)
+void CCommandActions::Update(const CommandState &state)
 {
     for (const Command &command : commandTable()) {
         Action(command.id)->setEnabled(m_handled.contains(command.id) && isEnabled(command.enabled, state));
+    }
+    for (auto check = m_checks.cbegin(); check != m_checks.cend(); ++check) {
+        Action(check.key())->setChecked(check.value()());
     }
 }
 

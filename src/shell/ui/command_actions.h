@@ -9,6 +9,7 @@
 
 class CTexts;
 class QAction;
+struct Command;
 struct CommandState;
 
 /// The actions of all commands, made from the table of commands. Owns them. A command without a handler can't
@@ -23,17 +24,25 @@ public:
     QAction *Action(int id) const { return m_actions.value(id); }
     /// Loads the icons that are not in sight at the start, before a menu or a bar shows them.
     void LoadIcons();
-    void SetHandler(int id, std::function<void()> handler);
-    void SetChecked(int id, bool checked);
-    /// Refreshes what can be chosen.
-    void UpdateEnabled(const CommandState &state);
+    /// `prepare` is called with a command right before its handler.
+    void SetPreparation(std::function<void(const Command &command)> prepare) { m_prepare = std::move(prepare); }
+    /// Who owns a command sets its handler and, where it has a mark, what is asked for it.
+    void SetHandler(int id, std::function<void()> handler, std::function<bool()> isChecked = {});
+    /// Refreshes what can be chosen, and the marks.
+    void Update(const CommandState &state);
     /// Puts the names of the list's languages into the captions.
     void UpdateCaptions(const QString &language1, const QString &language2);
+
+Q_SIGNALS:
+    /// The handler of a command has returned.
+    void CommandDone();
 
 private:
     const CTexts &m_texts;
     QHash<int, QAction *> m_actions;
     QSet<int> m_handled;
+    QHash<int, std::function<bool()>> m_checks;
+    std::function<void(const Command &command)> m_prepare = [](const Command & /*command*/) {};
     bool m_iconsLoaded = false;
     QString m_language1;
     QString m_language2;

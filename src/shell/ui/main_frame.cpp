@@ -11,16 +11,18 @@
 #include "quiz/ui/quiz_settings_dialog.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
-#include "settings/editor_settings.h"
-#include "settings/quiz_settings.h"
-#include "settings/shell_settings.h"
+#include "settings/settings.h"
 #include "shell/commands.h"
 #include "shell/ui/about_dialog.h"
+#include "shell/ui/arrange_commands.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/command_menus.h"
-#include "shell/ui/editor_commands.h"
+#include "shell/ui/edit_commands.h"
+#include "shell/ui/quiz_commands.h"
 #include "shell/ui/recent_files_menu.h"
 #include "shell/ui/special_character_keys.h"
+#include "shell/ui/user_fonts.h"
+#include "shell/ui/view_commands.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -50,36 +52,33 @@ QStringList LocalFiles(const QMimeData &data)
 
 CMainFrame::CMainFrame(const FrameServices &services)
     : m_services(services), m_actions(new CCommandActions(services.texts, this)),
-      m_view(new CWin32View({services.document, services.editorSettings, services.arrangeSettings,
-                                services.texts, services.prompt, services.random},
+      m_view(new CWin32View(
+          {services.document, services.settings, services.settingsChanges, services.texts, services.prompt},
           this)),
-      m_editorCommands(
-          new CEditorCommands(*m_actions, *m_view, services.document, services.arrangeSettings, this)),
+      m_arranging(*m_view, services.document, services.settings.arrange, services.random),
+      m_editCommands(
+          new CEditCommands(*m_actions, *m_view, services.document, m_arranging, services.texts, this)),
       m_statusText(new CElidedLabel(this)),
       m_quizLaunch(new CQuizLaunch({.document = services.document,
-                                       .editorSettings = services.editorSettings,
-                                       .settings = services.quizSettings,
-                                       .windowSizes = services.quizWindows,
+                                       .editorSettings = services.settings.editor,
+                                       .settings = services.settings.quiz,
+                                       .windowSizes = services.settings.quizWindows,
                                        .random = services.random,
                                        .host = *this,
                                        .windows = {.texts = services.texts,
                                            .prompt = services.prompt,
                                            .sounds = services.sounds,
                                            .chooser = services.chooser,
-                                           .resultSettings = services.resultSettings,
-                                           .dataFolders = services.dataFolders,
-                                           .font = services.fonts.quizzes}},
+                                           .resultSettings = services.settings.result,
+                                           .dataFolders = services.dataFolders}},
           *this)),
       m_place(*this, services.store, services.root)
 {
     setObjectName(QStringLiteral("mainFrame"));
     setCentralWidget(m_view);
-    if (services.fonts.view) {
-        m_view->setFont(*services.fonts.view);
-    }
+    UseFonts();
     MakeMenus();
     ConnectCommands();
-    ConnectQuizCommands();
 
     m_statusText->setObjectName(QStringLiteral("statusText"));
     statusBar()->addWidget(m_statusText, 1);
@@ -87,7 +86,13 @@ CMainFrame::CMainFrame(const FrameServices &services)
     connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::setText);
     connect(&services.document, &CWin32Doc::Changed, this, &CMainFrame::UpdateCommands);
     connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::ShowTitle);
-    connect(m_editorCommands, &CEditorCommands::StateChanged, this, &CMainFrame::UpdateCommands);
+    connect(&services.settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
+        if (section == SettingsSection::Misc) {
+            UseFonts();
+        }
+        UpdateCommands();
+    });
+    connect(m_editCommands, &CEditCommands::StateChanged, this, &CMainFrame::UpdateCommands);
     connect(m_view, &CWin32View::RowMenuRequested, this,
         [this](const QPoint &place) { ShowMenu(rowMenu(), place); });
     connect(m_view, &CWin32View::ColumnMenuRequested, this,
@@ -100,10 +105,17 @@ CMainFrame::CMainFrame(const FrameServices &services)
     UpdateCommands();
 }
 
+void CMainFrame::UseFonts()
+{
+    const UserFonts fonts = FontsOf(m_services.settings.misc);
+    m_view->setFont(fonts.view.value_or(QFont()));
+    m_quizLaunch->setFont(fonts.quizzes);
+}
+
 CMainFrame::~CMainFrame()
 {
     // The focus changes once more while the window's parts are taken down.
-    delete m_editorCommands;
+    delete m_editCommands;
     m_services.files.SetPendingWork(nullptr);
 }
 
@@ -152,20 +164,16 @@ void CMainFrame::MakeMenus()
                 *shown, shown->actions().at(recent), m_services.files, m_services.recent, texts);
         }
     }
-    MakeToolBar(
-        texts.Get(Text::StandardToolBar), "standardToolBar", standardToolBar(), CommandId::StandardToolBar);
+    MakeToolBar(texts.Get(Text::StandardToolBar), "standardToolBar", standardToolBar());
     addToolBarBreak();
-    auto *const quizBar =
-        MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", quizToolBar(), CommandId::QuizToolBar);
+    auto *const quizBar = MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", quizToolBar());
     quizBar->hide();
     connect(quizBar, &QToolBar::visibilityChanged, m_actions, &CCommandActions::LoadIcons);
     // The menus have commands for it.
     setContextMenuPolicy(Qt::NoContextMenu);
-    m_actions->SetHandler(CommandId::StatusBar, [this] { statusBar()->setVisible(statusBar()->isHidden()); });
 }
 
-QToolBar *CMainFrame::MakeToolBar(
-    const QString &title, const char *name, const QList<int> &commands, int toggle)
+QToolBar *CMainFrame::MakeToolBar(const QString &title, const char *name, const QList<int> &commands)
 {
     QToolBar *const bar = addToolBar(title);
     bar->setObjectName(QLatin1StringView(name));
@@ -174,7 +182,6 @@ QToolBar *CMainFrame::MakeToolBar(
     if (auto *const more = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
         more->setAccessibleName(m_services.texts.Get(Text::FrameMoreButtons));
     }
-    m_actions->SetHandler(toggle, [bar] { bar->setVisible(bar->isHidden()); });
     connect(bar, &QToolBar::visibilityChanged, this, &CMainFrame::UpdateCommands);
     return bar;
 }
@@ -182,6 +189,15 @@ QToolBar *CMainFrame::MakeToolBar(
 void CMainFrame::ConnectCommands()
 {
     using namespace CommandId;
+    new CArrangeCommands(*m_actions, *m_view, m_arranging, m_services.settings.arrange, this);
+    new CViewCommands(*m_actions,
+        {*this, *m_view, m_services.settings.editor, m_services.settingsChanges, m_services.specialCharacters},
+        this);
+    new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, this);
+    m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
+    connect(m_actions, &CCommandActions::CommandDone, this, &CMainFrame::UpdateCommands);
+    connect(
+        &m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this, &CMainFrame::UpdateCommands);
     CFileCommands &files = m_services.files;
     m_actions->SetHandler(NewFile, [&files] { files.New(); });
     m_actions->SetHandler(OpenFile, [&files] { files.Open(); });
@@ -189,9 +205,7 @@ void CMainFrame::ConnectCommands()
     m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
     m_actions->SetHandler(SendMail, [&files] { files.Send(); });
     m_actions->SetHandler(Exit, [this] { close(); });
-    m_actions->SetHandler(SpecialCharacters, [this] { m_services.specialCharacters.Toggle(); });
-    connect(&m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this,
-        [this](bool open) { m_actions->SetChecked(SpecialCharacters, open); });
+    m_actions->SetHandler(CommandId::QuizSettings, [this] { OpenQuizSettings(); });
     m_actions->SetHandler(Help, [this] { m_services.openHelp(); });
     m_actions->SetHandler(About, [this] {
         auto *dialog = new CAboutDialog(m_services.texts, this);
@@ -200,20 +214,13 @@ void CMainFrame::ConnectCommands()
     });
 }
 
-void CMainFrame::ConnectQuizCommands()
+void CMainFrame::PrepareCommand(const Command &command)
 {
-    using namespace CommandId;
-    for (int kind = 0; kind <= LastQuiz - StandardQuiz; ++kind) {
-        if (m_quizLaunch->hasWindow(kind)) {
-            m_actions->SetHandler(StandardQuiz + kind, [this, kind] { m_quizLaunch->startQuiz(kind); });
-        }
-    }
-    m_actions->SetHandler(CommandId::QuizSettings, [this] { OpenQuizSettings(); });
-    for (const int direction : {FromLanguage1, FromLanguage2}) {
-        m_actions->SetHandler(direction, [this, direction] {
-            m_services.quizSettings.showLanguage = direction - FromLanguage1;
-            UpdateCommands();
-        });
+    const bool inEditBox = m_editCommands->State().inEditBox;
+    const bool left = command.openEdit == OpenEditRule::Left
+        || (command.openEdit == OpenEditRule::LeftInEditBox && inEditBox);
+    if (!left) {
+        m_view->EndEditing(command.openEdit != OpenEditRule::Cancelled);
     }
 }
 
@@ -221,8 +228,8 @@ void CMainFrame::OpenQuizSettings()
 {
     const CWordList &list = m_services.document.List();
     auto *dialog = new CQuizSettingsDialog(
-        CQuizSettingsForm(m_services.quizSettings, {list.GetLanguage(0), list.GetLanguage(1)}, m_services.texts,
-            m_services.chooser, m_services.dataFolders),
+        CQuizSettingsForm(m_services.settings.quiz, {list.GetLanguage(0), list.GetLanguage(1)},
+            m_services.texts, m_services.chooser, m_services.dataFolders),
         this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, &CMainFrame::UpdateCommands);
@@ -238,27 +245,9 @@ void CMainFrame::ShowTitle()
 
 void CMainFrame::UpdateCommands()
 {
-    using namespace CommandId;
     const CWordList &list = m_services.document.List();
-    m_actions->UpdateEnabled(m_editorCommands->State());
+    m_actions->Update(m_editCommands->State());
     m_actions->UpdateCaptions(list.GetLanguage(0), list.GetLanguage(1));
-
-    const auto isShown = [this](const char *bar) {
-        return !findChild<QToolBar *>(QLatin1StringView(bar))->isHidden();
-    };
-    m_actions->SetChecked(CommandId::StandardToolBar, isShown("standardToolBar"));
-    m_actions->SetChecked(CommandId::QuizToolBar, isShown("quizToolBar"));
-    m_actions->SetChecked(StatusBar, !statusBar()->isHidden());
-    m_actions->SetChecked(SpecialCharacters, m_services.specialCharacters.IsOpen());
-    m_actions->SetChecked(FromLanguage1 + m_services.quizSettings.showLanguage, true);
-    const EditorSettings &editor = m_services.editorSettings;
-    m_actions->SetChecked(ShowWordNumber, editor.showWordNumber);
-    m_actions->SetChecked(ShowEditFields, editor.showEditFields);
-    m_actions->SetChecked(ShowNotes, editor.showNotes);
-    const ArrangeSettings &arrange = m_services.arrangeSettings;
-    m_actions->SetChecked(Descending, arrange.descending);
-    m_actions->SetChecked(GroupFlagged, arrange.groupFlagged);
-    m_actions->SetChecked(SortByLength, arrange.byLength);
 }
 
 void CMainFrame::ShowMenu(const QList<int> &commands, const QPoint &place)

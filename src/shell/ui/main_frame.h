@@ -1,22 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/arranging.h"
 #include "quiz/quiz_host.h"
 #include "shell/ui/window_place.h"
 
-#include <QFont>
 #include <QMainWindow>
 
 #include <functional>
 #include <optional>
 
 class CCommandActions;
-class CEditorCommands;
+class CEditCommands;
 class CElidedLabel;
 class CFileCommands;
 class CQuizLaunch;
 class CRandom;
 class CRecentFiles;
+class CSettingsChanges;
 class CSpecialCharacterKeys;
 class CTexts;
 class CWin32Doc;
@@ -25,18 +26,8 @@ class CWordList;
 class IFileChooser;
 class ISoundPlayer;
 class IUserPrompt;
-struct ArrangeSettings;
-struct EditorSettings;
-struct QuizSettings;
-struct QuizWindowSettings;
-struct ResultSettings;
-
-/// The user's own font, for the texts that are learnt; none for the desktop's.
-struct UserFonts
-{
-    std::optional<QFont> view = {};
-    std::optional<QFont> quizzes = {};
-};
+struct Command;
+struct Settings;
 
 /// What the main window is handed; none of it is owned.
 struct FrameServices
@@ -45,11 +36,8 @@ struct FrameServices
     CFileCommands &files;
     const CRecentFiles &recent;
     const CTexts &texts;
-    EditorSettings &editorSettings;
-    ArrangeSettings &arrangeSettings;
-    QuizSettings &quizSettings;
-    QuizWindowSettings &quizWindows;
-    ResultSettings &resultSettings;
+    Settings &settings;
+    CSettingsChanges &settingsChanges;
     IUserPrompt &prompt;
     IFileChooser &chooser;
     ISoundPlayer &sounds;
@@ -61,7 +49,6 @@ struct FrameServices
     std::function<void()> openHelp;
     /// What comes with the program is looked for in these.
     QStringList dataFolders = {};
-    UserFonts fonts = {};
 };
 
 /// The main window: menus, tool bars and status line around the view. It hands every command on.
@@ -104,9 +91,11 @@ protected:
 
 private:
     void MakeMenus();
-    QToolBar *MakeToolBar(const QString &title, const char *name, const QList<int> &commands, int toggle);
+    QToolBar *MakeToolBar(const QString &title, const char *name, const QList<int> &commands);
     void ConnectCommands();
-    void ConnectQuizCommands();
+    /// What becomes of an open edit before a command is carried out.
+    void PrepareCommand(const Command &command);
+    void UseFonts();
     void OpenQuizSettings();
     void ShowTitle();
     void UpdateCommands();
@@ -118,7 +107,8 @@ private:
     FrameServices m_services;
     CCommandActions *m_actions;
     CWin32View *m_view;
-    CEditorCommands *m_editorCommands;
+    CArranging m_arranging;
+    CEditCommands *m_editCommands;
     CElidedLabel *m_statusText;
     CQuizLaunch *m_quizLaunch;
     CWindowPlace m_place;

@@ -46,6 +46,11 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
         m_givenUp.reset(); // A signal asks nobody, so it throws nothing away.
         ExitFromOutside();
     });
+    connect(&m_settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
+        if (section == SettingsSection::Editor) {
+            m_document.ApplyUndoSize();
+        }
+    });
     connect(this, &QGuiApplication::commitDataRequest, this, &COrdelinApp::SessionEnds, Qt::DirectConnection);
 }
 
@@ -85,24 +90,22 @@ bool COrdelinApp::InitInstance(const QString &file)
 
 void COrdelinApp::MakeMainWindow()
 {
-    const MiscSettings &misc = m_settings.misc;
-    UserFonts fonts;
-    if (misc.useOtherFont) {
-        fonts.quizzes = QFont(misc.fontName, misc.fontSize);
-        if (!misc.useOtherFontQuizOnly) {
-            fonts.view = fonts.quizzes;
-        }
-    }
     m_specialCharacters = std::make_unique<CSpecialCharacterKeys>(m_settings.easykey, m_texts, nullptr);
-    m_frame = std::make_unique<CMainFrame>(FrameServices{m_document, *m_files, *m_recent, m_texts,
-        m_settings.editor, m_settings.arrange, m_settings.quiz, m_settings.quizWindows, m_settings.result,
-        m_prompt, m_chooser, m_sounds, m_random, m_store, CAppSettings::RootPath(), *m_specialCharacters,
-        [this] { OpenHelp(); }, m_dataFolders, fonts});
-    m_recovery.SetListToKeep([this] { return m_frame->ListWithTyped(); });
-    connect(m_frame.get(), &CMainFrame::TypedChanged, this, [this] {
-        m_givenUp.reset(); // Whoever types on wants to keep it.
-        m_recovery.KeepSoon();
-    });
+    m_frame = std::make_unique<CMainFrame>(FrameServices{.document = m_document,
+        .files = *m_files,
+        .recent = *m_recent,
+        .texts = m_texts,
+        .settings = m_settings,
+        .settingsChanges = m_settingsChanges,
+        .prompt = m_prompt,
+        .chooser = m_chooser,
+        .sounds = m_sounds,
+        .random = m_random,
+        .store = m_store,
+        .root = CAppSettings::RootPath(),
+        .specialCharacters = *m_specialCharacters,
+        .openHelp = [this] { OpenHelp(); },
+        .dataFolders = m_dataFolders});
     connect(m_frame.get(), &CMainFrame::Closed, this, [this] {
         // The user ends the program, also after a session that went on, and has answered for the changes.
         m_sessionEnds = false;

@@ -64,6 +64,7 @@ private:
     CQtTexts m_qtTexts;
     CIniStore m_store;
     CAppSettings m_settings;
+    CSettingsChanges m_settingsChanges;
     CStartUp m_startUp;
     QStringList m_dataFolders;
     CRandom m_random;

@@ -3,14 +3,15 @@
 
 class CTexts;
 class CWin32Doc;
-class CWin32View;
+class IClipboard;
+class IEditorView;
 
-/// Copies, cuts and pastes entries by the system's clipboard. Owned by the view that it works on.
+/// Copies, cuts and pastes entries by the clipboard.
 class CListClipboard
 {
 public:
     /// Nothing is owned.
-    CListClipboard(CWin32View &view, CWin32Doc &document, const CTexts &texts);
+    CListClipboard(IEditorView &view, CWin32Doc &document, IClipboard &clipboard, const CTexts &texts);
 
     /// The selected entries, or one field of them. Without any the clipboard stays as it is.
     void Copy(int column);
@@ -20,10 +21,11 @@ public:
     void Paste();
 
     /// Whether the clipboard may hold entries.
-    static bool CanPaste();
+    bool CanPaste() const;
 
 private:
-    CWin32View &m_view;
+    IEditorView &m_view;
     CWin32Doc &m_document;
+    IClipboard &m_clipboard;
     const CTexts &m_texts;
 };

@@ -1,28 +1,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/list_clipboard.h"
+#include "platform/ui/system_clipboard.h"
+
 #include <QObject>
 #include <QPointer>
 
 #include <utility>
 
+class CArranging;
 class CCommandActions;
-class CWin32Doc;
+class CTexts;
 class CWin32View;
 class QLineEdit;
 class QWidget;
-struct ArrangeSettings;
 struct CommandState;
 
-/// Joins the commands of editing to the view, and to the edit box that has the focus where one has.
-class CEditorCommands : public QObject
+/// The commands of the menu for editing. They act on the text of the edit box that has the focus where one has,
+/// else on the list.
+class CEditCommands : public QObject
 {
     Q_OBJECT
 
 public:
     /// Nothing is owned.
-    CEditorCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document, ArrangeSettings &arrange,
-        QObject *parent);
+    CEditCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document, CArranging &arranging,
+        const CTexts &texts, QObject *parent);
 
     /// What the enabled rules look at in view, document and edit box.
     CommandState State() const;
@@ -34,20 +38,21 @@ Q_SIGNALS:
 private:
     void ConnectText();
     void ConnectList();
-    void ConnectArranging();
+    /// Handles a command by one function for the edit box and another for the list.
+    template<class OnText, class OnList>
+    void SetTextHandler(int id, OnText onText, OnList onList);
     /// The edit box that commands act on: the one with the focus.
     QLineEdit *EditBox() const;
     void FocusChanged(QWidget *focus);
     void NoteSelection();
     void ClipboardChanged();
-    void SetHandler(int id, void (CEditorCommands::*handler)());
-    void Undo();
-    void Redo();
 
     CCommandActions &m_actions;
     CWin32View &m_view;
     CWin32Doc &m_document;
-    ArrangeSettings &m_arrange;
+    CArranging &m_arranging;
+    CSystemClipboard m_systemClipboard;
+    CListClipboard m_clipboard;
     QPointer<QLineEdit> m_editBox;
     std::pair<int, int> m_selected; // Start and length in the edit box.
     bool m_canPaste = false;

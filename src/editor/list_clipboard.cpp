@@ -1,31 +1,27 @@
 // SPDX-License-Identifier: MIT
-#include "editor/ui/list_clipboard.h"
+#include "editor/list_clipboard.h"
 
 #include "document/win32_doc.h"
 #include "editor/clipboard_data.h"
 #include "editor/clipboard_text.h"
-#include "editor/ui/win32_view.h"
-#include "platform/ui/wait_cursor.h"
+#include "editor/editor_view.h"
+#include "platform/clipboard.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QMimeData>
 
-CListClipboard::CListClipboard(CWin32View &view, CWin32Doc &document, const CTexts &texts)
-    : m_view(view), m_document(document), m_texts(texts)
+CListClipboard::CListClipboard(
+    IEditorView &view, CWin32Doc &document, IClipboard &clipboard, const CTexts &texts)
+    : m_view(view), m_document(document), m_clipboard(clipboard), m_texts(texts)
 {
 }
 
 void CListClipboard::Copy(int column)
 {
-    m_view.EndEditing(true);
-    const CWaitCursor wait;
     const std::vector<int> entries = m_view.SelectedEntries();
     if (!entries.empty()) {
-        QGuiApplication::clipboard()->setMimeData(
-            clipboardDataOf(m_document.List(), entries, column).release());
+        m_clipboard.SetData(clipboardDataOf(m_document.List(), entries, column));
     }
 }
 
@@ -37,9 +33,7 @@ void CListClipboard::Cut()
 
 void CListClipboard::Paste()
 {
-    m_view.EndEditing(true);
-    const CWaitCursor wait;
-    const QMimeData *const data = QGuiApplication::clipboard()->mimeData();
+    const QMimeData *const data = m_clipboard.Data();
     if (data == nullptr || !mayHoldEntries(*data)) {
         qDebug("BFE! Illegal clipboard format!");
         return;
@@ -56,8 +50,8 @@ void CListClipboard::Paste()
     m_view.UpdateStatusText(m_texts.Fill(Text::EntriesPasted, {QString::number(count)}));
 }
 
-bool CListClipboard::CanPaste()
+bool CListClipboard::CanPaste() const
 {
-    const QMimeData *const data = QGuiApplication::clipboard()->mimeData();
+    const QMimeData *const data = m_clipboard.Data();
     return data != nullptr && mayHoldEntries(*data);
 }

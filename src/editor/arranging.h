@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/word_list.h"
+
+class CRandom;
+class CWin32Doc;
+class IEditorView;
+struct ArrangeSettings;
+
+/// The sort options as the list takes them: stored is whether the order descends.
+SortOptions SortOptionsOf(const ArrangeSettings &settings);
+
+/// Puts the list in order and sets the flags of its entries. Each call takes one step for undo at most.
+class CArranging
+{
+public:
+    /// Nothing is owned.
+    CArranging(IEditorView &view, CWin32Doc &document, const ArrangeSettings &settings, CRandom &random);
+
+    /// By a field; a negative one shuffles. The new-entry row becomes the selection.
+    void Sort(int field);
+    /// Of the selected entries, in the language of the cell cursor.
+    void SetFlags(FlagMode mode);
+    void ToggleFlag(int entry, int language);
+
+private:
+    IEditorView &m_view;
+    CWin32Doc &m_document;
+    const ArrangeSettings &m_settings;
+    CRandom &m_random;
+};

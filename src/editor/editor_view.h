@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// What the commands of the editor see of its view: what is selected, where the cell cursor and the insertion
+/// point stand. Rows are those of CRowModel, entries those of the document's list.
+class IEditorView
+{
+public:
+    IEditorView() = default;
+    virtual ~IEditorView() = default;
+    IEditorView(const IEditorView &) = delete;
+    IEditorView &operator=(const IEditorView &) = delete;
+
+    /// Ascending.
+    virtual std::vector<int> SelectedEntries() const = 0;
+    /// -1 when no row is selected.
+    virtual int FirstSelectedRow() const = 0;
+    virtual int RowCount() const = 0;
+    /// -1 for none.
+    virtual int CursorRow() const = 0;
+    /// The field of the cell cursor: 0 and 1 are the languages, 2 the note.
+    virtual int CursorField() const = 0;
+    virtual int InsertionPoint() const = 0;
+
+    /// Selects one row alone; none for -1.
+    virtual void SelectRow(int row, bool ensureVisible) = 0;
+    /// Selects these entries alone, and scrolls to the first when none of them is in sight.
+    virtual void SelectEntryRange(int first, int last) = 0;
+    virtual void SetInsertionPoint(int row) = 0;
+    /// Shows a text in the status line until something else is to be told.
+    virtual void UpdateStatusText(const QString &text) = 0;
+    /// Asks before it deletes the selected entries.
+    virtual void DeleteSelection() = 0;
+};

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/arrange_commands.h"
+
+#include "editor/arranging.h"
+#include "editor/ui/win32_view.h"
+#include "platform/ui/wait_cursor.h"
+#include "settings/shell_settings.h"
+#include "shell/commands.h"
+#include "shell/ui/command_actions.h"
+
+using namespace CommandId;
+
+CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, CArranging &arranging,
+    ArrangeSettings &settings, QObject *parent)
+    : QObject(parent)
+{
+    const auto sort = [&arranging](int field) {
+        const CWaitCursor wait;
+        arranging.Sort(field);
+    };
+    for (const int command : {Shuffle, SortByLanguage1, SortByLanguage2, SortByNote}) {
+        actions.SetHandler(command, [sort, command] { sort(command - SortByLanguage1); });
+    }
+    connect(&view, &CWin32View::SortRequested, this, sort);
+    for (const auto &[command, option] : {std::pair(Descending, &ArrangeSettings::descending),
+             {GroupFlagged, &ArrangeSettings::groupFlagged}, {SortByLength, &ArrangeSettings::byLength}}) {
+        bool &value = settings.*option;
+        actions.SetHandler(
+            command, [&value] { value = !value; }, [&value] { return value; });
+    }
+}

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class CArranging;
+class CCommandActions;
+class CWin32View;
+struct ArrangeSettings;
+
+/// The commands of the menu that puts the list in order, and the clicks on headings that do the same.
+class CArrangeCommands : public QObject
+{
+public:
+    /// Nothing is owned.
+    CArrangeCommands(CCommandActions &actions, CWin32View &view, CArranging &arranging,
+        ArrangeSettings &settings, QObject *parent);
+};

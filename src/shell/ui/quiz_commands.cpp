@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ui/quiz_commands.h"
+
+#include "quiz/ui/quiz_launch.h"
+#include "settings/quiz_settings.h"
+#include "shell/commands.h"
+#include "shell/ui/command_actions.h"
+
+using namespace CommandId;
+
+CQuizCommands::CQuizCommands(
+    CCommandActions &actions, CQuizLaunch &launch, ::QuizSettings &settings, QObject *parent)
+    : QObject(parent)
+{
+    for (int kind = 0; kind <= LastQuiz - StandardQuiz; ++kind) {
+        if (launch.hasWindow(kind)) {
+            actions.SetHandler(StandardQuiz + kind, [&launch, kind] { launch.startQuiz(kind); });
+        }
+    }
+    for (const int direction : {FromLanguage1, FromLanguage2}) {
+        const int language = direction - FromLanguage1;
+        actions.SetHandler(
+            direction, [&settings, language] { settings.showLanguage = language; },
+            [&settings, language] { return settings.showLanguage == language; });
+    }
+}

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "editor/arranging.h"
+#include "editor/list_steps.h"
+#include "support/test_editor_view.h"
+
+#include <QTest>
+
+namespace {
+
+struct Editor
+{
+    explicit Editor(const QStringList &entries) : test(entries) { }
+
+    QString Entries() const { return Describe(test.document.List()).join(u' '); }
+
+    TestDocument test;
+    CTestEditorView view{test.document};
+    ArrangeSettings &settings = test.allSettings.arrange;
+    CRandom random{1};
+    CArranging arranging{view, test.document, settings, random};
+};
+
+QStringList List(const char *entries)
+{
+    return QString::fromUtf8(entries).split(u' ');
+}
+
+}
+
+class ArrangingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sorting();
+    void flags();
+    void steps();
+};
+
+void ArrangingTest::sorting()
+{
+    Editor run(List("b|1 c|3 a|2"));
+    run.view.SetInsertionPoint(1);
+    run.view.selected = {0, 2};
+    run.settings.descending = false;
+    run.arranging.Sort(0);
+    QCOMPARE(run.Entries(), QStringLiteral("a|2 b|1 c|3"));
+    QCOMPARE(run.view.selectedRow, 1); // The new-entry row, which stays where it was.
+    QVERIFY(run.view.selected.empty());
+    run.arranging.Sort(0);
+    QCOMPARE(run.test.document.UndoCount(), 1); // Sorted already.
+    run.settings.descending = true;
+    run.arranging.Sort(1);
+    QCOMPARE(run.Entries(), QStringLiteral("c|3 a|2 b|1"));
+}
+
+void ArrangingTest::flags()
+{
+    Editor run(List("a|1||1 b|2 c|3"));
+    run.view.selected = {0, 1};
+    run.view.cursorField = 2;
+    run.arranging.SetFlags(FlagMode::Set); // Notes have none.
+    QCOMPARE(run.test.document.UndoCount(), 0);
+    run.view.cursorField = 0;
+    run.arranging.SetFlags(FlagMode::Toggle);
+    QCOMPARE(run.Entries(), QStringLiteral("a|1 b|2||1 c|3"));
+    run.view.cursorField = 1;
+    run.arranging.SetFlags(FlagMode::Set);
+    run.arranging.SetFlags(FlagMode::Set); // Set already.
+    QCOMPARE(run.Entries(), QStringLiteral("a|1||2 b|2||12 c|3"));
+    QCOMPARE(run.test.document.UndoCount(), 2);
+    run.arranging.ToggleFlag(2, 1);
+    QCOMPARE(run.Entries(), QStringLiteral("a|1||2 b|2||12 c|3||2"));
+}
+
+void ArrangingTest::steps()
+{
+    Editor run(List("a|1 b|2"));
+    const auto stepped = [&](int from, int step) {
+        run.view.selectedRow = from;
+        StepSelection(run.view, step);
+        return run.view.selectedRow;
+    };
+    QCOMPARE(stepped(-1, 1), 0);
+    QCOMPARE(stepped(1, 1), 2);
+    QCOMPARE(stepped(2, 1), 0);
+    QCOMPARE(stepped(0, -1), 2);
+    QCOMPARE(stepped(-1, -1), 2);
+    PlaceInsertionPoint(run.view); // Without a cursor it stays.
+    QCOMPARE(run.view.InsertionPoint(), 0);
+    run.view.cursorRow = 2;
+    PlaceInsertionPoint(run.view);
+    QCOMPARE(run.view.InsertionPoint(), 2);
+}
+
+QTEST_GUILESS_MAIN(ArrangingTest)
+#include "arranging_test.moc"

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/editor_view.h"
+#include "editor/row_model.h"
+#include "platform/clipboard.h"
+#include "support/test_document.h"
+
+#include <QMimeData>
+
+/// A view of the editor without a window: keeps what is selected, and has the document's insertion point.
+class CTestEditorView : public IEditorView
+{
+public:
+    explicit CTestEditorView(CWin32Doc &document) : m_document(document) { }
+
+    std::vector<int> SelectedEntries() const override { return selected; }
+    int FirstSelectedRow() const override { return selectedRow; }
+    int RowCount() const override { return m_document.List().Count() + 1; }
+    int CursorRow() const override { return cursorRow; }
+    int CursorField() const override { return cursorField; }
+    int InsertionPoint() const override { return m_document.InsertionPoint(); }
+    void SelectRow(int row, bool /*ensureVisible*/) override
+    {
+        selectedRow = row;
+        selected.clear();
+    }
+    void SelectEntryRange(int first, int last) override
+    {
+        selected.clear();
+        for (int entry = first; entry <= last; ++entry) {
+            selected.push_back(entry);
+        }
+    }
+    void SetInsertionPoint(int row) override { m_document.SetInsertionPoint(row); }
+    void UpdateStatusText(const QString &text) override { status = text; }
+    void DeleteSelection() override { ++deletions; }
+
+    std::vector<int> selected;
+    int selectedRow = -1;
+    int cursorRow = -1;
+    int cursorField = 0;
+    QString status;
+    int deletions = 0;
+
+private:
+    CWin32Doc &m_document;
+};
+
+/// A clipboard of its own.
+class CTestClipboard : public IClipboard
+{
+public:
+    const QMimeData *Data() const override { return m_data.get(); }
+    void SetData(std::unique_ptr<QMimeData> data) override { m_data = std::move(data); }
+    void SetText(const QString &text)
+    {
+        m_data = std::make_unique<QMimeData>();
+        m_data->setText(text);
+    }
+
+private:
+    std::unique_ptr<QMimeData> m_data;
+};
