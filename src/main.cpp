@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "platform/file_name.h"
 #include "resources/texts.h"
 #include "settings/app_settings.h"
 #include "settings/ini_store.h"
 #include "shell/command_line.h"
 #include "shell/start_up.h"
 #include "shell/ui/ordelin_app.h"
-
-#include <QFile>
 
 #include <cstdio>
 
@@ -32,7 +31,7 @@ int main(int argc, char *argv[])
 {
     QStringList arguments;
     for (int i = 1; i < argc; ++i) {
-        arguments.append(QFile::decodeName(argv[i]));
+        arguments.append(DecodeFileName(argv[i]));
     }
     const CommandLine commandLine = parseCommandLine(arguments);
     if (commandLine.error != 0 || commandLine.action != CommandLine::Action::Run) {

@@ -6,6 +6,7 @@
 #include "document/recent_files.h"
 #include "document/win32_doc.h"
 #include "platform/file_chooser.h"
+#include "platform/file_name.h"
 #include "platform/user_prompt.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
@@ -79,7 +80,7 @@ bool CFileCommands::OpenFile(const QString &path)
 
 bool CFileCommands::OpenRecent(const QString &path)
 {
-    if (!QFileInfo::exists(path)) {
+    if (!FileExists(path)) {
         m_recent.Remove(path);
         m_prompt.Tell(m_texts.Prompt(Text::CannotOpen, {path}), PromptIcon::Error);
         return false;

@@ -2,22 +2,25 @@
 #include "document/recovery.h"
 
 #include "fileformats/word_list_file.h"
-#include "platform/safe_file.h"
 #include "platform/thread.h"
-#include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
-#include "resources/texts.h"
 
+#include <QBuffer>
 #include <QDir>
-#include <QFileInfo>
-#include <QLocale>
-#include <QUuid>
 
 namespace {
 
-constexpr const char *ListSuffix = ".gls";
-constexpr const char *PathSuffix = ".path";
-constexpr const char *LockSuffix = ".lock";
+constexpr int RetryFactor = 10; // Longer than the delay, since a full disk stays full for a while.
+
+/// How many of the entries a file of the list gives back.
+qint64 ReadableCount(const CWordList &list)
+{
+    qint64 count = 0;
+    for (int index = 0; index < list.Count(); ++index) {
+        const CWordEntry &entry = list.Entry(index);
+        count += entry.GetText(0).isEmpty() && entry.GetText(1).isEmpty() ? 0 : 1;
+    }
+    return count;
+}
 
 }
 
@@ -30,52 +33,72 @@ public:
     CWriter(const CWriter &) = delete;
     CWriter &operator=(const CWriter &) = delete;
 
-    void Write(CWordList list, const QString &listPath, const QByteArray &origin, const QString &originPath)
+    /// `copy` lacks what is taken from the list.
+    void Write(const QString &id, KeptCopy copy, CWordList list)
     {
         Stop(true);
+        m_isWanted = true;
+        m_id = id;
+        m_copy = std::move(copy);
         m_list = std::move(list);
-        m_listPath = listPath;
-        m_origin = origin;
-        m_originPath = originPath;
         Start();
     }
+    /// Gives up what is not yet in place.
+    void Cancel() { m_isWanted = false; }
+    /// How the last one ended.
+    bool Written() const { return m_written; }
 
 protected:
     void Run() override
     {
-        CSafeFile origin;
-        // A copy that can't be written is tried again at the next change; the user is told when saving fails.
-        if (origin.Open(m_originPath) && origin.Device().write(m_origin) == m_origin.size()
-            && origin.Commit()) {
-            (void)WriteWordListFile(m_list, m_listPath, {.forceUnicode = true});
+        m_written = false;
+        QBuffer buffer(&m_copy.content);
+        buffer.open(QIODevice::WriteOnly);
+        m_copy.count = ReadableCount(m_list);
+        if (WriteWordList(m_list, buffer, {.forceUnicode = true}) && m_isWanted) {
+            m_written = m_recovery.m_copies.Write(m_id, m_copy);
         }
         m_list = CWordList();
-        QMetaObject::invokeMethod(&m_recovery, &CRecovery::CopyWritten, Qt::QueuedConnection);
+        m_copy = {};
+        QMetaObject::invokeMethod(
+            &m_recovery,
+            [&recovery = m_recovery, written = m_written.load()] { recovery.CopyWritten(written); },
+            Qt::QueuedConnection);
     }
 
 private:
     CRecovery &m_recovery;
+    QString m_id;
+    KeptCopy m_copy;
     CWordList m_list;
-    QString m_listPath;
-    QByteArray m_origin;
-    QString m_originPath;
+    std::atomic<bool> m_isWanted = false; // Not the thread's own mark, which waiting for it takes away.
+    std::atomic<bool> m_written = false;
 };
 
 CRecovery::CRecovery(CWin32Doc &document, const QString &folder, int delay, QObject *parent)
     : QObject(parent), m_document(document), m_listToKeep([&document] { return document.List(); }),
-      m_folder(folder), m_writer(std::make_unique<CWriter>(*this))
+      m_folder(folder), m_copies(folder), m_delay(delay), m_writer(std::make_unique<CWriter>(*this))
 {
     m_timer.setSingleShot(true);
-    m_timer.setInterval(delay);
     connect(&m_timer, &QTimer::timeout, this, &CRecovery::WriteCopy);
-    connect(&document, &CWin32Doc::Changed, this, &CRecovery::KeepSoon);
-    connect(&document, &CWin32Doc::Saved, this, &CRecovery::Discard);
-    connect(&document, &CWin32Doc::Saved, this, &CRecovery::KeepSoon); // What no file holds yet.
+    connect(&document, &CWin32Doc::Changed, this, [this](const ListChange &change) {
+        if (change.replaced) {
+            Discard();
+        }
+        KeepSoon();
+    });
+    connect(&document, &CWin32Doc::Saved, this, [this] {
+        if (!m_document.IsModified()) {
+            Discard();
+        }
+        KeepSoon(); // What the file doesn't hold.
+    });
 }
 
 CRecovery::~CRecovery()
 {
     m_writer.reset(); // It reports here to its end.
+    RemoveLeaving();
 }
 
 QString CRecovery::UserFolder()
@@ -86,32 +109,22 @@ QString CRecovery::UserFolder()
     return state + QStringLiteral("/Ornbury Workshops/Ordelin");
 }
 
-QString CRecovery::FilePath(const QString &id, const char *suffix) const
-{
-    return QDir(m_folder).filePath(id + QLatin1StringView(suffix));
-}
-
-void CRecovery::Remove(const QString &id) const
-{
-    for (const char *suffix : {ListSuffix, PathSuffix}) {
-        QFile::remove(FilePath(id, suffix));
-    }
-}
-
-std::unique_ptr<QLockFile> CRecovery::Lock(const QString &id) const
-{
-    auto lock = std::make_unique<QLockFile>(FilePath(id, LockSuffix));
-    // Only the end of its program makes a lock stale, never its age.
-    lock->setStaleLockTime(0);
-    return lock->tryLock(0) ? std::move(lock) : nullptr;
-}
-
 void CRecovery::KeepSoon()
 {
     // Not started anew by each change: who types without a pause has a copy too.
     if (!m_timer.isActive()) {
-        m_timer.start();
+        m_timer.start(m_delay);
     }
+}
+
+bool CRecovery::MakeId()
+{
+    if (m_id.isEmpty() && m_copies.MakeFolder()) {
+        const QString id = CKeptCopies::NewId();
+        m_lock = m_copies.Lock(id);
+        m_id = m_lock ? id : QString();
+    }
+    return !m_id.isEmpty();
 }
 
 void CRecovery::WriteCopy()
@@ -119,33 +132,30 @@ void CRecovery::WriteCopy()
     CWordList list = m_listToKeep();
     if (list.IsSaved() || list.Count() == 0) {
         Discard();
-        return;
+    } else if (m_writing) {
+        m_timer.start(m_delay);
+    } else if (!MakeId()) {
+        CopyWritten(false);
+    } else {
+        m_writing = true;
+        m_writer->Write(m_id, {.path = m_document.Path(), .stamp = m_document.Stamp()}, std::move(list));
     }
-    if (m_writer->IsRunning()) {
-        m_timer.start();
-        return;
-    }
-    if (m_id.isEmpty()) {
-        QDir().mkpath(m_folder);
-        const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
-        m_lock = Lock(id);
-        if (!m_lock) {
-            return;
-        }
-        m_id = id;
-    }
-    const FileStamp &stamp = m_document.Stamp();
-    const QString origin = QStringLiteral("%1 %2\n%3")
-                               .arg(stamp.modified.toMSecsSinceEpoch())
-                               .arg(stamp.size)
-                               .arg(m_document.Path());
-    m_writer->Write(std::move(list), FilePath(m_id, ListSuffix), origin.toUtf8(), FilePath(m_id, PathSuffix));
 }
 
-void CRecovery::CopyWritten()
+void CRecovery::CopyWritten(bool written)
 {
-    if (m_discardWhenWritten) {
-        Finish();
+    m_writing = false;
+    if (!m_leavingId.isEmpty()) {
+        Wait();
+        RemoveLeaving();
+        return;
+    }
+    const bool failedBefore = std::exchange(m_failed, !written);
+    if (!written) {
+        m_timer.start(m_delay * RetryFactor);
+        if (!failedBefore) {
+            Q_EMIT CopyFailed();
+        }
     }
 }
 
@@ -157,90 +167,43 @@ void CRecovery::Wait()
 void CRecovery::Discard()
 {
     m_timer.stop();
-    if (m_writer->IsRunning()) {
-        m_discardWhenWritten = true;
-    } else {
-        Finish();
+    if (m_id.isEmpty()) {
+        return;
+    }
+    Remove(m_id);
+    if (m_writing && m_leavingId.isEmpty()) {
+        m_writer->Cancel();
+        m_leavingId = m_id;
+        m_leavingLock = std::move(m_lock);
+    }
+    m_lock.reset();
+    m_id.clear();
+}
+
+void CRecovery::RemoveLeaving()
+{
+    if (!m_leavingId.isEmpty()) {
+        Remove(m_leavingId);
+        m_leavingLock.reset();
+        m_leavingId.clear();
     }
 }
 
 void CRecovery::Finish()
 {
-    m_discardWhenWritten = false;
+    Discard();
     Wait();
-    if (!m_id.isEmpty()) {
-        Remove(m_id);
-        m_lock.reset();
-        m_id.clear();
-    }
+    RemoveLeaving();
 }
 
-void CRecovery::Keep()
+bool CRecovery::Keep()
 {
     m_timer.stop();
     Wait();
-    m_discardWhenWritten = false;
+    RemoveLeaving();
+    m_writing = false;
     WriteCopy();
+    const bool started = std::exchange(m_writing, false);
     Wait();
-}
-
-std::vector<LostList> CRecovery::FindLost() const
-{
-    std::vector<LostList> lost;
-    const QFileInfoList files =
-        QDir(m_folder).entryInfoList({QStringLiteral("*.gls")}, QDir::Files | QDir::Readable, QDir::Time);
-    for (const QFileInfo &file : files) {
-        const QString id = file.completeBaseName();
-        if (id == m_id || !Lock(id)) {
-            continue;
-        }
-        LostList list = {id, {}, {}, file.lastModified()};
-        QFile origin(FilePath(id, PathSuffix));
-        if (origin.open(QIODevice::ReadOnly)) {
-            const QString text = QString::fromUtf8(origin.readAll());
-            const QString stamp = text.section(u'\n', 0, 0);
-            list.path = text.section(u'\n', 1);
-            list.stamp = {QDateTime::fromMSecsSinceEpoch(stamp.section(u' ', 0, 0).toLongLong()),
-                stamp.section(u' ', 1).toLongLong()};
-        }
-        lost.push_back(list);
-    }
-    return lost;
-}
-
-void CRecovery::RemoveRemains() const
-{
-    // Of programs that ended before their first copy was complete.
-    for (const QString &name : QDir(m_folder).entryList(QDir::Files)) {
-        const QString id = name.section(u'.', 0, 0);
-        if (id != m_id && !QFile::exists(FilePath(id, ListSuffix)) && Lock(id)) {
-            QFile::remove(QDir(m_folder).filePath(name));
-        }
-    }
-}
-
-bool CRecovery::Offer(const CTexts &texts, IUserPrompt &prompt)
-{
-    RemoveRemains();
-    for (const LostList &lost : FindLost()) {
-        // Held while the user thinks, so that no other program asks about the same list.
-        std::unique_ptr<QLockFile> lock = Lock(lost.id);
-        if (!lock) {
-            continue;
-        }
-        const QString name = lost.path.isEmpty() ? texts.Get(Text::Unnamed) : QFileInfo(lost.path).fileName();
-        const QString time = QLocale::system().toString(lost.written, QLocale::ShortFormat);
-        const PromptAnswer answer = prompt.Ask(texts.Prompt(Text::RecoverChanges, {name, time}),
-            PromptIcon::Question, PromptButtons::YesNoCancel, PromptAnswer::Yes);
-        if (answer == PromptAnswer::No) {
-            Remove(lost.id);
-        } else if (answer == PromptAnswer::Yes
-            && m_document.OpenRecovered(FilePath(lost.id, ListSuffix), lost.path, lost.stamp)) {
-            // The copy becomes this program's own, so it stays until the list is saved.
-            m_lock = std::move(lock);
-            m_id = lost.id;
-            return true;
-        }
-    }
-    return false;
+    return started ? m_writer->Written() : !m_document.IsModified();
 }

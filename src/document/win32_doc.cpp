@@ -152,12 +152,6 @@ void CWin32Doc::UpdateTitleMark()
     }
 }
 
-FileStamp FileStamp::Of(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.exists() ? FileStamp{info.lastModified(), info.size()} : FileStamp{};
-}
-
 void CWin32Doc::DeleteContents()
 {
     // The names and the author of the list before stay in the empty one.
@@ -217,17 +211,10 @@ bool CWin32Doc::OpenDocument(const QString &file)
     return true;
 }
 
-bool CWin32Doc::OpenRecovered(const QString &copy, const QString &path, const FileStamp &stamp)
+void CWin32Doc::OpenRecovered(CWordList list, const QString &path, const FileStamp &stamp)
 {
-    CWordList list = List();
-    const ReadResult result = ReadWordListFile(list, copy);
-    if (result != ReadResult::Read && result != ReadResult::ReadLossy) {
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotOpen, {copy}), PromptIcon::Error);
-        return false;
-    }
     list.SetSaved(false);
     Replace(std::move(list), path, stamp);
-    return true;
 }
 
 bool CWin32Doc::OnSaveDocument(const QString &file)
@@ -241,8 +228,9 @@ bool CWin32Doc::OnSaveDocument(const QString &file)
         return false;
     }
     m_history.MarkOthersChanged();
-    if (!WriteWordListFile(
-            m_history.Current(), path, {.forceUnicode = m_services.settings.alwaysSaveInUnicode})) {
+    if (!WriteWordListFile(m_history.Current(), path,
+            {.forceUnicode = m_services.settings.alwaysSaveInUnicode,
+                .backupFolder = m_services.backupFolder})) {
         m_services.prompt.Tell(texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
         UpdateTitleMark();
         return false;
@@ -282,7 +270,9 @@ bool CWin32Doc::SaveEntries(const QString &path, CWordList::Selection entries)
 bool CWin32Doc::Write(CWordList copy, const QString &path)
 {
     // Writing marks the copy as saved, not the list.
-    if (!WriteWordListFile(copy, path, {.forceUnicode = m_services.settings.alwaysSaveInUnicode})) {
+    if (!WriteWordListFile(copy, path,
+            {.forceUnicode = m_services.settings.alwaysSaveInUnicode,
+                .backupFolder = m_services.backupFolder})) {
         m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
         return false;
     }

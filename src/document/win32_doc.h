@@ -4,9 +4,9 @@
 #include "document/list_change.h"
 #include "document/undo_history.h"
 #include "model/word_list.h"
+#include "platform/file_stamp.h"
 
 #include <QDate>
-#include <QDateTime>
 #include <QObject>
 
 #include <functional>
@@ -15,16 +15,6 @@
 class CTexts;
 class IUserPrompt;
 struct EditorSettings;
-
-/// What tells whether another program changed a file.
-struct FileStamp
-{
-    QDateTime modified;
-    qint64 size = -1; ///< -1 while there is no file.
-    bool operator==(const FileStamp &) const = default;
-
-    static FileStamp Of(const QString &path);
-};
 
 /// What the document is handed; none of it is owned.
 struct DocumentServices
@@ -35,6 +25,8 @@ struct DocumentServices
     std::function<QDate()> today;
     /// Starts a program with arguments and returns whether it could be started.
     std::function<bool(const QString &program, const QStringList &arguments)> startProgram;
+    /// Where an old file lies while it is overwritten in place; see WriteOptions.
+    QString backupFolder = {};
 };
 
 /// The document of the program: owns the word list being edited with its undo history, makes, opens and saves
@@ -88,9 +80,9 @@ public:
     /// Reads a file of any kind in place of the list. On failure, which the user is told, an empty list is left
     /// and the result is false.
     bool OpenDocument(const QString &path);
-    /// Reads a copy kept for recovery as the changed content of the file `path`, which may be empty and which
-    /// had `stamp` when the copy was made.
-    bool OpenRecovered(const QString &copy, const QString &path, const FileStamp &stamp);
+    /// Takes a list kept for recovery as the changed content of the file `path`, which may be empty and which
+    /// had `stamp` when the list was kept.
+    void OpenRecovered(CWordList list, const QString &path, const FileStamp &stamp);
     /// Writes the list and makes `path` its file. Asks before it overwrites what another program wrote since.
     /// On failure, which the user is told, list, path and file stay as they were and the result is false.
     bool OnSaveDocument(const QString &path);

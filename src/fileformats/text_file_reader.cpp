@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/text_file_reader.h"
 
+#include "platform/regular_file.h"
 #include "platform/windows_1252.h"
 
 #include <QFileInfo>
@@ -12,9 +13,7 @@
 bool CTextFileReader::Open(const QString &path)
 {
     Close();
-    m_file.setFileName(path);
-    // A pipe or a device may never end, so only regular files are read.
-    if (!QFileInfo(path).isFile() || !m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    if (!OpenRegularFile(m_file, path)) {
         return false;
     }
     Open(m_file);

@@ -3,9 +3,9 @@
 
 #include "platform/windows_1252.h"
 
-bool CTextFileWriter::Open(const QString &path, TextEncoding encoding)
+bool CTextFileWriter::Open(const QString &path, TextEncoding encoding, const QString &backupFolder)
 {
-    if (!m_file.Open(path)) {
+    if (!m_file.Open(path, backupFolder)) {
         return false;
     }
     Open(m_file.Device(), encoding);

@@ -8,8 +8,7 @@
 #include <QString>
 
 /// Writes a text file with CR LF line ends. The file at `path` is replaced as a whole when Close() succeeds and
-/// left alone otherwise; a symbolic link stays and its target is replaced. Only where the folder allows no new
-/// file is the old one overwritten in place.
+/// left alone otherwise (see CSafeFile).
 class CTextFileWriter
 {
 public:
@@ -18,7 +17,8 @@ public:
     CTextFileWriter &operator=(const CTextFileWriter &) = delete;
 
     /// Begins a file with the byte-order mark of its encoding. Returns false when it can't be created.
-    [[nodiscard]] bool Open(const QString &path, TextEncoding encoding);
+    /// `backupFolder` is CSafeFile's.
+    [[nodiscard]] bool Open(const QString &path, TextEncoding encoding, const QString &backupFolder = {});
     /// Writes to an open device, which the caller keeps.
     void Open(QIODevice &device, TextEncoding encoding);
 

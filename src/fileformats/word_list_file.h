@@ -56,6 +56,8 @@ struct WriteOptions
     bool forceOldFormat = false;
     /// Write UTF-16 even where the code page holds every text.
     bool forceUnicode = false;
+    /// Where the old file lies while it is overwritten in place; empty: no file is (see CSafeFile).
+    QString backupFolder = {};
 };
 
 /// Writes the smallest version that holds the list, in the code page when it holds every text and in UTF-16

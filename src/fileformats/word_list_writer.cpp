@@ -118,7 +118,8 @@ bool WriteAll(CWordList &list, CTextFileWriter &writer, const WriteOptions &opti
 bool WriteWordListFile(CWordList &list, const QString &path, const WriteOptions &options)
 {
     CTextFileWriter writer;
-    return writer.Open(path, EncodingFor(list, options)) && WriteAll(list, writer, options);
+    return writer.Open(path, EncodingFor(list, options), options.backupFolder)
+        && WriteAll(list, writer, options);
 }
 
 bool WriteWordList(CWordList &list, QIODevice &device, const WriteOptions &options)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command_line.h"
 
+#include "platform/file_name.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -33,7 +34,7 @@ CommandLine parseCommandLine(const QStringList &arguments)
             return {.error = Text::OneFileOnly, .wrongArgument = argument};
         } else {
             const QUrl url(argument);
-            result.file = url.isLocalFile() ? url.toLocalFile() : argument;
+            result.file = url.isLocalFile() ? LocalFileOf(url) : argument;
         }
     }
     return result;

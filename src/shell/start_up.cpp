@@ -2,11 +2,10 @@
 #include "shell/start_up.h"
 
 #include "document/recent_files.h"
+#include "platform/file_name.h"
 #include "resources/texts.h"
 #include "settings/app_settings.h"
 #include "shell/language_modules.h"
-
-#include <QFileInfo>
 
 MiscSettings loadLanguageSettings(const ISettingsStore &store, const QString &root)
 {
@@ -55,5 +54,5 @@ QString CStartUp::FileToReopen(const QString &namedFile, const CRecentFiles &rec
         return {};
     }
     const QString file = recent.Paths().first();
-    return QFileInfo::exists(file) ? file : QString();
+    return FileExists(file) ? file : QString();
 }

@@ -1,23 +1,31 @@
 // SPDX-License-Identifier: MIT
+#include "platform/file_name.h"
+#include "platform/regular_file.h"
 #include "platform/safe_file.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 
+#include <array>
 #include <csignal>
+#include <ctime>
+#include <fcntl.h>
 #include <functional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
 
-bool Save(const QString &path, const QByteArray &content)
+bool Save(const QString &path, const QByteArray &content, const QString &backupFolder = {})
 {
     CSafeFile file;
-    if (!file.Open(path) || file.Device().write(content) != content.size()) {
+    if (!file.Open(path, backupFolder) || file.Device().write(content) != content.size()) {
         return false;
     }
     return file.Commit();
@@ -74,8 +82,14 @@ private Q_SLOTS:
     void readOnlyFile();
     void killedWhileSaving();
     void linksAndDevices();
+    void accessStays();
+    void overwrittenInPlace();
+    void names();
+    void strayFilesGo();
 
 private:
+    QString Path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 };
@@ -107,6 +121,8 @@ void SafeFileTest::fullDisk()
 
 void SafeFileTest::closedFolder()
 {
+    const QTemporaryDir backups;
+    QFile::setPermissions(backups.path(), QFile::Permissions(0x7777));
     QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555));
     const auto save = [&](const QByteArray &content, int room) {
         return InProcess([&] {
@@ -114,7 +130,7 @@ void SafeFileTest::closedFolder()
             if (room >= 0) {
                 LimitFiles(rlim_t(room));
             }
-            return Save(m_path, content) ? 1 : 0;
+            return Save(m_path, content, backups.path()) ? 1 : 0;
         });
     };
     QCOMPARE(save(New, 10000), 0); // Overwritten in part, and put back.
@@ -125,7 +141,13 @@ void SafeFileTest::closedFolder()
     QCOMPARE(Content(m_path), New);
     QCOMPARE(save("short", -1), 1);
     QCOMPARE(Content(m_path), QByteArray("short"));
-    QVERIFY(QDir::temp().entryList({QStringLiteral("*-list.gls")}, QDir::Files).isEmpty());
+    QVERIFY(QDir(backups.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+    QCOMPARE(InProcess([&] {
+        BecomeNobody();
+        return Save(m_path, New) ? 1 : 0; // Not without a place for the backup.
+    }),
+        0);
+    QCOMPARE(Content(m_path), QByteArray("short"));
     const QString fresh = m_folder->filePath(QStringLiteral("new.gls"));
     QCOMPARE(InProcess([&] {
         BecomeNobody();
@@ -173,7 +195,121 @@ void SafeFileTest::linksAndDevices()
     QCOMPARE(QFile::symLinkTarget(link), m_path);
     QCOMPARE(Content(m_path), New);
     QVERIFY(!Save(m_folder->path(), New));
-    QVERIFY(!Save(QStringLiteral("/dev/null"), New)); // It would become a file of that name.
+    QVERIFY(QFile::link(Path("loop.gls"), Path("loop.gls")));
+    QVERIFY(!Save(Path("loop.gls"), New));
+    QVERIFY(QFileInfo(Path("loop.gls")).isSymLink());
+    // What is no regular file would become one.
+    QCOMPARE(mkfifo(Path("pipe").toUtf8().constData(), 0666), 0);
+    QVERIFY(!Save(Path("pipe"), New));
+    struct stat status = {};
+    QVERIFY(::stat(Path("pipe").toUtf8().constData(), &status) == 0 && S_ISFIFO(status.st_mode));
+    QVERIFY(QFile::link(Path("missing.gls"), Path("dangling.gls")));
+    QVERIFY(Save(Path("dangling.gls"), New));
+    QCOMPARE(Content(Path("missing.gls")), New);
+}
+
+void SafeFileTest::accessStays()
+{
+    // Version 2 of the system's access lists: owner rw, user 1234 rw, group none, mask rw, others none.
+    const QByteArray access = QByteArray::fromHex("0200000001000600ffffffff02000600d204000004000000ffffffff"
+                                                  "10000600ffffffff20000000ffffffff");
+    const QByteArray path = m_path.toUtf8();
+    const char *const accessName = "system.posix_acl_access";
+    if (::setxattr(path.constData(), "user.origin", "web", 3, 0) != 0
+        || ::setxattr(path.constData(), accessName, access.constData(), size_t(access.size()), 0) != 0) {
+        QSKIP("The file system for temporary files has no access lists.");
+    }
+    if (geteuid() == 0) {
+        QCOMPARE(::chown(path.constData(), 65534, 65534), 0);
+    }
+    struct stat before = {};
+    QCOMPARE(::stat(path.constData(), &before), 0);
+    QVERIFY(Save(m_path, New, m_folder->path()));
+    struct stat after = {};
+    QCOMPARE(::stat(path.constData(), &after), 0);
+    QVERIFY(after.st_ino != before.st_ino);
+    QCOMPARE(after.st_mode, before.st_mode);
+    QVERIFY(after.st_uid == before.st_uid && after.st_gid == before.st_gid);
+    QByteArray value(100, '\0');
+    QCOMPARE(::getxattr(path.constData(), "user.origin", value.data(), 100), 3);
+    QCOMPARE(::getxattr(path.constData(), accessName, value.data(), 100), access.size());
+    QCOMPARE(value.first(access.size()), access);
+    // A list that the folder gives to new files is not one of the old file.
+    QCOMPARE(::removexattr(path.constData(), accessName), 0);
+    QCOMPARE(::setxattr(m_folder->path().toUtf8().constData(), "system.posix_acl_default", access.constData(),
+                 size_t(access.size()), 0),
+        0);
+    QVERIFY(Save(m_path, Old, m_folder->path()));
+    QCOMPARE(::getxattr(path.constData(), accessName, value.data(), 100), -1);
+}
+
+void SafeFileTest::overwrittenInPlace()
+{
+    const QString other = Path("other name.gls");
+    QCOMPARE(::link(m_path.toUtf8().constData(), other.toUtf8().constData()), 0);
+    const QTemporaryDir backups;
+    QVERIFY(Save(m_path, New, backups.filePath(QStringLiteral("made when needed"))));
+    QCOMPARE(Content(other), New);
+    QVERIFY(QFile::remove(other));
+    if (geteuid() == 0) {
+        // Another user's file, which may be changed but not given away.
+        QFile::setPermissions(backups.path(), QFile::Permissions(0x7777));
+        QCOMPARE(InProcess([&] {
+            BecomeNobody();
+            return Save(m_path, Old, backups.path()) ? 1 : 0;
+        }),
+            1);
+        struct stat status = {};
+        QVERIFY(::stat(m_path.toUtf8().constData(), &status) == 0 && status.st_uid == 0);
+        QCOMPARE(Content(m_path), Old);
+    }
+    QVERIFY(QDir(backups.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+void SafeFileTest::names()
+{
+    for (const QByteArray &name : {QByteArray(255, 'x'), QByteArray("caf\xE9 \xC3\xA5\xED\xA0\x80.gls"),
+             QByteArray("\xEF\xBB\xBF\xFF"), QByteArray("\xF0\x9F\x98\x80\x9F")}) {
+        const QByteArray path = m_folder->path().toUtf8() + '/' + name;
+        const QString shown = DecodeFileName(path);
+        QCOMPARE(EncodeFileName(shown), path);
+        for (const QByteArray &content : {Old, New}) {
+            QVERIFY(Save(shown, content));
+            QVERIFY(FileExists(shown));
+            QCOMPARE(ReadRegularFile(shown, 1000000).value_or(QByteArray()), content);
+        }
+        QCOMPARE(::access(path.constData(), R_OK), 0);
+        const QByteArray url = "file://" + path.toPercentEncoding("/");
+        QCOMPARE(LocalFileOf(QUrl::fromEncoded(url)), shown);
+    }
+    QVERIFY(!Save(m_path + QChar(QChar::Null) + u'x', New)); // It would be another file.
+    QCOMPARE(Content(m_path), Old);
+}
+
+void SafeFileTest::strayFilesGo()
+{
+    const auto make = [this](const char *name, int hours) {
+        const QByteArray path = Path(name).toUtf8();
+        QFile file(Path(name));
+        const timespec time = {::time(nullptr) - hours * 3600L, 0};
+        const std::array times = {time, time};
+        return file.open(QIODevice::WriteOnly) && ::utimensat(AT_FDCWD, path.constData(), times.data(), 0) == 0;
+    };
+    const QStringList stay = {QStringLiteral(".ordelin-0123456789abcdeX.tmp"),
+        QStringLiteral(".ordelin-0123456789abcdef0.tmp"), QStringLiteral(".ordelin-1111111111111111.tmp"),
+        QStringLiteral("ordelin-0123456789abcdef.tmp")};
+    QVERIFY(make(".ordelin-0123456789abcdef.tmp", 25) && make(".ordelin-0123456789abcdeX.tmp", 25));
+    QVERIFY(make(".ordelin-0123456789abcdef0.tmp", 25) && make("ordelin-0123456789abcdef.tmp", 25));
+    QVERIFY(make(".ordelin-1111111111111111.tmp", 23)); // Perhaps of a program that is saving now.
+    QVERIFY(Save(m_path, New));
+    QCOMPARE(QDir(m_folder->path())
+                 .entryList(
+                     {QStringLiteral("*ordelin-*")}, QDir::Files | QDir::Hidden, QDir::Name | QDir::LocaleAware)
+                 .size(),
+        stay.size());
+    for (const QString &name : stay) {
+        QVERIFY2(QFile::exists(m_folder->filePath(name)), qPrintable(name));
+    }
 }
 
 QTEST_APPLESS_MAIN(SafeFileTest)

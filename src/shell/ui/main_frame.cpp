@@ -5,6 +5,7 @@
 #include "document/recent_files.h"
 #include "document/win32_doc.h"
 #include "editor/ui/win32_view.h"
+#include "platform/file_name.h"
 #include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
 #include "quiz/ui/quiz_launch.h"
@@ -42,7 +43,7 @@ QStringList LocalFiles(const QMimeData &data)
     QStringList paths;
     for (const QUrl &url : data.urls()) {
         if (url.isLocalFile()) {
-            paths.append(url.toLocalFile());
+            paths.append(LocalFileOf(url));
         }
     }
     return paths;

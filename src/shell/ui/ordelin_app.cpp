@@ -13,6 +13,7 @@
 #include <QDesktopServices>
 #include <QIcon>
 #include <QProcess>
+#include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
 
@@ -20,6 +21,8 @@ namespace {
 
 /// How long after a change the copy for recovery is written, in milliseconds.
 constexpr int RecoveryDelay = 3000;
+/// How long a message stands in the status line, in milliseconds.
+constexpr int StatusTime = 15000;
 
 }
 
@@ -30,7 +33,8 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
       m_document({m_texts, m_settings.editor, m_prompt, [] { return QDate::currentDate(); },
           [](const QString &program, const QStringList &arguments) {
               return QProcess::startDetached(program, arguments);
-          }}),
+          },
+          CRecovery::UserFolder()}),
       m_recovery(m_document, CRecovery::UserFolder(), RecoveryDelay)
 {
     Q_INIT_RESOURCE(pictures);
@@ -106,6 +110,8 @@ void COrdelinApp::MakeMainWindow()
         .specialCharacters = *m_specialCharacters,
         .openHelp = [this] { OpenHelp(); },
         .dataFolders = m_dataFolders});
+    connect(&m_recovery, &CRecovery::CopyFailed, m_frame.get(),
+        [this] { m_frame->statusBar()->showMessage(m_texts.Get(Text::CopyFailed), StatusTime); });
     connect(m_frame.get(), &CMainFrame::Closed, this, [this] {
         // The user ends the program, also after a session that went on, and has answered for the changes.
         m_sessionEnds = false;

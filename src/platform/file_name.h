@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QUrl;
+
+// File names are bytes to the system, and need not be text. A byte that belongs to no UTF-8 character stands in
+// a QString as a lone surrogate, U+DC80 to U+DCFF, so that every file has a name here and is found by it again.
+// The toolkit's own file functions don't know these names: who opens what a user names uses the functions of
+// this folder.
+
+/// The name that the system knows as `bytes`.
+QString DecodeFileName(QByteArrayView bytes);
+/// The bytes by which the system knows the file; the inverse of DecodeFileName().
+QByteArray EncodeFileName(QStringView name);
+/// The file of a file: URL; empty for any other URL.
+QString LocalFileOf(const QUrl &url);
+/// Whether there is something of this name, or at the end of the link of this name.
+bool FileExists(const QString &path);
