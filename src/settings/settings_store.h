@@ -7,7 +7,7 @@
 #include <optional>
 
 /// Where settings are kept between runs: sections of named values, each value a text. Sections are paths with
-/// "\" between their parts. Nothing here fails: what can't be read is missing.
+/// "\" between their parts. What can't be read is missing.
 class ISettingsStore
 {
 public:
@@ -22,8 +22,9 @@ public:
     virtual std::optional<QString> Read(const QString &section, const QString &name) const = 0;
     virtual void Write(const QString &section, const QString &name, const QString &value) = 0;
     virtual void Remove(const QString &section, const QString &name) = 0;
-    /// Brings what was written to where it lasts, all of it or nothing.
-    virtual void Flush() = 0;
+    /// Brings what was written to where it lasts, all of it or nothing. Returns false when that failed; the
+    /// next call tries again.
+    virtual bool Flush() = 0;
 };
 
 /// Keeps settings for as long as it lives.
@@ -35,7 +36,7 @@ public:
     std::optional<QString> Read(const QString &section, const QString &name) const override;
     void Write(const QString &section, const QString &name, const QString &value) override;
     void Remove(const QString &section, const QString &name) override;
-    void Flush() override { }
+    bool Flush() override { return true; }
     /// Values by name by section.
     const QMap<QString, QMap<QString, QString>> &Sections() const { return m_sections; }
 

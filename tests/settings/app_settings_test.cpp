@@ -4,9 +4,13 @@
 #include "settings/ini_store.h"
 #include "support/scripted_prompt.h"
 
+#include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -50,6 +54,8 @@ private Q_SLOTS:
     void iniFile();
     void iniFileEditedByHand();
     void lastToWriteWins();
+    void iniTextIsTheToolkits();
+    void iniThatIsNoFile();
 
 private:
     CTexts m_texts;
@@ -302,6 +308,64 @@ void AppSettingsTest::lastToWriteWins()
     loaded.Exchange(true);
     QCOMPARE(loaded.editor.author, u"one"_qs);
     QCOMPARE(loaded.quiz.requizNumber, 3);
+}
+
+void AppSettingsTest::iniTextIsTheToolkits()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    const QStringList texts = {u""_qs, u" a "_qs, u"a,b ; c=d"_qs,
+        u"\"\\\a\b\f\n\r\t\v\x1B"
+        "1\x7F"_qs,
+        u"å\U0001F600\u0301\u2028"_qs, u"@"_qs, u"@Invalid()"_qs, u"@@x"_qs, u"@String(x)"_qs, u"%1 [x]\\"_qs,
+        QString(QChar(0)) + u"7"_qs};
+    const QStringList names = {u"plain"_qs, u"a b"_qs, u"å%€"_qs, u"a=b"_qs, u"deep/er-_.9"_qs, u"[x]"_qs};
+    {
+        QSettings file(path, QSettings::IniFormat);
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            file.setValue(u"editor/"_qs + names.at(i % names.size()) + QString::number(i), texts.at(i));
+            file.setValue(u"top"_qs + QString::number(i), texts.at(i));
+            file.setValue(u"General/"_qs + QString::number(i), texts.at(i));
+        }
+    }
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const IniValues values = ParseIni(file.readAll());
+    QCOMPARE(values.size(), 3 * texts.size());
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        QCOMPARE(values.value(u"editor/"_qs + names.at(i % names.size()) + QString::number(i)), texts.at(i));
+        QCOMPARE(values.value(u"top"_qs + QString::number(i)), texts.at(i));
+        QCOMPARE(values.value(u"General/"_qs + QString::number(i)), texts.at(i));
+    }
+    QCOMPARE(ParseIni(FormatIni(values)), values);
+    QFile other(folder.filePath(u"other.ini"_qs));
+    QVERIFY(other.open(QIODevice::WriteOnly));
+    other.write(FormatIni(values));
+    other.close();
+    const QSettings again(other.fileName(), QSettings::IniFormat);
+    QCOMPARE(again.allKeys().size(), values.size());
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        QVERIFY(again.contains(value.key()));
+        if (!value->contains(QChar(0))) {
+            QCOMPARE(again.value(value.key()).toString(), *value);
+        }
+    }
+}
+
+void AppSettingsTest::iniThatIsNoFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    QVERIFY(QDir().mkpath(path + u".lock"_qs));
+    QCOMPARE(mkfifo(path.toUtf8().constData(), 0666), 0);
+    CIniStore store(path, CAppSettings::RootPath());
+    CAppSettings settings(store, m_texts);
+    settings.Exchange(true);
+    QCOMPARE(settings.editor.undoSize, 10);
+    settings.Exchange(false);
+    QVERIFY(!store.Flush());
+    QVERIFY(QFile::remove(path)); // Then there is room for what was not written.
+    QVERIFY(store.Flush() && QFileInfo(path).isFile());
 }
 
 QTEST_GUILESS_MAIN(AppSettingsTest)

@@ -17,12 +17,15 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <cstdio>
+
 namespace {
 
 /// How long after a change the copy for recovery is written, in milliseconds.
 constexpr int RecoveryDelay = 3000;
-/// How long a message stands in the status line, in milliseconds.
-constexpr int StatusTime = 15000;
+
+/// How long the status bar says that it could not be written, in milliseconds.
+constexpr int FailureShown = 20000;
 
 }
 
@@ -111,7 +114,7 @@ void COrdelinApp::MakeMainWindow()
         .openHelp = [this] { OpenHelp(); },
         .dataFolders = m_dataFolders});
     connect(&m_recovery, &CRecovery::CopyFailed, m_frame.get(),
-        [this] { m_frame->statusBar()->showMessage(m_texts.Get(Text::CopyFailed), StatusTime); });
+        [this] { m_frame->statusBar()->showMessage(m_texts.Get(Text::CopyFailed), FailureShown); });
     connect(m_frame.get(), &CMainFrame::Closed, this, [this] {
         // The user ends the program, also after a session that went on, and has answered for the changes.
         m_sessionEnds = false;
@@ -164,6 +167,15 @@ void COrdelinApp::ExitInstance()
     }
     m_specialCharacters->Close();
     SaveSettings();
+    if (m_store.Flush()) {
+        return;
+    }
+    const PromptText message = m_texts.Prompt(Text::SettingsNotSaved, {m_store.Path()});
+    if (m_exitedFromOutside) {
+        std::fputs((message.text + u'\n').toLocal8Bit().constData(), stderr); // Nobody may be there to answer.
+    } else {
+        m_prompt.Tell(message, PromptIcon::Warning);
+    }
 }
 
 bool COrdelinApp::event(QEvent *event)
