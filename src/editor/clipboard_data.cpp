@@ -5,6 +5,7 @@
 #include "platform/windows_1252.h"
 
 #include <QMimeData>
+#include <QUrl>
 #include <QtEndian>
 
 namespace {
@@ -57,6 +58,17 @@ std::unique_ptr<QMimeData> clipboardDataOf(const CWordList &list, CWordList::Sel
         data->setData(Records8Bit, To8Bit(records));
     }
     return data;
+}
+
+QStringList filesFromData(const QMimeData &data)
+{
+    QStringList files;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    return files;
 }
 
 bool mayHoldEntries(const QMimeData &data)

@@ -3,6 +3,8 @@
 
 #include "model/word_list.h"
 
+#include <QStringList>
+
 #include <memory>
 
 class QMimeData;
@@ -11,6 +13,8 @@ class QMimeData;
 /// also the program's own records, for this program and other running copies of it.
 std::unique_ptr<QMimeData> clipboardDataOf(const CWordList &list, CWordList::Selection entries, int column);
 
+/// The files that data is a list of, by their paths; none for other data.
+QStringList filesFromData(const QMimeData &data);
 /// Whether there is a form that entries can be read from; reads none of it.
 bool mayHoldEntries(const QMimeData &data);
 /// The entries of the best form that is there: records before text.

@@ -63,6 +63,11 @@ std::optional<QStringView> TakeLine(QStringView &rest)
     return line;
 }
 
+QStringView WithoutByteOrderMark(QStringView text)
+{
+    return text.startsWith(QChar::ByteOrderMark) ? text.sliced(1) : text;
+}
+
 QStringView WithoutOuterMarks(QStringView line)
 {
     const auto isMark = [](QChar unit) { return unit == u'\t' || unit == u' ' || unit == u'*'; };
@@ -162,6 +167,7 @@ QString entriesAsRecords(const CWordList &list, CWordList::Selection entries)
 
 CWordList entriesFromRecords(QStringView records)
 {
+    records = WithoutByteOrderMark(records);
     constexpr size_t LineCount = 5;
     CWordList list;
     std::array<QStringView, LineCount> lines;
@@ -181,14 +187,14 @@ CWordList entriesFromRecords(QStringView records)
 CWordList entriesFromText(QStringView text)
 {
     CWordList list;
+    text = WithoutByteOrderMark(text);
     while (!text.isEmpty()) {
-        // Programs of this desktop end lines without a carriage return.
-        const qsizetype end = text.indexOf(u'\n');
-        QStringView line = end < 0 ? text : text.first(end);
-        text = end < 0 ? QStringView() : text.sliced(end + 1);
-        if (line.endsWith(u'\r')) {
-            line.chop(1);
-        }
+        // Other programs end lines with a line feed or a carriage return alone. Between the two of a pair there
+        // is an empty line, which makes no entry.
+        const auto *const end =
+            std::ranges::find_if(text, [](QChar unit) { return unit == u'\n' || unit == u'\r'; });
+        const QStringView line = text.first(end - text.begin());
+        text = text.sliced(std::min(line.size() + 1, text.size()));
         if (auto entry = EntryFromLine(WithoutOuterMarks(line))) {
             list.Insert(std::move(*entry));
         }

@@ -9,11 +9,13 @@
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
+#include <QFileInfo>
 #include <QMimeData>
 
 CListClipboard::CListClipboard(
-    IEditorView &view, CWin32Doc &document, IClipboard &clipboard, const CTexts &texts)
-    : m_view(view), m_document(document), m_clipboard(clipboard), m_texts(texts)
+    IEditorView &view, CWin32Doc &document, IClipboard &clipboard, const CTexts &texts, OpenFile openFile)
+    : m_view(view), m_document(document), m_clipboard(clipboard), m_texts(texts),
+      m_openFile(std::move(openFile))
 {
 }
 
@@ -38,7 +40,13 @@ void CListClipboard::Paste()
         qDebug("BFE! Illegal clipboard format!");
         return;
     }
-    const CWordList pasted = entriesFromData(*data);
+    const QStringList files = filesFromData(*data);
+    if (files.size() == 1 && QFileInfo(files.first()).isFile()) {
+        m_openFile(files.first());
+        return;
+    }
+    // Of several files nothing is read: their names are no terms.
+    const CWordList pasted = files.isEmpty() ? entriesFromData(*data) : CWordList();
     const int count = pasted.Count();
     if (count == 0) {
         m_view.UpdateStatusText(m_texts.Get(Text::NothingPasted));

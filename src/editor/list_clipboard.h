@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
+#include <functional>
+
 class CTexts;
 class CWin32Doc;
 class IClipboard;
@@ -10,14 +14,19 @@ class IEditorView;
 class CListClipboard
 {
 public:
+    /// Opens a file that was pasted.
+    using OpenFile = std::function<void(const QString &path)>;
+
     /// Nothing is owned.
-    CListClipboard(IEditorView &view, CWin32Doc &document, IClipboard &clipboard, const CTexts &texts);
+    CListClipboard(
+        IEditorView &view, CWin32Doc &document, IClipboard &clipboard, const CTexts &texts, OpenFile openFile);
 
     /// The selected entries, or one field of them. Without any the clipboard stays as it is.
     void Copy(int column);
     /// Copies the selected entries and asks whether to delete them.
     void Cut();
     /// Inserts entries at the insertion point, as one step for undo, selects them and tells how many they are.
+    /// A file that was copied is told by the view's FilePasted().
     void Paste();
 
     /// Whether the clipboard may hold entries.
@@ -28,4 +37,5 @@ private:
     CWin32Doc &m_document;
     IClipboard &m_clipboard;
     const CTexts &m_texts;
+    OpenFile m_openFile;
 };

@@ -94,6 +94,7 @@ void ClipboardTest::readsRecords_data()
                                             << "";
     QTest::newRow("other line ends end no line") << "0\na\n0\nb\nc\n"
                                                  << "";
+    QTest::newRow("a byte-order mark") << QStringLiteral("\uFEFF0\r\na\r\n0\r\nb\r\n\r\n") << "a|b";
     QTest::newRow("not in normal form") << "0\r\n a*b\tc \r\n0\r\n[]d\r\n\ne\r\n"
                                         << "a * b c|d|e";
 }
@@ -129,7 +130,10 @@ void ClipboardTest::readsText_data()
                                                                << "";
     QTest::newRow("letters outside Latin 1")
         << QString::fromUtf8("ёж – hedgehog; igelkott") << QString::fromUtf8("ёж – hedgehog|igelkott");
-    QTest::newRow("control characters") << QStringLiteral("a\rb;c\u0001d") << "a b|c d";
+    QTest::newRow("CR alone") << "a;b\rc;d\r\re;f\r"
+                              << "a|b / c|d / e|f";
+    QTest::newRow("a byte-order mark") << QStringLiteral("\uFEFF* a;\uFEFFb") << QStringLiteral("a|\uFEFFb");
+    QTest::newRow("control characters") << QStringLiteral("a\u0002b;c\u0001d") << "a b|c d";
 }
 
 void ClipboardTest::readsText()

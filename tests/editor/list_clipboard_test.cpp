@@ -3,7 +3,9 @@
 #include "editor/list_clipboard.h"
 #include "support/test_editor_view.h"
 
+#include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 
 namespace {
 
@@ -16,7 +18,9 @@ struct Clipboard
     TestDocument test;
     CTestEditorView view{test.document};
     CTestClipboard system;
-    CListClipboard clipboard{view, test.document, system, test.texts};
+    QStringList opened;
+    CListClipboard clipboard{
+        view, test.document, system, test.texts, [this](const QString &path) { opened.append(path); }};
 };
 
 QStringList List(const char *entries)
@@ -33,6 +37,7 @@ class ListClipboardTest : public QObject
 private Q_SLOTS:
     void copyAndPaste();
     void pasteNothing();
+    void pasteFiles();
     void cutAndColumns();
 };
 
@@ -78,6 +83,32 @@ void ListClipboardTest::pasteNothing()
     QCOMPARE(run.view.status, QStringLiteral("Inga glosor kunde klistras in."));
     QCOMPARE(run.test.document.UndoCount(), 0);
     QCOMPARE(run.view.selected, std::vector{1});
+}
+
+void ListClipboardTest::pasteFiles()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a - b.gls")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    Clipboard run(List("a|1"));
+    const auto paste = [&](const QStringList &paths) {
+        auto data = std::make_unique<QMimeData>();
+        QList<QUrl> urls;
+        for (const QString &path : paths) {
+            urls.append(QUrl::fromLocalFile(path));
+        }
+        data->setUrls(urls);
+        data->setText(paths.join(u'\n')); // As file managers do.
+        run.system.SetData(std::move(data));
+        run.clipboard.Paste();
+    };
+    paste({file.fileName(), file.fileName()});
+    paste({folder.path()});
+    paste({folder.filePath(QStringLiteral("c-d"))});
+    QVERIFY(run.opened.isEmpty());
+    paste({file.fileName()});
+    QCOMPARE(run.opened, QStringList{file.fileName()});
+    QCOMPARE(run.Entries(), List("a|1"));
 }
 
 void ListClipboardTest::cutAndColumns()

@@ -21,7 +21,8 @@ using namespace CommandId;
 CEditCommands::CEditCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document,
     CArranging &arranging, const CTexts &texts, QObject *parent)
     : QObject(parent), m_actions(actions), m_view(view), m_document(document), m_arranging(arranging),
-      m_clipboard(view, document, m_systemClipboard, texts)
+      m_clipboard(
+          view, document, m_systemClipboard, texts, [this](const QString &path) { Q_EMIT FilePasted(path); })
 {
     ConnectText();
     ConnectList();

@@ -34,6 +34,8 @@ public:
 Q_SIGNALS:
     /// State() is another than it was.
     void StateChanged();
+    /// A file was pasted, to be opened.
+    void FilePasted(const QString &path);
 
 private:
     void ConnectText();

@@ -98,6 +98,10 @@ CMainFrame::CMainFrame(const FrameServices &services)
         [this](const QPoint &place) { ShowMenu(rowMenu(), place); });
     connect(m_view, &CWin32View::ColumnMenuRequested, this,
         [this](const QPoint &place) { ShowMenu(columnMenu(), place); });
+    // From the event loop, after the paste.
+    connect(
+        m_editCommands, &CEditCommands::FilePasted, this,
+        [this](const QString &path) { m_services.files.OpenFile(path); }, Qt::QueuedConnection);
     connect(m_view, &CWin32View::TypedChanged, this, &CMainFrame::TypedChanged);
     services.files.SetPendingWork(&m_view->PendingWork());
     setAcceptDrops(true);
