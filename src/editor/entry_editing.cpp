@@ -38,6 +38,18 @@ CEntryEditing::CEntryEditing(EntryEditingServices services, IEntryView &view)
 {
 }
 
+bool CEntryEditing::ConfirmTyped(const PromptText &text, PromptIcon icon)
+{
+    return m_services.prompt.AskTypist(text, icon, PromptButtons::YesNo, PromptAnswer::Yes)
+        == PromptAnswer::Yes;
+}
+
+EditStep CEntryEditing::SelectSimilar(int similar) const
+{
+    // What was typed on was not meant for the entry that was found.
+    return {m_services.prompt.TypingGoesOn() ? Action::SelectAndTypeOn : Action::SelectEntry, similar};
+}
+
 QString CEntryEditing::Corrected(const QString &term)
 {
     if (!m_services.settings.synonymWarning || !m_asking) {
@@ -46,8 +58,7 @@ QString CEntryEditing::Corrected(const QString &term)
     const std::optional<QString> proposal = SuggestTermCorrection(term);
     // A term of brackets alone would become none at all.
     const bool accepted = proposal && !proposal->isEmpty()
-        && m_services.prompt.Confirm(m_services.texts.Prompt(Text::ProposeCorrection, {*proposal}),
-            PromptIcon::Information, PromptButtons::YesNo, PromptAnswer::Yes);
+        && ConfirmTyped(m_services.texts.Prompt(Text::ProposeCorrection, {*proposal}), PromptIcon::Information);
     return accepted ? *proposal : term;
 }
 
@@ -57,9 +68,8 @@ int CEntryEditing::AskAboutSimilar(int similar)
         return CRowModel::NoEntry;
     }
     m_view.MarkEntry(similar);
-    const bool accepted =
-        m_services.prompt.Confirm(m_services.texts.Prompt(Text::SelectSimilar, {QString::number(similar + 1)}),
-            PromptIcon::Question, PromptButtons::YesNo, PromptAnswer::Yes);
+    const bool accepted = ConfirmTyped(
+        m_services.texts.Prompt(Text::SelectSimilar, {QString::number(similar + 1)}), PromptIcon::Question);
     m_view.MarkEntry(CRowModel::NoEntry);
     return accepted ? similar : CRowModel::NoEntry;
 }
@@ -95,7 +105,7 @@ EditStep CEntryEditing::FromFields(const EntryTexts &texts, int entry)
     const bool adds = entry < 0 || entry >= m_services.document.List().Count();
     const int similar = AddOrChange(std::move(wanted), entry);
     if (similar >= 0) {
-        return {Action::SelectEntry, similar};
+        return SelectSimilar(similar);
     }
     if (adds) {
         return {Action::ClearFields};
@@ -130,7 +140,7 @@ EditStep CEntryEditing::StoreFields(const EntryTexts &texts, int entry)
         return {};
     }
     const int similar = AddOrChange(std::move(wanted), entry);
-    return similar >= 0 ? EditStep{Action::SelectEntry, similar} : EditStep{};
+    return similar >= 0 ? SelectSimilar(similar) : EditStep{};
 }
 
 EditStep CEntryEditing::StorePending()
@@ -176,7 +186,7 @@ EditStep CEntryEditing::CellEdited(int row, int field, const QString &text)
         similar = list.SetEntryField(wanted, field, entry, m_services.settings.duplicateVarning);
     });
     const int accepted = AskAboutSimilar(similar);
-    return accepted >= 0 ? EditStep{Action::SelectEntry, accepted} : EditStep{};
+    return accepted >= 0 ? SelectSimilar(accepted) : EditStep{};
 }
 
 EditStep CEntryEditing::NewEntryCellEdited(int field, const QString &text)
@@ -187,10 +197,8 @@ EditStep CEntryEditing::NewEntryCellEdited(int field, const QString &text)
         pending[language] = NormalizeTerm(pending[language]);
     }
     m_view.PendingChanged();
-    for (const int language : {0, 1}) {
-        if (pending[size_t(language)].isEmpty()) {
-            return {Action::EditNewEntry, language};
-        }
+    if (!HasBothTerms(pending)) {
+        return {Action::EditNewEntry, pending[0].isEmpty() ? 0 : 1};
     }
     if (m_services.settings.showNotes && field != CWordEntry::NoteField && pending[2].isEmpty()) {
         return {Action::EditNewEntry, CWordEntry::NoteField};
@@ -206,8 +214,16 @@ EditStep CEntryEditing::AddPending()
     }
     m_services.rows.pending = {};
     const int similar = Add(texts);
-    return similar >= 0 ? EditStep{Action::SelectEntry, similar}
-                        : EditStep{Action::EditNewEntry, m_services.settings.lang1first ? 0 : 1};
+    return similar >= 0 ? SelectSimilar(similar) : EditStep{Action::EditNewEntry, NextField()};
+}
+
+int CEntryEditing::NextField() const
+{
+    const EntryTexts &pending = m_services.rows.pending;
+    if (pending[0].isEmpty() && pending[1].isEmpty()) {
+        return m_services.settings.lang1first ? 0 : 1;
+    }
+    return pending[0].isEmpty() ? 0 : 1;
 }
 
 bool CEntryEditing::DeleteEntries(std::span<const int> entries)

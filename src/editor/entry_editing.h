@@ -12,6 +12,8 @@ class CRowModel;
 class CTexts;
 class CWin32Doc;
 class IUserPrompt;
+enum class PromptIcon;
+struct PromptText;
 struct ArrangeSettings;
 struct EditorSettings;
 
@@ -51,6 +53,8 @@ struct EditStep
         FocusField,
         /// The entry `index` becomes the selection.
         SelectEntry,
+        /// The same, but what is typed goes on in a new entry.
+        SelectAndTypeOn,
         /// The selection becomes empty without the focus moving.
         ClearSelection,
         /// The fields are emptied for the next entry.
@@ -61,6 +65,7 @@ struct EditStep
     Action action = Action::None;
     int index = 0;
     bool operator==(const EditStep &) const = default;
+    bool Selects() const { return action == Action::SelectEntry || action == Action::SelectAndTypeOn; }
 };
 
 /// What the entry editor is handed; none of it is owned.
@@ -88,6 +93,8 @@ public:
     EditStep StoreFields(const EntryTexts &texts, int entry);
     /// Makes an entry of the texts of the new-entry row when both terms are there.
     EditStep StorePending();
+    /// The field of the new-entry row that is typed next.
+    int NextField() const;
     /// Makes an entry of texts of which some may be missing, without a question. See RestAsEntry().
     void AddRest(const EntryTexts &texts);
     /// A cell was edited and not cancelled.
@@ -107,6 +114,9 @@ private:
     /// The term as it is, or as the user lets it be corrected.
     QString Corrected(const QString &term);
     int AskAboutSimilar(int similar);
+    /// Asks someone who may be typing on.
+    bool ConfirmTyped(const PromptText &text, PromptIcon icon);
+    EditStep SelectSimilar(int similar) const;
 
     EntryEditingServices m_services;
     IEntryView &m_view;

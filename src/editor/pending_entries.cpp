@@ -58,7 +58,7 @@ void CPendingEntries::StoreWhole()
     const FieldTexts fields = m_view.Fields();
     EditStep step;
     const auto store = [&step](const EditStep &next) {
-        if (step.action != EditStep::Action::SelectEntry) {
+        if (!step.Selects()) {
             step = next;
         }
     };
@@ -77,7 +77,7 @@ void CPendingEntries::StoreWhole()
     }
     // Selecting an entry would load it over what is left in the fields.
     const bool keepsFields = RestAsEntry(Added(m_view.Fields())).has_value();
-    m_view.Stored(keepsFields && step.action == EditStep::Action::SelectEntry ? EditStep() : step);
+    m_view.Stored(keepsFields && step.Selects() ? EditStep() : step);
     m_storing = false;
 }
 

@@ -35,6 +35,16 @@ public:
     virtual PromptAnswer Ask(
         const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer) = 0;
 
+    /// Ask() for a question that interrupts someone who types and may not look at the screen: keys are no
+    /// answer to it until typing has paused, and what was typed goes on when it is answered.
+    virtual PromptAnswer AskTypist(
+        const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer)
+    {
+        return Ask(text, icon, buttons, defaultAnswer);
+    }
+    /// Whether something that was typed during such a question is still to go on, or does right now.
+    virtual bool TypingGoesOn() const { return false; }
+
     /// For questions on which any answer but Yes leaves everything as it is: true for Yes alone.
     bool Confirm(const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer)
     {

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcutEvent>
 
 #include <limits>
 
@@ -46,7 +47,18 @@ QPushButton *CEntryFields::MakeButton(int text, const char *name)
 {
     auto *button = new QPushButton(m_texts.Get(text), this);
     button->setObjectName(QLatin1StringView(name));
+    button->installEventFilter(this);
     return button;
+}
+
+bool CEntryFields::eventFilter(QObject *watched, QEvent *event)
+{
+    // At once: the toolkit would show the button pressed first, while typing goes on in the field before.
+    if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
+        static_cast<QPushButton *>(watched)->click();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void CEntryFields::SetLanguages(const QString &language1, const QString &language2)

@@ -28,6 +28,8 @@ public:
     bool IsChangeMode() const { return m_changeMode; }
     void FocusField(int field);
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 Q_SIGNALS:
     void NewEntry();
     void AddOrChange();

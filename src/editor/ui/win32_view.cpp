@@ -76,6 +76,7 @@ void CWin32View::ConnectList()
 {
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_suppressSelectionSync) {
+            m_fieldsStandAlone = false;
             ReadSelection();
         }
     });

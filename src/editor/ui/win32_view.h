@@ -111,6 +111,10 @@ private:
     void CellEdited(const CellEdit &edit);
     void FieldsEntered();
     void Follow(const EditStep &step, bool byEnter);
+    /// Selects and shows an entry while what was typed goes on in another.
+    void SelectAndTypeOn(int entry);
+    /// Whether the entry that a question told of stays selected, since what was typed still goes on.
+    bool ShowsFound();
     void CellDoubleClicked(int row, int field, bool shift);
     void SearchTyped(const QString &start, int row);
     void PendingChanged() override;
@@ -138,4 +142,7 @@ private:
     EntryTexts m_loadedTexts;
     /// While an edit is stored and not followed: what would follow.
     std::optional<EditStep> m_storedStep;
+    bool m_showsFound = false;
+    // The fields hold a new entry although one is selected, until the selection changes.
+    bool m_fieldsStandAlone = false;
 };

@@ -4,6 +4,7 @@
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
+#include "platform/user_prompt.h"
 #include "settings/settings.h"
 
 #include <algorithm>
@@ -59,6 +60,9 @@ void CWin32View::Follow(const EditStep &step, bool byEnter)
     case EditStep::Action::SelectEntry:
         SelectEntry(step.index);
         break;
+    case EditStep::Action::SelectAndTypeOn:
+        SelectAndTypeOn(step.index);
+        break;
     case EditStep::Action::ClearSelection:
         m_list->SelectRow(-1, false);
         break;
@@ -67,16 +71,45 @@ void CWin32View::Follow(const EditStep &step, bool byEnter)
         ClearFields();
         break;
     case EditStep::Action::EditNewEntry:
-        if (byEnter) {
+        if (byEnter && ShowsFound()) {
+            m_list->EditCellBeside(InsertionPoint(), step.index);
+        } else if (byEnter) {
             m_list->EditCell(InsertionPoint(), step.index);
         }
         break;
     }
 }
 
+void CWin32View::SelectAndTypeOn(int entry)
+{
+    const bool inFields = m_fields->isAncestorOf(window()->focusWidget());
+    SelectEntry(entry);
+    m_showsFound = true;
+    if (inFields) {
+        EmptyFields();
+        m_fieldsStandAlone = true;
+        m_fields->FocusField(m_services.settings.editor.lang1first ? 0 : 1);
+    } else {
+        const int row = m_model->Rows().RowOfEntry(entry);
+        m_list->scrollTo(m_model->index(InsertionPoint(), m_model->column(0)));
+        if (!m_list->IsRowVisible(row)) {
+            m_list->scrollTo(m_model->index(row, m_model->column(0)));
+        }
+        m_list->EditCellBeside(InsertionPoint(), m_editing.NextField());
+    }
+}
+
+bool CWin32View::ShowsFound()
+{
+    m_showsFound = m_showsFound && m_services.prompt.TypingGoesOn();
+    return m_showsFound;
+}
+
 void CWin32View::ClearFields()
 {
-    m_list->SelectRow(-1, false);
+    if (!ShowsFound()) {
+        m_list->SelectRow(-1, false);
+    }
     EmptyFields();
     if (m_services.settings.editor.showEditFields) {
         m_fields->FocusField(m_services.settings.editor.lang1first ? 0 : 1);
@@ -137,8 +170,8 @@ void CWin32View::EmptyFields()
 
 void CWin32View::Stored(const EditStep &step)
 {
-    if (step.action == EditStep::Action::SelectEntry) {
-        SelectEntry(step.index);
+    if (step.Selects()) {
+        Follow(step, false);
     } else if (step.action == EditStep::Action::EditNewEntry && m_list->CursorRow() == InsertionPoint()) {
         // Who types on doesn't type over what waits there.
         m_list->SetCursor(InsertionPoint(), step.index);

@@ -145,6 +145,9 @@ void CWin32View::ReadSelection()
 
 void CWin32View::LoadFields(int entry)
 {
+    if (m_fieldsStandAlone) {
+        return;
+    }
     m_fields->SetChangeMode(entry >= 0);
     EntryTexts texts;
     if (entry >= 0) {

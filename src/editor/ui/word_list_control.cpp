@@ -241,6 +241,13 @@ void CWordListControl::EditCell(int row, int field)
     edit(index, AllEditTriggers, nullptr);
 }
 
+void CWordListControl::EditCellBeside(int row, int field)
+{
+    SetCursor(row, field);
+    setFocus();
+    edit(currentIndex(), AllEditTriggers, nullptr);
+}
+
 std::optional<OpenEdit> CWordListControl::EditedCell() const
 {
     return m_delegate->Edited();

@@ -72,6 +72,8 @@ public:
 
     bool IsEditing() const { return state() == EditingState; }
     void EditCell(int row, int field);
+    /// The same, but what is selected stays so and nothing scrolls.
+    void EditCellBeside(int row, int field);
     /// What is being edited; none without an open edit.
     std::optional<OpenEdit> EditedCell() const;
     /// Ends editing in place. A committed edit, also one that ended a moment ago, is told by CellEdited()
