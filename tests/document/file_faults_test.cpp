@@ -65,11 +65,12 @@ bool KeepCopies(const Folders &folders)
         if (!test.document.OpenDocument(path)) {
             return false;
         }
-        CWordList &list = test.document.BeginChange();
-        list.DeleteAll();
-        for (const QString &entry : Entries(word)) {
-            list.Insert(MakeEntry(entry));
-        }
+        test.document.Change([&word](CWordList &list) {
+            list.DeleteAll();
+            for (const QString &entry : Entries(word)) {
+                list.Insert(MakeEntry(entry));
+            }
+        });
         kept = recovery.Keep();
     }
     return kept;
