@@ -8,8 +8,6 @@
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-#include <algorithm>
-
 namespace {
 
 // Values of the settings `wordsToQuiz`, `includeFlaggedWords` and `requiz`.
@@ -17,11 +15,6 @@ constexpr int FixedNumber = 1;
 constexpr int FixedShare = 2;
 constexpr int Sometimes = 2;
 constexpr int RoundsAfter = 1;
-
-void BringInto(const CQuizSettingsForm::Range &range, int &value)
-{
-    value = std::clamp(value, range.lowest, range.highest);
-}
 
 }
 
@@ -31,10 +24,10 @@ CQuizSettingsForm::CQuizSettingsForm(QuizSettings &settings, const std::array<QS
       m_dataFolders(dataFolders)
 {
     // Some are stored without bounds.
-    BringInto(NumberOfWords, values.numberOfWords);
+    values.numberOfWords = NumberOfWords.Clamped(values.numberOfWords);
     for (int *const value :
         {&values.quizNumber, &values.partOfWords, &values.includeFlaggedProbability, &values.requizNumber}) {
-        BringInto(Others, *value);
+        *value = Others.Clamped(*value);
     }
 }
 

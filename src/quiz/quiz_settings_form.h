@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/number_range.h"
 #include "settings/quiz_settings.h"
 
 #include <QStringList>
@@ -15,14 +16,9 @@ class IFileChooser;
 class CQuizSettingsForm
 {
 public:
-    struct Range
-    {
-        int lowest;
-        int highest;
-    };
-    static constexpr Range NumberOfWords = {1, 1000};
+    static constexpr NumberRange NumberOfWords = {1, 1000};
     /// Rounds, repeats, shares and probabilities.
-    static constexpr Range Others = {1, 100};
+    static constexpr NumberRange Others = {1, 100};
     /// The values of `requiz` in the order of their buttons.
     static constexpr std::array<int, 3> RequizButtons = {0, 2, 1};
 

@@ -173,12 +173,12 @@ void QuizSettingsTest::choosingSounds()
     Window window(settings);
     window.chooser.paths = {QString(), QStringLiteral("/x/ding.wav")};
     auto *const file = window.Find<QLineEdit>("fileWrong");
-    window.Find<QPushButton>("browseWrong")->click();
+    window.Find<QPushButton>("fileWrongBrowse")->click();
     QCOMPARE(file->text(), QStringLiteral("wrong.wav"));
     QCOMPARE(window.chooser.asked.first().start, QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/wrong.wav"));
     QCOMPARE(window.chooser.asked.first().filters,
         (QStringList{QStringLiteral("Ljud (*.wav)"), QStringLiteral("Alla filer (*)")}));
-    window.Find<QPushButton>("browseWrong")->click();
+    window.Find<QPushButton>("fileWrongBrowse")->click();
     QCOMPARE(file->text(), QStringLiteral("/x/ding.wav"));
     window.dialog.accept();
     QCOMPARE(settings.wrongSoundFile, QStringLiteral("/x/ding.wav"));
@@ -195,10 +195,10 @@ void QuizSettingsTest::valuesOutsideTheirRanges()
     QCOMPARE(window.Find<QSpinBox>("partOfWords")->value(), 100);
     auto *const rounds = window.Find<QSpinBox>("quizNumber");
     rounds->selectAll();
-    QTest::keyClicks(rounds, QStringLiteral("500"));
+    QTest::keyClicks(rounds, QStringLiteral("7000"));
     QTest::keyClick(rounds, Qt::Key_Return);
     QVERIFY(!window.dialog.isVisible());
-    QCOMPARE(settings.quizNumber, 50);
+    QCOMPARE(settings.quizNumber, 100);
     QCOMPARE(settings.numberOfWords, 1);
     QCOMPARE(settings.partOfWords, 100);
 }

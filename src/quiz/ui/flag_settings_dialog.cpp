@@ -2,6 +2,7 @@
 #include "quiz/ui/flag_settings_dialog.h"
 
 #include "platform/ui/label.h"
+#include "platform/ui/number_field.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_result.h"
 #include "resources/text_numbers.h"
@@ -13,7 +14,6 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QSpinBox>
 
 CFlagSettingsDialog::CFlagSettingsDialog(
     ResultSettings &settings, const CTexts &texts, IUserPrompt &prompt, QWidget *parent)
@@ -60,13 +60,11 @@ QCheckBox *CFlagSettingsDialog::addSwitch(QGridLayout &grid, int text, const cha
     return box;
 }
 
-QSpinBox *CFlagSettingsDialog::addLimit(QGridLayout &grid, QCheckBox &toggle, const char *name, int value)
+CNumberField *CFlagSettingsDialog::addLimit(QGridLayout &grid, QCheckBox &toggle, const char *name, int value)
 {
-    auto *limit = new QSpinBox(this);
+    auto *limit = new CNumberField({0, 100}, value, this);
     limit->setObjectName(QLatin1StringView(name));
     limit->setAccessibleName(toggle.accessibleName() + u' ' + m_texts.Get(Text::PercentRight));
-    limit->setRange(0, 100);
-    limit->setValue(value);
     limit->setEnabled(toggle.isChecked());
     connect(&toggle, &QCheckBox::toggled, limit, &QWidget::setEnabled);
     QLabel *const unit = MakeLabel(m_texts.Get(Text::PercentRight), this);
@@ -79,9 +77,9 @@ void CFlagSettingsDialog::accept()
 {
     ResultSettings settings = m_settings;
     settings.flagWord = m_flag->isChecked();
-    settings.flagWordLimit = m_flagLimit->value();
+    settings.flagWordLimit = m_flagLimit->Entered();
     settings.unFlagWord = m_unflag->isChecked();
-    settings.unFlagWordLimit = m_unflagLimit->value();
+    settings.unFlagWordLimit = m_unflagLimit->Entered();
     settings.changeUnasked = m_unasked->isChecked();
     settings.changeUnaskedTo = m_unaskedTo->currentIndex();
     if (flagLimitsContradict(settings)) {

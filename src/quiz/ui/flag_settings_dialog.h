@@ -3,12 +3,12 @@
 
 #include <QDialog>
 
+class CNumberField;
 class CTexts;
 class IUserPrompt;
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
-class QSpinBox;
 struct ResultSettings;
 
 /// The window for the limits by which a quiz changes flags. OK stores them, unless they contradict each other.
@@ -25,15 +25,15 @@ public:
 
 private:
     QCheckBox *addSwitch(QGridLayout &grid, int text, const char *name, bool on);
-    QSpinBox *addLimit(QGridLayout &grid, QCheckBox &toggle, const char *name, int value);
+    CNumberField *addLimit(QGridLayout &grid, QCheckBox &toggle, const char *name, int value);
 
     ResultSettings &m_settings;
     const CTexts &m_texts;
     IUserPrompt &m_prompt;
     QCheckBox *m_flag;
-    QSpinBox *m_flagLimit;
+    CNumberField *m_flagLimit;
     QCheckBox *m_unflag;
-    QSpinBox *m_unflagLimit;
+    CNumberField *m_unflagLimit;
     QCheckBox *m_unasked;
     QComboBox *m_unaskedTo;
 };

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_settings1.h"
 
-#include "quiz/ui/setting_controls.h"
+#include "platform/ui/label.h"
+#include "platform/ui/number_field.h"
+#include "platform/ui/setting_controls.h"
+#include "quiz/quiz_settings_form.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -11,20 +14,19 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
-#include <QSpinBox>
 
 CQuizSettings1::CQuizSettings1(CQuizSettingsForm &form, QWidget *parent) : QWidget(parent)
 {
     const CTexts &texts = form.texts();
     QuizSettings &values = form.values;
     auto *rows = new QFormLayout;
-    rows->addRow(makeExplanation(this, texts.Get(Text::QuizSettingsRoundsQuestion)));
-    addRow(*rows, texts.Get(Text::QuizSettingsRounds),
-        makeNumber(this, "quizNumber", CQuizSettingsForm::Others, values.quizNumber));
+    rows->addRow(MakeWrappedLabel(texts.Get(Text::QuizSettingsRoundsQuestion), this));
+    AddRow(*rows, texts.Get(Text::QuizSettingsRounds),
+        MakeNumber(this, "quizNumber", CQuizSettingsForm::Others, values.quizNumber));
 
     auto *checks = new QVBoxLayout;
     const auto addCheck = [&](const char *name, int caption, bool &value) {
-        checks->addWidget(makeCheckBox(this, name, texts.Get(caption), value));
+        checks->addWidget(MakeCheckBox(this, name, texts.Get(caption), value));
     };
     addCheck("showResult", Text::QuizSettingsShowResult, values.showResult);
     addCheck(
@@ -33,16 +35,16 @@ CQuizSettings1::CQuizSettings1(CQuizSettingsForm &form, QWidget *parent) : QWidg
     addCheck("allowChanges", Text::QuizSettingsAllowChanges, values.allowChanges);
 
     auto *order = new QFormLayout;
-    addRow(*order, texts.Get(Text::QuizSettingsOrder),
-        makeChoice(this, "order", texts.Get(Text::QuizOrders), values.order));
+    AddRow(*order, texts.Get(Text::QuizSettingsOrder),
+        MakeChoice(this, "order", texts.Get(Text::QuizOrders), values.order));
 
     auto *languages = new QGroupBox(texts.Get(Text::QuizSettingsLanguages), this);
     languages->setObjectName(QStringLiteral("languages"));
     auto *directions = new QVBoxLayout(languages);
     directions->addWidget(
-        makeRadioButton(languages, "fromLanguage1", form.DirectionCaption(0), 0, values.showLanguage));
+        MakeRadioButton(languages, "fromLanguage1", form.DirectionCaption(0), 0, values.showLanguage));
     directions->addWidget(
-        makeRadioButton(languages, "fromLanguage2", form.DirectionCaption(1), 1, values.showLanguage));
+        MakeRadioButton(languages, "fromLanguage2", form.DirectionCaption(1), 1, values.showLanguage));
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(rows);

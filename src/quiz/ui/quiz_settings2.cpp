@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_settings2.h"
 
-#include "quiz/ui/setting_controls.h"
+#include "platform/ui/label.h"
+#include "platform/ui/number_field.h"
+#include "platform/ui/setting_controls.h"
+#include "quiz/quiz_settings_form.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QSpinBox>
 
 CQuizSettings2::CQuizSettings2(CQuizSettingsForm &form, QWidget *parent) : QWidget(parent), m_form(form)
 {
@@ -20,31 +22,31 @@ CQuizSettings2::CQuizSettings2(CQuizSettingsForm &form, QWidget *parent) : QWidg
         if (rows->rowCount() > 0) {
             rows->setItem(rows->rowCount(), QFormLayout::SpanningRole, new QSpacerItem(0, gap));
         }
-        QLabel *const explanation = makeExplanation(this, texts.Get(text));
+        QLabel *const explanation = MakeWrappedLabel(texts.Get(text), this);
         rows->addRow(explanation);
         return explanation;
     };
-    const auto addNumber = [&](int question, int caption, int unit, QSpinBox *number) {
+    const auto addNumber = [&](int question, int caption, int unit, QWidget *number) {
         QList<QWidget *> row = {explain(question)};
-        return row + addRow(*rows, texts.Get(caption), number, texts.Get(unit));
+        return row + AddRow(*rows, texts.Get(caption), number, texts.Get(unit));
     };
 
     explain(Text::QuizSettingsWordsQuestion);
-    auto *words = makeChoice(this, "wordsToQuiz", texts.Get(Text::QuizWordChoices), values.wordsToQuiz);
-    addRow(*rows, texts.Get(Text::QuizSettingsWords), words);
+    auto *words = MakeChoice(this, "wordsToQuiz", texts.Get(Text::QuizWordChoices), values.wordsToQuiz);
+    AddRow(*rows, texts.Get(Text::QuizSettingsWords), words);
     m_number =
         addNumber(Text::QuizSettingsNumberQuestion, Text::QuizSettingsNumber, Text::QuizSettingsNumberUnit,
-            makeNumber(this, "numberOfWords", CQuizSettingsForm::NumberOfWords, values.numberOfWords));
+            MakeNumber(this, "numberOfWords", CQuizSettingsForm::NumberOfWords, values.numberOfWords));
     m_share = addNumber(Text::QuizSettingsShareQuestion, Text::QuizSettingsShare, Text::QuizSettingsPercent,
-        makeNumber(this, "partOfWords", CQuizSettingsForm::Others, values.partOfWords));
+        MakeNumber(this, "partOfWords", CQuizSettingsForm::Others, values.partOfWords));
 
     explain(Text::QuizSettingsFlaggedQuestion);
     auto *flagged =
-        makeChoice(this, "includeFlaggedWords", texts.Get(Text::FlaggedChoices), values.includeFlaggedWords);
-    addRow(*rows, texts.Get(Text::QuizSettingsFlagged), flagged);
+        MakeChoice(this, "includeFlaggedWords", texts.Get(Text::FlaggedChoices), values.includeFlaggedWords);
+    AddRow(*rows, texts.Get(Text::QuizSettingsFlagged), flagged);
     m_probability = addNumber(Text::QuizSettingsProbabilityQuestion, Text::QuizSettingsProbability,
         Text::QuizSettingsPercent,
-        makeNumber(
+        MakeNumber(
             this, "includeFlaggedProbability", CQuizSettingsForm::Others, values.includeFlaggedProbability));
 
     connect(words, &QComboBox::currentIndexChanged, this, &CQuizSettings2::UpdateEnabled);
@@ -54,7 +56,7 @@ CQuizSettings2::CQuizSettings2(CQuizSettingsForm &form, QWidget *parent) : QWidg
 
 void CQuizSettings2::UpdateEnabled()
 {
-    setAllEnabled(m_number, m_form.IsNumberUsed());
-    setAllEnabled(m_share, m_form.IsShareUsed());
-    setAllEnabled(m_probability, m_form.IsProbabilityUsed());
+    SetAllEnabled(m_number, m_form.IsNumberUsed());
+    SetAllEnabled(m_share, m_form.IsShareUsed());
+    SetAllEnabled(m_probability, m_form.IsProbabilityUsed());
 }

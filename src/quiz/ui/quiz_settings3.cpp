@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_settings3.h"
 
-#include "quiz/ui/setting_controls.h"
+#include "platform/ui/label.h"
+#include "platform/ui/number_field.h"
+#include "platform/ui/setting_controls.h"
+#include "quiz/quiz_settings_form.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -14,7 +17,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 
 CQuizSettings3::CQuizSettings3(CQuizSettingsForm &form, QWidget *parent) : QWidget(parent), m_form(form)
 {
@@ -22,50 +24,39 @@ CQuizSettings3::CQuizSettings3(CQuizSettingsForm &form, QWidget *parent) : QWidg
     QuizSettings &values = form.values;
     auto *layout = new QVBoxLayout(this);
     auto *check = new QFormLayout;
-    addRow(*check, texts.Get(Text::QuizSettingsCheck),
-        makeChoice(this, "characterCheck", texts.Get(Text::CharacterChecks), values.characterCheck));
+    AddRow(*check, texts.Get(Text::QuizSettingsCheck),
+        MakeChoice(this, "characterCheck", texts.Get(Text::CharacterChecks), values.characterCheck));
     layout->addLayout(check);
     const auto addCheck = [&](const char *name, int caption, bool &value) {
-        layout->addWidget(makeCheckBox(this, name, texts.Get(caption), value));
+        layout->addWidget(MakeCheckBox(this, name, texts.Get(caption), value));
     };
     addCheck("ignoreCase", Text::QuizSettingsIgnoreCase, values.ignoreCase);
     addCheck("showAnswer", Text::QuizSettingsShowAnswer, values.showAnswer);
     addCheck("showAnswerIfOneCorrect", Text::QuizSettingsShowAnswers, values.showAnswerIfOneCorrect);
 
     auto *sounds = new QGridLayout;
-    AddSound(*sounds, "Right",
-        {Text::QuizSettingsPlayRight, Text::QuizSettingsRightFile, Text::QuizSettingsBrowseRight,
-            values.playRight, values.rightSoundFile});
-    AddSound(*sounds, "Wrong",
-        {Text::QuizSettingsPlayWrong, Text::QuizSettingsWrongFile, Text::QuizSettingsBrowseWrong,
-            values.playWrong, values.wrongSoundFile});
+    AddSound(*sounds,
+        {"playRight", "fileRight", Text::QuizSettingsPlayRight, Text::QuizSettingsRightFile,
+            Text::QuizSettingsBrowseRight, values.playRight, values.rightSoundFile});
+    AddSound(*sounds,
+        {"playWrong", "fileWrong", Text::QuizSettingsPlayWrong, Text::QuizSettingsWrongFile,
+            Text::QuizSettingsBrowseWrong, values.playWrong, values.wrongSoundFile});
     layout->addLayout(sounds);
     layout->addWidget(MakeRequiz());
     layout->addStretch(1);
     UpdateEnabled();
 }
 
-void CQuizSettings3::AddSound(QGridLayout &grid, const char *name, const Sound &sound)
+void CQuizSettings3::AddSound(QGridLayout &grid, const Sound &sound)
 {
     const CTexts &texts = m_form.texts();
-    const QString suffix = QString::fromLatin1(name);
-    auto *play = makeCheckBox(this, "", texts.Get(sound.caption), sound.play);
-    play->setObjectName(QStringLiteral("play") + suffix);
-    auto *file = new QLineEdit(sound.fileName, this);
-    file->setObjectName(QStringLiteral("file") + suffix);
-    file->setAccessibleName(texts.Get(sound.file));
-    auto *browse = new QPushButton(texts.Get(sound.browse), this);
-    browse->setObjectName(QStringLiteral("browse") + suffix);
-    file->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
+    auto *play = MakeCheckBox(this, sound.switchName, texts.Get(sound.caption), sound.play);
+    const FileField file = MakeFileField(this, sound.fieldName, texts.Get(sound.file), texts.Get(sound.browse),
+        sound.fileName, [this](const QString &current) { return m_form.BrowseSound(current); });
     const int row = grid.rowCount();
     grid.addWidget(play, row, 0);
-    grid.addWidget(file, row, 1);
-    grid.addWidget(browse, row, 2);
-
-    connect(file, &QLineEdit::textChanged, this,
-        [&stored = sound.fileName](const QString &text) { stored = text; });
-    connect(
-        browse, &QPushButton::clicked, this, [this, file] { file->setText(m_form.BrowseSound(file->text())); });
+    grid.addWidget(file.name, row, 1);
+    grid.addWidget(file.browse, row, 2);
 }
 
 QGroupBox *CQuizSettings3::MakeRequiz()
@@ -79,16 +70,16 @@ QGroupBox *CQuizSettings3::MakeRequiz()
         Text::QuizSettingsNoRequiz, Text::QuizSettingsAskAgain, Text::QuizSettingsRequizAfter};
     constexpr const char *Names[] = {"noRequiz", "askAgain", "requizAfter"};
     for (size_t button = 0; button < std::size(Captions); ++button) {
-        auto *radio = makeRadioButton(group, Names[button], texts.Get(Captions[button]),
+        auto *radio = MakeRadioButton(group, Names[button], texts.Get(Captions[button]),
             CQuizSettingsForm::RequizButtons[button], values.requiz);
         layout->addWidget(radio);
         connect(radio, &QRadioButton::toggled, this, &CQuizSettings3::UpdateEnabled);
     }
 
-    m_requizMax = makeCheckBox(group, "requizMax", texts.Get(Text::QuizSettingsRequizMax), values.requizMax);
-    m_requizNumber = makeNumber(group, "requizNumber", CQuizSettingsForm::Others, values.requizNumber);
+    m_requizMax = MakeCheckBox(group, "requizMax", texts.Get(Text::QuizSettingsRequizMax), values.requizMax);
+    m_requizNumber = MakeNumber(group, "requizNumber", CQuizSettingsForm::Others, values.requizNumber);
     m_requizNumber->setAccessibleName(texts.Get(Text::QuizSettingsRequizNumber));
-    m_times = makeExplanation(group, texts.Get(Text::QuizSettingsTimes));
+    m_times = MakeLabel(texts.Get(Text::QuizSettingsTimes), group);
     auto *row = new QHBoxLayout;
     row->addWidget(m_requizMax);
     row->addWidget(m_requizNumber);

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/ui/settings_sheet.h"
 #include "quiz/quiz_settings_form.h"
 
-#include <QDialog>
-
 /// The window of quiz settings: three pages, stored together with OK.
-class CQuizSettingsDialog : public QDialog
+class CQuizSettingsDialog : public CSettingsSheet
 {
     Q_OBJECT
 

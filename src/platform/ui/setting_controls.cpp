@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "quiz/ui/setting_controls.h"
+#include "platform/ui/setting_controls.h"
 
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
+#include "platform/ui/number_field.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 
-QCheckBox *makeCheckBox(QWidget *page, const char *name, const QString &caption, bool &value)
+QCheckBox *MakeCheckBox(QWidget *page, const char *name, const QString &caption, bool &value)
 {
     auto *box = new QCheckBox(caption, page);
     box->setObjectName(QLatin1StringView(name));
@@ -22,7 +24,7 @@ QCheckBox *makeCheckBox(QWidget *page, const char *name, const QString &caption,
     return box;
 }
 
-QComboBox *makeChoice(QWidget *page, const char *name, const QString &items, int &value)
+QComboBox *MakeChoice(QWidget *page, const char *name, const QString &items, int &value)
 {
     auto *choice = new QComboBox(page);
     choice->setObjectName(QLatin1StringView(name));
@@ -32,17 +34,15 @@ QComboBox *makeChoice(QWidget *page, const char *name, const QString &items, int
     return choice;
 }
 
-QSpinBox *makeNumber(QWidget *page, const char *name, const CQuizSettingsForm::Range &range, int &value)
+CNumberField *MakeNumber(QWidget *page, const char *name, const NumberRange &range, int &value)
 {
-    auto *number = new QSpinBox(page);
+    auto *number = new CNumberField(range, value, page);
     number->setObjectName(QLatin1StringView(name));
-    number->setRange(range.lowest, range.highest);
-    number->setValue(value);
-    QObject::connect(number, &QSpinBox::valueChanged, number, [&value](int entered) { value = entered; });
+    QObject::connect(number, &CNumberField::NumberEntered, number, [&value](int entered) { value = entered; });
     return number;
 }
 
-QRadioButton *makeRadioButton(QWidget *page, const char *name, const QString &caption, int chosen, int &value)
+QRadioButton *MakeRadioButton(QWidget *page, const char *name, const QString &caption, int chosen, int &value)
 {
     auto *button = new QRadioButton(caption, page);
     button->setObjectName(QLatin1StringView(name));
@@ -56,12 +56,22 @@ QRadioButton *makeRadioButton(QWidget *page, const char *name, const QString &ca
     return button;
 }
 
-QLabel *makeExplanation(QWidget *page, const QString &text)
+FileField MakeFileField(QWidget *page, const char *name, const QString &readOut, const QString &browseCaption,
+    QString &value, const std::function<QString(const QString &)> &browse)
 {
-    return MakeWrappedLabel(text, page);
+    auto *file = new QLineEdit(value, page);
+    file->setObjectName(QLatin1StringView(name));
+    file->setAccessibleName(readOut);
+    file->setMinimumWidth(page->fontMetrics().averageCharWidth() * 40);
+    auto *button = new QPushButton(browseCaption, page);
+    button->setObjectName(file->objectName() + QStringLiteral("Browse"));
+    QObject::connect(file, &QLineEdit::textChanged, file, [&value](const QString &text) { value = text; });
+    QObject::connect(
+        button, &QPushButton::clicked, file, [file, browse] { file->setText(browse(file->text())); });
+    return {file, button};
 }
 
-QList<QWidget *> addRow(QFormLayout &form, const QString &caption, QWidget *control, const QString &unit)
+QList<QWidget *> AddRow(QFormLayout &form, const QString &caption, QWidget *control, const QString &unit)
 {
     QWidget *const page = control->parentWidget();
     QLabel *const label = MakeLabel(caption, page);
@@ -71,7 +81,7 @@ QList<QWidget *> addRow(QFormLayout &form, const QString &caption, QWidget *cont
     field->addWidget(control);
     QList<QWidget *> row = {label, control};
     if (!unit.isEmpty()) {
-        row.append(makeExplanation(page, unit));
+        row.append(MakeLabel(unit, page));
         field->addWidget(row.last());
     }
     field->addStretch(1);
@@ -79,7 +89,7 @@ QList<QWidget *> addRow(QFormLayout &form, const QString &caption, QWidget *cont
     return row;
 }
 
-void setAllEnabled(const QList<QWidget *> &widgets, bool enabled)
+void SetAllEnabled(const QList<QWidget *> &widgets, bool enabled)
 {
     for (QWidget *const widget : widgets) {
         widget->setEnabled(enabled);
