@@ -48,7 +48,9 @@ void FileCommandsTest::unsavedChanges()
     TestDocument test(QStringList{QStringLiteral("a|b")});
     test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Toggle); });
     CScriptedChooser chooser;
-    chooser.paths = {chosenName.isEmpty() ? QString() : folder.filePath(chosenName)};
+    if (answer == PromptAnswer::Yes) {
+        chooser.paths = {chosenName.isEmpty() ? QString() : folder.filePath(chosenName)};
+    }
     test.prompt.answers = {answer};
     CMemoryStore store;
     CRecentFiles recent(store, QStringLiteral("root"));

@@ -140,7 +140,9 @@ void EntryEditingTest::corrections()
     QFETCH(QString, proposal);
     for (const bool accept : {true, false}) {
         Editor editor;
-        editor.test.prompt.answers = {accept ? PromptAnswer::Yes : PromptAnswer::No};
+        if (!proposal.isEmpty()) {
+            editor.test.prompt.answers = {accept ? PromptAnswer::Yes : PromptAnswer::No};
+        }
         editor.editing.FromFields({typed, T("x"), {}}, CRowModel::NoEntry);
         QCOMPARE(editor.test.prompt.numbers,
             proposal.isEmpty() ? QList<int>() : QList<int>{Text::ProposeCorrection});

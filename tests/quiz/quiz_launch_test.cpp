@@ -74,7 +74,9 @@ void QuizLaunchTest::questionAboutDuplicates()
         TestQuiz run(entries);
         run.test.settings.duplicateCheckBeforeQuiz = check;
         run.test.settings.duplilcateCheckBeforeQuizMax = limit;
-        run.test.prompt.answers = {answer};
+        if (asked) {
+            run.test.prompt.answers = {answer};
+        }
         run.launch.startQuiz(0);
         QCOMPARE(run.test.prompt.numbers, questions);
         QCOMPARE(run.launch.isRunning(), !asked || answer == PromptAnswer::Yes);

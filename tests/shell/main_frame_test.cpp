@@ -12,6 +12,7 @@
 #include "settings/shell_settings.h"
 #include "shell/commands.h"
 #include "shell/ui/about_dialog.h"
+#include "shell/ui/command_actions.h"
 #include "shell/ui/main_frame.h"
 #include "shell/ui/special_character_keys.h"
 #include "support/silent_sounds.h"
@@ -79,6 +80,7 @@ private Q_SLOTS:
     void selectingManyEntries();
     void closing();
     void everyCommandOnAnEmptyList();
+    void commandsAndTheirMarks();
     void clipboardCommands();
     void commandsWhileACellIsEdited();
     void whatIsTypedIsNotLost();
@@ -159,6 +161,27 @@ void MainFrameTest::everyCommandOnAnEmptyList()
     QVERIFY(std::ranges::none_of(
         windows, [](QWidget *window) { return qobject_cast<CStandardQuiz *>(window) != nullptr; }));
     QVERIFY(run.test.prompt.numbers.isEmpty());
+}
+
+void MainFrameTest::commandsAndTheirMarks()
+{
+    using namespace CommandId;
+    // What nobody carries out can't be chosen.
+    const CTexts texts;
+    CCommandActions actions(texts, nullptr);
+    actions.SetHandler(NewFile, [] {});
+    actions.UpdateEnabled({});
+    QVERIFY(actions.Action(NewFile)->isEnabled() && !actions.Action(OpenFile)->isEnabled());
+
+    Frame run;
+    for (const auto &[command, shown] : {std::pair(int(ShowWordNumber), &EditorSettings::showWordNumber),
+             {ShowEditFields, &EditorSettings::showEditFields}, {ShowNotes, &EditorSettings::showNotes}}) {
+        for (const bool on : {!(run.test.settings.*shown), run.test.settings.*shown}) {
+            run.Command(command)->trigger();
+            QCOMPARE(run.test.settings.*shown, on);
+            QCOMPARE(run.Command(command)->isChecked(), on);
+        }
+    }
 }
 
 void MainFrameTest::clipboardCommands()
@@ -250,7 +273,7 @@ void MainFrameTest::whatIsTypedIsNotLost()
     QCOMPARE(ReadWordListFile(read, path), ReadResult::Read);
     QCOMPARE(read.Entry(0).GetText(0), QStringLiteral("saved"));
     type("asked");
-    run.test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::No};
+    run.test.prompt.answers = {PromptAnswer::Cancel};
     run.frame.close();
     QCOMPARE(run.test.prompt.numbers, QList<int>{Text::SaveChanges});
     QCOMPARE(run.test.document.List().Entry(0).GetText(0), QStringLiteral("asked"));

@@ -3,18 +3,43 @@
 
 #include "platform/file_chooser.h"
 #include "platform/user_prompt.h"
+#include "support/prompt_forms.h"
 
 #include <QList>
 #include <QStringList>
+#include <QTest>
 
-/// Answers questions by script and records which texts were shown.
+/// Fails the running test.
+inline void FailTest(const QString &why)
+{
+    QTest::qFail(qPrintable(why), __FILE__, __LINE__);
+}
+
+/// Answers questions by script and records which texts were shown. A test fails where a text is not shown as
+/// PromptForms() says, and where nobody asked for an answer of the script.
 class CScriptedPrompt : public IUserPrompt
 {
 public:
-    void Tell(const PromptText &text, PromptIcon icon) override { Record(text, icon); }
-    PromptAnswer Ask(const PromptText &text, PromptIcon icon, PromptButtons /*buttons*/,
-        PromptAnswer /*defaultAnswer*/) override
+    ~CScriptedPrompt() override
     {
+        if (!answers.isEmpty()) {
+            FailTest(QStringLiteral("%1 answers were not asked for").arg(answers.size()));
+        }
+    }
+
+    void Tell(const PromptText &text, PromptIcon icon) override
+    {
+        // A feedback with the program's own sound is shown without that of the desktop.
+        const bool isFeedback = text.number >= Text::AnswerAfterSkip && text.number <= Text::AnswerAfterWrong;
+        if (!isFeedback || (icon != PromptIcon::Information && icon != PromptIcon::PlainInformation)) {
+            Check({text.number, icon});
+        }
+        Record(text, icon);
+    }
+    PromptAnswer Ask(
+        const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer) override
+    {
+        Check({text.number, icon, buttons, defaultAnswer});
         Record(text, icon);
         return answers.isEmpty() ? PromptAnswer::Cancel : answers.takeFirst();
     }
@@ -25,6 +50,13 @@ public:
     QList<PromptIcon> icons;
 
 private:
+    static void Check(const PromptForm &form)
+    {
+        if (!PromptForms().contains(form)) {
+            FailTest(
+                QStringLiteral("Text %1 is shown in another form than in prompt_forms.h").arg(form.number));
+        }
+    }
     void Record(const PromptText &text, PromptIcon icon)
     {
         numbers.append(text.number);
@@ -37,6 +69,13 @@ private:
 class CScriptedChooser : public IFileChooser
 {
 public:
+    ~CScriptedChooser() override
+    {
+        if (!paths.isEmpty()) {
+            FailTest(QStringLiteral("Nobody chose %1").arg(paths.join(u' ')));
+        }
+    }
+
     QString ChooseFileToOpen(const FileChoice &choice) override { return Take(choice); }
     QString ChooseFileToSave(const FileChoice &choice, qsizetype *chosenFilter) override
     {
