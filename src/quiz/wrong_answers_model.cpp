@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/wrong_answers_model.h"
 
+#include "platform/plain_text.h"
 #include "quiz/quiz_session.h"
 #include "quiz/shortened.h"
 #include "resources/text_numbers.h"
@@ -65,7 +66,7 @@ QString differenceAsHtml(const AnswerDifference &difference)
         typed += same ? Escaped(part.typed) : Tagged(part.typed, "s");
         expected += same ? Escaped(part.expected) : Tagged(part.expected, "u");
     }
-    return typed + QStringLiteral(" → ") + expected;
+    return Isolated(typed) + QStringLiteral(" → ") + Isolated(expected);
 }
 
 QString slipName(Slip slip, const CTexts &texts)

@@ -101,6 +101,10 @@ void AnswerDifferenceTest::shown()
     const AnswerDifference ignored = answerDifference(CWordEntry(QStringLiteral("to-be")), 0,
         QStringLiteral("Tobbe!"), {.ignoreCase = true, .characterCheck = CharacterCheck::OnlyLetters});
     QCOMPARE(differenceAsHtml(ignored), QStringLiteral("Tob<s>b</s>e! → to-be"));
+    // What was typed doesn't turn what is right.
+    const AnswerDifference turned =
+        answerDifference(CWordEntry(QStringLiteral("a")), 0, QStringLiteral("a\u202E"), {});
+    QCOMPARE(differenceAsHtml(turned), QStringLiteral("\u2068a<s>\u202E</s>\u2069 → a"));
     QCOMPARE(differenceInWords(ignored, texts),
         QStringLiteral("\"Tobbe!\", rätt är \"to-be\": ta bort \"b\". En bokstav fel."));
     QStringList slips;
