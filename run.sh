@@ -1,10 +1,15 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds the program and opens it on the sample list, or on the file named.
-# Without a display it starts on a virtual one, saves a picture of its window under build/ and ends.
+# Installs what is missing, builds the program and opens it on the sample list, or on the file named; fails when that
+# can't be opened. Without a display it starts on a virtual one, saves a picture of its window under build/ and ends.
 set -euo pipefail
 file=${1:-}
 if [ -n "$file" ]; then
+    # Before anything is installed or built.
+    if [ ! -f "$file" ] || [ ! -r "$file" ]; then
+        echo "run.sh: $file is no file that can be read." >&2
+        exit 1
+    fi
     file=$(realpath -- "$file")
 fi
 cd "$(dirname "$0")"
@@ -19,5 +24,8 @@ if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     exec "$program" -- "$file"
 fi
 scripts/setup.sh display
-scripts/picture.sh build/main-window.png "$program" -- "$file"
+if ! scripts/picture.sh build/main-window.png "$program" -- "$file"; then
+    echo "run.sh: $file could not be opened." >&2
+    exit 1
+fi
 echo "There is no display here. A picture of the window is in $PWD/build/main-window.png"
