@@ -9,7 +9,7 @@
 
 namespace {
 
-AcceptOffer Offer(AcceptOffer::Kind kind, const QuizQuestion &question, const QString &answer)
+AcceptOffer offerAbout(AcceptOffer::Kind kind, const QuizQuestion &question, const QString &answer)
 {
     return {kind, answer, question.entry.GetText(question.questionColumn)};
 }
@@ -19,7 +19,7 @@ AcceptOffer Offer(AcceptOffer::Kind kind, const QuizQuestion &question, const QS
 AcceptOffer acceptOffer(const CQuizSession &session, int position, const QString &answer)
 {
     return session.mayAccept(position, answer)
-        ? Offer(AcceptOffer::Kind::Accept, session.questionAt(position), answer)
+        ? offerAbout(AcceptOffer::Kind::Accept, session.questionAt(position), answer)
         : AcceptOffer();
 }
 
@@ -27,7 +27,7 @@ AcceptOffer takeBackOffer(const CQuizSession &session)
 {
     const auto &accepted = session.acceptedAnswer();
     return accepted
-        ? Offer(AcceptOffer::Kind::TakeBack, session.questionAt(accepted->position), accepted->answer)
+        ? offerAbout(AcceptOffer::Kind::TakeBack, session.questionAt(accepted->position), accepted->answer)
         : AcceptOffer();
 }
 

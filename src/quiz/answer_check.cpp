@@ -57,7 +57,7 @@ AnswerVerdict checkAnswer(
 
 QString expandEntryVariables(const QString &questionTemplate, const QuizQuestion &question)
 {
-    const int answerColumn = question.AnswerColumn();
+    const int answerColumn = question.answerColumn();
     return FillInOrder(questionTemplate,
         {{QStringLiteral("%word"), question.entry.GetText(question.questionColumn)},
             {QStringLiteral("%answer"), question.entry.GetText(answerColumn)},

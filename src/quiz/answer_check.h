@@ -35,7 +35,7 @@ struct QuizQuestion
     int questionColumn = 0;
     std::array<QString, CWordEntry::LanguageCount> languages = {};
 
-    int AnswerColumn() const { return 1 - questionColumn; }
+    int answerColumn() const { return 1 - questionColumn; }
 };
 
 /// `text` reduced to what counts; both sides of a comparison go through it.

@@ -20,7 +20,7 @@ constexpr qint64 MostCells = 1'000'000;
 constexpr qsizetype MostParts = 400;
 
 /// What the reader takes for characters: a letter with its combining marks is one.
-Characters SplitCharacters(QStringView text)
+Characters splitCharacters(QStringView text)
 {
     Characters characters;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
@@ -50,13 +50,13 @@ struct ComparedText
     ComparedText(QStringView text, const CheckingOptions &options)
     {
         std::vector<QStringView> origins; // For every unit that counts.
-        for (const QStringView written : SplitCharacters(text)) {
+        for (const QStringView written : splitCharacters(text)) {
             compared += normalizeForCheck(written.toString(), options);
             origins.resize(size_t(compared.size()), written);
         }
         // Not those of the text: what was apart in it may make one character without what stood between.
         const QChar *position = text.begin();
-        for (const QStringView character : SplitCharacters(compared)) {
+        for (const QStringView character : splitCharacters(compared)) {
             const size_t first = size_t(character.begin() - compared.constBegin());
             const QChar *const start = std::max(position, origins[first].begin());
             const QChar *const end = std::max(start, origins[first + size_t(character.size()) - 1].end());
@@ -65,7 +65,7 @@ struct ComparedText
         }
         tail = QStringView(position, text.end());
     }
-    QStringView Shown(size_t from, size_t count) const
+    QStringView shown(size_t from, size_t count) const
     {
         return count == 0
             ? QStringView()
@@ -114,14 +114,14 @@ public:
     {
         for (size_t row = pair.rows() + 1; row-- > 0;) {
             for (size_t column = pair.columns() + 1; column-- > 0;) {
-                m_costs[row * m_width + column] = Cost(pair, row, column);
+                m_costs[row * m_width + column] = cost(pair, row, column);
             }
         }
     }
-    int At(size_t row, size_t column) const { return m_costs[row * m_width + column]; }
+    int at(size_t row, size_t column) const { return m_costs[row * m_width + column]; }
 
 private:
-    int Cost(const Pair &pair, size_t row, size_t column) const
+    int cost(const Pair &pair, size_t row, size_t column) const
     {
         if (row == pair.rows()) {
             return int(pair.columns() - column);
@@ -130,7 +130,7 @@ private:
             return int(pair.rows() - row);
         }
         const int step = pair.sameAt(row, column) ? 0 : 1;
-        return std::min({At(row + 1, column + 1) + step, At(row + 1, column) + 1, At(row, column + 1) + 1});
+        return std::min({at(row + 1, column + 1) + step, at(row + 1, column) + 1, at(row, column + 1) + 1});
     }
 
     size_t m_width;
@@ -144,20 +144,20 @@ public:
     explicit CWalk(const Pair &pair) : m_typed(&pair.typed), m_expected(&pair.expected) { }
 
     /// Takes the next characters of both. What does not count before them is the same.
-    void Take(Kind kind, size_t typed, size_t expected)
+    void take(Kind kind, size_t typed, size_t expected)
     {
-        Append(Kind::Same, typed == 0 ? QStringView() : m_typed->characters[m_row].ignored,
+        append(Kind::Same, typed == 0 ? QStringView() : m_typed->characters[m_row].ignored,
             expected == 0 ? QStringView() : m_expected->characters[m_column].ignored);
-        Append(kind, m_typed->Shown(m_row, typed), m_expected->Shown(m_column, expected));
+        append(kind, m_typed->shown(m_row, typed), m_expected->shown(m_column, expected));
         m_row += typed;
         m_column += expected;
     }
-    void TakeTail() { Append(Kind::Same, m_typed->tail, m_expected->tail); }
-    const QList<DifferencePart> &Parts() const { return m_parts; }
+    void takeTail() { append(Kind::Same, m_typed->tail, m_expected->tail); }
+    const QList<DifferencePart> &parts() const { return m_parts; }
 
 private:
     /// Joins neighbours of one kind.
-    void Append(Kind kind, QStringView typed, QStringView expected)
+    void append(Kind kind, QStringView typed, QStringView expected)
     {
         if (typed.isEmpty() && expected.isEmpty()) {
             return;
@@ -176,78 +176,78 @@ private:
     QList<DifferencePart> m_parts;
 };
 
-qint64 CellsFor(const Pair &pair)
+qint64 cellsFor(const Pair &pair)
 {
     return qint64(pair.rows() + 1) * qint64(pair.columns() + 1);
 }
 
-int Distance(const Pair &pair, qint64 &cells)
+int editDistance(const Pair &pair, qint64 &cells)
 {
-    const qint64 needed = CellsFor(pair);
+    const qint64 needed = cellsFor(pair);
     if (needed > cells) {
         return int(std::max(pair.rows(), pair.columns()));
     }
     cells -= needed;
-    return CCostTable(pair).At(0, 0);
+    return CCostTable(pair).at(0, 0);
 }
 
 /// Returns false when they get too many.
-bool TakeSteps(CWalk &walk, const Pair &pair)
+bool takeSteps(CWalk &walk, const Pair &pair)
 {
     const CCostTable costs(pair);
     size_t row = 0;
     size_t column = 0;
     while (row < pair.rows() || column < pair.columns()) {
         const bool both = row < pair.rows() && column < pair.columns();
-        const int cost = costs.At(row, column);
-        if (both && pair.sameAt(row, column) && cost == costs.At(row + 1, column + 1)) {
-            walk.Take(Kind::Same, 1, 1);
+        const int cost = costs.at(row, column);
+        if (both && pair.sameAt(row, column) && cost == costs.at(row + 1, column + 1)) {
+            walk.take(Kind::Same, 1, 1);
             ++row, ++column;
-        } else if (both && cost == costs.At(row + 1, column + 1) + 1) {
-            walk.Take(Kind::Changed, 1, 1);
+        } else if (both && cost == costs.at(row + 1, column + 1) + 1) {
+            walk.take(Kind::Changed, 1, 1);
             ++row, ++column;
-        } else if (row < pair.rows() && cost == costs.At(row + 1, column) + 1) {
-            walk.Take(Kind::Surplus, 1, 0);
+        } else if (row < pair.rows() && cost == costs.at(row + 1, column) + 1) {
+            walk.take(Kind::Surplus, 1, 0);
             ++row;
         } else {
-            walk.Take(Kind::Missing, 0, 1);
+            walk.take(Kind::Missing, 0, 1);
             ++column;
         }
-        if (walk.Parts().size() > MostParts) {
+        if (walk.parts().size() > MostParts) {
             return false;
         }
     }
     return true;
 }
 
-QList<DifferencePart> DifferenceBetween(const Pair &pair)
+QList<DifferencePart> differenceBetween(const Pair &pair)
 {
     CWalk before(pair);
-    before.Take(Kind::Same, pair.start, pair.start);
+    before.take(Kind::Same, pair.start, pair.start);
     CWalk walk = before;
-    if (CellsFor(pair) > MostCells || !TakeSteps(walk, pair)) {
+    if (cellsFor(pair) > MostCells || !takeSteps(walk, pair)) {
         walk = before;
-        walk.Take(pair.rows() == 0    ? Kind::Missing
+        walk.take(pair.rows() == 0    ? Kind::Missing
                 : pair.columns() == 0 ? Kind::Surplus
                                       : Kind::Changed,
             pair.rows(), pair.columns());
     }
-    walk.Take(Kind::Same, pair.end, pair.end);
-    walk.TakeTail();
-    return walk.Parts();
+    walk.take(Kind::Same, pair.end, pair.end);
+    walk.takeTail();
+    return walk.parts();
 }
 
-QString WithoutMarks(const QString &text)
+QString withoutMarks(const QString &text)
 {
     QString letters = text.normalized(QString::NormalizationForm_D);
     letters.removeIf([](QChar unit) { return unit.isMark(); });
     return letters;
 }
 
-QString WithoutPunctuation(const QString &text)
+QString withoutPunctuation(const QString &text)
 {
     QString kept;
-    for (const QStringView character : SplitCharacters(text)) {
+    for (const QStringView character : splitCharacters(text)) {
         const auto codePoints = character.toUcs4();
         if (!codePoints.isEmpty() && IsWordCharacter(codePoints.first())) {
             kept.append(character);
@@ -256,31 +256,31 @@ QString WithoutPunctuation(const QString &text)
     return kept;
 }
 
-bool IsOneLetter(const QList<DifferencePart> &parts)
+bool isOneLetter(const QList<DifferencePart> &parts)
 {
     const auto isOther = [](const DifferencePart &part) { return part.kind != Kind::Same; };
     const auto isLetter = [](const QString &text) {
-        return text.isEmpty() || (SplitCharacters(text).size() == 1 && !KeepLetters(text, false).isEmpty());
+        return text.isEmpty() || (splitCharacters(text).size() == 1 && !KeepLetters(text, false).isEmpty());
     };
     const auto other = std::ranges::find_if(parts, isOther);
     return std::ranges::count_if(parts, isOther) == 1 && isLetter(other->typed) && isLetter(other->expected);
 }
 
 /// A slip that leaves the words as they are.
-Slip SlipBetween(const QString &typed, const QString &expected)
+Slip slipBetween(const QString &typed, const QString &expected)
 {
     if (ToLowerCase(typed) == ToLowerCase(expected)) {
         return Slip::LetterCase;
     }
-    if (WithoutMarks(typed) == WithoutMarks(expected)) {
+    if (withoutMarks(typed) == withoutMarks(expected)) {
         return Slip::Accent;
     }
-    const QString words = WithoutPunctuation(typed);
-    return !words.isEmpty() && words == WithoutPunctuation(expected) ? Slip::PunctuationOrBlanks : Slip::None;
+    const QString words = withoutPunctuation(typed);
+    return !words.isEmpty() && words == withoutPunctuation(expected) ? Slip::PunctuationOrBlanks : Slip::None;
 }
 
 /// The alternatives in their order, then the whole term, each as it may be typed.
-QStringList AcceptedTexts(const CWordEntry &entry, int answerColumn)
+QStringList acceptedTexts(const CWordEntry &entry, int answerColumn)
 {
     QStringList texts;
     const int last = entry.AlternativeCount(answerColumn);
@@ -302,22 +302,22 @@ AnswerDifference answerDifference(
     const ComparedText typed(difference.typed, options);
     qint64 cells = MostCells;
     std::optional<int> nearest;
-    for (const QString &text : AcceptedTexts(entry, answerColumn)) {
+    for (const QString &text : acceptedTexts(entry, answerColumn)) {
         const ComparedText accepted(text, options);
-        difference.slip = SlipBetween(typed.compared, accepted.compared);
+        difference.slip = slipBetween(typed.compared, accepted.compared);
         if (difference.slip != Slip::None) {
             difference.expected = text;
             break;
         }
-        const int distance = Distance(Pair(typed, accepted), cells);
+        const int distance = editDistance(Pair(typed, accepted), cells);
         if (!nearest || distance < *nearest) {
             nearest = distance;
             difference.expected = text;
         }
     }
     const ComparedText expected(difference.expected, options);
-    difference.parts = DifferenceBetween(Pair(typed, expected));
-    if (difference.slip == Slip::None && IsOneLetter(difference.parts)) {
+    difference.parts = differenceBetween(Pair(typed, expected));
+    if (difference.slip == Slip::None && isOneLetter(difference.parts)) {
         difference.slip = Slip::OneLetter;
     }
     return difference;

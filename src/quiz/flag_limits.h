@@ -5,15 +5,20 @@
 
 struct ResultSettings;
 
-/// The limits by which a quiz changes flags, in percent of right answers; -1 switches one off.
+/// What a quiz does to the flag of a word.
+enum class FlagDecision { StaysOff = 0, StaysOn = 1, IsTakenOff = 2, IsSet = 3 };
+
+/// The limits by which a quiz changes flags, in percent of right answers; Off switches one off.
 struct FlagLimits
 {
-    int flag = -1;
-    int unflag = -1;
-    /// What a word without an answer becomes: 0 not flagged, 1 flagged.
-    int unasked = -1;
+    static constexpr int Off = -1;
 
-    static FlagLimits Of(const ResultSettings &settings);
+    int flag = Off;
+    int unflag = Off;
+    /// What a word without an answer becomes: 0 not flagged, 1 flagged.
+    int unasked = Off;
+
+    static FlagLimits of(const ResultSettings &settings);
 };
 
 /// The entries whose flag changes, ascending.

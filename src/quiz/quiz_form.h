@@ -1,13 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quiz/accept_offer.h"
+#include "platform/clock.h"
 #include "quiz/quiz_session.h"
+#include "settings/quiz_settings.h"
 
 #include <QString>
 
+#include <memory>
+#include <optional>
+
+class CRandom;
 class CTexts;
-struct QuizSettings;
+
+/// What a form is handed. The session is shared with the windows that show it; nothing else is owned.
+struct QuizStart
+{
+    std::shared_ptr<CQuizSession> session;
+    const QuizSettings &settings;
+    QuizKindSettings kindSettings;
+    const CTexts &texts;
+    CRandom &random;
+    Clock clock;
+};
 
 /// A line of the statistics with the bar beside it.
 struct QuizProgress
@@ -17,56 +32,37 @@ struct QuizProgress
     int maximum = 0;
 };
 
-/// What every quiz form decides: which word is on screen, what comes after an answer, and the lines of
-/// statistics. Lives as long as its window; nothing handed in is owned.
+/// What every quiz form and game decides, whether it asks one word at a time or all at once. Lives as long as
+/// its window.
 class CQuizForm
 {
 public:
-    CQuizForm(CQuizSession &session, const QuizSettings &settings, const CTexts &texts);
+    virtual ~CQuizForm() = default;
+    CQuizForm(const CQuizForm &) = delete;
+    CQuizForm &operator=(const CQuizForm &) = delete;
 
-    CQuizSession &session() const { return m_session; }
-    int roundPosition() const { return m_roundPosition; }
+    const std::shared_ptr<CQuizSession> &session() const { return m_start.session; }
 
-    bool mayChangeEntries() const;
+    /// The entry that a change is about at first, as an index into the list.
+    virtual int currentEntry() const = 0;
+    bool mayChangeEntries() const { return m_start.settings.allowChanges; }
     /// After entries of the list were changed.
-    void entriesChanged() { m_session.recheckAll(); }
+    void entriesChanged() { m_start.session->recheckAll(); }
     /// The file to play after an answer; empty for silence.
     QString sound(AnswerVerdict verdict, const QStringList &dataFolders) const;
 
     QString roundText() const;
-    QuizProgress wordProgress() const;
+    /// Nothing where words are not asked one after the other.
+    virtual std::optional<QuizProgress> wordProgress() const { return std::nullopt; }
     QuizProgress rightProgress() const;
 
-    /// Goes on after an answer: to the next word, the same one again, or the next round. False when the quiz is
-    /// over.
-    bool advance(AnswerVerdict verdict);
-    /// Goes on without recording an answer. False when the quiz is over.
-    bool skip();
-
-    /// What "I was right" would do: accept the last answer, unless a word was skipped after it, or take back
-    /// what was accepted.
-    AcceptOffer acceptOffer() const;
-    /// What there is to show afterwards.
-    enum class Next { SameWord, OtherWord, Over };
-    /// Does it. A word that is asked again because of the answer is left as after a right one, and comes back
-    /// when the answer is taken back on the next word.
-    Next takeAcceptOffer();
-
 protected:
-    /// Judges and records an answer to the word on screen.
-    AnswerVerdict recordAnswer(const QString &answer);
+    explicit CQuizForm(const QuizStart &start) : m_start(start) { }
 
-    CQuizSession &m_session;
-    const QuizSettings &m_settings;
-    const CTexts &m_texts;
+    const QuizSettings &settings() const { return m_start.settings; }
+    const CTexts &texts() const { return m_start.texts; }
+    const QuizStart &start() const { return m_start; }
 
 private:
-    QString lastAnswer() const;
-    Next acceptLastAnswer();
-    Next takeBackLastAnswer();
-
-    int m_roundPosition = 0;
-    bool m_askedAgain = false;
-    bool m_skipped = false; // After the last answer.
-    bool m_leftByAccepting = false; // The word before this one in the round.
+    QuizStart m_start;
 };

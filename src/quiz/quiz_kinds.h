@@ -8,22 +8,37 @@
 #include <array>
 
 /// The kinds of quizzes and games. A kind also numbers its command and the remembered size of its window.
-enum QuizKind {
-    StandardQuizKind = 0,
-    TableQuizKind = 1,
-    SelfTestKind = 2,
-    AlternativesKind = 3,
-    HangmanKind = 4,
-    PairMatchingKind = 5,
-    WordContestKind = 6,
-    FallingWordsKind = 7,
-    MemoryKind = 8
+enum class QuizKind {
+    Standard = 0,
+    Table = 1,
+    SelfTest = 2,
+    Alternatives = 3,
+    Hangman = 4,
+    PairMatching = 5,
+    WordContest = 6,
+    FallingWords = 7,
+    Memory = 8
 };
 
-/// The fewest entries that a list must have for each kind.
-inline constexpr std::array<int, QuizSettings::KindCount> MinimumEntries = {1, 1, 1, 4, 1, 2, 1, 1, 1};
+/// What the program knows of a kind before it runs. Its window stands beside the other windows' makers.
+struct QuizKindRow
+{
+    QuizKind kind;
+    /// The number of its command; its texts have theirs from it.
+    int command;
+    const char *icon;
+    /// The fewest entries that a list must have.
+    int minimumEntries;
+};
+
+/// One row per kind, in the order of the kinds.
+const std::array<QuizKindRow, QuizSettings::KindCount> &quizKinds();
+inline const QuizKindRow &quizKindRow(QuizKind kind)
+{
+    return quizKinds()[size_t(kind)];
+}
 
 /// The size in which the window of a kind opens: the remembered one, where there is none its own, and never
 /// larger than what is available on the screen.
-QSize openingSize(const QuizWindowSettings &sizes, int kind, QSize own, QSize available);
-void rememberSize(QuizWindowSettings &sizes, int kind, QSize size);
+QSize openingSize(const QuizWindowSettings &sizes, QuizKind kind, QSize own, QSize available);
+void rememberSize(QuizWindowSettings &sizes, QuizKind kind, QSize size);

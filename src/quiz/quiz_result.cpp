@@ -33,7 +33,7 @@ QString CQuizResult::summary() const
     return m_services.texts.Fill(Text::ResultSummary,
         {QString::number(m_session.wordCount()),
             QString::number(m_session.totalRight() + m_session.totalWrong()),
-            QString::number(m_session.totalRight()), QString::number(RoundHalfUp(m_session.totalPercent()))});
+            QString::number(m_session.totalRight()), QString::number(roundHalfUp(m_session.totalPercent()))});
 }
 
 int CQuizResult::rightShare() const
@@ -43,7 +43,7 @@ int CQuizResult::rightShare() const
 
 QString CQuizResult::flagLine() const
 {
-    const FlagChanges changes = m_session.flagChanges(FlagLimits::Of(m_services.settings));
+    const FlagChanges changes = m_session.flagChanges(FlagLimits::of(m_services.settings));
     const QString flag = QString::number(changes.flag.size());
     const QString unflag = QString::number(changes.unflag.size());
     const CTexts &texts = m_services.texts;
@@ -57,7 +57,7 @@ QString CQuizResult::flagLine() const
 
 void CQuizResult::applyFlags()
 {
-    m_session.applyFlags(FlagLimits::Of(m_services.settings));
+    m_session.applyFlags(FlagLimits::of(m_services.settings));
 }
 
 QString CQuizResult::table() const

@@ -44,7 +44,7 @@ QVariant CQuizResultModel::data(const QModelIndex &index, int role) const
         return cell(index.row(), shown, role == StoredRole ? FilledFor::Storage : FilledFor::Screen);
     }
     if (shown == Share && role == PercentRole) {
-        return RoundHalfUp(m_session.percentRight(index.row()));
+        return roundHalfUp(m_session.percentRight(index.row()));
     }
     if (shown == Share && role == Qt::TextAlignmentRole) {
         return int(Qt::AlignCenter);
@@ -78,7 +78,7 @@ QString CQuizResultModel::cell(int position, Column content, FilledFor use) cons
     case Answer: {
         const QuizQuestion question = m_session.questionAt(position);
         const QString term =
-            question.entry.GetText(content == Question ? question.questionColumn : question.AnswerColumn());
+            question.entry.GetText(content == Question ? question.questionColumn : question.answerColumn());
         return use == FilledFor::Storage ? term : Isolated(term);
     }
     case Share:
@@ -97,7 +97,7 @@ QString CQuizResultModel::share(int position) const
     }
     return m_texts.Fill(Text::AnswersOfTotal,
         {QString::number(record.rightCount), QString::number(record.answers.size()),
-            QString::number(RoundHalfUp(m_session.percentRight(position)))});
+            QString::number(roundHalfUp(m_session.percentRight(position)))});
 }
 
 QString CQuizResultModel::wrongAnswers(int position, FilledFor use) const

@@ -7,22 +7,18 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <numeric>
 
 namespace {
 
-// The values of the settings `order`, `wordsToQuiz`, `includeFlaggedWords` and `requiz`.
-enum Order { Backwards = 1, Random = 2 };
-enum Words { FixedNumber = 1, FixedShare = 2, Selected = 3 };
-enum Flagged { Never = 0, Always = 1, Sometimes = 2 };
-enum Requiz { RoundsAfter = 1 };
-
-int RequizLimit(const QuizSettings &settings)
+/// The most requiz rounds after each base round.
+int mostRequizRounds(const QuizSettings &settings)
 {
-    if (settings.requiz != RoundsAfter) {
+    if (settings.requiz != QuizSettings::RequizAfterRound) {
         return 0;
     }
-    return settings.requizMax ? settings.requizNumber : -1;
+    return settings.requizMax ? settings.requizNumber : std::numeric_limits<int>::max();
 }
 
 }
@@ -32,7 +28,7 @@ CQuizSession::CQuizSession(
     : m_document(document), m_settings(settings), m_random(random),
       m_questionColumn(settings.showLanguage), m_options{settings.ignoreCase,
                                                    CharacterCheck(settings.characterCheck)},
-      m_requizLimit(RequizLimit(settings))
+      m_requizLimit(mostRequizRounds(settings))
 {
     selectWords(selected, random);
     m_records.resize(m_candidates.size());
@@ -42,7 +38,7 @@ CQuizSession::CQuizSession(
 void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
 {
     const CWordList &list = m_document.List();
-    if (m_settings.wordsToQuiz == Selected && !selected.empty()) {
+    if (m_settings.wordsToQuiz == QuizSettings::SelectedWords && !selected.empty()) {
         m_candidates.assign(selected.begin(), selected.end());
     } else {
         m_candidates.resize(size_t(list.Count()));
@@ -50,10 +46,10 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
     }
 
     const auto flagged = [&](int index) { return list.Entry(index).GetFlag(m_questionColumn); };
-    if (m_settings.includeFlaggedWords != Always && !std::ranges::all_of(m_candidates, flagged)) {
+    if (m_settings.includeFlaggedWords != QuizSettings::Always && !std::ranges::all_of(m_candidates, flagged)) {
         const auto kept = [&](int index) {
             return !flagged(index)
-                || (m_settings.includeFlaggedWords == Sometimes
+                || (m_settings.includeFlaggedWords == QuizSettings::Sometimes
                     && m_settings.includeFlaggedProbability
                         >= random.Next() * 100.0 / double(CRandom::Maximum));
         };
@@ -66,9 +62,9 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
 
     const qint64 available = qint64(m_candidates.size());
     qint64 wanted = available;
-    if (m_settings.wordsToQuiz == FixedNumber) {
+    if (m_settings.wordsToQuiz == QuizSettings::FixedNumber) {
         wanted = std::clamp<qint64>(m_settings.numberOfWords, 0, available);
-    } else if (m_settings.wordsToQuiz == FixedShare && m_settings.partOfWords >= 0
+    } else if (m_settings.wordsToQuiz == QuizSettings::FixedShare && m_settings.partOfWords >= 0
         && m_settings.partOfWords <= 100) {
         wanted = std::min(std::max<qint64>((available * m_settings.partOfWords + 50) / 100, 1), available);
     }
@@ -79,7 +75,7 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
     }
 }
 
-void CQuizSession::shuffleAvoiding(int last)
+void CQuizSession::shuffleAvoiding(std::optional<int> last)
 {
     ShuffleEvenly(m_roundOrder, m_random);
     while (m_roundOrder.size() >= 2 && m_roundOrder.front() == last) {
@@ -89,10 +85,8 @@ void CQuizSession::shuffleAvoiding(int last)
 
 bool CQuizSession::startRound()
 {
-    const int last = m_roundOrder.empty() ? -1 : m_roundOrder.back();
-    const bool requiz =
-        m_requizLimit != 0 && !m_wrongList.empty() && (m_requizLimit < 0 || m_requizRound < m_requizLimit);
-    if (requiz) {
+    const auto last = m_roundOrder.empty() ? std::nullopt : std::optional(m_roundOrder.back());
+    if (!m_wrongList.empty() && m_requizRound < m_requizLimit) {
         m_roundOrder = m_wrongList;
         ++m_requizRound;
     } else {
@@ -101,12 +95,12 @@ bool CQuizSession::startRound()
         }
         m_roundOrder.resize(m_candidates.size());
         std::iota(m_roundOrder.begin(), m_roundOrder.end(), 0);
-        if (m_settings.order == Backwards) {
+        if (m_settings.order == QuizSettings::Backwards) {
             std::ranges::reverse(m_roundOrder);
         }
         m_requizRound = 0;
     }
-    if (m_settings.order == Random) {
+    if (m_settings.order == QuizSettings::InRandomOrder) {
         shuffleAvoiding(last);
     }
     for (QuizWordRecord &record : m_records) {

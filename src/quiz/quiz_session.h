@@ -51,8 +51,8 @@ public:
     int positionOfRound(int roundPosition) const { return m_roundOrder[size_t(roundPosition)]; }
     /// The entry asked at a round position, as an index into the list.
     int entryOfRound(int roundPosition) const { return m_candidates[size_t(positionOfRound(roundPosition))]; }
-    /// The word answered last; -1 before the first answer.
-    int lastAnswered() const { return m_lastAnswered; }
+    /// The position of the word answered last.
+    std::optional<int> lastAnswered() const { return m_lastAnswered; }
     int answerColumn() const { return 1 - m_questionColumn; }
     const CheckingOptions &checkingOptions() const { return m_options; }
     const QuizSettings &settings() const { return m_settings; }
@@ -101,8 +101,7 @@ public:
     const std::optional<AcceptedAnswer> &acceptedAnswer() const { return m_accepted; }
     /// Gives the entry the texts that it had before, and judges again.
     void takeBackAcceptedAnswer();
-    /// 0 or 1: the flag stays like that; 2: it will be taken off; 3: it will be set.
-    int flagDecision(int position, const FlagLimits &limits) const;
+    FlagDecision flagDecision(int position, const FlagLimits &limits) const;
     FlagChanges flagChanges(const FlagLimits &limits) const;
     /// Carries the decisions out and returns how many flags changed.
     int applyFlags(const FlagLimits &limits);
@@ -113,7 +112,8 @@ public:
 
 private:
     void selectWords(std::span<const int> selected, CRandom &random);
-    void shuffleAvoiding(int last);
+    /// Not with the word `last` first.
+    void shuffleAvoiding(std::optional<int> last);
     CWordEntry entryAccepting(int position, const QString &answer) const;
     AnswerVerdict judge(int position, const QString &answer) const;
     void count(int position, AnswerVerdict verdict);
@@ -123,7 +123,7 @@ private:
     CRandom &m_random;
     int m_questionColumn;
     CheckingOptions m_options;
-    int m_requizLimit; // 0 none, -1 until no word is wrong, else the most rounds after each base round.
+    int m_requizLimit; // The most requiz rounds after each base round.
     int m_baseRound = 0;
     int m_requizRound = 0;
     std::vector<QuizWordRecord> m_records;
@@ -132,7 +132,7 @@ private:
     std::vector<int> m_wrongList; // Positions answered wrong in this round, each once.
     int m_totalRight = 0;
     int m_totalWrong = 0;
-    int m_lastAnswered = -1;
+    std::optional<int> m_lastAnswered;
     std::optional<AcceptedAnswer> m_accepted;
     bool m_selectMistakes = false;
     std::optional<quint64> m_ownChange; // The document's change counter after the session's last change.

@@ -8,18 +8,11 @@
 
 #include <utility>
 
-namespace {
-
-/// The decisions about a flag that are changes.
-enum { Unflag = 2, Flag = 3 };
-
-}
-
-FlagLimits FlagLimits::Of(const ResultSettings &settings)
+FlagLimits FlagLimits::of(const ResultSettings &settings)
 {
-    return {settings.flagWord ? settings.flagWordLimit : -1,
-        settings.unFlagWord ? settings.unFlagWordLimit : -1,
-        settings.changeUnasked ? settings.changeUnaskedTo : -1};
+    return {settings.flagWord ? settings.flagWordLimit : Off,
+        settings.unFlagWord ? settings.unFlagWordLimit : Off,
+        settings.changeUnasked ? settings.changeUnaskedTo : Off};
 }
 
 void CQuizSession::changeList(const std::function<void(CWordList &)> &change)
@@ -93,33 +86,36 @@ std::optional<std::vector<int>> CQuizSession::entriesToSelect() const
     return m_settings.selectedTestedWordsAfterQuiz ? std::optional(m_candidates) : std::nullopt;
 }
 
-int CQuizSession::flagDecision(int position, const FlagLimits &limits) const
+FlagDecision CQuizSession::flagDecision(int position, const FlagLimits &limits) const
 {
-    const int current = int(m_document.List().Entry(m_candidates[size_t(position)]).GetFlag(m_questionColumn));
-    int decision = current;
+    const bool isSet = m_document.List().Entry(m_candidates[size_t(position)]).GetFlag(m_questionColumn);
+    bool willBeSet = isSet;
     if (record(position).answers.isEmpty()) {
-        if (limits.unasked != -1) {
-            decision = limits.unasked + Unflag;
-        }
+        willBeSet = limits.unasked == FlagLimits::Off ? isSet : limits.unasked != 0;
     } else {
-        const int percent = RoundHalfUp(percentRight(position));
-        if (limits.unflag != -1 && limits.unflag >= percent) {
-            decision = Unflag;
+        const int percent = roundHalfUp(percentRight(position));
+        if (limits.unflag != FlagLimits::Off && limits.unflag >= percent) {
+            willBeSet = false;
         }
-        if (limits.flag != -1 && limits.flag <= percent) {
-            decision = Flag;
+        if (limits.flag != FlagLimits::Off && limits.flag <= percent) {
+            willBeSet = true;
         }
     }
-    return decision == current + Unflag ? current : decision;
+    if (willBeSet == isSet) {
+        return isSet ? FlagDecision::StaysOn : FlagDecision::StaysOff;
+    }
+    return willBeSet ? FlagDecision::IsSet : FlagDecision::IsTakenOff;
 }
 
 FlagChanges CQuizSession::flagChanges(const FlagLimits &limits) const
 {
     FlagChanges changes;
     for (int position = 0; position < wordCount(); ++position) {
-        const int decision = flagDecision(position, limits);
-        if (decision >= Unflag) {
-            (decision == Flag ? changes.flag : changes.unflag).push_back(m_candidates[size_t(position)]);
+        const FlagDecision decision = flagDecision(position, limits);
+        if (decision == FlagDecision::IsSet) {
+            changes.flag.push_back(m_candidates[size_t(position)]);
+        } else if (decision == FlagDecision::IsTakenOff) {
+            changes.unflag.push_back(m_candidates[size_t(position)]);
         }
     }
     return changes;

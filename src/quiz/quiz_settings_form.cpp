@@ -8,16 +8,6 @@
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-namespace {
-
-// Values of the settings `wordsToQuiz`, `includeFlaggedWords` and `requiz`.
-constexpr int FixedNumber = 1;
-constexpr int FixedShare = 2;
-constexpr int Sometimes = 2;
-constexpr int RoundsAfter = 1;
-
-}
-
 CQuizSettingsForm::CQuizSettingsForm(QuizSettings &settings, const std::array<QString, 2> &languages,
     const CTexts &texts, IFileChooser &chooser, const QStringList &dataFolders)
     : values(settings), m_settings(settings), m_languages(languages), m_texts(texts), m_chooser(chooser),
@@ -31,38 +21,38 @@ CQuizSettingsForm::CQuizSettingsForm(QuizSettings &settings, const std::array<QS
     }
 }
 
-QString CQuizSettingsForm::DirectionCaption(int direction) const
+QString CQuizSettingsForm::directionCaption(int direction) const
 {
     return m_texts.Fill(direction == 0 ? Text::QuizSettingsFromLanguage1 : Text::QuizSettingsFromLanguage2,
         {ShownInCaption(m_languages[size_t(direction)]), ShownInCaption(m_languages[size_t(1 - direction)])});
 }
 
-bool CQuizSettingsForm::IsNumberUsed() const
+bool CQuizSettingsForm::isNumberUsed() const
 {
-    return values.wordsToQuiz == FixedNumber;
+    return values.wordsToQuiz == QuizSettings::FixedNumber;
 }
 
-bool CQuizSettingsForm::IsShareUsed() const
+bool CQuizSettingsForm::isShareUsed() const
 {
-    return values.wordsToQuiz == FixedShare;
+    return values.wordsToQuiz == QuizSettings::FixedShare;
 }
 
-bool CQuizSettingsForm::IsProbabilityUsed() const
+bool CQuizSettingsForm::isProbabilityUsed() const
 {
-    return values.includeFlaggedWords == Sometimes;
+    return values.includeFlaggedWords == QuizSettings::Sometimes;
 }
 
-bool CQuizSettingsForm::IsRequizMaxUsed() const
+bool CQuizSettingsForm::isRequizMaxUsed() const
 {
-    return values.requiz == RoundsAfter;
+    return values.requiz == QuizSettings::RequizAfterRound;
 }
 
-bool CQuizSettingsForm::IsRequizNumberUsed() const
+bool CQuizSettingsForm::isRequizNumberUsed() const
 {
-    return IsRequizMaxUsed() && values.requizMax;
+    return isRequizMaxUsed() && values.requizMax;
 }
 
-QString CQuizSettingsForm::BrowseSound(const QString &current) const
+QString CQuizSettingsForm::browseSound(const QString &current) const
 {
     const QString chosen = m_chooser.ChooseFileToOpen({.title = m_texts.Get(Text::OpenTitle),
         .filters = FileFilters(m_texts.Get(Text::SoundFilters)),

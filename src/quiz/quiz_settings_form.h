@@ -11,7 +11,7 @@
 class CTexts;
 class IFileChooser;
 
-/// What the pages of quiz settings show and decide. They change a copy of the settings, which Accept() stores.
+/// What the pages of quiz settings show and decide. They change a copy of the settings, which accept() stores.
 /// Nothing handed in is owned.
 class CQuizSettingsForm
 {
@@ -20,7 +20,8 @@ public:
     /// Rounds, repeats, shares and probabilities.
     static constexpr NumberRange Others = {1, 100};
     /// The values of `requiz` in the order of their buttons.
-    static constexpr std::array<int, 3> RequizButtons = {0, 2, 1};
+    static constexpr std::array<int, 3> RequizButtons = {
+        QuizSettings::NoRequiz, QuizSettings::AskAgainAtOnce, QuizSettings::RequizAfterRound};
 
     /// `languages` are the two names of the list.
     CQuizSettingsForm(QuizSettings &settings, const std::array<QString, 2> &languages, const CTexts &texts,
@@ -30,18 +31,18 @@ public:
     QuizSettings values;
 
     const CTexts &texts() const { return m_texts; }
-    QString DirectionCaption(int direction) const;
+    QString directionCaption(int direction) const;
 
     // Which rows of controls can be used.
-    bool IsNumberUsed() const;
-    bool IsShareUsed() const;
-    bool IsProbabilityUsed() const;
-    bool IsRequizMaxUsed() const;
-    bool IsRequizNumberUsed() const;
+    bool isNumberUsed() const;
+    bool isShareUsed() const;
+    bool isProbabilityUsed() const;
+    bool isRequizMaxUsed() const;
+    bool isRequizNumberUsed() const;
 
     /// Lets the user choose a file for one of the sounds and returns what its field is to show.
-    QString BrowseSound(const QString &current) const;
-    void Accept() { m_settings = values; }
+    QString browseSound(const QString &current) const;
+    void accept() { m_settings = values; }
 
 private:
     QuizSettings &m_settings;

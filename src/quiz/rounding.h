@@ -4,7 +4,7 @@
 #include <cmath>
 
 /// As shares are shown and compared: 0.5 goes up.
-inline int RoundHalfUp(double value)
+inline int roundHalfUp(double value)
 {
     return int(std::floor(value + 0.5));
 }

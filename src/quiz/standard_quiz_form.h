@@ -1,23 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quiz/quiz_form.h"
+#include "quiz/word_by_word_form.h"
 
 /// The standard quiz: one word at a time, the answer is typed.
-class CStandardQuizForm : public CQuizForm
+class CStandardQuizForm : public CWordByWordForm
 {
 public:
-    using CQuizForm::CQuizForm;
+    explicit CStandardQuizForm(const QuizStart &start) : CWordByWordForm(start) { }
 
-    QString question() const;
     /// What stands in the answer field at first: the answer in learning mode, else nothing.
     QString prefilledAnswer() const;
-
-    struct Outcome
-    {
-        AnswerVerdict verdict = AnswerVerdict::Wrong;
-        std::optional<FeedbackText> feedback;
-    };
-    /// Tidies, judges and records what was typed; advance() comes after the feedback was shown.
+    /// Tidies, judges and records what was typed.
     Outcome answer(const QString &typed);
 };

@@ -14,20 +14,20 @@ using Kind = DifferencePart::Kind;
 /// Of each text at its start and end.
 constexpr qsizetype Kept = 40;
 
-QString Escaped(const QString &text)
+QString escaped(const QString &text)
 {
     // Blanks must not run into one.
     return shortened(text, Kept).toHtmlEscaped().replace(u' ', QChar(QChar::Nbsp));
 }
 
-QString Tagged(const QString &text, const char *tag)
+QString tagged(const QString &text, const char *tag)
 {
     const QString name = QLatin1StringView(tag);
-    return text.isEmpty() ? QString() : u'<' + name + u'>' + Escaped(text) + QStringLiteral("</") + name + u'>';
+    return text.isEmpty() ? QString() : u'<' + name + u'>' + escaped(text) + QStringLiteral("</") + name + u'>';
 }
 
 /// The differing stretches, each as one step.
-QList<DifferencePart> Steps(const QList<DifferencePart> &parts)
+QList<DifferencePart> stepsOf(const QList<DifferencePart> &parts)
 {
     QList<DifferencePart> steps;
     bool afterSame = true;
@@ -44,7 +44,7 @@ QList<DifferencePart> Steps(const QList<DifferencePart> &parts)
     return steps;
 }
 
-QString StepInWords(const DifferencePart &step, const CTexts &texts)
+QString stepInWords(const DifferencePart &step, const CTexts &texts)
 {
     if (step.typed.isEmpty()) {
         return texts.Fill(Text::StepAdd, {shortened(step.expected, Kept)});
@@ -63,8 +63,8 @@ QString differenceAsHtml(const AnswerDifference &difference)
     QString expected;
     for (const DifferencePart &part : difference.parts) {
         const bool same = part.kind == Kind::Same;
-        typed += same ? Escaped(part.typed) : Tagged(part.typed, "s");
-        expected += same ? Escaped(part.expected) : Tagged(part.expected, "u");
+        typed += same ? escaped(part.typed) : tagged(part.typed, "s");
+        expected += same ? escaped(part.expected) : tagged(part.expected, "u");
     }
     return Isolated(typed) + QStringLiteral(" → ") + Isolated(expected);
 }
@@ -77,8 +77,8 @@ QString slipName(Slip slip, const CTexts &texts)
 QString differenceInWords(const AnswerDifference &difference, const CTexts &texts)
 {
     QStringList steps;
-    for (const DifferencePart &step : Steps(difference.parts)) {
-        steps.append(StepInWords(step, texts));
+    for (const DifferencePart &step : stepsOf(difference.parts)) {
+        steps.append(stepInWords(step, texts));
     }
     const QString sentence = texts.Fill(Text::DifferenceInWords,
         {shortened(difference.typed, Kept), shortened(difference.expected, Kept),
@@ -125,7 +125,7 @@ QVariant CWrongAnswersModel::data(const QModelIndex &index, int role) const
     }
     const QuizQuestion question = m_session.questionAt(m_position);
     const AnswerDifference difference =
-        answerDifference(question.entry, question.AnswerColumn(), answer, m_session.checkingOptions());
+        answerDifference(question.entry, question.answerColumn(), answer, m_session.checkingOptions());
     if (role == Qt::DisplayRole) {
         return differenceInWords(difference, m_texts);
     }

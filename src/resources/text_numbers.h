@@ -121,6 +121,7 @@ inline constexpr int SkipButton = 63070;
 inline constexpr int AnswerButton = 63071;
 inline constexpr int ChangeButton = 63073;
 inline constexpr int ResultButton = 63074;
+inline constexpr int CheckButton = 63075;
 inline constexpr int ResultSummary = 70017;
 
 // Menu titles

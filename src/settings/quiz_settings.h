@@ -7,6 +7,10 @@
 struct QuizSettings
 {
     static constexpr int KindCount = 9;
+    enum Order { InListOrder = 0, Backwards = 1, InRandomOrder = 2 };
+    enum WordsToQuiz { AllWords = 0, FixedNumber = 1, FixedShare = 2, SelectedWords = 3 };
+    enum IncludeFlaggedWords { Never = 0, Always = 1, Sometimes = 2 };
+    enum Requiz { NoRequiz = 0, RequizAfterRound = 1, AskAgainAtOnce = 2 };
 
     bool playRight;
     bool playWrong;
@@ -19,21 +23,21 @@ struct QuizSettings
     bool showAnswer;
     bool showAnswerIfOneCorrect;
     bool ignoreCase;
-    /// 0 never, 1 rounds of the wrong words after each round, 2 a wrong word again at once.
+    /// Requiz: rounds of the wrong words after each round, or a wrong word again at once.
     int requiz;
-    /// Limits the rounds of `requiz` 1 to `requizNumber`.
+    /// Limits the rounds of RequizAfterRound to `requizNumber`.
     bool requizMax;
     int requizNumber;
-    /// 0 as in the list, 1 backwards, 2 random.
+    /// Order
     int order;
     bool learning;
     bool allowChanges;
     int quizNumber;
-    /// 0 never, 1 always, 2 each with `includeFlaggedProbability` percent.
+    /// IncludeFlaggedWords: sometimes is each with `includeFlaggedProbability` percent.
     int includeFlaggedWords;
     int includeFlaggedProbability;
     bool showResult;
-    /// 0 all, 1 `numberOfWords`, 2 `partOfWords` percent, 3 the selected entries.
+    /// WordsToQuiz: the fixed number is `numberOfWords`, the fixed share `partOfWords` percent.
     int wordsToQuiz;
     int numberOfWords;
     int partOfWords;
@@ -100,6 +104,13 @@ struct FallingWordSettings
     {
         visit.Integer("speed", speed, 10, 250, 60);
     }
+};
+
+/// The settings of the kinds that have some; not owned.
+struct QuizKindSettings
+{
+    QuizChallengeSettings &quizChallenge;
+    FallingWordSettings &fallingWord;
 };
 
 /// The remembered size of each kind's window in pixels; 0 for none.

@@ -25,16 +25,13 @@ QString Icon(const char *name)
 
 void AddQuizzes(QList<Command> &table)
 {
-    constexpr const char *Icons[] = {"ordelin-quiz", "ordelin-quiz-table", "ordelin-quiz-self-test",
-        "ordelin-quiz-alternatives", "ordelin-quiz-hangman", "ordelin-quiz-pairs", "ordelin-quiz-contest",
-        "ordelin-quiz-falling", "ordelin-quiz-memory"};
-    for (int kind = 0; kind <= LastQuiz - StandardQuiz; ++kind) {
+    for (const QuizKindRow &row : quizKinds()) {
         // Ctrl+Alt+F1 to F9 never arrive where they switch the virtual console, so the digit is shown.
-        const QString digit = QString::number(kind + 1);
-        const int minimum = MinimumEntries[size_t(kind)];
-        table.append({.id = StandardQuiz + kind,
+        const QString digit = QString::number(int(row.kind) + 1);
+        const int minimum = row.minimumEntries;
+        table.append({.id = row.command,
             .shortcuts = {QStringLiteral("Ctrl+Alt+") + digit, QStringLiteral("Ctrl+Alt+F") + digit},
-            .icon = Icon(Icons[kind]),
+            .icon = Icon(row.icon),
             .enabled = minimum > 2 ? EnabledRule::ListHasFourEntries
                 : minimum == 2     ? EnabledRule::ListHasTwoEntries
                                    : EnabledRule::ListHasEntries});

@@ -28,7 +28,7 @@ Widget *Find(QWidget *window, const char *name)
 CQuizResultDialog *PlayToResult(TestQuiz &run, const QStringList &answers)
 {
     run.settings.requiz = 0;
-    run.launch.startQuiz(0);
+    run.launch.startQuiz(QuizKind::Standard);
     auto *window = FindWindow<CStandardQuiz>();
     for (const QString &answer : answers) {
         Find<QLineEdit>(window, "answer")->setText(answer);
@@ -121,7 +121,7 @@ void QuizResultDialogTest::iWasRight()
         QCOMPARE(accept->text(), QString::fromUtf8(caption));
     }
     QCOMPARE(Find<QLabel>(dialog, "acceptedLine")->text(),
-        QStringLiteral("<i>hound räknas nu som rätt svar på hund. F8 tar tillbaka det."));
+        QStringLiteral("Tillagt: <i>hound = hund. F8 tar tillbaka det."));
     QCOMPARE(
         Find<QLabel>(dialog, "summary")->text(), QStringLiteral("Totalt 2 glosor. Av 2 svar är 1 rätt (50%)."));
     auto *list = Find<QTableView>(dialog, "results");
@@ -148,7 +148,7 @@ void QuizResultDialogTest::allRight()
 void QuizResultDialogTest::duringTheQuiz()
 {
     TestQuiz run;
-    run.launch.startQuiz(0);
+    run.launch.startQuiz(QuizKind::Standard);
     auto *window = FindWindow<CStandardQuiz>();
     Find<QLineEdit>(window, "answer")->setText(QStringLiteral("hound"));
     QTest::keyClick(window, Qt::Key_Return);

@@ -302,7 +302,7 @@ void QuizSessionTest::flagDecisions()
     for (int i = 0; i < wrong; ++i) {
         session.recordAnswer(0, QStringLiteral("x"));
     }
-    QCOMPARE(session.flagDecision(0, {limits[0], limits[1], limits[2]}), decision);
+    QCOMPARE(int(session.flagDecision(0, {limits[0], limits[1], limits[2]})), decision);
 }
 
 void QuizSessionTest::applyingFlags()

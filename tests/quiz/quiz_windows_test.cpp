@@ -31,7 +31,7 @@ private Q_SLOTS:
 void QuizWindowsTest::wholeQuizByKeyboard()
 {
     TestQuiz run;
-    run.launch.startQuiz(0);
+    run.launch.startQuiz(QuizKind::Standard);
     auto *window = FindWindow<CStandardQuiz>();
     QVERIFY(window != nullptr && !run.host.shown);
     auto *answer = window->findChild<QLineEdit *>(QStringLiteral("answer"));
@@ -76,7 +76,7 @@ void QuizWindowsTest::wholeQuizByKeyboard()
 void QuizWindowsTest::cancelling()
 {
     TestQuiz run;
-    run.launch.startQuiz(0);
+    run.launch.startQuiz(QuizKind::Standard);
     auto *window = FindWindow<CStandardQuiz>();
     QVERIFY(window != nullptr);
     run.test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
@@ -92,14 +92,14 @@ void QuizWindowsTest::cancelling()
 void QuizWindowsTest::nothingToAsk()
 {
     TestQuiz run{QStringList()};
-    run.launch.startQuiz(0);
+    run.launch.startQuiz(QuizKind::Standard);
     QVERIFY(!run.launch.isRunning() && run.host.shown && FindWindow<CStandardQuiz>() == nullptr);
 }
 
 void QuizWindowsTest::buttonsByKeyboard()
 {
     TestQuiz run;
-    run.launch.startQuiz(0);
+    run.launch.startQuiz(QuizKind::Standard);
     auto *window = FindWindow<CStandardQuiz>();
     QApplication::setActiveWindow(window);
     auto *answer = window->findChild<QLineEdit *>(QStringLiteral("answer"));
@@ -122,11 +122,12 @@ void QuizWindowsTest::hastyInput()
     run.settings.requiz = 0;
     run.settings.showAnswer = false;
     run.clock.step = {};
-    run.launch.startQuiz(0);
+    run.launch.startQuiz(QuizKind::Standard);
     auto *window = FindWindow<CStandardQuiz>();
     auto *answer = window->findChild<QLineEdit *>(QStringLiteral("answer"));
     auto *skip = window->findChild<QPushButton *>(QStringLiteral("skipButton"));
     const auto word = [&] { return window->findChild<QLabel *>(QStringLiteral("wordText"))->text(); };
+    run.clock.now += CInputGuard::Pause;
     QTest::mouseClick(skip, Qt::LeftButton);
     QTest::mouseDClick(skip, Qt::LeftButton); // It belongs to the same double click.
     QTest::keyClick(answer, Qt::Key_Return);

@@ -18,39 +18,55 @@ QuizSettings InOrder(int requiz, int rounds)
     return settings;
 }
 
+using Next = CWordByWordForm::Next;
+
+struct Quiz
+{
+    CRandom random{1};
+    QuizChallengeSettings quizChallenge;
+    FallingWordSettings fallingWord;
+    std::shared_ptr<CQuizSession> session;
+    CStandardQuizForm form;
+
+    Quiz(TestDocument &test, const QuizSettings &settings)
+        : session(std::make_shared<CQuizSession>(test.document, settings, random, std::span<const int>())),
+          form({session, settings, {quizChallenge, fallingWord}, test.texts, random, SteadyClock})
+    {
+    }
+};
+
 /// Plays a quiz by script and returns a line per step: the question, the statistics, and the number of the text
 /// shown after the answer. A step is an answer, "-" to skip, "!" for the button "I was right", or "term 1=term
 /// 2" to change the entry asked.
 QStringList Play(TestDocument &test, const QuizSettings &settings, const QString &script)
 {
-    CRandom random(1);
-    CQuizSession session(test.document, settings, random, {});
-    CStandardQuizForm form(session, settings, test.texts);
+    Quiz quiz(test, settings);
+    CStandardQuizForm &form = quiz.form;
     QStringList lines;
-    bool more = true;
+    auto next = Next::SameWord;
     for (const QString &step : script.split(u' ')) {
-        if (!more) {
+        if (next == Next::Over) {
             break;
         }
-        QString line = form.question() + u' ' + form.roundText() + u' ' + form.wordProgress().text + u' '
+        QString line = form.question() + u' ' + form.roundText() + u' ' + form.wordProgress()->text + u' '
             + form.rightProgress().text;
         if (step == u'-') {
-            more = form.skip();
+            next = form.skip();
         } else if (step == u'!') {
             line += u' ' + acceptCaption(form.acceptOffer(), test.texts);
-            more = form.takeAcceptOffer() != CQuizForm::Next::Over;
+            next = form.takeAcceptOffer();
         } else if (step.contains(u'=')) {
-            session.changeEntry(session.entryOfRound(form.roundPosition()), step.section(u'=', 0, 0),
-                step.section(u'=', 1, 1), {});
-            session.recheckAll();
+            quiz.session->changeEntry(
+                form.currentEntry(), step.section(u'=', 0, 0), step.section(u'=', 1, 1), {});
+            form.entriesChanged();
         } else {
             const auto outcome = form.answer(QString(step).replace(u'_', u' '));
             line += outcome.feedback ? QStringLiteral(" %1").arg(outcome.feedback->number) : QString();
-            more = form.advance(outcome.verdict);
+            next = form.advance(outcome.verdict);
         }
         lines.append(line);
     }
-    lines.append(more ? form.question() : QStringLiteral("over"));
+    lines.append(next == Next::Over ? QStringLiteral("over") : form.question());
     return lines;
 }
 
@@ -176,9 +192,8 @@ void StandardQuizFormTest::learning()
 {
     TestDocument test(QStringList{QStringLiteral("a|b [x] * c")});
     QuizSettings settings = InOrder(0, 1);
-    CRandom random(1);
-    CQuizSession session(test.document, settings, random, {});
-    CStandardQuizForm form(session, settings, test.texts);
+    Quiz quiz(test, settings);
+    CStandardQuizForm &form = quiz.form;
     QCOMPARE(form.prefilledAnswer(), QString());
     settings.learning = true;
     QCOMPARE(form.prefilledAnswer(), QStringLiteral("b [x] * c"));
@@ -189,10 +204,9 @@ void StandardQuizFormTest::nothingToAsk()
 {
     TestDocument test;
     const QuizSettings settings = InOrder(2, 3);
-    CRandom random(1);
-    CQuizSession session(test.document, settings, random, {});
-    CStandardQuizForm form(session, settings, test.texts);
-    QVERIFY(!form.skip() && form.acceptOffer().kind == AcceptOffer::Kind::Nothing);
+    Quiz quiz(test, settings);
+    CStandardQuizForm &form = quiz.form;
+    QVERIFY(form.skip() == Next::Over && form.acceptOffer().kind == AcceptOffer::Kind::Nothing);
 }
 
 QTEST_APPLESS_MAIN(StandardQuizFormTest)

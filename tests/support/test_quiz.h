@@ -59,6 +59,8 @@ struct TestQuiz
 {
     TestDocument test;
     QuizSettings settings;
+    QuizChallengeSettings quizChallenge;
+    FallingWordSettings fallingWord;
     QuizWindowSettings windowSizes;
     ResultSettings resultSettings;
     CRandom random{1};
@@ -75,6 +77,7 @@ struct TestQuiz
         : test(entries), launch({.document = test.document,
                                     .editorSettings = test.settings,
                                     .settings = settings,
+                                    .kindSettings = {quizChallenge, fallingWord},
                                     .windowSizes = windowSizes,
                                     .random = random,
                                     .host = host,

@@ -5,15 +5,15 @@
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
+#include <QVBoxLayout>
 
 namespace {
 
 constexpr Qt::Key Key = Qt::Key_F8;
 
-QString KeyName()
+QString keyName()
 {
     return QKeySequence(Key).toString(QKeySequence::NativeText);
 }
@@ -26,17 +26,17 @@ CAcceptAnswerBar::CAcceptAnswerBar(const CTexts &texts, QWidget *window)
     m_button->setObjectName(QStringLiteral("acceptAnswerButton"));
     m_button->setFocusPolicy(Qt::TabFocus); // A click leaves the focus where the next answer is typed.
     m_button->setAutoDefault(false);
-    const QString hint = texts.Fill(Text::AcceptAnswerHint, {KeyName()});
+    const QString hint = texts.Fill(Text::AcceptAnswerHint, {keyName()});
     m_button->setToolTip(hint);
     m_button->setAccessibleDescription(hint);
     m_line->setObjectName(QStringLiteral("acceptedLine"));
     // A shortcut of the button's own would take the place of its mnemonic.
     auto *shortcut = new QShortcut(Key, window);
     shortcut->setAutoRepeat(false);
-    auto *layout = new QHBoxLayout(this);
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(m_button);
-    layout->addWidget(m_line, 1);
+    layout->addWidget(m_button, 0, Qt::AlignLeft);
+    layout->addWidget(m_line);
 
     connect(shortcut, &QShortcut::activated, m_button, &QPushButton::click);
     connect(m_button, &QPushButton::clicked, this, &CAcceptAnswerBar::pressed);
@@ -47,5 +47,5 @@ void CAcceptAnswerBar::showOffer(const AcceptOffer &offer)
 {
     m_button->setText(acceptCaption(offer, m_texts));
     m_button->setEnabled(offer.kind != AcceptOffer::Kind::Nothing);
-    m_line->setText(acceptedLine(offer, KeyName(), m_texts));
+    m_line->setText(acceptedLine(offer, keyName(), m_texts));
 }

@@ -9,7 +9,7 @@ class CElidedLabel;
 class CTexts;
 class QPushButton;
 
-/// The button "I was right", with a key that works everywhere in its window, and the line beside it that says
+/// The button "I was right", with a key that works everywhere in its window, and the line below it that says
 /// what was accepted.
 class CAcceptAnswerBar : public QWidget
 {

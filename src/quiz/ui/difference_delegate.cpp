@@ -12,7 +12,7 @@ namespace {
 
 constexpr int Margin = 4;
 
-bool IsSelected(const QStyleOptionViewItem &item)
+bool isSelected(const QStyleOptionViewItem &item)
 {
     return item.state.testFlag(QStyle::State_Selected);
 }
@@ -26,7 +26,7 @@ void CDifferenceDelegate::fill(
     document.setDocumentMargin(Margin);
     QString style = QStringLiteral("s, u { font-weight: bold } ");
     // On a selected row colours of our own might not be readable.
-    if (!IsSelected(item)) {
+    if (!isSelected(item)) {
         const bool dark = item.palette.color(QPalette::Base).lightness() < 128;
         style += dark ? QStringLiteral("s { color: #ff8a80 } u { color: #81e08c }")
                       : QStringLiteral("s { color: #b00020 } u { color: #00691c }");
@@ -48,7 +48,7 @@ void CDifferenceDelegate::paint(
     fill(document, item, index);
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(
-        QPalette::Text, item.palette.color(IsSelected(item) ? QPalette::HighlightedText : QPalette::Text));
+        QPalette::Text, item.palette.color(isSelected(item) ? QPalette::HighlightedText : QPalette::Text));
     painter->save();
     painter->setClipRect(item.rect);
     painter->translate(item.rect.topLeft());

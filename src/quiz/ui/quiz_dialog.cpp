@@ -7,7 +7,6 @@
 #include "platform/ui/label.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
-#include "quiz/ui/accept_answer_bar.h"
 #include "quiz/ui/change_entry_dialog.h"
 #include "quiz/ui/quiz_result_dialog.h"
 #include "resources/text_numbers.h"
@@ -23,20 +22,9 @@
 
 #include <utility>
 
-namespace {
-
-void ShowProgress(QLabel &label, QProgressBar &bar, const QuizProgress &progress)
-{
-    label.setText(progress.text);
-    // A range from 0 to 0 would show a bar of unknown length.
-    bar.setRange(0, std::max(progress.maximum, 1));
-    bar.setValue(progress.value);
-}
-
-}
-
-CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
-    : m_services(services), m_form(form), m_guard(new CInputGuardFilter(services.clock, this))
+CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form, QuizParts parts)
+    : m_services(services), m_form(form), m_parts(parts), m_guard(new CInputGuardFilter(services.clock, this)),
+      m_content(new QVBoxLayout), m_buttonColumn(new QVBoxLayout)
 {
     setWindowTitle(texts().Get(Text::QuizTitle));
     setWindowModality(Qt::WindowModal);
@@ -46,47 +34,51 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form)
     setWindowFlags(Qt::Window | Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint
         | Qt::WindowMaximizeButtonHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
 
-    m_fields = new QVBoxLayout;
     auto *left = new QVBoxLayout;
-    m_accept = new CAcceptAnswerBar(texts(), this);
-    left->addLayout(m_fields, 1);
-    left->addWidget(m_accept);
+    left->addLayout(m_content, 1);
     left->addWidget(makeStatistics());
-
-    auto *buttons = new QVBoxLayout;
-    auto *skip = addButton(*buttons, Text::SkipButton, "skipButton");
-    m_answer = addButton(*buttons, Text::AnswerButton, "answerButton");
-    m_answer->setDefault(true);
-    auto *cancel = addButton(*buttons, Text::Cancel, "cancelButton");
-    m_change = addButton(*buttons, Text::ChangeButton, "changeButton");
-    auto *result = addButton(*buttons, Text::ResultButton, "resultButton");
-    buttons->addStretch(1);
-
+    m_buttonColumn->addStretch(1);
     auto *layout = new QHBoxLayout(this);
     layout->addLayout(left, 1);
-    layout->addLayout(buttons);
-
-    connect(skip, &QPushButton::clicked, this, [this] { proceed(m_form.skip()); });
-    connect(cancel, &QPushButton::clicked, this, &CQuizDialog::reject);
-    connect(m_change, &QPushButton::clicked, this, &CQuizDialog::changeEntry);
-    connect(result, &QPushButton::clicked, this, &CQuizDialog::showResult);
-    connect(m_accept, &CAcceptAnswerBar::pressed, this, &CQuizDialog::takeAcceptOffer);
+    layout->addLayout(m_buttonColumn);
+    makeButtons();
 }
 
-void CQuizDialog::showEvent(QShowEvent *event)
+QSize CQuizDialog::sizeHint() const
 {
-    if (!event->spontaneous() && !std::exchange(m_wasShown, true)) {
-        ignoreHeldEnter(*this); // The form has all its fields now.
-    }
-    QDialog::showEvent(event);
+    return QDialog::sizeHint().expandedTo({fontMetrics().averageCharWidth() * 80, 0});
 }
 
-QPushButton *CQuizDialog::addButton(QVBoxLayout &column, int text, const char *name)
+void CQuizDialog::makeButtons()
+{
+    const auto addPart = [&](QuizPart part, int text, const char *name) {
+        if (m_parts.testFlag(part)) {
+            m_buttons[part] = addButton(text, name);
+        }
+        return button(part);
+    };
+    addPart(QuizPart::Skip, Text::SkipButton, "skipButton");
+    if (auto *const answer = addPart(QuizPart::Answer, Text::AnswerButton, "answerButton")) {
+        answer->setDefault(true);
+    }
+    addPart(QuizPart::Check, Text::CheckButton, "checkButton");
+    auto *const cancel = addButton(Text::Cancel, "cancelButton");
+    connect(cancel, &QPushButton::clicked, this, &CQuizDialog::reject);
+    if (auto *const change = addPart(QuizPart::Change, Text::ChangeButton, "changeButton")) {
+        change->setEnabled(m_form.mayChangeEntries());
+        connect(change, &QPushButton::clicked, this, &CQuizDialog::changeEntry);
+    }
+    if (auto *const result = addPart(QuizPart::Result, Text::ResultButton, "resultButton")) {
+        connect(result, &QPushButton::clicked, this, &CQuizDialog::showResult);
+    }
+}
+
+QPushButton *CQuizDialog::addButton(int text, const char *name)
 {
     auto *button = new QPushButton(texts().Get(text), this);
     button->setObjectName(QLatin1StringView(name));
     button->setFocusPolicy(Qt::TabFocus); // A click leaves the focus where answers are typed.
-    column.addWidget(button);
+    m_buttonColumn->insertWidget(m_buttonColumn->count() - 1, button);
     return button;
 }
 
@@ -94,71 +86,65 @@ QWidget *CQuizDialog::makeStatistics()
 {
     auto *frame = new QGroupBox(texts().Get(Text::Statistics), this);
     frame->setObjectName(QStringLiteral("statistics"));
+    auto *grid = new QGridLayout(frame);
+    grid->setColumnStretch(1, 1);
     const auto makeLabel = [&](const char *name) {
         QLabel *const label = MakeLabel({}, frame);
         label->setObjectName(QLatin1StringView(name));
         return label;
     };
-    const auto makeBar = [&](const char *name, int accessibleName) {
-        auto *bar = new QProgressBar(frame);
-        bar->setObjectName(QLatin1StringView(name));
-        bar->setAccessibleName(texts().Get(accessibleName));
-        bar->setTextVisible(false);
-        return bar;
+    const auto makeLine = [&](QuizPart part, const char *label, const char *bar, int accessibleName) {
+        if (!m_parts.testFlag(part)) {
+            return Line();
+        }
+        const Line line = {makeLabel(label), new QProgressBar(frame)};
+        line.bar->setObjectName(QLatin1StringView(bar));
+        line.bar->setAccessibleName(texts().Get(accessibleName));
+        line.bar->setTextVisible(false);
+        const int row = grid->rowCount();
+        grid->addWidget(line.label, row, 0);
+        grid->addWidget(line.bar, row, 1);
+        return line;
     };
     m_roundText = makeLabel("roundText");
-    m_wordText = makeLabel("wordText");
-    m_rightText = makeLabel("rightText");
-    m_wordBar = makeBar("wordBar", Text::QuizWordProgress);
-    m_rightBar = makeBar("rightBar", Text::QuizRightProgress);
-
-    auto *grid = new QGridLayout(frame);
     grid->addWidget(m_roundText, 0, 0, 1, 2);
-    grid->addWidget(m_wordText, 1, 0);
-    grid->addWidget(m_wordBar, 1, 1);
-    grid->addWidget(m_rightText, 2, 0);
-    grid->addWidget(m_rightBar, 2, 1);
-    grid->setColumnStretch(1, 1);
+    m_wordLine = makeLine(QuizPart::WordLine, "wordText", "wordBar", Text::QuizWordProgress);
+    m_rightLine = makeLine(QuizPart::RightLine, "rightText", "rightBar", Text::QuizRightProgress);
     return frame;
 }
 
-void CQuizDialog::updateStatistics()
+void CQuizDialog::showEvent(QShowEvent *event)
 {
-    m_change->setEnabled(m_form.mayChangeEntries());
-    m_roundText->setText(m_form.roundText());
-    ShowProgress(*m_wordText, *m_wordBar, m_form.wordProgress());
-    ShowProgress(*m_rightText, *m_rightBar, m_form.rightProgress());
-    m_accept->showOffer(m_form.acceptOffer());
-}
-
-void CQuizDialog::proceed(bool more)
-{
-    if (more) {
+    if (!event->spontaneous() && !std::exchange(m_wasShown, true)) {
+        ignoreHeldEnter(*this); // The window has all its controls now.
         showNextWord();
-    } else {
-        accept();
     }
+    QDialog::showEvent(event);
 }
 
 void CQuizDialog::showNextWord()
 {
     showCurrentWord();
+    updateStatistics();
     m_guard->QuestionAppeared(*this, [this] { return isAnswerEmpty(); });
 }
 
-void CQuizDialog::takeAcceptOffer()
+void CQuizDialog::showProgress(const Line &line, const QuizProgress &progress)
 {
-    switch (m_form.takeAcceptOffer()) {
-    case CQuizForm::Next::SameWord:
-        updateStatistics(); // What was typed for the next word stays.
-        focusInput();
-        break;
-    case CQuizForm::Next::OtherWord:
-        showNextWord();
-        break;
-    case CQuizForm::Next::Over:
-        accept();
-        break;
+    line.label->setText(progress.text);
+    // A range from 0 to 0 would show a bar of unknown length.
+    line.bar->setRange(0, std::max(progress.maximum, 1));
+    line.bar->setValue(progress.value);
+}
+
+void CQuizDialog::updateStatistics()
+{
+    m_roundText->setText(m_form.roundText());
+    if (const auto progress = m_form.wordProgress(); progress && m_parts.testFlag(QuizPart::WordLine)) {
+        showProgress(m_wordLine, *progress);
+    }
+    if (m_parts.testFlag(QuizPart::RightLine)) {
+        showProgress(m_rightLine, m_form.rightProgress());
     }
 }
 
@@ -189,8 +175,7 @@ void CQuizDialog::showFeedback(AnswerVerdict verdict, const std::optional<Feedba
 
 void CQuizDialog::changeEntry()
 {
-    auto *dialog = new CChangeEntryDialog(
-        m_form.session(), texts(), prompt(), m_form.session().entryOfRound(m_form.roundPosition()), this);
+    auto *dialog = new CChangeEntryDialog(*m_form.session(), texts(), prompt(), m_form.currentEntry(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (m_services.font) {
         dialog->setFont(*m_services.font);
@@ -198,14 +183,14 @@ void CQuizDialog::changeEntry()
     connect(dialog, &QDialog::finished, this, [this] {
         m_form.entriesChanged();
         showCurrentWord();
+        updateStatistics();
     });
     dialog->open();
 }
 
 void CQuizDialog::showResult()
 {
-    auto *dialog =
-        new CQuizResultDialog(m_form.session(), m_services, CQuizResultDialog::Mode::DuringQuiz, this);
+    auto *dialog = new CQuizResultDialog(m_form.session(), m_services, ResultMode::DuringQuiz, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, &CQuizDialog::focusInput);
     dialog->open();

@@ -5,12 +5,13 @@
 #include "quiz/answer_check.h"
 
 #include <QDialog>
+#include <QFlags>
 #include <QFont>
+#include <QHash>
 #include <QStringList>
 
 #include <optional>
 
-class CAcceptAnswerBar;
 class CInputGuardFilter;
 class CQuizForm;
 class CTexts;
@@ -21,6 +22,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QVBoxLayout;
+struct QuizProgress;
 struct ResultSettings;
 
 /// What a quiz window is handed; none of it is owned.
@@ -40,8 +42,23 @@ struct QuizWindowServices
     Clock clock = SteadyClock;
 };
 
-/// The common base of quiz windows: statistics, the buttons that every form has, and the question before a quiz
-/// is given up. A form adds its own fields above the statistics and says how to show a word.
+/// The parts of a quiz window that not every form has. Cancel and the line of rounds are always there.
+enum class QuizPart {
+    Skip = 0x01,
+    Answer = 0x02, ///< The button of Enter.
+    Check = 0x04,
+    Change = 0x08,
+    Result = 0x10,
+    WordLine = 0x20,
+    RightLine = 0x40,
+    AcceptAnswer = 0x80 ///< "I was right"; of windows that ask one word at a time.
+};
+Q_DECLARE_FLAGS(QuizParts, QuizPart)
+Q_DECLARE_OPERATORS_FOR_FLAGS(QuizParts)
+
+/// The common base of quiz windows: statistics, the buttons that forms share, and the question before a quiz is
+/// given up. A form's window names its parts, adds its own controls above the statistics and says how to show
+/// what is to be answered; the base shows it for the first time when the window opens.
 class CQuizDialog : public QDialog
 {
     Q_OBJECT
@@ -49,50 +66,60 @@ class CQuizDialog : public QDialog
 public:
     /// Asks first; only Yes closes the window, and the result is then Rejected.
     void reject() override;
+    QSize sizeHint() const override;
 
 protected:
-    CQuizDialog(const QuizWindowServices &services, CQuizForm &form);
+    /// `form` must live as long as the window.
+    CQuizDialog(const QuizWindowServices &services, CQuizForm &form, QuizParts parts);
 
+    /// Shows what is to be answered now; the statistics follow.
     virtual void showCurrentWord() = 0;
     /// Gives the focus to where answers are given.
     virtual void focusInput() = 0;
     /// Whether Enter would record an answer of nothing.
-    virtual bool isAnswerEmpty() const = 0;
-    void updateStatistics();
-    /// After the form went on: shows the word on screen, or closes the window as finished.
-    void proceed(bool more);
+    virtual bool isAnswerEmpty() const { return false; }
+    /// The lines of statistics, and what else follows from the answers so far.
+    virtual void updateStatistics();
+
+    /// What showCurrentWord() shows is new: keys and clicks meant for what was there before don't answer it.
+    void showNextWord();
     /// The sound of an answer and the text about it, where there are such.
     void showFeedback(AnswerVerdict verdict, const std::optional<FeedbackText> &feedback);
 
     const CTexts &texts() const { return m_services.texts; }
     IUserPrompt &prompt() const { return m_services.prompt; }
-    /// For the form's own fields.
-    QVBoxLayout *fields() const { return m_fields; }
-    /// The button of Enter; the form connects it.
-    QPushButton *answerButton() const { return m_answer; }
+    const CQuizForm &form() const { return m_form; }
+    QuizParts parts() const { return m_parts; }
+    /// For the form's own controls.
+    QVBoxLayout *content() const { return m_content; }
+    /// The button of a part; null when the window doesn't have it.
+    QPushButton *button(QuizPart part) const { return m_buttons.value(part); }
+    /// A button of the form's own, below the others.
+    QPushButton *addButton(int text, const char *name);
 
     void showEvent(QShowEvent *event) override;
 
 private:
-    QPushButton *addButton(QVBoxLayout &column, int text, const char *name);
+    struct Line
+    {
+        QLabel *label = nullptr;
+        QProgressBar *bar = nullptr;
+    };
+    void makeButtons();
     QWidget *makeStatistics();
     void changeEntry();
     void showResult();
-    void takeAcceptOffer();
-
-    void showNextWord();
+    static void showProgress(const Line &line, const QuizProgress &progress);
 
     QuizWindowServices m_services;
     CQuizForm &m_form;
+    QuizParts m_parts;
     CInputGuardFilter *m_guard;
-    QVBoxLayout *m_fields = nullptr;
-    bool m_wasShown = false;
-    QPushButton *m_answer = nullptr;
-    QPushButton *m_change = nullptr;
-    CAcceptAnswerBar *m_accept = nullptr;
+    QVBoxLayout *m_content;
+    QVBoxLayout *m_buttonColumn;
+    QHash<QuizPart, QPushButton *> m_buttons;
     QLabel *m_roundText = nullptr;
-    QLabel *m_wordText = nullptr;
-    QLabel *m_rightText = nullptr;
-    QProgressBar *m_wordBar = nullptr;
-    QProgressBar *m_rightBar = nullptr;
+    Line m_wordLine;
+    Line m_rightLine;
+    bool m_wasShown = false;
 };

@@ -6,7 +6,6 @@
 #include "platform/ui/wait_cursor.h"
 #include "quiz/duplicate_question.h"
 #include "quiz/quiz_host.h"
-#include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_result_dialog.h"
 
 #include <QScreen>
@@ -18,7 +17,7 @@ CQuizLaunch::CQuizLaunch(QuizLaunchServices services, QWidget &mainWindow)
 
 CQuizLaunch::~CQuizLaunch() = default;
 
-void CQuizLaunch::startQuiz(int kind)
+void CQuizLaunch::startQuiz(QuizKind kind)
 {
     CWin32Doc &document = m_services.document;
     if (isRunning() || !hasWindow(kind)) {
@@ -26,29 +25,42 @@ void CQuizLaunch::startQuiz(int kind)
     }
     // First, since it may add an entry or make a duplicate.
     m_services.host.EndEditing();
-    if (document.List().Count() < MinimumEntries[size_t(kind)]
-        || !mayStartQuiz(
-            document.List(), m_services.editorSettings, m_services.windows.texts, m_services.windows.prompt)) {
+    const QuizWindowServices &windows = m_services.windows;
+    if (document.List().Count() < quizKindRow(kind).minimumEntries
+        || !mayStartQuiz(document.List(), m_services.editorSettings, windows.texts, windows.prompt)) {
         return;
     }
-    const CWaitCursor wait;
     m_kind = kind;
-    const std::vector<int> selected = m_services.host.SelectedEntries();
-    m_session = std::make_unique<CQuizSession>(document, m_services.settings, m_services.random, selected);
-    if (m_session->roundSize() == 0 || m_session->baseRound() > m_services.settings.quizNumber) {
-        m_session.reset();
-        return;
+    m_session = makeSession();
+    if (m_session != nullptr) {
+        m_dialog = m_services.makers[size_t(kind)](windows,
+            {m_session, m_services.settings, m_services.kindSettings, windows.texts, m_services.random,
+                windows.clock});
     }
-    openWindow();
+    if (m_dialog != nullptr) {
+        openWindow();
+    } else {
+        m_session.reset();
+    }
+}
+
+std::shared_ptr<CQuizSession> CQuizLaunch::makeSession() const
+{
+    const CWaitCursor wait;
+    auto session = std::make_shared<CQuizSession>(
+        m_services.document, m_services.settings, m_services.random, m_services.host.SelectedEntries());
+    const bool asks = session->roundSize() > 0 && session->baseRound() <= m_services.settings.quizNumber;
+    return asks ? session : nullptr;
 }
 
 void CQuizLaunch::openWindow()
 {
-    m_dialog = m_services.makers[size_t(m_kind)](m_services.windows, *m_session, m_services.settings);
+    const CWaitCursor wait;
     connect(m_dialog.get(), &QDialog::finished, this, &CQuizLaunch::quizClosed);
     const QRect available = m_mainWindow.screen()->availableGeometry();
     const QSize frame = m_mainWindow.frameGeometry().size() - m_mainWindow.size();
-    const QSize size = openingSize(m_services.windowSizes, m_kind, m_dialog->size(), available.size() - frame);
+    const QSize size =
+        openingSize(m_services.windowSizes, m_kind, m_dialog->sizeHint(), available.size() - frame);
     QRect place({}, size + frame);
     place.moveCenter(m_mainWindow.frameGeometry().center());
     place.moveRight(std::min(place.right(), available.right()));
@@ -78,8 +90,7 @@ void CQuizLaunch::quizClosed()
 
 void CQuizLaunch::showResult()
 {
-    auto *result = new CQuizResultDialog(
-        *m_session, m_services.windows, CQuizResultDialog::Mode::AfterQuiz, &m_mainWindow);
+    auto *result = new CQuizResultDialog(m_session, m_services.windows, ResultMode::AfterQuiz, &m_mainWindow);
     result->setAttribute(Qt::WA_DeleteOnClose);
     connect(result, &QDialog::finished, this, &CQuizLaunch::finish);
     (new CInputGuardFilter(m_services.windows.clock, result))->WindowOpens(*result);
@@ -93,5 +104,5 @@ void CQuizLaunch::finish()
         m_services.host.SelectEntries(*entries);
     }
     m_services.host.FocusList();
-    m_lastSession = std::move(m_session);
+    m_session.reset();
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quiz/quiz_session.h"
 #include "quiz/ui/quiz_windows.h"
 
 #include <QObject>
@@ -17,6 +16,7 @@ struct QuizLaunchServices
     CWin32Doc &document;
     const EditorSettings &editorSettings;
     const QuizSettings &settings;
+    QuizKindSettings kindSettings;
     /// The sizes of the windows are noted here.
     QuizWindowSettings &windowSizes;
     CRandom &random;
@@ -35,15 +35,18 @@ public:
     CQuizLaunch(QuizLaunchServices services, QWidget &mainWindow);
     ~CQuizLaunch() override;
 
-    bool hasWindow(int kind) const { return bool(m_services.makers[size_t(kind)]); }
+    bool hasWindow(QuizKind kind) const { return bool(m_services.makers[size_t(kind)]); }
     /// Does nothing while a quiz runs, when the list is too short for the kind, when the user does not want it
-    /// with duplicates in the list, and when there is no word to ask.
-    void startQuiz(int kind);
+    /// with duplicates in the list, when there is no word to ask, and when the user answers a question of the
+    /// kind so.
+    void startQuiz(QuizKind kind);
     /// The user's own font, for the windows of quizzes to come; none for the desktop's.
     void setFont(const std::optional<QFont> &font) { m_services.windows.font = font; }
     bool isRunning() const { return m_session != nullptr; }
 
 private:
+    /// Null when there is no word to ask.
+    std::shared_ptr<CQuizSession> makeSession() const;
     void openWindow();
     void quizClosed();
     void showResult();
@@ -51,8 +54,7 @@ private:
 
     QuizLaunchServices m_services;
     QWidget &m_mainWindow;
-    int m_kind = 0;
-    std::unique_ptr<CQuizSession> m_session;
-    std::unique_ptr<CQuizSession> m_lastSession; // Its windows are deleted a little later.
+    QuizKind m_kind = QuizKind::Standard;
+    std::shared_ptr<CQuizSession> m_session;
     std::unique_ptr<CQuizDialog> m_dialog;
 };

@@ -28,10 +28,11 @@
 #include <algorithm>
 
 CQuizResultDialog::CQuizResultDialog(
-    CQuizSession &session, const QuizWindowServices &services, Mode mode, QWidget *parent)
-    : QDialog(parent), m_prompt(services.prompt), m_settings(services.resultSettings),
-      m_result(session, {services.texts, services.prompt, services.chooser, services.resultSettings}, mode),
-      m_wrongAnswers(session, services.texts), m_list(new QTableView(this)), m_summary(MakeLabel({}, this)),
+    std::shared_ptr<CQuizSession> session, const QuizWindowServices &services, ResultMode mode, QWidget *parent)
+    : QDialog(parent), m_session(std::move(session)), m_prompt(services.prompt),
+      m_settings(services.resultSettings),
+      m_result(*m_session, {services.texts, services.prompt, services.chooser, services.resultSettings}, mode),
+      m_wrongAnswers(*m_session, services.texts), m_list(new QTableView(this)), m_summary(MakeLabel({}, this)),
       m_share(new QProgressBar(this))
 {
     const CTexts &texts = services.texts;
@@ -52,7 +53,7 @@ CQuizResultDialog::CQuizResultDialog(
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_list, 3);
-    const bool mayTakeBack = session.acceptedAnswer().has_value();
+    const bool mayTakeBack = m_session->acceptedAnswer().has_value();
     if (m_result.showsRightAnswers() && (m_result.hasMistakes() || mayTakeBack)) {
         layout->addWidget(makeWrongAnswers(), 1);
     }
@@ -62,7 +63,7 @@ CQuizResultDialog::CQuizResultDialog(
         m_selectMistakes = new QCheckBox(texts.Get(Text::SelectMistakes), this);
         m_selectMistakes->setObjectName(QStringLiteral("selectMistakes"));
         connect(m_selectMistakes, &QCheckBox::toggled, this,
-            [this](bool select) { m_result.session().setSelectMistakes(select); });
+            [this](bool select) { m_session->setSelectMistakes(select); });
         layout->addWidget(m_selectMistakes);
         layout->addLayout(makeFlagLine());
     }
@@ -191,9 +192,8 @@ QLayout *CQuizResultDialog::makeButtons()
 
 void CQuizResultDialog::selectFirstMistake()
 {
-    const CQuizSession &session = m_result.session();
-    for (int position = 0; position < session.wordCount(); ++position) {
-        if (session.wasWrong(position)) {
+    for (int position = 0; position < m_session->wordCount(); ++position) {
+        if (m_session->wasWrong(position)) {
             m_list->selectRow(position);
             return;
         }
@@ -217,7 +217,7 @@ void CQuizResultDialog::answerSelected()
 
 void CQuizResultDialog::updateAcceptOffer()
 {
-    m_accept->showOffer(m_offersTakeBack ? takeBackOffer(m_result.session())
+    m_accept->showOffer(m_offersTakeBack ? takeBackOffer(*m_session)
                                          : m_wrongAnswers.acceptOffer(m_answers->currentIndex().row()));
 }
 
@@ -235,13 +235,12 @@ void CQuizResultDialog::updateTotals()
 
 void CQuizResultDialog::takeAcceptOffer()
 {
-    CQuizSession &session = m_result.session();
     const bool takeBack = m_offersTakeBack;
-    const int position = takeBack ? session.acceptedAnswer()->position : m_wrongAnswers.position();
+    const int position = takeBack ? m_session->acceptedAnswer()->position : m_wrongAnswers.position();
     if (takeBack) {
-        session.takeBackAcceptedAnswer();
+        m_session->takeBackAcceptedAnswer();
     } else {
-        session.acceptAnswer(position, m_wrongAnswers.answers().value(m_answers->currentIndex().row()));
+        m_session->acceptAnswer(position, m_wrongAnswers.answers().value(m_answers->currentIndex().row()));
     }
     m_result.model().wordChanged(position);
     updateTotals();
@@ -272,14 +271,4 @@ void CQuizResultDialog::accept()
         m_result.applyFlags();
     }
     QDialog::accept();
-}
-
-void CQuizResultDialog::done(int result)
-{
-    // The session may end with the window, before this object does.
-    m_list->setModel(nullptr);
-    if (m_answers != nullptr) {
-        m_answers->setModel(nullptr);
-    }
-    QDialog::done(result);
 }

@@ -5,6 +5,8 @@
 #include "quiz/ui/quiz_dialog.h"
 #include "quiz/wrong_answers_model.h"
 
+#include <memory>
+
 class CAcceptAnswerBar;
 class QCheckBox;
 class QListView;
@@ -17,13 +19,11 @@ class CQuizResultDialog : public QDialog
     Q_OBJECT
 
 public:
-    using Mode = ResultMode;
-
-    /// Nothing handed in is owned.
-    CQuizResultDialog(CQuizSession &session, const QuizWindowServices &services, Mode mode, QWidget *parent);
+    /// The session is shared, so that it lasts as long as the window. Nothing else is owned.
+    CQuizResultDialog(std::shared_ptr<CQuizSession> session, const QuizWindowServices &services,
+        ResultMode mode, QWidget *parent);
 
     void accept() override;
-    void done(int result) override;
 
 private:
     void makeList();
@@ -40,6 +40,7 @@ private:
     void copyTable();
     void openFlagSettings();
 
+    std::shared_ptr<CQuizSession> m_session;
     IUserPrompt &m_prompt;
     ResultSettings &m_settings;
     CQuizResult m_result;

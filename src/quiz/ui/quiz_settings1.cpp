@@ -42,9 +42,9 @@ CQuizSettings1::CQuizSettings1(CQuizSettingsForm &form, QWidget *parent) : QWidg
     languages->setObjectName(QStringLiteral("languages"));
     auto *directions = new QVBoxLayout(languages);
     directions->addWidget(
-        MakeRadioButton(languages, "fromLanguage1", form.DirectionCaption(0), 0, values.showLanguage));
+        MakeRadioButton(languages, "fromLanguage1", form.directionCaption(0), 0, values.showLanguage));
     directions->addWidget(
-        MakeRadioButton(languages, "fromLanguage2", form.DirectionCaption(1), 1, values.showLanguage));
+        MakeRadioButton(languages, "fromLanguage2", form.directionCaption(1), 1, values.showLanguage));
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(rows);

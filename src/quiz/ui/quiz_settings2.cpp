@@ -49,14 +49,14 @@ CQuizSettings2::CQuizSettings2(CQuizSettingsForm &form, QWidget *parent) : QWidg
         MakeNumber(
             this, "includeFlaggedProbability", CQuizSettingsForm::Others, values.includeFlaggedProbability));
 
-    connect(words, &QComboBox::currentIndexChanged, this, &CQuizSettings2::UpdateEnabled);
-    connect(flagged, &QComboBox::currentIndexChanged, this, &CQuizSettings2::UpdateEnabled);
-    UpdateEnabled();
+    connect(words, &QComboBox::currentIndexChanged, this, &CQuizSettings2::updateEnabled);
+    connect(flagged, &QComboBox::currentIndexChanged, this, &CQuizSettings2::updateEnabled);
+    updateEnabled();
 }
 
-void CQuizSettings2::UpdateEnabled()
+void CQuizSettings2::updateEnabled()
 {
-    SetAllEnabled(m_number, m_form.IsNumberUsed());
-    SetAllEnabled(m_share, m_form.IsShareUsed());
-    SetAllEnabled(m_probability, m_form.IsProbabilityUsed());
+    SetAllEnabled(m_number, m_form.isNumberUsed());
+    SetAllEnabled(m_share, m_form.isShareUsed());
+    SetAllEnabled(m_probability, m_form.isProbabilityUsed());
 }

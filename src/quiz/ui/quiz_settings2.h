@@ -14,7 +14,7 @@ public:
     explicit CQuizSettings2(CQuizSettingsForm &form, QWidget *parent = nullptr);
 
 private:
-    void UpdateEnabled();
+    void updateEnabled();
 
     const CQuizSettingsForm &m_form;
     QList<QWidget *> m_number;

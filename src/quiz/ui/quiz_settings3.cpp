@@ -35,31 +35,31 @@ CQuizSettings3::CQuizSettings3(CQuizSettingsForm &form, QWidget *parent) : QWidg
     addCheck("showAnswerIfOneCorrect", Text::QuizSettingsShowAnswers, values.showAnswerIfOneCorrect);
 
     auto *sounds = new QGridLayout;
-    AddSound(*sounds,
+    addSound(*sounds,
         {"playRight", "fileRight", Text::QuizSettingsPlayRight, Text::QuizSettingsRightFile,
             Text::QuizSettingsBrowseRight, values.playRight, values.rightSoundFile});
-    AddSound(*sounds,
+    addSound(*sounds,
         {"playWrong", "fileWrong", Text::QuizSettingsPlayWrong, Text::QuizSettingsWrongFile,
             Text::QuizSettingsBrowseWrong, values.playWrong, values.wrongSoundFile});
     layout->addLayout(sounds);
-    layout->addWidget(MakeRequiz());
+    layout->addWidget(makeRequiz());
     layout->addStretch(1);
-    UpdateEnabled();
+    updateEnabled();
 }
 
-void CQuizSettings3::AddSound(QGridLayout &grid, const Sound &sound)
+void CQuizSettings3::addSound(QGridLayout &grid, const Sound &sound)
 {
     const CTexts &texts = m_form.texts();
     auto *play = MakeCheckBox(this, sound.switchName, texts.Get(sound.caption), sound.play);
     const FileField file = MakeFileField(this, sound.fieldName, texts.Get(sound.file), texts.Get(sound.browse),
-        sound.fileName, [this](const QString &current) { return m_form.BrowseSound(current); });
+        sound.fileName, [this](const QString &current) { return m_form.browseSound(current); });
     const int row = grid.rowCount();
     grid.addWidget(play, row, 0);
     grid.addWidget(file.name, row, 1);
     grid.addWidget(file.browse, row, 2);
 }
 
-QGroupBox *CQuizSettings3::MakeRequiz()
+QGroupBox *CQuizSettings3::makeRequiz()
 {
     const CTexts &texts = m_form.texts();
     QuizSettings &values = m_form.values;
@@ -73,7 +73,7 @@ QGroupBox *CQuizSettings3::MakeRequiz()
         auto *radio = MakeRadioButton(group, Names[button], texts.Get(Captions[button]),
             CQuizSettingsForm::RequizButtons[button], values.requiz);
         layout->addWidget(radio);
-        connect(radio, &QRadioButton::toggled, this, &CQuizSettings3::UpdateEnabled);
+        connect(radio, &QRadioButton::toggled, this, &CQuizSettings3::updateEnabled);
     }
 
     m_requizMax = MakeCheckBox(group, "requizMax", texts.Get(Text::QuizSettingsRequizMax), values.requizMax);
@@ -86,13 +86,13 @@ QGroupBox *CQuizSettings3::MakeRequiz()
     row->addWidget(m_times);
     row->addStretch(1);
     layout->addLayout(row);
-    connect(m_requizMax, &QCheckBox::toggled, this, &CQuizSettings3::UpdateEnabled);
+    connect(m_requizMax, &QCheckBox::toggled, this, &CQuizSettings3::updateEnabled);
     return group;
 }
 
-void CQuizSettings3::UpdateEnabled()
+void CQuizSettings3::updateEnabled()
 {
-    m_requizMax->setEnabled(m_form.IsRequizMaxUsed());
-    m_times->setEnabled(m_form.IsRequizMaxUsed());
-    m_requizNumber->setEnabled(m_form.IsRequizNumberUsed());
+    m_requizMax->setEnabled(m_form.isRequizMaxUsed());
+    m_times->setEnabled(m_form.isRequizMaxUsed());
+    m_requizNumber->setEnabled(m_form.isRequizNumberUsed());
 }

@@ -30,9 +30,9 @@ private:
         bool &play;
         QString &fileName;
     };
-    void AddSound(QGridLayout &grid, const Sound &sound);
-    QGroupBox *MakeRequiz();
-    void UpdateEnabled();
+    void addSound(QGridLayout &grid, const Sound &sound);
+    QGroupBox *makeRequiz();
+    void updateEnabled();
 
     CQuizSettingsForm &m_form;
     QCheckBox *m_requizMax = nullptr;

@@ -18,6 +18,6 @@ CQuizSettingsDialog::CQuizSettingsDialog(const CQuizSettingsForm &form, QWidget 
 
 void CQuizSettingsDialog::accept()
 {
-    m_form.Accept();
+    m_form.accept();
     CSettingsSheet::accept();
 }

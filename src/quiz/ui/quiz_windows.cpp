@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_windows.h"
 
-#include "quiz/quiz_kinds.h"
 #include "quiz/ui/standard_quiz.h"
 
 QuizWindowMakers quizWindowMakers()
 {
     QuizWindowMakers makers;
-    makers[StandardQuizKind] = quizWindowMaker<CStandardQuiz>();
+    makers[size_t(QuizKind::Standard)] = makeQuizWindow<CStandardQuiz, CStandardQuizForm>;
     return makers;
 }

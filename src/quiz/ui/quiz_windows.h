@@ -1,27 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "quiz/quiz_form.h"
+#include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_dialog.h"
-#include "settings/quiz_settings.h"
 
 #include <array>
 #include <functional>
 #include <memory>
 
-class CQuizSession;
-
-/// Makes the window of one kind of quiz; nothing handed in is owned. Empty for a kind without a window.
-using QuizWindowMaker = std::function<std::unique_ptr<CQuizDialog>(
-    const QuizWindowServices &services, CQuizSession &session, const QuizSettings &settings)>;
+/// Makes the window of one kind of quiz, with its form. It runs before the main window is hidden and may ask
+/// something first; without a window there is no quiz. Empty for a kind without a window.
+using QuizWindowMaker =
+    std::function<std::unique_ptr<CQuizDialog>(const QuizWindowServices &services, const QuizStart &start)>;
 using QuizWindowMakers = std::array<QuizWindowMaker, QuizSettings::KindCount>;
 
-template<class Window>
-QuizWindowMaker quizWindowMaker()
+template<class Window, class Form>
+std::unique_ptr<CQuizDialog> makeQuizWindow(const QuizWindowServices &services, const QuizStart &start)
 {
-    return [](const QuizWindowServices &services, CQuizSession &session, const QuizSettings &settings) {
-        return std::make_unique<Window>(services, session, settings);
-    };
+    return std::make_unique<Window>(services, std::make_unique<Form>(start));
 }
 
-/// The table of the quizzes' windows: a new form is one line in it. Games add theirs.
+/// The windows by kind.
 QuizWindowMakers quizWindowMakers();

@@ -2,18 +2,17 @@
 #pragma once
 
 #include "quiz/standard_quiz_form.h"
-#include "quiz/ui/quiz_dialog.h"
+#include "quiz/ui/word_by_word_dialog.h"
 
 class QLineEdit;
-class QPlainTextEdit;
 
 /// The window of the standard quiz.
-class CStandardQuiz : public CQuizDialog
+class CStandardQuiz : public CWordByWordDialog
 {
     Q_OBJECT
 
 public:
-    CStandardQuiz(const QuizWindowServices &services, CQuizSession &session, const QuizSettings &settings);
+    CStandardQuiz(const QuizWindowServices &services, std::unique_ptr<CStandardQuizForm> form);
 
 protected:
     void showCurrentWord() override;
@@ -23,7 +22,6 @@ protected:
 private:
     void answer();
 
-    CStandardQuizForm m_form;
-    QPlainTextEdit *m_question;
+    std::unique_ptr<CStandardQuizForm> m_form;
     QLineEdit *m_answerField;
 };

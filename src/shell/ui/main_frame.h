@@ -3,6 +3,7 @@
 
 #include "editor/arranging.h"
 #include "quiz/quiz_host.h"
+#include "settings/quiz_settings.h"
 #include "shell/ui/window_place.h"
 
 #include <QMainWindow>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/quiz_commands.h"
 
+#include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_launch.h"
 #include "settings/quiz_settings.h"
 #include "shell/commands.h"
@@ -12,9 +13,9 @@ CQuizCommands::CQuizCommands(
     CCommandActions &actions, CQuizLaunch &launch, ::QuizSettings &settings, QObject *parent)
     : QObject(parent)
 {
-    for (int kind = 0; kind <= LastQuiz - StandardQuiz; ++kind) {
-        if (launch.hasWindow(kind)) {
-            actions.SetHandler(StandardQuiz + kind, [&launch, kind] { launch.startQuiz(kind); });
+    for (const QuizKindRow &row : quizKinds()) {
+        if (launch.hasWindow(row.kind)) {
+            actions.SetHandler(row.command, [&launch, kind = row.kind] { launch.startQuiz(kind); });
         }
     }
     for (const int direction : {FromLanguage1, FromLanguage2}) {
