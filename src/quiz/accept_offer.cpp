@@ -3,7 +3,6 @@
 
 #include "platform/plain_text.h"
 #include "quiz/quiz_session.h"
-#include "quiz/shortened.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -36,9 +35,8 @@ QString acceptCaption(const AcceptOffer &offer, const CTexts &texts)
     if (offer.kind == AcceptOffer::Kind::Nothing) {
         return texts.Get(Text::AcceptAnswer);
     }
-    constexpr qsizetype Kept = 12;
     return texts.Fill(offer.kind == AcceptOffer::Kind::Accept ? Text::AcceptThisAnswer : Text::TakeBackAnswer,
-        {ShownInCaption(shortened(offer.answer, Kept)), ShownInCaption(shortened(offer.word, Kept))});
+        {ShownInCaption(offer.answer), ShownInCaption(offer.word)});
 }
 
 QString acceptedLine(const AcceptOffer &offer, const QString &key, const CTexts &texts)
@@ -46,7 +44,7 @@ QString acceptedLine(const AcceptOffer &offer, const QString &key, const CTexts 
     if (offer.kind != AcceptOffer::Kind::TakeBack) {
         return {};
     }
-    constexpr qsizetype Kept = 20;
+    constexpr qsizetype Longest = 40;
     return texts.Fill(
-        Text::AnswerWasAccepted, {shortened(offer.answer, Kept), shortened(offer.word, Kept), key});
+        Text::AnswerWasAccepted, {ShownShort(offer.answer, Longest), ShownShort(offer.word, Longest), key});
 }

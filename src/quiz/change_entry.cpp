@@ -6,7 +6,6 @@
 #include "platform/plain_text.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_session.h"
-#include "quiz/shortened.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -62,8 +61,8 @@ bool CChangeEntry::change(int entry, const Fields &typed)
 
 QString CChangeEntry::storedLine(int entry) const
 {
-    constexpr qsizetype Kept = 20;
-    return m_texts.Fill(Text::EntryWasChanged, {shortened(line(entry), Kept)});
+    constexpr qsizetype Longest = 60;
+    return m_texts.Fill(Text::EntryWasChanged, {ShownShort(line(entry), Longest)});
 }
 
 bool CChangeEntry::wouldChange(int entry, const Fields &typed) const

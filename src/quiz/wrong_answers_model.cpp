@@ -3,7 +3,6 @@
 
 #include "platform/plain_text.h"
 #include "quiz/quiz_session.h"
-#include "quiz/shortened.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
@@ -11,13 +10,24 @@ namespace {
 
 using Kind = DifferencePart::Kind;
 
-/// Of each text at its start and end.
-constexpr qsizetype Kept = 40;
+/// `text` with a mark in place of its middle when it is long.
+QString shortened(const QString &text)
+{
+    constexpr qsizetype Kept = 40;
+    if (text.size() <= 3 * Kept) {
+        return text;
+    }
+    qsizetype start = Kept;
+    qsizetype end = text.size() - Kept;
+    start += text.at(start).isLowSurrogate() ? 1 : 0;
+    end += text.at(end).isLowSurrogate() ? 1 : 0;
+    return text.left(start) + QChar(u'…') + text.mid(end);
+}
 
 QString escaped(const QString &text)
 {
     // Blanks must not run into one.
-    return shortened(text, Kept).toHtmlEscaped().replace(u' ', QChar(QChar::Nbsp));
+    return shortened(text).toHtmlEscaped().replace(u' ', QChar(QChar::Nbsp));
 }
 
 QString tagged(const QString &text, const char *tag)
@@ -47,12 +57,12 @@ QList<DifferencePart> stepsOf(const QList<DifferencePart> &parts)
 QString stepInWords(const DifferencePart &step, const CTexts &texts)
 {
     if (step.typed.isEmpty()) {
-        return texts.Fill(Text::StepAdd, {shortened(step.expected, Kept)});
+        return texts.Fill(Text::StepAdd, {shortened(step.expected)});
     }
     if (step.expected.isEmpty()) {
-        return texts.Fill(Text::StepLeaveOut, {shortened(step.typed, Kept)});
+        return texts.Fill(Text::StepLeaveOut, {shortened(step.typed)});
     }
-    return texts.Fill(Text::StepChange, {shortened(step.typed, Kept), shortened(step.expected, Kept)});
+    return texts.Fill(Text::StepChange, {shortened(step.typed), shortened(step.expected)});
 }
 
 }
@@ -81,7 +91,7 @@ QString differenceInWords(const AnswerDifference &difference, const CTexts &text
         steps.append(stepInWords(step, texts));
     }
     const QString sentence = texts.Fill(Text::DifferenceInWords,
-        {shortened(difference.typed, Kept), shortened(difference.expected, Kept),
+        {shortened(difference.typed), shortened(difference.expected),
             steps.join(texts.Get(Text::QuotedSeparator))});
     const QString slip = slipName(difference.slip, texts);
     return slip.isEmpty() ? sentence : sentence + u' ' + slip + u'.';

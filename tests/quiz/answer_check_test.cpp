@@ -34,9 +34,9 @@ void AnswerCheckTest::verdicts_data()
     QTest::newRow("equal") << "a"
                            << "a"
                            << "" << Right;
-    QTest::newRow("one of several") << "a*b"
-                                    << "b"
-                                    << "" << RightOneOfSeveral;
+    QTest::newRow("the last of several") << "a*b*c"
+                                         << "c"
+                                         << "" << RightOneOfSeveral;
     QTest::newRow("none of several") << "a*b"
                                      << "c"
                                      << "" << Wrong;
@@ -52,6 +52,9 @@ void AnswerCheckTest::verdicts_data()
     QTest::newRow("comment in full") << "hus [n]"
                                      << "hus [n]"
                                      << "" << Right;
+    QTest::newRow("comment with brackets, case ignored") << "hus [n]"
+                                                         << "HUS [N]"
+                                                         << "i" << Right;
     QTest::newRow("comment in one of several") << "hus [n] * hem"
                                                << "hus"
                                                << "" << RightOneOfSeveral;

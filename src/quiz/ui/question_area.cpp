@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/question_area.h"
 
-#include "quiz/shortened.h"
+#include "platform/plain_text.h"
 
 #include <QEvent>
 #include <QPlainTextEdit>
@@ -70,8 +70,8 @@ QFont CQuestionArea::smallestFont() const
 void CQuestionArea::setQuestion(const QString &question)
 {
     // A term may be longer than anybody reads.
-    constexpr qsizetype Kept = 500;
-    m_question->setPlainText(shortened(question, Kept));
+    constexpr qsizetype Longest = 1000;
+    m_question->setPlainText(ShownShort(question, Longest));
     placeAll();
 }
 

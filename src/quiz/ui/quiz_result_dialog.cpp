@@ -74,6 +74,9 @@ CQuizResultDialog::CQuizResultDialog(
         m_offersTakeBack = mayTakeBack;
         updateAcceptOffer();
     }
+    // A layout leaves out that labels need more lines where there is little room.
+    const int narrowest = layout->totalMinimumSize().width();
+    setMinimumSize(narrowest, layout->minimumHeightForWidth(narrowest));
     m_list->setFocus();
     ignoreHeldEnter(*this);
 }

@@ -115,6 +115,11 @@ void COrdelinApp::MakeMainWindow()
         .dataFolders = m_dataFolders});
     connect(&m_recovery, &CRecovery::CopyFailed, m_frame.get(),
         [this] { m_frame->statusBar()->showMessage(m_texts.Get(Text::CopyFailed), FailureShown); });
+    m_recovery.SetListToKeep([this] { return m_frame->ListWithTyped(); });
+    connect(m_frame.get(), &CMainFrame::TypedChanged, this, [this] {
+        m_givenUp.reset(); // Whoever types on wants to keep it.
+        m_recovery.KeepSoon();
+    });
     connect(m_frame.get(), &CMainFrame::Closed, this, [this] {
         // The user ends the program, also after a session that went on, and has answered for the changes.
         m_sessionEnds = false;
