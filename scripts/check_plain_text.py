@@ -22,7 +22,7 @@ RULES = [
     (re.compile(r"\bQLabel\s+\w+\s*[;({=,\[]"), LABEL, FACTORIES),
     (re.compile(r"\b(array|vector|list|deque|optional)<\s*QLabel\s*[,>]"), LABEL, FACTORIES),
     (re.compile(r"\bsetTextFormat\s*\((?!\s*Qt::PlainText\s*\))"), "a text format that is not plain", set()),
-    (re.compile(r"\bQMessageBox\b(?!>)"), "a message box beside IUserPrompt", {PROMPT}),
+    (re.compile(r"\bQMessageBox\b(?!>|\s*[&*;])"), "a message box beside IUserPrompt", {PROMPT}),
     (re.compile(r"\bQ(ErrorMessage|InputDialog|ProgressDialog|WizardPage|SplashScreen|TextBrowser|WhatsThis)\b"),
      "a window of the toolkit that guesses markup", set()),
     (re.compile(r"\bsetWhatsThis\b|\bWhatsThisRole\b"), "a What's This text, which guesses markup", set()),

@@ -117,6 +117,7 @@ QStringList Offered(const Folders &folders)
         CRecovery recovery(test.document, folders.State(), 0);
         test.prompt.answers = {PromptAnswer::Yes};
         if (!recovery.Offer(test.texts, test.prompt)) {
+            test.prompt.answers.clear();
             return found;
         }
         found.append(QStringLiteral("%1 %2 %3")

@@ -208,7 +208,9 @@ void RecoveryTest::partOfACopy()
     QVERIFY(file.resize(0) && file.seek(0) && file.write(damaged) == damaged.size());
     file.close();
     Program next(state);
-    next.test.prompt.answers = {PromptAnswer::Yes};
+    if (!asked.isEmpty()) {
+        next.test.prompt.answers = {PromptAnswer::Yes};
+    }
     QCOMPARE(next.recovery.Offer(next.test.texts, next.test.prompt), !asked.isEmpty());
     QCOMPARE(next.test.prompt.numbers, asked);
     if (asked == QList<int>{Text::RecoverPart}) {

@@ -170,7 +170,7 @@ void MainFrameTest::commandsAndTheirMarks()
     const CTexts texts;
     CCommandActions actions(texts, nullptr);
     actions.SetHandler(NewFile, [] {});
-    actions.UpdateEnabled({});
+    actions.Update({});
     QVERIFY(actions.Action(NewFile)->isEnabled() && !actions.Action(OpenFile)->isEnabled());
 
     Frame run;

@@ -47,6 +47,8 @@ inline const QList<PromptForm> &PromptForms()
         {Text::CannotStartMail, Warning},
         {Text::OverwriteForeignChange, Warning, YesNo, No},
         {Text::RecoverChanges, Question, YesNoCancel, Yes},
+        {Text::RecoverPart, Question, YesNoCancel, Yes},
+        {Text::RecoverOverwritten, Question, YesNoCancel, Yes},
         {Text::HoldsWholeList, Warning},
         {Text::SavedWithoutCharacters, Warning},
         {Text::SaveChangedEntry, Question, YesNoCancel, Yes},
