@@ -2,19 +2,11 @@
 #include "fileformats/word_list_file.h"
 #include "model/term_syntax.h"
 #include "model/word_list.h"
+#include "require.h"
 
 #include <QBuffer>
 
-#include <cstdlib>
-
 namespace {
-
-void Require(bool condition)
-{
-    if (!condition) {
-        std::abort();
-    }
-}
 
 bool HasTerm(const CWordEntry &entry)
 {

@@ -3,19 +3,7 @@
 #include "model/text_search.h"
 #include "model/word_entry.h"
 #include "platform/windows_1252.h"
-
-#include <cstdlib>
-
-namespace {
-
-void Require(bool condition)
-{
-    if (!condition) {
-        std::abort();
-    }
-}
-
-}
+#include "require.h"
 
 /// Takes any UTF-16 text as a term, a note and a search text, and checks what must hold for all of them.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

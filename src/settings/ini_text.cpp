@@ -8,9 +8,8 @@
 
 namespace {
 
-/// The section of values without one, and how a section of that name is told from it.
+/// The section of values without one. A section that has this name is written with a "%" before it.
 constexpr QStringView NoSection(u"General");
-constexpr QStringView NamedGeneral(u"%General");
 
 /// Letters for the control characters from \a to \r.
 constexpr std::array ControlLetters = {'a', 'b', 't', 'n', 'v', 'f', 'r'};
@@ -65,6 +64,23 @@ QString KeyOf(QStringView name)
     return key;
 }
 
+/// Keys that can't be told apart in a file are the same.
+QString NormalKey(QString key)
+{
+    while (key.startsWith(u'/')) {
+        key.remove(0, 1);
+    }
+    while (key.endsWith(u'/')) {
+        key.chop(1);
+    }
+    const QString marked = u'%' + NoSection.toString() + u'/';
+    if (key.startsWith(marked, Qt::CaseInsensitive)) {
+        key.remove(0, 1);
+    }
+    const QString general = NoSection.toString() + u'/';
+    return key.startsWith(general, Qt::CaseInsensitive) ? general + key.sliced(general.size()) : key;
+}
+
 QByteArray NameOf(QStringView key)
 {
     QByteArray name;
@@ -112,36 +128,46 @@ qsizetype AppendEscaped(QString &value, QStringView text)
     return 1;
 }
 
+void ChopBlanks(QString &value, qsizetype kept)
+{
+    while (value.size() > kept && IsBlank(value.back())) {
+        value.chop(1);
+    }
+}
+
 /// The value as it was before it was written; `text` is all that stands behind the "=".
 QString ValueOf(QStringView text)
 {
     QString value;
     bool quoted = false;
+    bool atStart = true; // Of the value, or of what follows a comma: blanks don't count.
     qsizetype kept = 0; // What stood in quotes or was escaped keeps its blanks.
     for (qsizetype i = 0; i < text.size();) {
         const QChar unit = text.at(i++);
-        if (unit == u'\\') {
-            i += AppendEscaped(value, text.sliced(i));
-            kept = value.size();
-        } else if (unit == u'"') {
-            quoted = !quoted;
-            kept = value.size();
-        } else if (quoted) {
-            value += unit;
-            kept = value.size();
-        } else if (unit == u',') {
-            while (value.size() > kept && IsBlank(value.back())) {
-                value.chop(1);
-            }
+        if (!quoted && unit == u',') {
+            ChopBlanks(value, kept);
             value += u", ";
             kept = value.size();
-        } else if (!IsBlank(unit) || value.size() > kept) {
-            value += unit;
+            atStart = true;
+            continue;
         }
+        if (!quoted && atStart && IsBlank(unit)) {
+            continue;
+        }
+        atStart = false;
+        if (unit == u'\\') {
+            i += AppendEscaped(value, text.sliced(i));
+        } else if (unit == u'"') {
+            quoted = !quoted;
+        } else {
+            value += unit;
+            if (!quoted) {
+                continue;
+            }
+        }
+        kept = value.size();
     }
-    while (value.size() > kept && IsBlank(value.back())) {
-        value.chop(1);
-    }
+    ChopBlanks(value, kept);
     return value;
 }
 
@@ -229,12 +255,11 @@ IniValues ParseIni(QByteArrayView bytes)
         const qsizetype equals = line.indexOf(u'=');
         if (line.startsWith(u'[')) {
             const QStringView name = line.sliced(1, std::max<qsizetype>(line.indexOf(u']'), 1) - 1).trimmed();
-            const auto is = [&name](
-                                QStringView other) { return name.compare(other, Qt::CaseInsensitive) == 0; };
-            section = is(NoSection) ? QString() : KeyOf(is(NamedGeneral) ? name.sliced(1) : name) + u'/';
+            section = name.compare(NoSection, Qt::CaseInsensitive) == 0 ? QString() : KeyOf(name) + u'/';
         } else if (isValue && equals > 0) {
-            const QString key = section + KeyOf(line.first(equals).trimmed());
-            if (const std::optional<QString> value = Unmarked(ValueOf(line.sliced(equals + 1)))) {
+            const QString key = NormalKey(section + KeyOf(line.first(equals).trimmed()));
+            if (const std::optional<QString> value = Unmarked(ValueOf(line.sliced(equals + 1)));
+                value && !key.isEmpty()) {
                 values.insert(key, *value);
             }
         }
