@@ -5,8 +5,8 @@
 #include <thread>
 
 /// Base of the worker threads. A worker reports by queued signals, works on its own copy of what it needs, and
-/// is stopped cooperatively: Run() looks at IsRunning() now and then. All operations but IsRunning() belong to
-/// the thread that owns the object.
+/// is stopped cooperatively: Run() looks at IsRunning() now and then, or hands KeepRunning() to what it calls.
+/// All operations but these two belong to the thread that owns the object.
 class CThread
 {
 public:
@@ -20,8 +20,10 @@ public:
     void Start();
     /// False once the thread was asked to stop, and after its end.
     bool IsRunning() const { return m_keepRunning; }
-    /// True while a thread is there, from Start() until it was waited for.
-    bool IsStarted() const { return m_thread.joinable(); }
+    /// The same as a flag, for readers and writers that look at one between two records.
+    const std::atomic<bool> &KeepRunning() const { return m_keepRunning; }
+    /// True from Start() to the end of Run().
+    bool IsStarted() const { return m_isStarted; }
     /// Asks the thread to stop and, with `wait`, waits for its end without a limit.
     void Stop(bool wait);
 
@@ -32,4 +34,5 @@ protected:
 private:
     std::thread m_thread;
     std::atomic<bool> m_keepRunning = false;
+    std::atomic<bool> m_isStarted = false;
 };
