@@ -106,7 +106,7 @@ bool CSafeFile::Open(const QString &path, const QString &backupFolder)
     const QByteArray target = BehindLinks(EncodeFileName(path));
     m_folderName = FolderOf(target);
     m_name = target.sliced(target.lastIndexOf('/') + 1);
-    if (m_name.isEmpty() || target.contains('\0') || !m_folder.Open(m_folderName, O_RDONLY | O_DIRECTORY)) {
+    if (m_name.isEmpty() || target.contains('\0') || !m_folder.Open(m_folderName, O_PATH | O_DIRECTORY)) {
         return false;
     }
     const Way way = FindWay();
@@ -193,7 +193,10 @@ bool CSafeFile::Replace()
     }
     m_temporaryName.clear();
     // Old and new file are both whole, whichever of them a failure at this point leaves on the disk.
-    (void)::fsync(m_folder.Number());
+    CFileDescriptor folder;
+    if (folder.OpenIn(m_folder, ".", O_RDONLY | O_DIRECTORY)) {
+        (void)::fsync(folder.Number());
+    }
     return true;
 }
 
@@ -230,7 +233,6 @@ bool CSafeFile::Overwrite()
 
 void CSafeFile::RemoveStrays() const
 {
-    // A second open folder, whose place is at its start.
     CFileDescriptor folder;
     if (!folder.OpenIn(m_folder, ".", O_RDONLY | O_DIRECTORY)) {
         return;

@@ -51,7 +51,7 @@ private:
     QString m_backupFolder;
     QByteArray m_folderName;
     QByteArray m_name;
-    CFileDescriptor m_folder;
+    CFileDescriptor m_folder; // A place alone: who may write in a folder may not always list it.
     CFileDescriptor m_temporary;
     QByteArray m_temporaryName; // Empty while there is none.
     QByteArray m_content; // For overwriting in place.
