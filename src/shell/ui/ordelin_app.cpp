@@ -50,7 +50,7 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
     setQuitOnLastWindowClosed(false); // A quiz hides the main window.
     installTranslator(&m_qtTexts);
     connect(&m_exitSignals, &CExitSignals::ExitRequested, this, [this] {
-        m_givenUp.reset(); // A signal asks nobody, so it throws nothing away.
+        m_end.Signalled();
         ExitFromOutside();
     });
     connect(&m_settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
@@ -69,7 +69,7 @@ int COrdelinApp::Run(const QString &file)
         return 1; // What the settings say of the last run stays.
     }
     // The end may have been asked for while a question of the start was open.
-    const int result = m_exitedFromOutside ? 0 : exec();
+    const int result = m_end.IsFromOutside() ? 0 : exec();
     ExitInstance();
     return result;
 }
@@ -121,8 +121,7 @@ void COrdelinApp::MakeMainWindow()
         m_recovery.KeepSoon();
     });
     connect(m_frame.get(), &CMainFrame::Closed, this, [this] {
-        // The user ends the program, also after a session that went on, and has answered for the changes.
-        m_sessionEnds = false;
+        m_end.UserCloses();
         quit();
     });
 }
@@ -151,13 +150,13 @@ void COrdelinApp::Welcome()
             m_texts.Prompt(Text::FirstRun), PromptIcon::Information, PromptButtons::YesNo, PromptAnswer::Yes)) {
         OpenHelp();
     }
-    m_welcomed = !m_exitedFromOutside;
+    m_end.StartIsOver();
 }
 
 void COrdelinApp::SaveSettings()
 {
-    if (m_settings.isFirstRun && !m_welcomed) {
-        return; // Ended before its questions were answered: the next run is the first one.
+    if (!m_end.SavesSettings(m_settings.isFirstRun)) {
+        return;
     }
     m_settings.misc.openOnClosing = !m_document.Path().isEmpty();
     m_settings.Exchange(false);
@@ -165,7 +164,7 @@ void COrdelinApp::SaveSettings()
 
 void COrdelinApp::ExitInstance()
 {
-    if (m_exitedFromOutside && !(m_sessionEnds && m_givenUp == m_document.ChangeCounter())) {
+    if (m_end.KeepsCopy(m_document.ChangeCounter())) {
         m_recovery.Keep();
     } else {
         m_recovery.Finish();
@@ -176,7 +175,7 @@ void COrdelinApp::ExitInstance()
         return;
     }
     const PromptText message = m_texts.Prompt(Text::SettingsNotSaved, {m_store.Path()});
-    if (m_exitedFromOutside) {
+    if (m_end.IsFromOutside()) {
         std::fputs((message.text + u'\n').toLocal8Bit().constData(), stderr); // Nobody may be there to answer.
     } else {
         m_prompt.Tell(message, PromptIcon::Warning);
@@ -185,7 +184,7 @@ void COrdelinApp::ExitInstance()
 
 bool COrdelinApp::event(QEvent *event)
 {
-    if (event->type() == QEvent::Quit && m_sessionEnds && !m_exitedFromOutside) {
+    if (event->type() == QEvent::Quit && m_end.Quits()) {
         ExitFromOutside();
         return true;
     }
@@ -194,7 +193,6 @@ bool COrdelinApp::event(QEvent *event)
 
 void COrdelinApp::ExitFromOutside()
 {
-    m_exitedFromOutside = true;
     if (m_frame) {
         m_frame->FinishQuietly();
         if (m_frame->isVisible()) {
@@ -211,16 +209,15 @@ void COrdelinApp::SessionEnds(QSessionManager &manager)
     }
     m_frame->FinishQuietly();
     if (manager.allowsInteraction()) {
-        if (m_files->MayDiscard()) {
-            m_givenUp = m_document.ChangeCounter();
-        } else {
+        const bool mayEnd = m_files->MayDiscard();
+        m_end.SessionAsks(mayEnd ? std::optional(m_document.ChangeCounter()) : std::nullopt);
+        if (!mayEnd) {
             manager.cancel();
         }
         manager.release();
     }
-    m_sessionEnds = true;
-    // Whoever ends the session may end the program without another word.
-    if (m_givenUp != m_document.ChangeCounter()) {
+    m_end.SessionEnds();
+    if (m_end.KeepsCopy(m_document.ChangeCounter())) {
         m_recovery.Keep();
     }
     m_frame->SavePlace();

@@ -15,6 +15,7 @@
 #include "resources/texts.h"
 #include "settings/app_settings.h"
 #include "settings/ini_store.h"
+#include "shell/program_end.h"
 #include "shell/start_up.h"
 
 #include <QApplication>
@@ -78,11 +79,5 @@ private:
     CExitSignals m_exitSignals;
     std::unique_ptr<CSpecialCharacterKeys> m_specialCharacters;
     std::unique_ptr<CMainFrame> m_frame;
-    bool m_exitedFromOutside = false;
-    /// The questions of a first run were answered, so that the next one is none.
-    bool m_welcomed = false;
-    /// The session wanted to end once: what the system asks for then is no question for the user any more.
-    bool m_sessionEnds = false;
-    /// The change counter when the user gave up the unsaved changes at the session's end.
-    std::optional<quint64> m_givenUp;
+    CProgramEnd m_end;
 };
