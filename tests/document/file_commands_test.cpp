@@ -7,6 +7,7 @@
 #include "settings/settings_store.h"
 #include "support/test_document.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -169,6 +170,9 @@ void FileCommandsTest::recentFiles()
     QCOMPARE(test.document.Path(), path(3)); // The open list is untouched.
     QVERIFY(!files.OpenFile(path(9)));
     QCOMPARE(CRecentFiles(store, QStringLiteral("root")).Paths(), QStringList({path(3), path(4), path(2)}));
+    QVERIFY(QFile::remove(path(2)) && QDir().mkpath(path(2))); // Is there, but can't be read.
+    QVERIFY(!files.OpenRecent(path(2)));
+    QCOMPARE(CRecentFiles(store, QStringLiteral("root")).Paths(), QStringList({path(3), path(4)}));
 }
 
 void FileCommandsTest::filters()

@@ -9,6 +9,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace {
 
 /// A program with its document and its recovery copies, written at once after a change.
@@ -105,6 +109,8 @@ void RecoveryTest::offeredAfterACrash()
     QVERIFY(next.test.prompt.texts.first().contains(QStringLiteral("min lista.gls")));
     QCOMPARE(Copies(copies).size(), copiesAfterwards);
     if (restored) {
+        Program third(copies); // The copy is kept by the second one now.
+        QVERIFY(!third.recovery.Offer(third.test.texts, third.test.prompt));
         QCOMPARE(Describe(next.test.document.List()).join(u','), QStringLiteral("a|α,c|d"));
         QCOMPARE(next.test.document.Path(), file);
         QVERIFY(next.test.document.IsModified());
@@ -141,6 +147,10 @@ void RecoveryTest::runningProgramsKeepTheirCopies()
     Program running(folder.path());
     running.Add("a|b");
     running.Settle();
+    // A lock is of a program that runs, however old it is.
+    const QString lock = QDir(folder.path()).entryList({QStringLiteral("*.lock")}, QDir::Files).value(0);
+    const std::array times = {timespec{1000000000, 0}, timespec{1000000000, 0}};
+    QCOMPARE(::utimensat(AT_FDCWD, folder.filePath(lock).toUtf8().constData(), times.data(), 0), 0);
     Program other(folder.path());
     QVERIFY(!other.recovery.Offer(other.test.texts, other.test.prompt));
     QVERIFY(other.test.prompt.numbers.isEmpty());

@@ -13,6 +13,17 @@ Q_DECLARE_METATYPE(ReadResult)
 
 namespace {
 
+/// Takes all but the last byte of what is written.
+class CShortDevice : public QIODevice
+{
+public:
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char * /*data*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char * /*data*/, qint64 size) override { return size - 1; }
+};
+
 QByteArray CrLf(QByteArray text)
 {
     return text.replace("\n", "\r\n");
@@ -314,12 +325,10 @@ void GlossaryFileTest::failedSaves()
     QVERIFY(!WriteWordListFile(list, folder.filePath(QStringLiteral("no/such/folder.gls"))));
     QVERIFY(!WriteWordListFile(list, folder.path()));
     QVERIFY(!list.IsSaved());
-    if (QFile::exists(QStringLiteral("/dev/full"))) {
-        QFile full(QStringLiteral("/dev/full"));
-        QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-        QVERIFY(!WriteWordList(list, full));
-        QVERIFY(!list.IsSaved());
-    }
+    CShortDevice full;
+    QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    QVERIFY(!WriteWordList(list, full));
+    QVERIFY(!list.IsSaved());
 }
 
 void GlossaryFileTest::stopsBetweenRecords()

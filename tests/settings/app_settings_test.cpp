@@ -57,6 +57,7 @@ private Q_SLOTS:
     void lastToWriteWins();
     void iniTextIsTheToolkits();
     void iniThatIsNoFile();
+    void iniSectionsStay();
 
 private:
     CTexts m_texts;
@@ -337,7 +338,7 @@ void AppSettingsTest::iniTextIsTheToolkits()
         u"\"\\\a\b\f\n\r\t\v\x1B"
         "1\x7F"_qs,
         u"å\U0001F600\u0301\u2028"_qs, u"@"_qs, u"@Invalid()"_qs, u"@@x"_qs, u"@String(x)"_qs, u"%1 [x]\\"_qs,
-        QString(QChar(0)) + u"7"_qs};
+        u"\x1 x"_qs, QString(QChar(0)) + u"7"_qs};
     const QStringList names = {u"plain"_qs, u"a b"_qs, u"å%€"_qs, u"a=b"_qs, u"deep/er-_.9"_qs, u"[x]"_qs};
     {
         QSettings file(path, QSettings::IniFormat);
@@ -385,6 +386,21 @@ void AppSettingsTest::iniThatIsNoFile()
     QVERIFY(!store.Flush());
     QVERIFY(QFile::remove(path)); // Then there is room for what was not written.
     QVERIFY(store.Flush() && QFileInfo(path).isFile());
+}
+
+void AppSettingsTest::iniSectionsStay()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    const auto has = [&](const char *section) {
+        return CIniStore(path, CAppSettings::RootPath()).HasSection(Section(section));
+    };
+    CIniStore store(path, CAppSettings::RootPath());
+    store.CreateSection(Section("empty"));
+    store.Write(Section("files"), u"File1"_qs, u"x"_qs);
+    QVERIFY(store.Flush() && has("empty") && has("files"));
+    store.Remove(Section("files"), u"File1"_qs); // Its last value.
+    QVERIFY(store.Flush() && has("files") && !has("file"));
 }
 
 QTEST_GUILESS_MAIN(AppSettingsTest)
