@@ -20,6 +20,8 @@ public:
     /// The session wants to end, and the user was asked about unsaved changes: these are given up or saved, or,
     /// when there is no number, the session shall go on.
     void SessionAsks(std::optional<quint64> givenUp) { m_givenUp = givenUp; }
+    /// Whoever types on wants to keep what was given up.
+    void UserTyped() { m_givenUp.reset(); }
     /// Once the session wanted to end, what the system asks for is no question for the user any more.
     void SessionEnds() { m_sessionEnds = true; }
     /// The program is asked to quit. Returns true when the session asks, which is an end from outside.

@@ -117,7 +117,7 @@ void COrdelinApp::MakeMainWindow()
         [this] { m_frame->statusBar()->showMessage(m_texts.Get(Text::CopyFailed), FailureShown); });
     m_recovery.SetListToKeep([this] { return m_frame->ListWithTyped(); });
     connect(m_frame.get(), &CMainFrame::TypedChanged, this, [this] {
-        m_givenUp.reset(); // Whoever types on wants to keep it.
+        m_end.UserTyped();
         m_recovery.KeepSoon();
     });
     connect(m_frame.get(), &CMainFrame::Closed, this, [this] {
