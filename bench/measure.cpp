@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <vector>
 
 namespace {
 
@@ -42,7 +43,8 @@ qint64 MemoryInUse()
 
 Measurement Measure(int repeats, const std::function<void()> &prepare, const std::function<void()> &operation)
 {
-    Measurement result = {1e9, 0};
+    Measurement result;
+    std::vector<double> seconds;
     for (int i = 0; i < repeats; ++i) {
         prepare();
         ResetPeak();
@@ -50,8 +52,11 @@ Measurement Measure(int repeats, const std::function<void()> &prepare, const std
         const auto start = std::chrono::steady_clock::now();
         operation();
         const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
-        result.seconds = std::min(result.seconds, elapsed.count());
+        seconds.push_back(elapsed.count());
         result.peakBytes = std::max(result.peakBytes, Status("VmHWM") - before);
     }
+    const auto median = seconds.begin() + qptrdiff(seconds.size() / 2);
+    std::nth_element(seconds.begin(), median, seconds.end());
+    result.seconds = *median;
     return result;
 }

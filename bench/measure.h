@@ -12,8 +12,8 @@ struct Measurement
     qint64 peakBytes = 0; ///< The most memory in use during it, beyond what was in use before.
 };
 
-/// Runs an operation several times, the clock around `operation` alone, and gives the shortest time and the
-/// highest peak. `prepare` runs before each.
+/// Runs an operation several times, the clock around `operation` alone, and gives the median of the times and
+/// the highest peak. `prepare` runs before each.
 Measurement Measure(int repeats, const std::function<void()> &prepare, const std::function<void()> &operation);
 
 /// The memory in use now, in bytes; 0 where the system does not tell.

@@ -5,21 +5,19 @@
 #include "model/duplicate_search.h"
 #include "model/term_syntax.h"
 #include "platform/random.h"
-#include "platform/windows_1252.h"
+#include "reference.h"
 
 #include <QFile>
-#include <QStringDecoder>
 #include <QTemporaryDir>
-
-#include <unicode/ucol.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <random>
 
-// Each operation stands beside a reference from the same run that is written without the model: what the bare
-// libraries take for the heart of the work. Beside the ratio stands what is aimed at with 100,000 entries.
+// Each operation stands beside a reference from the same run that does the heart of the work without the
+// toolkit and without the model (reference.h). Beside the ratio stands what is aimed at with 100,000 entries.
 
 namespace {
 
@@ -48,67 +46,6 @@ void Print(const Row &row, int count, const Row &reference, double aim)
         aim);
 }
 
-// (a) read the file, decode it, split it into lines
-void ReadLinesReference(const QString &path, bool unicode)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        std::exit(1);
-    }
-    const QByteArray bytes = file.readAll();
-    const QString text =
-        unicode ? QString(QStringDecoder(QStringDecoder::Utf16LE)(bytes)) : QString::fromLatin1(bytes);
-    g_sink = text.split(u'\n').size();
-}
-
-// (b) sort keys of one field and a sort of them
-void SortKeysReference(const CWordList &list, int field)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    UCollator *collator = ucol_open("sv", &status);
-    ucol_setStrength(collator, UCOL_SECONDARY);
-    std::vector<std::pair<std::string, int>> keys;
-    keys.reserve(size_t(list.Count()));
-    std::array<char, 4096> buffer;
-    for (int i = 0; i < list.Count(); ++i) {
-        const QString &text = list.Entry(i).GetField(field);
-        const int size = ucol_getSortKey(collator, reinterpret_cast<const UChar *>(text.utf16()),
-            int(text.size()), reinterpret_cast<uint8_t *>(buffer.data()), int(buffer.size()));
-        keys.emplace_back(std::string(buffer.data(), size_t(size)), i);
-    }
-    std::sort(keys.begin(), keys.end());
-    g_sink = keys.front().second;
-    ucol_close(collator);
-}
-
-// (c) fold and scan all texts
-void ScanReference(const CWordList &list, const QString &needle)
-{
-    const QString folded = needle.toCaseFolded();
-    qint64 found = 0;
-    for (int i = 0; i < list.Count(); ++i) {
-        for (const int field : {0, 1, 2}) {
-            found += int(list.Entry(i).GetField(field).toCaseFolded().contains(folded));
-        }
-    }
-    g_sink = found;
-}
-
-// (e) hash all alternatives
-void HashReference(const CWordList &list)
-{
-    for (const int language : {0, 1}) {
-        QHash<QString, int> hash;
-        for (int i = 0; i < list.Count(); ++i) {
-            const CWordEntry &entry = list.Entry(i);
-            for (int k = 0; k <= entry.AlternativeCount(language); ++k) {
-                ++hash[entry.GetAlternative(language, k, false)];
-            }
-        }
-        g_sink = hash.size();
-    }
-}
-
 /// Visits every pair of duplicates, as answering "no" to each question does.
 qint64 WalkDuplicates(const CWordList &list, qint64 most)
 {
@@ -125,16 +62,58 @@ qint64 WalkDuplicates(const CWordList &list, qint64 most)
     return pairs;
 }
 
+/// Program and reference wrote the same bytes, so they did the same work.
+void RequireSame(const QString &path, const QString &otherPath)
+{
+    QFile file(path);
+    QFile other(otherPath);
+    if (!file.open(QIODevice::ReadOnly) || !other.open(QIODevice::ReadOnly)) {
+        std::exit(1);
+    }
+    const QByteArray bytes = file.readAll();
+    const QByteArray mark = bytes.startsWith("\xFF\xFE") ? bytes.first(2) : QByteArray();
+    if (bytes != mark + other.readAll()) {
+        std::fputs("the reference wrote another file\n", stderr);
+        std::exit(1);
+    }
+}
+
+/// The entries of a list as the reference keeps them.
+Reference::Entries PlainEntries(const CWordList &list)
+{
+    Reference::Entries entries;
+    for (int i = 0; i < list.Count(); ++i) {
+        const CWordEntry &entry = list.Entry(i);
+        auto plain = std::make_unique<Reference::Entry>();
+        for (int field = 0; field < CWordEntry::FieldCount; ++field) {
+            plain->texts[size_t(field)] = entry.GetField(field).toStdU16String();
+        }
+        for (const int language : {0, 1}) {
+            for (int k = 0; k <= entry.AlternativeCount(language); ++k) {
+                plain->alternatives[size_t(language)].push_back(
+                    entry.GetAlternative(language, k, false).toStdU16String());
+            }
+        }
+        entries.push_back(std::move(plain));
+    }
+    return entries;
+}
+
 class CBenchmark
 {
 public:
     explicit CBenchmark(int count)
-        : m_count(count), m_repeats(count >= 1000000 ? 2
-                                  : count >= 100000  ? 5
+        : m_count(count), m_repeats(count >= 1000000 ? 3
+                                  : count >= 100000  ? 15
                                                      : 20),
-          m_list(GenerateList(count, 1)), m_ansi(m_folder.filePath(QStringLiteral("ansi.gls"))),
+          m_ansi(m_folder.filePath(QStringLiteral("ansi.gls"))),
           m_unicode(m_folder.filePath(QStringLiteral("unicode.gls")))
     {
+        // Read from a file, so that it lies in memory as a user's list does.
+        CWordList generated = GenerateList(count, 1);
+        if (!WriteWordListFile(generated, m_ansi) || ReadWordListFile(m_list, m_ansi) != ReadResult::Read) {
+            std::exit(1);
+        }
     }
 
     void Run()
@@ -160,19 +139,29 @@ private:
     {
         for (const bool unicode : {false, true}) {
             const QString &path = unicode ? m_unicode : m_ansi;
+            const std::string plainPath = path.toStdString() + ".reference";
             CWordList list = m_list;
             const Row write = {unicode ? "write, UTF-16" : "write, Windows-1252", Take([&] {
                                    if (!WriteWordListFile(list, path, {.forceUnicode = unicode})) {
                                        std::exit(1);
                                    }
                                })};
-            const Row reference = {unicode ? "(a) lines of UTF-16" : "(a) lines of Windows-1252",
-                Take([&] { ReadLinesReference(path, unicode); })};
+            Reference::Entries entries;
+            const Row plainRead = {unicode ? "(a) read UTF-16" : "(a) read Windows-1252",
+                Take(
+                    [&] { entries = Reference::Read(path.toStdString(), unicode); }, [&] { entries.clear(); })};
             const Row read = {unicode ? "read, UTF-16" : "read, Windows-1252",
                 Take([&] { g_sink = int(ReadWordListFile(list, path)); }, [&] { list = CWordList(); })};
-            Print(reference, m_count);
-            Print(read, m_count, reference, 6);
-            Print(write, m_count, reference, 4);
+            const Row plainWrite = {unicode ? "(b) write UTF-16" : "(b) write Windows-1252", Take([&] {
+                                        if (!Reference::Write(entries, plainPath, unicode)) {
+                                            std::exit(1);
+                                        }
+                                    })};
+            RequireSame(path, QString::fromStdString(plainPath));
+            Print(plainRead, m_count);
+            Print(read, m_count, plainRead, 1.5);
+            Print(plainWrite, m_count);
+            Print(write, m_count, plainWrite, 1.5);
             if (unicode) {
                 list = CWordList();
                 const qint64 before = MemoryInUse();
@@ -207,12 +196,13 @@ private:
         CWordList shuffled = m_list;
         shuffled.Sort(-1, {}, random);
         CWordList list;
+        Reference::Entries entries = PlainEntries(m_list);
+        std::shuffle(entries.begin(), entries.end(), std::mt19937(3));
         const char *const names[] = {"sort by term 1", "sort by term 2", "sort by note"};
-        const char *const references[] = {
-            "(b) sort keys of term 1", "(b) sort keys of term 2", "(b) sort keys of notes"};
+        const char *const references[] = {"(c) sort by term 1", "(c) sort by term 2", "(c) sort by note"};
         std::vector<Row> rows;
         for (const int key : {0, 1, 2}) {
-            rows.push_back({references[key], Take([&] { SortKeysReference(shuffled, key); })});
+            rows.push_back({references[key], Take([&] { g_sink = Reference::Sort(entries, key).front(); })});
             const Row sort = {names[key], Take([&] { list.Sort(key, {}, random); }, [&] { list = shuffled; })};
             Print(rows.back(), m_count);
             // Equal notes are sorted by both terms, so their measure is the keys of a term.
@@ -223,13 +213,16 @@ private:
     void Searching()
     {
         const QString needle = QStringLiteral("zQx");
-        const Row reference = {"(c) fold and scan", Take([&] { ScanReference(m_list, needle); })};
+        const Reference::Entries entries = PlainEntries(m_list);
+        const Row reference = {"(d) find, not found", Take([&] { g_sink = Reference::Find(entries, u"zQx"); })};
+        const Row often = {"(d) find, found often", Take([&] { g_sink = Reference::Find(entries, u"hus"); })};
         Print(reference, m_count);
+        Print(often, m_count);
         Print({"find all, not found", Take([&] { g_sink = qint64(m_list.FindAll({.text = needle}).size()); })},
-            m_count, reference, 1.3);
+            m_count, reference, 1.2);
         Print({"find all, found often",
                   Take([&] { g_sink = qint64(m_list.FindAll({.text = QStringLiteral("hus")}).size()); })},
-            m_count, reference, 1.3);
+            m_count, often, 1.2);
         const CWordEntry candidate(QStringLiteral("nowhere * in"), QStringLiteral("the list"));
         constexpr int Calls = 10;
         Print({"check for a similar entry", Take([&] {
@@ -244,16 +237,22 @@ private:
 
     void Duplicates()
     {
-        const Row reference = {"(e) hash all alternatives", Take([&] { HashReference(m_list); })};
+        const Reference::Entries entries = PlainEntries(m_list);
+        const Row reference = {
+            "(e) count duplicates", Take([&] { g_sink = Reference::CountDuplicates(entries); })};
         Print(reference, m_count);
+        Print({"index of duplicates", Take([&] {
+                   DuplicatePair found;
+                   g_sink = int(CDuplicateSearch(m_list).FindNext({}, found));
+               })},
+            m_count, reference, 2);
         qint64 pairs = 0;
         // A list of this kind has pairs without end; as many as entries are visited.
         Print({"find next duplicate, whole list", Take([&] { pairs = WalkDuplicates(m_list, m_count); })},
-            m_count, reference, 2);
+            m_count);
         CWordList list;
         int merged = 0;
-        Print({"merge all", Take([&] { merged = list.MergeAll(); }, [&] { list = m_list; })}, m_count,
-            reference, 2);
+        Print({"merge all", Take([&] { merged = list.MergeAll(); }, [&] { list = m_list; })}, m_count);
         std::printf(
             "  %-34s %lld pairs visited, %d entries merged away\n", "", static_cast<long long>(pairs), merged);
     }
@@ -267,7 +266,7 @@ private:
         }
         std::vector<std::shared_ptr<CWordEntry>> copiedPointers;
         CWordList copied;
-        const Row reference = {"(d) copy a vector of shared pointers",
+        const Row reference = {"(f) copy a vector of shared pointers",
             Take([&] { copiedPointers = pointers; }, [&] { copiedPointers = {}; })};
         Print(reference, m_count);
         Print(
@@ -284,9 +283,9 @@ private:
     int m_count;
     int m_repeats;
     QTemporaryDir m_folder;
-    CWordList m_list;
     QString m_ansi;
     QString m_unicode;
+    CWordList m_list;
 };
 
 }
