@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "fileformats/text_encoding.h"
+#include "fileformats/text_encoder.h"
 #include "platform/safe_file.h"
 
-#include <QByteArray>
 #include <QString>
 
 /// Writes a text file with CR LF line ends. The file at `path` is replaced as a whole when Close() succeeds and
@@ -26,7 +25,7 @@ public:
     void Write(QStringView text);
     void WriteChar(QChar character) { Write(QStringView(&character, 1)); }
     void NewLine() { Write(u"\r\n"); }
-    bool Lossy() const { return m_lossy; }
+    bool Lossy() const { return m_encoder.Lossy(); }
 
     /// Writes out what is buffered and puts the file in place. Returns false when anything failed since Open().
     [[nodiscard]] bool Close();
@@ -34,13 +33,11 @@ public:
 private:
     void Flush();
 
-    static constexpr qsizetype BufferSize = 1024;
+    static constexpr qsizetype PieceSize = 65536;
 
     CSafeFile m_file;
     QIODevice *m_device = nullptr;
-    TextEncoding m_encoding = TextEncoding::Ansi;
-    QByteArray m_buffer;
+    CTextEncoder m_encoder{TextEncoding::Ansi};
     bool m_ownsFile = false; // The device belongs to m_file.
     bool m_failed = false;
-    bool m_lossy = false;
 };

@@ -52,8 +52,6 @@ using KeepGoing = std::atomic<bool>;
 
 struct WriteOptions
 {
-    /// Write the oldest of the written versions, which has no notes, no question templates and one flag.
-    bool forceOldFormat = false;
     /// Write UTF-16 even where the code page holds every text.
     bool forceUnicode = false;
     /// Where the old file lies while it is overwritten in place; empty: no file is (see CSafeFile).
@@ -61,8 +59,8 @@ struct WriteOptions
 };
 
 /// Writes the smallest version that holds the list, in the code page when it holds every text and in UTF-16
-/// little endian otherwise, and sets the list's saved mark. Returns false when anything failed; the file and
-/// the mark are then what they were.
+/// little endian otherwise, and sets the list's saved mark. Returns false when anything failed, or when the
+/// file would be one that is refused on opening; the file and the mark are then what they were.
 [[nodiscard]] bool WriteWordListFile(CWordList &list, const QString &path, const WriteOptions &options = {});
 /// The same to an open device.
 [[nodiscard]] bool WriteWordList(CWordList &list, QIODevice &device, const WriteOptions &options = {});

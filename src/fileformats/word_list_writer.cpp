@@ -1,31 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/glossary_version.h"
-#include "fileformats/text_file_writer.h"
+#include "fileformats/text_encoder.h"
+#include "fileformats/text_file_reader.h"
 #include "fileformats/word_list_file.h"
 #include "model/word_list.h"
-#include "platform/windows_1252.h"
+#include "platform/safe_file.h"
 
 namespace {
 
-bool FitsCodePage(const CWordList &list)
-{
-    for (const QString &text : {list.GetComments(), list.GetAuthor(), list.GetLanguage(0), list.GetLanguage(1),
-             list.GetQuestionTemplate(0), list.GetQuestionTemplate(1)}) {
-        if (!FitsWindows1252(text)) {
-            return false;
-        }
-    }
-    for (int index = 0; index < list.Count(); ++index) {
-        const CWordEntry &entry = list.Entry(index);
-        if (!FitsWindows1252(entry.GetText(0)) || !FitsWindows1252(entry.GetText(1))
-            || !FitsWindows1252(entry.GetNote())) {
-            return false;
-        }
-    }
-    return true;
-}
-
-const GlossaryVersion &SmallestVersion(const CWordList &list, bool forceOldFormat)
+const GlossaryVersion &SmallestVersion(const CWordList &list)
 {
     bool fitsOld = list.GetQuestionTemplate(0).isEmpty() && list.GetQuestionTemplate(1).isEmpty();
     bool anyFlag = false;
@@ -34,7 +17,7 @@ const GlossaryVersion &SmallestVersion(const CWordList &list, bool forceOldForma
         fitsOld = fitsOld && entry.FitsOldFormat();
         anyFlag = anyFlag || entry.GetFlag(0) || entry.GetFlag(1);
     }
-    if (forceOldFormat || fitsOld) {
+    if (fitsOld) {
         return Glossary::Version20;
     }
     if (anyFlag) {
@@ -52,79 +35,118 @@ QString OneLine(QString text)
     return text;
 }
 
-void WriteHeader(const CWordList &list, CTextFileWriter &writer, const GlossaryVersion &version)
+/// The content of a file, which is made line by line.
+class CLines
 {
-    const auto line = [&](const QString &text) {
-        writer.Write(OneLine(text));
-        writer.NewLine();
-    };
-    writer.Write(version.header);
-    writer.NewLine();
-    line(list.GetAuthor());
-    line(list.GetComments());
-    line(list.GetLanguage(0));
-    line(list.GetLanguage(1));
-    line(QString::number(list.Count()));
+public:
+    explicit CLines(TextEncoding encoding) : m_encoder(encoding) { }
+
+    void Append(QStringView line)
+    {
+        m_encoder.Append(line);
+        m_encoder.AppendLineEnd();
+        m_tooLong = m_tooLong || line.size() > CTextFileReader::LongestLine;
+    }
+    bool Lossy() const { return m_encoder.Lossy(); }
+    QByteArrayView Bytes() const { return m_encoder.Bytes(); }
+    bool AnyTooLong() const { return m_tooLong; }
+
+private:
+    CTextEncoder m_encoder;
+    bool m_tooLong = false;
+};
+
+void AppendHeader(const CWordList &list, const GlossaryVersion &version, CLines &lines)
+{
+    lines.Append(version.header);
+    lines.Append(OneLine(list.GetAuthor()));
+    lines.Append(OneLine(list.GetComments()));
+    lines.Append(OneLine(list.GetLanguage(0)));
+    lines.Append(OneLine(list.GetLanguage(1)));
+    lines.Append(QString::number(list.Count()));
     if (version.hasQuestions) {
         for (const int direction : {0, 1}) {
-            writer.WriteChar(list.GetAdaptQuestion(direction) ? u'1' : u'0');
-            writer.NewLine();
-            line(list.GetQuestionTemplate(direction));
+            lines.Append(list.GetAdaptQuestion(direction) ? u"1" : u"0");
+            lines.Append(OneLine(list.GetQuestionTemplate(direction)));
         }
     }
-    writer.NewLine();
+    lines.Append({});
 }
 
-void WriteRecord(const CWordEntry &entry, CTextFileWriter &writer, const GlossaryVersion &version)
+void AppendRecord(const CWordEntry &entry, const GlossaryVersion &version, CLines &lines)
 {
     if (version.hasFlagLine) {
-        writer.WriteChar(entry.GetFlag(0) ? u'1' : u'0');
-        if (version.hasNote) {
-            writer.Write(entry.GetFlag(1) ? u" 1" : u" 0");
-        }
-        writer.NewLine();
+        const char16_t flags[] = {entry.GetFlag(0) ? u'1' : u'0', u' ', entry.GetFlag(1) ? u'1' : u'0'};
+        lines.Append(QStringView(flags, version.hasNote ? 3 : 1));
     }
-    writer.Write(entry.GetText(0));
-    writer.NewLine();
-    writer.Write(entry.GetText(1));
-    writer.NewLine();
+    lines.Append(entry.GetText(0));
+    lines.Append(entry.GetText(1));
     if (version.hasNote) {
-        writer.Write(entry.GetNote());
-        writer.NewLine();
+        lines.Append(entry.GetNote());
     }
 }
 
-TextEncoding EncodingFor(const CWordList &list, const WriteOptions &options)
+/// The content of the file; what the encoding lacks ends it.
+CLines Encoded(const CWordList &list, TextEncoding encoding)
 {
-    return options.forceUnicode || !FitsCodePage(list) ? TextEncoding::Utf16LittleEndian : TextEncoding::Ansi;
+    const GlossaryVersion &version = SmallestVersion(list);
+    CLines lines(encoding);
+    AppendHeader(list, version, lines);
+    for (int index = 0; index < list.Count() && !lines.Lossy(); ++index) {
+        AppendRecord(list.Entry(index), version, lines);
+    }
+    return lines;
 }
 
-bool WriteAll(CWordList &list, CTextFileWriter &writer, const WriteOptions &options)
+CLines Encoded(const CWordList &list, const WriteOptions &options)
 {
-    const GlossaryVersion &version = SmallestVersion(list, options.forceOldFormat);
-    WriteHeader(list, writer, version);
-    for (int index = 0; index < list.Count(); ++index) {
-        WriteRecord(list.Entry(index), writer, version);
+    if (!options.forceUnicode) {
+        CLines lines = Encoded(list, TextEncoding::Ansi);
+        if (!lines.Lossy()) {
+            return lines;
+        }
     }
-    if (!writer.Close()) {
-        return false;
-    }
-    list.SetSaved(true);
-    return true;
+    return Encoded(list, TextEncoding::Utf16LittleEndian);
+}
+
+/// False for a file that would be refused when it is opened again.
+bool CanBeRead(const CWordList &list, const CLines &lines)
+{
+    return !lines.AnyTooLong() && lines.Bytes().size() <= FileLimits::MostBytes
+        && list.Count() <= FileLimits::MostEntries;
+}
+
+bool WriteBytes(QByteArrayView bytes, QIODevice &device)
+{
+    return device.write(bytes.data(), bytes.size()) == bytes.size();
 }
 
 }
 
 bool WriteWordListFile(CWordList &list, const QString &path, const WriteOptions &options)
 {
-    CTextFileWriter writer;
-    return writer.Open(path, EncodingFor(list, options), options.backupFolder)
-        && WriteAll(list, writer, options);
+    const CLines lines = Encoded(list, options);
+    CSafeFile file;
+    if (!CanBeRead(list, lines) || !file.Open(path, options.backupFolder)) {
+        return false;
+    }
+    if (!WriteBytes(lines.Bytes(), file.Device())) {
+        file.Cancel();
+        return false;
+    }
+    if (!file.Commit()) {
+        return false;
+    }
+    list.SetSaved(true);
+    return true;
 }
 
 bool WriteWordList(CWordList &list, QIODevice &device, const WriteOptions &options)
 {
-    CTextFileWriter writer;
-    writer.Open(device, EncodingFor(list, options));
-    return WriteAll(list, writer, options);
+    const CLines lines = Encoded(list, options);
+    if (!CanBeRead(list, lines) || !WriteBytes(lines.Bytes(), device)) {
+        return false;
+    }
+    list.SetSaved(true);
+    return true;
 }

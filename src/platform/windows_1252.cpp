@@ -39,27 +39,29 @@ QString DecodeWindows1252(QByteArrayView bytes)
     return text;
 }
 
-bool FitsWindows1252(QStringView text)
+qsizetype EncodeWindows1252(QStringView text, char *bytes, bool &lossy)
 {
-    return std::all_of(text.utf16(), text.utf16() + text.size(),
-        [](char16_t unit) { return unit < 0x80 || Encode(unit) >= 0; });
+    char *next = bytes;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t unit = text[i].unicode();
+        if (const int byte = Encode(unit); byte >= 0) {
+            *next++ = char(byte);
+            continue;
+        }
+        lossy = true;
+        *next++ = '?';
+        if (QChar::isHighSurrogate(unit) && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            ++i;
+        }
+    }
+    return next - bytes;
 }
 
 bool AppendWindows1252(QStringView text, QByteArray &bytes)
 {
-    bool lossless = true;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t unit = text.at(i).unicode();
-        const int byte = Encode(unit);
-        if (byte >= 0) {
-            bytes.append(char(byte));
-            continue;
-        }
-        lossless = false;
-        bytes.append('?');
-        if (QChar::isHighSurrogate(unit) && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            ++i;
-        }
-    }
-    return lossless;
+    bool lossy = false;
+    const qsizetype size = bytes.size();
+    bytes.resize(size + text.size());
+    bytes.resize(size + EncodeWindows1252(text, bytes.data() + size, lossy));
+    return !lossy;
 }

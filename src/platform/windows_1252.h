@@ -12,9 +12,9 @@
 char16_t DecodeWindows1252(uchar byte);
 QString DecodeWindows1252(QByteArrayView bytes);
 
-/// True when every character of `text` has a byte of its own.
-bool FitsWindows1252(QStringView text);
+/// Writes the bytes of `text`, one for each code unit at most, and returns their number. A character without a
+/// byte of its own becomes '?' (one for a surrogate pair) and sets `lossy`.
+qsizetype EncodeWindows1252(QStringView text, char *bytes, bool &lossy);
 
-/// Appends the bytes of `text`; a character without one becomes '?' (one for a surrogate pair). Returns false
-/// when that happened.
+/// Appends the bytes of `text`. Returns false when a character became '?'.
 bool AppendWindows1252(QStringView text, QByteArray &bytes);

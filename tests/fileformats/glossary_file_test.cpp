@@ -11,18 +11,9 @@
 
 Q_DECLARE_METATYPE(ReadResult)
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-/// Takes all but the last byte of what is written.
-class CShortDevice : public QIODevice
-{
-public:
-    bool isSequential() const override { return true; }
-
-protected:
-    qint64 readData(char * /*data*/, qint64 /*size*/) override { return -1; }
-    qint64 writeData(const char * /*data*/, qint64 size) override { return size - 1; }
-};
 
 QByteArray CrLf(QByteArray text)
 {
@@ -67,6 +58,25 @@ QByteArray Write(CWordList &list, const WriteOptions &options = {})
     buffer.open(QIODevice::WriteOnly);
     return WriteWordList(list, buffer, options) ? buffer.data() : QByteArray();
 }
+
+/// Takes some bytes, and no more.
+class CSmallDevice : public QIODevice
+{
+public:
+    explicit CSmallDevice(qint64 room) : m_room(room) { }
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *, qint64 size) override
+    {
+        const qint64 taken = std::min(size, m_room);
+        m_room -= taken;
+        return taken > 0 ? taken : -1;
+    }
+
+private:
+    qint64 m_room;
+};
 
 /// Every property and entry, one a line.
 QString DescribeAll(const CWordList &list)
@@ -186,33 +196,29 @@ void GlossaryFileTest::smallestVersion_data()
 {
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("questionTemplate");
-    QTest::addColumn<bool>("old");
     QTest::addColumn<QByteArray>("header");
     QTest::newRow("flag 1 only") << "a|b||1"
-                                 << "" << false << QByteArray("Ordelin 2.0");
+                                 << "" << QByteArray("Ordelin 2.0");
     QTest::newRow("flag 2") << "a|b||2"
-                            << "" << false << QByteArray("Ordelin 2.3");
+                            << "" << QByteArray("Ordelin 2.3");
     QTest::newRow("note") << "a|b|n"
-                          << "" << false << QByteArray("Ordelin 2.3-mini");
+                          << "" << QByteArray("Ordelin 2.3-mini");
     QTest::newRow("note and flag 1") << "a|b|n|1"
-                                     << "" << false << QByteArray("Ordelin 2.3");
+                                     << "" << QByteArray("Ordelin 2.3");
     QTest::newRow("template") << "a|b"
-                              << "t" << false << QByteArray("Ordelin 2.3-micro");
+                              << "t" << QByteArray("Ordelin 2.3-micro");
     QTest::newRow("template and flag 1") << "a|b||1"
-                                         << "t" << false << QByteArray("Ordelin 2.3");
-    QTest::newRow("forced old format") << "a|b|n|2"
-                                       << "t" << true << QByteArray("Ordelin 2.0");
+                                         << "t" << QByteArray("Ordelin 2.3");
 }
 
 void GlossaryFileTest::smallestVersion()
 {
     QFETCH(QString, entry);
     QFETCH(QString, questionTemplate);
-    QFETCH(bool, old);
     QFETCH(QByteArray, header);
     CWordList list = MakeList({QStringLiteral("x|y"), entry});
     list.SetQuestionTemplate(1, questionTemplate);
-    const QByteArray bytes = Write(list, {.forceOldFormat = old});
+    const QByteArray bytes = Write(list);
     QCOMPARE(bytes.left(bytes.indexOf('\r')), header);
 }
 
@@ -283,9 +289,9 @@ void GlossaryFileTest::lossyHeaders()
 void GlossaryFileTest::strangeTextsSurvive()
 {
     CWordList list;
-    list.SetAuthor(QString(u"a\0b\xD800"_qs));
+    list.SetAuthor(QString(u"a\0b\xD800"_s));
     const QString huge = QStringLiteral("åäö ").repeated(300000) + u'x';
-    list.Insert(CWordEntry(huge, u"\xDC00 lone \xD83D"_qs, u"\u0085\u2028"_qs));
+    list.Insert(CWordEntry(huge, u"\xDC00 lone \xD83D"_s, u"\u0085\u2028"_s));
     for (const char16_t *term :
         {u"!", u"! x", u"!*!", u"Ordelin 1", u"WordQuiz", u"0 0", u"1", u"a\r\nb\0c*\x7F", u"[a*b]", u"]x[",
             u"[ [x] ]", u"\uFEFF", u"\uFFFE", u"\u2028\u2029\f\v", u"\xA0"}) {
@@ -325,10 +331,16 @@ void GlossaryFileTest::failedSaves()
     QVERIFY(!WriteWordListFile(list, folder.filePath(QStringLiteral("no/such/folder.gls"))));
     QVERIFY(!WriteWordListFile(list, folder.path()));
     QVERIFY(!list.IsSaved());
-    CShortDevice full;
-    QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    QVERIFY(!WriteWordList(list, full));
-    QVERIFY(!list.IsSaved());
+    CWordList unreadable; // Its file would be refused on opening.
+    unreadable.Insert(CWordEntry(QString(16'000'001, u'x')));
+    QCOMPARE(Write(unreadable), QByteArray());
+    QVERIFY(!unreadable.IsSaved());
+    for (const qint64 room : {0, 1, 20}) {
+        CSmallDevice device(room);
+        device.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        QVERIFY(!WriteWordList(list, device));
+        QVERIFY(!list.IsSaved());
+    }
 }
 
 void GlossaryFileTest::stopsBetweenRecords()

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList Lines(const QByteArray &bytes)
@@ -64,7 +66,7 @@ void TextFileReaderTest::lineEnds_data()
     QTest::newRow("CR CR LF is two") << QByteArray("a\r\r\nb") << "a//b/";
     QTest::newRow("empty lines at the start") << QByteArray("\r\n\n\na") << "///a/";
     QTest::newRow("only a line end") << QByteArray("\r\n") << "/";
-    QTest::newRow("NUL is a character") << QByteArray("a\0b\n", 4) << QString(u"a\0b/"_qs);
+    QTest::newRow("NUL is a character") << QByteArray("a\0b\n", 4) << QString(u"a\0b/"_s);
 }
 
 void TextFileReaderTest::lineEnds()
@@ -82,21 +84,21 @@ void TextFileReaderTest::encodings_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("line");
-    QTest::newRow("ANSI") << QByteArray("\xE5\x80\x8A\x81") << u"å€Š\u0081"_qs;
-    QTest::newRow("UTF-16 little endian") << QByteArray("\xFF\xFE\xB1\x03\x3D\xD8", 6) << u"α\xD83D"_qs;
-    QTest::newRow("UTF-16 big endian") << QByteArray("\xFE\xFF\x03\xB1\x20\xAC", 6) << u"α€"_qs;
-    QTest::newRow("UTF-16 cut inside a character") << QByteArray("\xFF\xFE\x61\x00\x62", 5) << u"a"_qs;
-    QTest::newRow("UTF-8") << QByteArray("\xEF\xBB\xBFå\xCE\xB1€") << u"åα€"_qs;
+    QTest::newRow("ANSI") << QByteArray("\xE5\x80\x8A\x81") << u"å€Š\u0081"_s;
+    QTest::newRow("UTF-16 little endian") << QByteArray("\xFF\xFE\xB1\x03\x3D\xD8", 6) << u"α\xD83D"_s;
+    QTest::newRow("UTF-16 big endian") << QByteArray("\xFE\xFF\x03\xB1\x20\xAC", 6) << u"α€"_s;
+    QTest::newRow("UTF-16 cut inside a character") << QByteArray("\xFF\xFE\x61\x00\x62", 5) << u"a"_s;
+    QTest::newRow("UTF-8") << QByteArray("\xEF\xBB\xBFå\xCE\xB1€") << u"åα€"_s;
     QTest::newRow("UTF-8 surrogates as three bytes each")
-        << QByteArray("\xEF\xBB\xBF\xED\xA0\xBD\xED\xB8\x80") << u"\xD83D\xDE00"_qs;
+        << QByteArray("\xEF\xBB\xBF\xED\xA0\xBD\xED\xB8\x80") << u"\xD83D\xDE00"_s;
     QTest::newRow("UTF-8 four-byte lead and its rest")
-        << QByteArray("\xEF\xBB\xBF\xF0\x9F\x98\x80z") << u"\uFFFD\uFFFD\uFFFD\uFFFDz"_qs;
-    QTest::newRow("UTF-8 unchecked continuation") << QByteArray("\xEF\xBB\xBF\xC3zx") << u"\u00FAx"_qs;
+        << QByteArray("\xEF\xBB\xBF\xF0\x9F\x98\x80z") << u"\uFFFD\uFFFD\uFFFD\uFFFDz"_s;
+    QTest::newRow("UTF-8 unchecked continuation") << QByteArray("\xEF\xBB\xBF\xC3zx") << u"\u00FAx"_s;
     QTest::newRow("UTF-8 cut inside a character") << QByteArray("\xEF\xBB\xBF"
                                                                 "a\xE2\x82")
-                                                  << u"a"_qs;
-    QTest::newRow("two bytes of the UTF-8 mark are ANSI") << QByteArray("\xEF\xBB\x62") << u"ï»b"_qs;
-    QTest::newRow("one byte") << QByteArray("\xFF") << u"ÿ"_qs;
+                                                  << u"a"_s;
+    QTest::newRow("two bytes of the UTF-8 mark are ANSI") << QByteArray("\xEF\xBB\x62") << u"ï»b"_s;
+    QTest::newRow("one byte") << QByteArray("\xFF") << u"ÿ"_s;
 }
 
 void TextFileReaderTest::encodings()
@@ -188,13 +190,13 @@ void TextFileReaderTest::longLines()
 
 void TextFileReaderTest::writtenBytes()
 {
-    QCOMPARE(Written(TextEncoding::Ansi, u"å€α"_qs), QByteArray("\xE5\x80?\r\n"));
-    QCOMPARE(Written(TextEncoding::Utf16LittleEndian, u"aα"_qs),
+    QCOMPARE(Written(TextEncoding::Ansi, u"å€α"_s), QByteArray("\xE5\x80?\r\n"));
+    QCOMPARE(Written(TextEncoding::Utf16LittleEndian, u"aα"_s),
         QByteArray("\xFF\xFE"
                    "a\0\xB1\x03\r\0\n\0",
             10));
-    QCOMPARE(Written(TextEncoding::Utf16BigEndian, u"aα"_qs), QByteArray("\xFE\xFF\0a\x03\xB1\0\r\0\n", 10));
-    QCOMPARE(Written(TextEncoding::Utf8, u"aå€"_qs),
+    QCOMPARE(Written(TextEncoding::Utf16BigEndian, u"aα"_s), QByteArray("\xFE\xFF\0a\x03\xB1\0\r\0\n", 10));
+    QCOMPARE(Written(TextEncoding::Utf8, u"aå€"_s),
         QByteArray("\xEF\xBB\xBF"
                    "a\xC3\xA5\xE2\x82\xAC\r\n"));
 
