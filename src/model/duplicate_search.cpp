@@ -3,33 +3,62 @@
 
 #include "model/word_list.h"
 
+#include <QHashFunctions>
+
 #include <algorithm>
+#include <bit>
+
+namespace {
+
+/// Gives every text the number of its word, equal texts being one word. Words are counted from 0 in the order
+/// in which they first come; their number is returned.
+int NumberWords(const std::vector<QStringView> &texts, std::vector<int> &numbers)
+{
+    struct Slot
+    {
+        quint32 hash = 0;
+        int word = -1;
+    };
+    std::vector<Slot> slots(std::bit_ceil(2 * texts.size() + 1));
+    std::vector<QStringView> words;
+    words.reserve(texts.size());
+    numbers.reserve(texts.size());
+    const size_t seed = QHashSeed::globalSeed();
+    for (const QStringView text : texts) {
+        const size_t hash = qHash(text, seed);
+        const auto isOther = [&](const Slot &slot) {
+            return slot.hash != quint32(hash) || words[size_t(slot.word)] != text;
+        };
+        size_t place = hash & (slots.size() - 1);
+        while (slots[place].word >= 0 && isOther(slots[place])) {
+            place = (place + 1) & (slots.size() - 1);
+        }
+        if (slots[place].word < 0) {
+            slots[place] = {quint32(hash), int(words.size())};
+            words.push_back(text);
+        }
+        numbers.push_back(slots[place].word);
+    }
+    return int(words.size());
+}
+
+}
 
 CDuplicateSearch::CDuplicateSearch(const CWordList &list) : m_count(list.Count())
 {
     for (int index = 0; index < CWordEntry::LanguageCount; ++index) {
         Language &language = m_languages[size_t(index)];
-        QHash<QString, int> numbers;
-        numbers.reserve(m_count);
-        language.words.reserve(size_t(m_count));
+        std::vector<QStringView> texts;
+        texts.reserve(size_t(m_count));
         language.firstWord.reserve(size_t(m_count) + 1);
-        for (int entry = 0; entry < m_count; ++entry) {
-            language.firstWord.push_back(int(language.words.size()));
-            const CWordEntry &words = list.Entry(entry);
-            for (int k = 0; k <= words.AlternativeCount(index); ++k) {
-                const QString word = words.GetAlternative(index, k, false);
-                if (!word.isEmpty()) {
-                    int &number = numbers[word]; // Counted from 1; 0 is a new word.
-                    if (number == 0) {
-                        number = int(numbers.size());
-                    }
-                    language.words.push_back(number - 1);
-                }
-            }
-        }
-        language.firstWord.push_back(int(language.words.size()));
+        list.ForEach([&](int, const CWordEntry &entry) {
+            language.firstWord.push_back(int(texts.size()));
+            const auto alternatives = entry.Alternatives(index);
+            texts.insert(texts.end(), alternatives.begin(), alternatives.end());
+        });
+        language.firstWord.push_back(int(texts.size()));
 
-        language.firstUse.assign(size_t(numbers.size()) + 1, 0);
+        language.firstUse.assign(size_t(NumberWords(texts, language.words)) + 1, 0);
         for (const int word : language.words) {
             ++language.firstUse[size_t(word) + 1];
         }

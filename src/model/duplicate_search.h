@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QHash>
-#include <QStringView>
-
 #include <array>
+#include <cstddef>
 #include <vector>
 
 class CWordList;

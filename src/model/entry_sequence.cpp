@@ -73,13 +73,14 @@ void CEntrySequence::AppendPointer(EntryPointer pointer)
 {
     if (m_blocks.empty() || m_blocks.back()->entries.size() >= BlockSize) {
         m_blocks.emplace_back(new Block);
+        m_blocks.back()->entries.reserve(BlockSize);
         m_starts.push_back(m_count);
     }
     MutableBlock(m_blocks.size() - 1).push_back(std::move(pointer));
     ++m_count;
 }
 
-void CEntrySequence::Append(CWordEntry entry)
+void CEntrySequence::Append(CWordEntry &&entry)
 {
     AppendPointer(EntryPointer(new SharedEntry(std::move(entry))));
 }
@@ -95,7 +96,7 @@ void CEntrySequence::UpdateStarts(size_t block)
     m_count = start;
 }
 
-void CEntrySequence::Insert(int index, CWordEntry entry)
+void CEntrySequence::Insert(int index, CWordEntry &&entry)
 {
     if (!IsIndex(index)) {
         Append(std::move(entry));

@@ -23,12 +23,24 @@ public:
     /// The entry for changing: a copy of its own when another sequence shares it.
     CWordEntry &Mutable(int index);
 
+    /// Calls `visit` with every index and its entry, in order.
+    template<class Visit>
+    void ForEach(Visit visit) const
+    {
+        int index = 0;
+        for (const BlockPointer &block : m_blocks) {
+            for (const EntryPointer &pointer : block->entries) {
+                visit(index++, pointer->entry);
+            }
+        }
+    }
+
     void Clear();
     /// Makes room for entries to be appended; a negative count is 0.
     void Reserve(int count);
-    void Append(CWordEntry entry);
+    void Append(CWordEntry &&entry);
     /// Inserts before `index`; an index that is not in range appends.
-    void Insert(int index, CWordEntry entry);
+    void Insert(int index, CWordEntry &&entry);
     /// Inserts all entries of another sequence, and shares them.
     void Insert(int index, const CEntrySequence &other);
     /// Removes ascending indices; those out of range are skipped.

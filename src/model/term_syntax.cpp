@@ -28,6 +28,12 @@ bool IsClean(QStringView text)
     return text.isEmpty() || !afterSpace;
 }
 
+/// Of a text that holds no two spaces in a row.
+bool BeginsWithEmptyComment(QStringView text)
+{
+    return text.startsWith(u"[]") || text.startsWith(u"[ ]");
+}
+
 }
 
 void CleanSpaces(QString &text)
@@ -103,7 +109,19 @@ QStringList SplitAlternatives(const QString &text)
 
 bool IsSimpleTerm(QStringView text)
 {
-    return !text.contains(Separator) && !text.contains(CommentOpener) && IsClean(text);
+    bool afterSpace = true; // A space at the start counts as a second one.
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar unit = text[i];
+        const bool space = unit == u' ';
+        const bool letter = unit > CommentOpener && unit != u'\x7F'; // Or another one without a meaning here.
+        if (!letter
+            && ((space && afterSpace) || unit == Separator || IsControl(unit)
+                || (unit == CommentOpener && BeginsWithEmptyComment(text.sliced(i))))) {
+            return false;
+        }
+        afterSpace = space;
+    }
+    return text.isEmpty() || !afterSpace;
 }
 
 QString NormalizeTerm(const QString &text)

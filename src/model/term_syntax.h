@@ -15,7 +15,7 @@ inline constexpr QStringView AlternativeJoint = u" * ";
 /// The alternatives of `text` in order: each without empty comments, space-cleaned and not empty.
 QStringList SplitAlternatives(const QString &text);
 
-/// True for a text that is one clean alternative without comments: it is in normal form as it stands.
+/// True for a text that is one alternative at most and in normal form as it stands.
 bool IsSimpleTerm(QStringView text);
 
 /// `text` in normal form: its alternatives joined by AlternativeJoint. The normal form of a normal form is the

@@ -3,6 +3,8 @@
 
 #include "platform/letters.h"
 
+#include <algorithm>
+
 namespace {
 
 /// The code point that begins, or that ends, at a position; lone surrogates are themselves.
@@ -54,14 +56,6 @@ CTextMatcher::CTextMatcher(const TextSearch &search)
     }
 }
 
-std::optional<CTextMatcher::Range> CTextMatcher::Find(QStringView field) const
-{
-    if (m_text.isEmpty()) {
-        return Range{};
-    }
-    return m_segments.empty() ? FindPlain(field) : FindWildcard(field);
-}
-
 bool CTextMatcher::EqualAt(QStringView field, qsizetype position) const
 {
     for (qsizetype i = 0; i < m_text.size(); ++i) {
@@ -82,22 +76,36 @@ qsizetype CTextMatcher::IndexOf(QStringView field, qsizetype from) const
     if (m_folding == nullptr) {
         return field.indexOf(m_text, from);
     }
+    const char16_t *const folding = m_folding;
     const char16_t first = m_text[0].unicode();
-    for (qsizetype position = from; position + m_text.size() <= field.size(); ++position) {
-        if (m_folding[field[position].unicode()] == first && EqualAt(field, position)) {
-            return position;
-        }
+    // Behind it the text would not find room.
+    const char16_t *const end = field.utf16() + field.size() - m_text.size() + 1;
+    const auto isFirst = [=](char16_t unit) { return folding[unit] == first; };
+    const char16_t *place = std::find_if(field.utf16() + from, end, isFirst);
+    while (place != end && !EqualAt(field, place - field.utf16())) {
+        place = std::find_if(place + 1, end, isFirst);
     }
-    return -1;
+    return place == end ? -1 : place - field.utf16();
 }
 
-std::optional<CTextMatcher::Range> CTextMatcher::FindPlain(QStringView field) const
+std::optional<CTextMatcher::Range> CTextMatcher::Find(QStringView field) const
 {
     const qsizetype length = m_text.size();
-    for (qsizetype position = IndexOf(field, 0); position >= 0; position = IndexOf(field, position + 1)) {
+    if (length == 0) {
+        return Range{};
+    }
+    if (!m_segments.empty()) {
+        return FindWildcard(field);
+    }
+    for (qsizetype from = 0; from + length <= field.size();) {
+        const qsizetype position = IndexOf(field, from);
+        if (position < 0) {
+            break;
+        }
         if (!m_wholeWord || (BoundaryBefore(field, position) && BoundaryAfter(field, position + length))) {
             return Range{position, length};
         }
+        from = position + 1;
     }
     return std::nullopt;
 }

@@ -67,6 +67,7 @@ private:
 
     char16_t Fold(QChar unit) const { return m_folding ? m_folding[unit.unicode()] : unit.unicode(); }
     bool EqualAt(QStringView field, qsizetype position) const;
+    /// The first place of the text, for which there is room, at or after `from`; -1 without one.
     qsizetype IndexOf(QStringView field, qsizetype from) const;
     /// The end of `segment` in `field` when it stands at `position`, else -1.
     qsizetype EndOfSegment(const Segment &segment, QStringView field, qsizetype position) const;
@@ -74,7 +75,6 @@ private:
     /// for.
     std::optional<std::pair<qsizetype, qsizetype>> FindSegment(const Segment &segment, QStringView field,
         qsizetype from, bool boundaryBefore, bool boundaryAfter) const;
-    std::optional<Range> FindPlain(QStringView field) const;
     std::optional<Range> FindWildcard(QStringView field) const;
 
     const char16_t *m_folding; // None when case counts.

@@ -6,56 +6,32 @@
 
 #include <utility>
 
-namespace {
-
-const QString &EmptyText()
+const QString &CWordEntry::EmptyText()
 {
     static const QString empty;
     return empty;
 }
 
-bool IsLanguage(int index)
-{
-    return index >= 0 && index < CWordEntry::LanguageCount;
-}
-
-bool IsField(int field)
-{
-    return field >= 0 && field < CWordEntry::FieldCount;
-}
-
-}
-
 CWordEntry::CWordEntry(QString term1, QString term2, QString note, bool flag1, bool flag2)
-    : m_terms{std::move(term1), std::move(term2)}, m_note(std::move(note)), m_flags{flag1, flag2}
+    : m_flags{flag1, flag2}, m_texts{std::move(term1), std::move(term2), std::move(note)}
 {
     ParseTerm(0);
     ParseTerm(1);
-    CleanSpaces(m_note);
-}
-
-const QString &CWordEntry::GetText(int index) const
-{
-    return IsLanguage(index) ? m_terms[size_t(index)] : EmptyText();
-}
-
-const QString &CWordEntry::GetField(int field) const
-{
-    return field == NoteField ? m_note : GetText(field);
+    CleanSpaces(m_texts[NoteField]);
 }
 
 void CWordEntry::SetTerm(const QString &text, int index)
 {
     if (IsLanguage(index)) {
-        m_terms[size_t(index)] = text;
+        m_texts[size_t(index)] = text;
         ParseTerm(index);
     }
 }
 
 void CWordEntry::SetNote(const QString &text)
 {
-    m_note = text;
-    CleanSpaces(m_note);
+    m_texts[NoteField] = text;
+    CleanSpaces(m_texts[NoteField]);
 }
 
 void CWordEntry::SetField(const QString &text, int field)
@@ -69,7 +45,7 @@ void CWordEntry::SetField(const QString &text, int field)
 
 void CWordEntry::ParseTerm(int index)
 {
-    QString &term = m_terms[size_t(index)];
+    QString &term = m_texts[size_t(index)];
     QStringList &alternatives = m_alternatives[size_t(index)];
     alternatives.clear();
     if (IsSimpleTerm(term)) {
@@ -80,11 +56,6 @@ void CWordEntry::ParseTerm(int index)
     if (alternatives.size() < 2) {
         alternatives.clear();
     }
-}
-
-bool CWordEntry::GetFlag(int index) const
-{
-    return IsLanguage(index) && m_flags[size_t(index)];
 }
 
 void CWordEntry::SetFlag(int index, bool value)
@@ -114,8 +85,21 @@ QString CWordEntry::GetAlternative(int index, int k, bool stripComments) const
     }
     const QStringList &alternatives = m_alternatives[size_t(index)];
     const QString alternative =
-        alternatives.isEmpty() && k == 0 ? m_terms[size_t(index)] : alternatives.value(k);
+        alternatives.isEmpty() && k == 0 ? m_texts[size_t(index)] : alternatives.value(k);
     return stripComments ? StripComments(alternative) : alternative;
+}
+
+std::span<const QString> CWordEntry::Alternatives(int index) const
+{
+    if (!IsLanguage(index)) {
+        return {};
+    }
+    const QStringList &alternatives = m_alternatives[size_t(index)];
+    if (alternatives.isEmpty()) {
+        const QString &term = m_texts[size_t(index)];
+        return {&term, term.isEmpty() ? 0u : 1u};
+    }
+    return {alternatives.constData(), size_t(alternatives.size())};
 }
 
 QString CWordEntry::GetCleanTerm(int index) const
@@ -126,7 +110,7 @@ QString CWordEntry::GetCleanTerm(int index) const
 const QString &CWordEntry::StoredAlternative(int index, int k) const
 {
     const QStringList &alternatives = m_alternatives[size_t(index)];
-    return alternatives.isEmpty() ? m_terms[size_t(index)] : alternatives.at(k);
+    return alternatives.isEmpty() ? m_texts[size_t(index)] : alternatives.at(k);
 }
 
 bool CWordEntry::HasAlternative(const QString &text, int index, bool caseInsensitive) const
@@ -169,7 +153,7 @@ void CWordEntry::SwapFields(bool swapTexts, bool swapFlags, int a, int b)
         return;
     }
     if (swapTexts) {
-        std::swap(Field(a), Field(b));
+        std::swap(m_texts[size_t(a)], m_texts[size_t(b)]);
         for (const int field : {a, b}) {
             if (IsLanguage(field)) {
                 ParseTerm(field);
@@ -186,7 +170,7 @@ void CWordEntry::SwapFieldWith(CWordEntry &other, int field)
     if (!IsField(field)) {
         return;
     }
-    std::swap(Field(field), other.Field(field));
+    std::swap(m_texts[size_t(field)], other.m_texts[size_t(field)]);
     if (IsLanguage(field)) {
         std::swap(m_alternatives[size_t(field)], other.m_alternatives[size_t(field)]);
         std::swap(m_flags[size_t(field)], other.m_flags[size_t(field)]);

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <array>
+#include <span>
 
 /// One entry of a word list: a term in each of two languages, a note, and a flag per language ("learnt").
 /// Text fields are numbered: 0 and 1 are the terms, 2 is the note. Flags exist for 0 and 1. An index outside
@@ -21,30 +22,33 @@ public:
         QString term1, QString term2 = {}, QString note = {}, bool flag1 = false, bool flag2 = false);
 
     /// The term in normal form, comments included.
-    const QString &GetText(int index) const;
-    const QString &GetNote() const { return m_note; }
+    const QString &GetText(int index) const { return IsLanguage(index) ? m_texts[size_t(index)] : EmptyText(); }
+    const QString &GetNote() const { return m_texts[NoteField]; }
     /// A term (0, 1) or the note (2).
-    const QString &GetField(int field) const;
+    const QString &GetField(int field) const { return IsField(field) ? m_texts[size_t(field)] : EmptyText(); }
 
     void SetTerm(const QString &text, int index);
     void SetNote(const QString &text);
     /// SetTerm() for fields 0 and 1, SetNote() for 2.
     void SetField(const QString &text, int field);
 
-    bool GetFlag(int index) const;
+    bool GetFlag(int index) const { return IsLanguage(index) && m_flags[size_t(index)]; }
     void SetFlag(int index, bool value);
     void ToggleFlag(int index) { SetFlag(index, !GetFlag(index)); }
     /// none, language 1, language 2, both, and none again.
     void CycleFlags();
 
-    bool HasNote() const { return !m_note.isEmpty(); }
-    bool HasTerm() const { return !m_terms[0].isEmpty() || !m_terms[1].isEmpty(); }
+    bool HasNote() const { return !GetNote().isEmpty(); }
+    bool HasTerm() const { return !m_texts[0].isEmpty() || !m_texts[1].isEmpty(); }
     /// True when the oldest file format with flags can hold what the entry has beside its terms.
-    bool FitsOldFormat() const { return m_note.isEmpty() && !m_flags[1]; }
+    bool FitsOldFormat() const { return !HasNote() && !m_flags[1]; }
 
     /// The number of alternatives less one, and 0 for a term without any: callers go from 0 to this, inclusive.
     int AlternativeCount(int index) const;
     QString GetAlternative(int index, int k, bool stripComments) const;
+    /// All alternatives with their comments, as they are stored; none of an empty term. They last as long as
+    /// the entry is not changed.
+    std::span<const QString> Alternatives(int index) const;
     /// The whole term without its comments.
     QString GetCleanTerm(int index) const;
 
@@ -64,12 +68,14 @@ private:
     /// GetAlternative() with its comments, of an existing language and without a copy: lists are searched for
     /// it.
     const QString &StoredAlternative(int index, int k) const;
-    QString &Field(int field) { return field == NoteField ? m_note : m_terms[size_t(field)]; }
+    static bool IsLanguage(int index) { return index >= 0 && index < LanguageCount; }
+    static bool IsField(int field) { return field >= 0 && field < FieldCount; }
+    static const QString &EmptyText();
     void ParseTerm(int index);
 
-    std::array<QString, LanguageCount> m_terms;
-    QString m_note;
+    // What searching and sorting look at comes first: it lies together then.
+    std::array<bool, LanguageCount> m_flags = {};
+    std::array<QString, FieldCount> m_texts;
     // Left empty when the term has one alternative, which is the term itself: most entries need no list.
     std::array<QStringList, LanguageCount> m_alternatives;
-    std::array<bool, LanguageCount> m_flags = {};
 };

@@ -145,17 +145,17 @@ int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIn
     if (inside && options.position <= similar) {
         ++similar;
     }
-    const CWordEntry *const inserted = &Entry(inside ? options.position : Count() - 1);
     const bool sort = options.sortAfter && similar < 0;
+    int index = Count() - 1; // Kept: without a sort the last entry, wherever the new one was inserted.
     if (sort) {
+        const CWordEntry *const inserted = &Entry(inside ? options.position : index);
         SortByKey(0, options.sort);
+        while (&Entry(index) != inserted) {
+            --index;
+        }
     }
     if (outIndex != nullptr) {
-        // Kept: without a sort this is the last entry, wherever the new one was inserted.
-        *outIndex = Count() - 1;
-        while (sort && &Entry(*outIndex) != inserted) {
-            --*outIndex;
-        }
+        *outIndex = index;
     }
     return similar;
 }
@@ -262,10 +262,9 @@ void CWordList::SetFlags(int language, Selection selection, FlagMode mode)
 int CWordList::CountFlagged(int which) const
 {
     int count = 0;
-    for (int index = 0; index < Count(); ++index) {
-        const CWordEntry &entry = Entry(index);
+    ForEach([&](int, const CWordEntry &entry) {
         count += int(which != 1 && entry.GetFlag(0)) + int(which != 0 && entry.GetFlag(1));
-    }
+    });
     return count;
 }
 
@@ -282,9 +281,7 @@ bool CWordList::AnyNote() const
 int CWordList::CountWithoutTerms() const
 {
     int count = 0;
-    for (int index = 0; index < Count(); ++index) {
-        count += int(!Entry(index).HasTerm());
-    }
+    ForEach([&](int, const CWordEntry &entry) { count += int(!entry.HasTerm()); });
     return count;
 }
 

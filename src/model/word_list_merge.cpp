@@ -132,11 +132,10 @@ void CWordList::MergeGroup(Selection group)
         const CWordEntry &entry = Entry(index);
         const bool isFirst = index == group.front(); // The same entry may stand at several places.
         for (size_t language = 0; language < alternatives.size(); ++language) {
-            for (int k = 0; k <= entry.AlternativeCount(int(language)); ++k) {
-                const QString alternative = entry.GetAlternative(int(language), k, false);
+            for (const QString &alternative : entry.Alternatives(int(language))) {
                 // The first entry keeps its alternatives as they are, repeated ones too.
                 const bool isKnown = known[language].contains(alternative);
-                if (!alternative.isEmpty() && (isFirst || !isKnown)) {
+                if (isFirst || !isKnown) {
                     known[language].insert(alternative);
                     alternatives[language].append(alternative);
                 }

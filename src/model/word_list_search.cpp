@@ -46,11 +46,11 @@ std::vector<int> CWordList::FindAll(const TextSearch &search) const
 {
     const CTextMatcher matcher(search);
     std::vector<int> found;
-    for (int index = 0; index < Count(); ++index) {
-        if (MatchEntry(matcher, search, Entry(index), index).IsFound()) {
+    ForEach([&](int index, const CWordEntry &entry) {
+        if (MatchEntry(matcher, search, entry, index).IsFound()) {
             found.push_back(index);
         }
-    }
+    });
     return found;
 }
 

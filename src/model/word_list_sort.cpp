@@ -4,8 +4,6 @@
 #include "platform/collation.h"
 #include "platform/random.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <cstring>
 #include <numeric>
@@ -24,9 +22,13 @@ using SortItems = std::span<SortItem>;
 /// The first eight bytes of a sort key as a number that orders like them.
 quint64 Prefix(const char *key)
 {
-    char bytes[sizeof(quint64)] = {};
-    std::memcpy(bytes, key, strnlen(key, sizeof bytes));
-    return qFromBigEndian<quint64>(bytes);
+    quint64 prefix = 0;
+    int bits = 64;
+    for (; bits > 0 && *key != 0; ++key) {
+        bits -= 8;
+        prefix |= quint64(uchar(*key)) << bits;
+    }
+    return prefix;
 }
 
 /// Calls `visit` for every run of items that `equal` takes for the same.
@@ -107,19 +109,25 @@ void CWordList::SortByKey(int key, const SortOptions &options)
     // Always sorted as for `ascending`; descending is the exact reverse of it.
     std::vector<SortItem> items;
     items.resize(size_t(Count()));
-    for (int index = 0; index < Count(); ++index) {
-        const CWordEntry &entry = Entry(index);
+    std::vector<const CWordEntry *> entries;
+    entries.reserve(items.size());
+    ForEach([&](int index, const CWordEntry &entry) {
+        entries.push_back(&entry);
         SortItem &item = items[size_t(index)];
         item.index = index;
         item.rank = quint64(grouped && !entry.GetFlag(keyField)) << 32;
         if (options.byLength) {
             item.rank |= quint64(entry.GetField(keyField).size());
         }
-    }
-    const auto textOf = [&](int level, int index) { return QStringView(Entry(index).GetField(fields[level])); };
+    });
+    const auto textOf = [&](int level, int index) {
+        return QStringView(entries[size_t(index)]->GetField(fields[level]));
+    };
     const auto sameRank = [](const SortItem &a, const SortItem &b) { return a.rank == b.rank; };
-    if (grouped || options.byLength) {
+    if (options.byLength) {
         std::ranges::sort(items, {}, &SortItem::rank);
+    } else if (grouped) {
+        std::ranges::partition(items, [](const SortItem &item) { return item.rank == 0; });
     }
     ForEachTie(items, sameRank, [&](SortItems tie) { SortByTexts(tie, textOf, 0, CWordEntry::FieldCount); });
     if (!options.ascending) {
