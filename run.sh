@@ -15,7 +15,7 @@ fi
 cd "$(dirname "$0")"
 
 scripts/setup.sh program
-cmake --preset release >/dev/null
+cmake --preset release -DORDELIN_WERROR="${ORDELIN_WERROR:-OFF}" >/dev/null
 cmake --build --preset release --target ordelin
 
 program=build/release/src/ordelin

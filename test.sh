@@ -14,6 +14,6 @@ dev | asan | tsan) ;;
 esac
 
 scripts/setup.sh program
-cmake --preset "$preset" >/dev/null
+cmake --preset "$preset" -DORDELIN_WERROR="${ORDELIN_WERROR:-OFF}" >/dev/null
 cmake --build --preset "$preset"
 ctest --preset "$preset" --parallel "$(nproc)"

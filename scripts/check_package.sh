@@ -78,6 +78,16 @@ dpkg-deb --field "$package" Depends | grep -q libqt6svg6 || fail "The package do
 dpkg-deb --extract "$package" "$work/extracted"
 check_files "$work/extracted/usr"
 
+# has_hardening WHAT PATTERN READELF-OPTION: the program in the package was built with it.
+has_hardening() {
+    readelf "$3" --wide "$work/extracted/usr/bin/ordelin" | grep -Eq "$2" || fail "The program is built without $1"
+}
+has_hardening "position-independent code" 'Type: +DYN' --file-header
+has_hardening "stack protector" '__stack_chk_fail' --dyn-syms
+has_hardening "checked library calls" '__[a-z]+_chk' --dyn-syms
+has_hardening "read-only relocations" 'GNU_RELRO' --program-headers
+has_hardening "binding at the start" 'FLAGS.*NOW' --dynamic
+
 if [ "$(id -u)" -ne 0 ] || dpkg-query --show ordelin >/dev/null 2>&1; then
     echo "The package was not tried: that takes root, on a system where it is not installed."
     exit
