@@ -106,48 +106,49 @@ QString languageAbbreviation(const QLocale &locale)
     struct Abbreviation
     {
         QLocale::Language language;
-        QLocale::Country country; // AnyCountry for all that are not listed.
+        QLocale::Territory territory; // AnyTerritory for all that are not listed.
         const char *text;
     };
     static constexpr Abbreviation Listed[] = {
         {QLocale::Chinese, QLocale::Taiwan, "cht"},
-        {QLocale::Chinese, QLocale::AnyCountry, "chs"},
-        {QLocale::Croatian, QLocale::AnyCountry, "hrv"},
-        {QLocale::Czech, QLocale::AnyCountry, "csy"},
+        {QLocale::Chinese, QLocale::AnyTerritory, "chs"},
+        {QLocale::Croatian, QLocale::AnyTerritory, "hrv"},
+        {QLocale::Czech, QLocale::AnyTerritory, "csy"},
         {QLocale::Dutch, QLocale::Belgium, "nlb"},
-        {QLocale::Dutch, QLocale::AnyCountry, "nld"},
+        {QLocale::Dutch, QLocale::AnyTerritory, "nld"},
         {QLocale::English, QLocale::UnitedKingdom, "eng"},
         {QLocale::English, QLocale::Australia, "ena"},
         {QLocale::English, QLocale::Canada, "enc"},
         {QLocale::English, QLocale::Ireland, "eni"},
         {QLocale::English, QLocale::NewZealand, "enz"},
-        {QLocale::English, QLocale::AnyCountry, "enu"},
+        {QLocale::English, QLocale::AnyTerritory, "enu"},
         {QLocale::French, QLocale::Belgium, "frb"},
         {QLocale::French, QLocale::Canada, "frc"},
         {QLocale::French, QLocale::Switzerland, "frs"},
-        {QLocale::French, QLocale::AnyCountry, "fra"},
+        {QLocale::French, QLocale::AnyTerritory, "fra"},
         {QLocale::German, QLocale::Austria, "dea"},
         {QLocale::German, QLocale::Switzerland, "des"},
-        {QLocale::German, QLocale::AnyCountry, "deu"},
-        {QLocale::Icelandic, QLocale::AnyCountry, "isl"},
+        {QLocale::German, QLocale::AnyTerritory, "deu"},
+        {QLocale::Icelandic, QLocale::AnyTerritory, "isl"},
         {QLocale::Italian, QLocale::Switzerland, "its"},
-        {QLocale::Japanese, QLocale::AnyCountry, "jpn"},
-        {QLocale::NorwegianBokmal, QLocale::AnyCountry, "nor"},
-        {QLocale::NorwegianNynorsk, QLocale::AnyCountry, "non"},
-        {QLocale::Polish, QLocale::AnyCountry, "plk"},
+        {QLocale::Japanese, QLocale::AnyTerritory, "jpn"},
+        {QLocale::NorwegianBokmal, QLocale::AnyTerritory, "nor"},
+        {QLocale::NorwegianNynorsk, QLocale::AnyTerritory, "non"},
+        {QLocale::Polish, QLocale::AnyTerritory, "plk"},
         {QLocale::Portuguese, QLocale::Brazil, "ptb"},
-        {QLocale::Portuguese, QLocale::AnyCountry, "ptg"},
-        {QLocale::Romanian, QLocale::AnyCountry, "rom"},
-        {QLocale::Slovak, QLocale::AnyCountry, "sky"},
+        {QLocale::Portuguese, QLocale::AnyTerritory, "ptg"},
+        {QLocale::Romanian, QLocale::AnyTerritory, "rom"},
+        {QLocale::Slovak, QLocale::AnyTerritory, "sky"},
         {QLocale::Spanish, QLocale::Mexico, "esm"},
-        {QLocale::Spanish, QLocale::AnyCountry, "esn"},
+        {QLocale::Spanish, QLocale::AnyTerritory, "esn"},
         {QLocale::Swedish, QLocale::Finland, "svf"},
-        {QLocale::Swedish, QLocale::AnyCountry, "sve"},
-        {QLocale::Turkish, QLocale::AnyCountry, "trk"},
+        {QLocale::Swedish, QLocale::AnyTerritory, "sve"},
+        {QLocale::Turkish, QLocale::AnyTerritory, "trk"},
     };
     for (const Abbreviation &abbreviation : Listed) {
         if (abbreviation.language == locale.language()
-            && (abbreviation.country == locale.country() || abbreviation.country == QLocale::AnyCountry)) {
+            && (abbreviation.territory == locale.territory()
+                || abbreviation.territory == QLocale::AnyTerritory)) {
             return QString::fromLatin1(abbreviation.text);
         }
     }

@@ -12,6 +12,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Section(const char *name)
@@ -33,8 +35,8 @@ public:
     void Color(const char *, quint32 &value, quint32 factory) { value = ~factory; }
     void Text(const char *name, QString &value, const char *, const char * = nullptr) { KeptText(name, value); }
     void NumberedText(const char *name, QString &value, int) { KeptText(name, value); }
-    void KeptText(const char *name, QString &value) { value = QString::fromLatin1(name) + u", \"å\";\n=\\"_qs; }
-    void List(const char *, QStringList &value) { value = {u"ñ"_qs, u"\u0301"_qs}; }
+    void KeptText(const char *name, QString &value) { value = QString::fromLatin1(name) + u", \"å\";\n=\\"_s; }
+    void List(const char *, QStringList &value) { value = {u"ñ"_s, u"\u0301"_s}; }
 };
 
 }
@@ -73,9 +75,9 @@ void AppSettingsTest::firstRun()
              "import", "createTable", "filesearch", "result", "find", "arrange"}) {
         QVERIFY2(store.HasSection(Section(name)), name);
     }
-    QVERIFY(!store.Read(Section("misc"), u"autoOpen"_qs)); // Nothing is written before the exit.
-    QCOMPARE(settings.editor.standardFilename, u"%language2 %date av %author"_qs);
-    QCOMPARE(settings.createTable.replaceAsterisc, u", "_qs);
+    QVERIFY(!store.Read(Section("misc"), u"autoOpen"_s)); // Nothing is written before the exit.
+    QCOMPARE(settings.editor.standardFilename, u"%language2 %date av %author"_s);
+    QCOMPARE(settings.createTable.replaceAsterisc, u", "_s);
     settings.Exchange(false);
     CAppSettings next(store, m_texts);
     next.Exchange(true);
@@ -196,10 +198,10 @@ void AppSettingsTest::lists_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QStringList>("items");
-    QTest::newRow("blanks around items") << " å \n\tß" << QStringList{u"å"_qs, u"ß"_qs};
+    QTest::newRow("blanks around items") << " å \n\tß" << QStringList{u"å"_s, u"ß"_s};
     QTest::newRow("empty text") << "" << QStringList{};
-    QTest::newRow("final line break") << "a\nb\n" << QStringList{u"a"_qs, u"b"_qs};
-    QTest::newRow("empty item between") << "a\n\nb" << QStringList{u"a"_qs, QString(), u"b"_qs};
+    QTest::newRow("final line break") << "a\nb\n" << QStringList{u"a"_s, u"b"_s};
+    QTest::newRow("empty item between") << "a\n\nb" << QStringList{u"a"_s, QString(), u"b"_s};
 }
 
 void AppSettingsTest::lists()
@@ -207,7 +209,7 @@ void AppSettingsTest::lists()
     QFETCH(QString, stored);
     QFETCH(QStringList, items);
     CMemoryStore store;
-    store.Write(Section("easykey"), u"keys"_qs, stored);
+    store.Write(Section("easykey"), u"keys"_s, stored);
     CAppSettings settings(store, m_texts);
     settings.Exchange(true);
     QCOMPARE(settings.easykey.keys, items);
@@ -233,7 +235,7 @@ void AppSettingsTest::savingAndLoadingReproducesEverything()
     settings.find.Visit(other);
     settings.arrange.Visit(other);
     settings.Exchange(false);
-    QVERIFY(store.Read(Section("quiz"), u"windowWidth8"_qs) != u"0"_qs);
+    QVERIFY(store.Read(Section("quiz"), u"windowWidth8"_s) != u"0"_s);
     const auto saved = store.Sections();
     CAppSettings loaded(store, m_texts);
     loaded.Exchange(true);
@@ -247,16 +249,16 @@ void AppSettingsTest::resettingKeepsTheLanguage()
     CMemoryStore store;
     CAppSettings settings(store, m_texts);
     settings.Exchange(true);
-    settings.misc.languageFile = u"x"_qs;
+    settings.misc.languageFile = u"x"_s;
     settings.misc.plugInUse = false;
     settings.misc.fontSize = 30;
-    settings.easykey.keys = {u"a"_qs};
+    settings.easykey.keys = {u"a"_s};
     CScriptedPrompt prompt;
     prompt.answers = {PromptAnswer::No, PromptAnswer::Cancel, PromptAnswer::Yes};
     QVERIFY(!settings.ResetToFactory(prompt) && !settings.ResetToFactory(prompt));
     QCOMPARE(settings.misc.fontSize, 30);
     QVERIFY(settings.ResetToFactory(prompt));
-    QCOMPARE(settings.misc.languageFile, u"x"_qs);
+    QCOMPARE(settings.misc.languageFile, u"x"_s);
     QVERIFY(!settings.misc.plugInUse);
     QCOMPARE(settings.misc.fontSize, 11);
     QVERIFY(settings.easykey.keys.isEmpty());
@@ -265,13 +267,13 @@ void AppSettingsTest::resettingKeepsTheLanguage()
 void AppSettingsTest::iniFile()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"new folder/Ordelin.ini"_qs);
+    const QString path = folder.filePath(u"new folder/Ordelin.ini"_s);
     {
         CIniStore store(path, CAppSettings::RootPath());
         CAppSettings settings(store, m_texts);
         settings.Exchange(true);
         QVERIFY(settings.isFirstRun);
-        settings.editor.author = u"Åsa, \"x\"; y=z\\\nœ"_qs;
+        settings.editor.author = u"Åsa, \"x\"; y=z\\\nœ"_s;
         settings.fallingWord.speed = 99;
         settings.Exchange(false);
     }
@@ -279,7 +281,7 @@ void AppSettingsTest::iniFile()
     CAppSettings settings(store, m_texts);
     settings.Exchange(true);
     QVERIFY(!settings.isFirstRun);
-    QCOMPARE(settings.editor.author, u"Åsa, \"x\"; y=z\\\nœ"_qs);
+    QCOMPARE(settings.editor.author, u"Åsa, \"x\"; y=z\\\nœ"_s);
     QCOMPARE(settings.fallingWord.speed, 99);
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -292,7 +294,7 @@ void AppSettingsTest::iniFile()
 void AppSettingsTest::iniFileEditedByHand()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    const QString path = folder.filePath(u"Ordelin.ini"_s);
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("garbage\n[editor]\nauthor=Eva, Bo, x\nundoSize=many, or "
@@ -303,7 +305,7 @@ void AppSettingsTest::iniFileEditedByHand()
     CIniStore store(path, CAppSettings::RootPath());
     CAppSettings settings(store, m_texts);
     settings.Exchange(true);
-    QCOMPARE(settings.editor.author, u"Eva, Bo, x"_qs);
+    QCOMPARE(settings.editor.author, u"Eva, Bo, x"_s);
     QCOMPARE(settings.editor.undoSize, 10);
     QCOMPARE(settings.find.language, 1);
     QCOMPARE(settings.quiz.requizNumber, 3);
@@ -312,21 +314,21 @@ void AppSettingsTest::iniFileEditedByHand()
 void AppSettingsTest::lastToWriteWins()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    const QString path = folder.filePath(u"Ordelin.ini"_s);
     CIniStore first(path, CAppSettings::RootPath());
     CIniStore second(path, CAppSettings::RootPath());
     CAppSettings one(first, m_texts);
     CAppSettings two(second, m_texts);
     one.Exchange(true);
     two.Exchange(true);
-    one.editor.author = u"one"_qs;
-    two.editor.author = u"two"_qs;
+    one.editor.author = u"one"_s;
+    two.editor.author = u"two"_s;
     two.Exchange(false);
     one.Exchange(false);
     CIniStore third(path, CAppSettings::RootPath());
     CAppSettings loaded(third, m_texts);
     loaded.Exchange(true);
-    QCOMPARE(loaded.editor.author, u"one"_qs);
+    QCOMPARE(loaded.editor.author, u"one"_s);
     QCOMPARE(loaded.quiz.requizNumber, 3);
 }
 
