@@ -62,9 +62,14 @@ bool CTypeAhead::Keeps() const
     return m_open ? !m_hears : HasKept();
 }
 
-void CTypeAhead::Keep(TypedInput input)
+void CTypeAhead::NoteTyping()
 {
     m_lastKey = m_clock();
+}
+
+void CTypeAhead::Keep(TypedInput input)
+{
+    NoteTyping();
     if (!IsModifier(input.key) && !(input.repeated && EndsEdit(input.key))) {
         m_kept.push_back(std::move(input));
     }

@@ -37,6 +37,8 @@ public:
 
     /// Whether keys are kept: the question is deaf, or there are some to go on with first.
     bool Keeps() const;
+    /// Something is typed that nothing comes of yet, like a dead key.
+    void NoteTyping();
     /// Takes a key that is to be kept.
     void Keep(TypedInput input);
     /// The key that goes on next; none while a question is open. Done() follows when it went on.

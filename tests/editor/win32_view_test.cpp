@@ -110,6 +110,7 @@ private Q_SLOTS:
     void newDocumentForgets();
     void manyRows();
     void editBoxes();
+    void typingOnBesideTheFoundEntry();
 };
 
 void Win32ViewTest::typingAListByKeys()
@@ -432,6 +433,51 @@ void Win32ViewTest::editBoxes()
     QTest::keyClick(run.Field(0), Qt::Key_Delete);
     QCOMPARE(run.Field(0)->text(), QStringLiteral("0"));
     QCOMPARE(run.Entries().size(), 1);
+}
+
+void Win32ViewTest::typingOnBesideTheFoundEntry()
+{
+    const auto accept = [](View &run, bool goesOn) {
+        run.test.prompt.answers = {PromptAnswer::Yes};
+        run.test.prompt.typingGoesOn = goesOn;
+    };
+    const QStringList before = {QStringLiteral("sol|sun"), QStringLiteral("hund|hound")};
+    const QStringList after = {QStringLiteral("hund|dog"), QStringLiteral("natt|night")};
+    View list(before);
+    list.test.settings.showNotes = false;
+    list.view.RefreshAll();
+    list.Type(QStringLiteral("hund\ndog"));
+    accept(list, true);
+    list.Type(QStringLiteral("\nnatt\nnight\n"));
+    QCOMPARE(list.Entries(), after + before);
+    QCOMPARE(list.Selected(), QStringLiteral("3"));
+    QVERIFY(list.Editor() != nullptr);
+    list.test.prompt.typingGoesOn = false;
+    list.Type(QStringLiteral("x\n"));
+    QCOMPARE(list.view.SelectedEntryCount(), 0); // The new-entry row follows again.
+
+    View fields(before);
+    fields.view.ToggleEditFields();
+    fields.Field(0)->setFocus();
+    fields.Type(QStringLiteral("hund\ndog"));
+    accept(fields, true);
+    fields.Type(QStringLiteral("\n"));
+    QCOMPARE(fields.Selected(), QStringLiteral("2"));
+    QCOMPARE(fields.Field(0)->text(), QString());
+    fields.view.RefreshAll();
+    fields.Type(QStringLiteral("natt\nnight\n"));
+    QCOMPARE(fields.Entries(), after + before);
+    QCOMPARE(fields.Selected(), QStringLiteral("3"));
+
+    // Nothing typed on: the entry that was found is there to be looked at and changed.
+    View looking(before);
+    looking.test.settings.showNotes = false;
+    looking.view.RefreshAll();
+    looking.Type(QStringLiteral("hund\ndog"));
+    accept(looking, false);
+    looking.Type(QStringLiteral("\n"));
+    QCOMPARE(looking.Selected(), QStringLiteral("2"));
+    QVERIFY(!looking.List()->IsEditing());
 }
 
 QTEST_MAIN(Win32ViewTest)

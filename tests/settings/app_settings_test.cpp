@@ -94,7 +94,7 @@ void AppSettingsTest::namesAndFactoryValues()
     for (const auto &[path, values] : store.Sections().asKeyValueRange()) {
         for (const auto &[name, value] : values.asKeyValueRange()) {
             stored.append(path.mid(CAppSettings::RootPath().size() + 1) + u'\\' + name + u'='
-                + QString(value).replace(u'\n', u"\\n"_qs));
+                + QString(value).replace(u'\n', u"\\n"_s));
         }
     }
     stored.sort();
@@ -335,19 +335,19 @@ void AppSettingsTest::lastToWriteWins()
 void AppSettingsTest::iniTextIsTheToolkits()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"Ordelin.ini"_qs);
-    const QStringList texts = {u""_qs, u" a "_qs, u"a,b ; c=d"_qs,
+    const QString path = folder.filePath(u"Ordelin.ini"_s);
+    const QStringList texts = {u""_s, u" a "_s, u"a,b ; c=d"_s,
         u"\"\\\a\b\f\n\r\t\v\x1B"
-        "1\x7F"_qs,
-        u"å\U0001F600\u0301\u2028"_qs, u"@"_qs, u"@Invalid()"_qs, u"@@x"_qs, u"@String(x)"_qs, u"%1 [x]\\"_qs,
-        u"\x1 x"_qs, QString(QChar(0)) + u"7"_qs};
-    const QStringList names = {u"plain"_qs, u"a b"_qs, u"å%€"_qs, u"a=b"_qs, u"deep/er-_.9"_qs, u"[x]"_qs};
+        "1\x7F"_s,
+        u"å\U0001F600\u0301\u2028"_s, u"@"_s, u"@Invalid()"_s, u"@@x"_s, u"@String(x)"_s, u"%1 [x]\\"_s,
+        u"\x1 x"_s, QString(QChar(0)) + u"7"_s};
+    const QStringList names = {u"plain"_s, u"a b"_s, u"å%€"_s, u"a=b"_s, u"deep/er-_.9"_s, u"[x]"_s};
     {
         QSettings file(path, QSettings::IniFormat);
         for (qsizetype i = 0; i < texts.size(); ++i) {
-            file.setValue(u"editor/"_qs + names.at(i % names.size()) + QString::number(i), texts.at(i));
-            file.setValue(u"top"_qs + QString::number(i), texts.at(i));
-            file.setValue(u"General/"_qs + QString::number(i), texts.at(i));
+            file.setValue(u"editor/"_s + names.at(i % names.size()) + QString::number(i), texts.at(i));
+            file.setValue(u"top"_s + QString::number(i), texts.at(i));
+            file.setValue(u"General/"_s + QString::number(i), texts.at(i));
         }
     }
     QFile file(path);
@@ -355,12 +355,12 @@ void AppSettingsTest::iniTextIsTheToolkits()
     const IniValues values = ParseIni(file.readAll());
     QCOMPARE(values.size(), 3 * texts.size());
     for (qsizetype i = 0; i < texts.size(); ++i) {
-        QCOMPARE(values.value(u"editor/"_qs + names.at(i % names.size()) + QString::number(i)), texts.at(i));
-        QCOMPARE(values.value(u"top"_qs + QString::number(i)), texts.at(i));
-        QCOMPARE(values.value(u"General/"_qs + QString::number(i)), texts.at(i));
+        QCOMPARE(values.value(u"editor/"_s + names.at(i % names.size()) + QString::number(i)), texts.at(i));
+        QCOMPARE(values.value(u"top"_s + QString::number(i)), texts.at(i));
+        QCOMPARE(values.value(u"General/"_s + QString::number(i)), texts.at(i));
     }
     QCOMPARE(ParseIni(FormatIni(values)), values);
-    QFile other(folder.filePath(u"other.ini"_qs));
+    QFile other(folder.filePath(u"other.ini"_s));
     QVERIFY(other.open(QIODevice::WriteOnly));
     other.write(FormatIni(values));
     other.close();
@@ -377,8 +377,8 @@ void AppSettingsTest::iniTextIsTheToolkits()
 void AppSettingsTest::iniThatIsNoFile()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"Ordelin.ini"_qs);
-    QVERIFY(QDir().mkpath(path + u".lock"_qs));
+    const QString path = folder.filePath(u"Ordelin.ini"_s);
+    QVERIFY(QDir().mkpath(path + u".lock"_s));
     QCOMPARE(mkfifo(path.toUtf8().constData(), 0666), 0);
     CIniStore store(path, CAppSettings::RootPath());
     CAppSettings settings(store, m_texts);
@@ -393,15 +393,15 @@ void AppSettingsTest::iniThatIsNoFile()
 void AppSettingsTest::iniSectionsStay()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"Ordelin.ini"_qs);
+    const QString path = folder.filePath(u"Ordelin.ini"_s);
     const auto has = [&](const char *section) {
         return CIniStore(path, CAppSettings::RootPath()).HasSection(Section(section));
     };
     CIniStore store(path, CAppSettings::RootPath());
     store.CreateSection(Section("empty"));
-    store.Write(Section("files"), u"File1"_qs, u"x"_qs);
+    store.Write(Section("files"), u"File1"_s, u"x"_s);
     QVERIFY(store.Flush() && has("empty") && has("files"));
-    store.Remove(Section("files"), u"File1"_qs); // Its last value.
+    store.Remove(Section("files"), u"File1"_s); // Its last value.
     QVERIFY(store.Flush() && has("files") && !has("file"));
 }
 

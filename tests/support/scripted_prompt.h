@@ -44,6 +44,9 @@ public:
         return answers.isEmpty() ? PromptAnswer::Cancel : answers.takeFirst();
     }
 
+    bool TypingGoesOn() const override { return typingGoesOn; }
+
+    bool typingGoesOn = false;
     QList<PromptAnswer> answers;
     QList<int> numbers;
     QStringList texts;

@@ -104,10 +104,14 @@ bool CTypeAheadFilter::eventFilter(QObject *watched, QEvent *event)
         event->accept();
         return KeepKey(*static_cast<QKeyEvent *>(event));
     case QEvent::KeyRelease:
+        m_typeAhead.NoteTyping(); // An input method may have taken the press.
+        event->accept();
+        return true;
     case QEvent::Shortcut:
         event->accept();
         return true;
     case QEvent::InputMethod:
+        m_typeAhead.NoteTyping();
         if (const QString text = static_cast<QInputMethodEvent *>(event)->commitString(); !text.isEmpty()) {
             m_typeAhead.Keep({.text = text});
         }

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ui/message_box_prompt.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+/// A window with two fields in which someone types, and a prompt over it whose clock stands still.
+struct Window
+{
+    Window()
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(&first);
+        layout->addWidget(&second);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        first.setFocus();
+    }
+    /// The box that is shown once a question is open.
+    QMessageBox *Box() const { return window.findChild<QMessageBox *>(); }
+    PromptAnswer Ask()
+    {
+        return prompt.Ask(text, PromptIcon::Question, PromptButtons::YesNo, PromptAnswer::Yes);
+    }
+    PromptAnswer AskTypist()
+    {
+        return prompt.AskTypist(text, PromptIcon::Question, PromptButtons::YesNo, PromptAnswer::Yes);
+    }
+
+    QWidget window;
+    QLineEdit first{&window};
+    QLineEdit second{&window};
+    PromptText text = {1, QStringLiteral("<b>?")};
+    CMessageBoxPrompt prompt{[] { return std::chrono::milliseconds(0); }};
+};
+
+}
+
+class MessageBoxPromptTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lettersChooseNothing();
+    void typingGoesOn();
+};
+
+void MessageBoxPromptTest::lettersChooseNothing()
+{
+    Window run;
+    bool open = false;
+    QTimer::singleShot(0, &run.window, [&] {
+        QMessageBox *const box = run.Box();
+        const QKeySequence no = box->button(QMessageBox::No)->shortcut();
+        QTest::keyClick(box, Qt::Key(no[0].key()));
+        QTest::qWait(0);
+        open = box->isVisible();
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    QCOMPARE(run.Ask(), PromptAnswer::No);
+    QVERIFY(open);
+}
+
+void MessageBoxPromptTest::typingGoesOn()
+{
+    Window run;
+    QObject::connect(&run.first, &QLineEdit::returnPressed, &run.window, [&] {
+        QTimer::singleShot(0, &run.window, [&] {
+            // Wherever the keys arrive, and an input method's text among them.
+            QTest::keyClicks(&run.first, QStringLiteral("ny"));
+            QTest::keyClick(run.Box(), Qt::Key_A);
+            QInputMethodEvent composed;
+            composed.setCommitString(QStringLiteral("é"));
+            QApplication::sendEvent(&run.first, &composed);
+            QTest::keyClick(&run.first, Qt::Key_Tab);
+            QTest::keyClick(&run.first, Qt::Key_Z);
+            QVERIFY(run.Box()->isVisible());
+            QTest::mouseClick(run.Box()->button(QMessageBox::Yes), Qt::LeftButton);
+        });
+        QCOMPARE(run.AskTypist(), PromptAnswer::Yes);
+        QVERIFY(run.prompt.TypingGoesOn());
+        run.first.clear();
+    });
+    QTest::keyClick(&run.first, Qt::Key_Return);
+    QApplication::setActiveWindow(&run.window); // As a window manager does.
+    QTest::keyClick(&run.first, Qt::Key_Q); // Typed before the others went on.
+    QCOMPARE(run.first.text(), QString());
+    QTRY_VERIFY(!run.prompt.TypingGoesOn());
+    QCOMPARE(run.first.text(), QStringLiteral("nyaé"));
+    QCOMPARE(run.second.text(), QStringLiteral("zq"));
+}
+
+QTEST_MAIN(MessageBoxPromptTest)
+#include "message_box_prompt_test.moc"
