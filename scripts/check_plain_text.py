@@ -22,7 +22,10 @@ RULES = [
     (re.compile(r"\bQLabel\s+\w+\s*[;({=,\[]"), LABEL, FACTORIES),
     (re.compile(r"\b(array|vector|list|deque|optional)<\s*QLabel\s*[,>]"), LABEL, FACTORIES),
     (re.compile(r"\bsetTextFormat\s*\((?!\s*Qt::PlainText\s*\))"), "a text format that is not plain", set()),
-    (re.compile(r"\bQMessageBox\b(?!>|\s*[&*;])"), "a message box beside IUserPrompt", {PROMPT}),
+    # One that is made, by a call too; others may be handed about.
+    (re.compile(r"\b(new|public)\s+QMessageBox\b|\bQMessageBox\s+\w+\s*[({;]|\bmake_unique<\s*QMessageBox\b"
+                r"|\bQMessageBox::(about|aboutQt|critical|information|question|warning)\s*\("),
+     "a message box beside IUserPrompt", {PROMPT}),
     (re.compile(r"\bQ(ErrorMessage|InputDialog|ProgressDialog|WizardPage|SplashScreen|TextBrowser|WhatsThis)\b"),
      "a window of the toolkit that guesses markup", set()),
     (re.compile(r"\bsetWhatsThis\b|\bWhatsThisRole\b"), "a What's This text, which guesses markup", set()),
@@ -85,6 +88,7 @@ def self_test():
         "a/row.cpp": ('    form.addRow(texts.Get(Text::A), f(1, 2));\n', 1),
         "a/format.cpp": ("    label->setTextFormat(Qt::RichText);\n", 1),
         "a/box.cpp": ("    QMessageBox::warning(this, title, text);\n", 1),
+        "a/made.cpp": ("    QMessageBox box(icon, title, text);\n", 1),
         "a/progress.cpp": ("    QProgressDialog dialog(text, cancel, 0, 1);\n", 1),
         "a/whats.cpp": ("    button->setWhatsThis(text);\n", 1),
         "platform/ui/label.cpp": ("auto *x = new QLabel(parent);\nform.addRow(text, control);\n", 0),
@@ -92,6 +96,7 @@ def self_test():
         "a/right.cpp": ("class QLabel;\nQLabel *const x = MakeLabel(text, this);\nform.addRow(label, field);\n"
                         "rows->addRow(MakeLabel(a, b));\nstd::array<QLabel *, 3> labels;\n"
                         "for (QLabel *label : {a, b}) {}\nfindChild<QLabel *>(name);\n"
+                        "qobject_cast<QMessageBox *>(window);\nvoid f(QMessageBox &box);\n"
                         "label->setTextFormat(Qt::PlainText); // never new QLabel(text)\n", 0),
     }
     with tempfile.TemporaryDirectory() as folder:
