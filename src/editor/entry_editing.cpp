@@ -5,6 +5,7 @@
 #include "editor/arranging.h"
 #include "editor/row_model.h"
 #include "model/term_syntax.h"
+#include "platform/plain_text.h"
 #include "platform/user_prompt.h"
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
@@ -15,6 +16,13 @@
 #include <utility>
 
 using Action = EditStep::Action;
+
+namespace {
+
+/// How much of a term a question shows, in code units.
+constexpr qsizetype MaxAsked = 300;
+
+}
 
 bool HasBothTerms(const EntryTexts &texts)
 {
@@ -58,7 +66,8 @@ QString CEntryEditing::Corrected(const QString &term)
     const std::optional<QString> proposal = SuggestTermCorrection(term);
     // A term of brackets alone would become none at all.
     const bool accepted = proposal && !proposal->isEmpty()
-        && ConfirmTyped(m_services.texts.Prompt(Text::ProposeCorrection, {*proposal}), PromptIcon::Information);
+        && ConfirmTyped(m_services.texts.Prompt(Text::ProposeCorrection, {ShownShort(*proposal, MaxAsked)}),
+            PromptIcon::Information);
     return accepted ? *proposal : term;
 }
 

@@ -13,7 +13,6 @@
 namespace {
 
 /// In code units; far more than anybody reads in a tool tip.
-constexpr qsizetype LongestToolTip = 1000;
 
 bool IsLanguage(int field)
 {
@@ -39,6 +38,11 @@ int CWordListModel::field(int column) const
 int CWordListModel::column(int field) const
 {
     return m_settings.showWordNumber ? field + 1 : field;
+}
+
+QString CWordListModel::LongTextHint() const
+{
+    return m_texts.Get(Text::LongText);
 }
 
 bool CWordListModel::Apply(const ListChange &change)
@@ -178,7 +182,7 @@ QVariant CWordListModel::EntryData(int entry, int field, int role) const
     const CWordEntry &shown = m_list.Entry(entry);
     switch (role) {
     case Qt::ToolTipRole:
-        return field == NumberColumn ? QVariant() : ShownShort(shown.GetField(field), LongestToolTip);
+        return field == NumberColumn ? QVariant() : ShownShort(shown.GetField(field));
     case Qt::DisplayRole:
         return field == NumberColumn ? QString::number(entry + 1) : shown.GetField(field);
     case Qt::EditRole:
@@ -189,7 +193,7 @@ QVariant CWordListModel::EntryData(int entry, int field, int role) const
     case Qt::AccessibleTextRole:
         if (IsLanguage(field)) {
             const QString flag = m_texts.Get(shown.GetFlag(field) ? Text::Flagged : Text::NotFlagged);
-            return QString(shown.GetField(field) + QStringLiteral(", ") + flag);
+            return QString(ShownShort(shown.GetField(field)) + QStringLiteral(", ") + flag);
         }
         return {};
     default:
@@ -213,8 +217,9 @@ QVariant CWordListModel::NewEntryData(int field, int role) const
     case Qt::TextAlignmentRole:
         return pending.isEmpty() ? QVariant(int(Qt::AlignCenter)) : QVariant();
     case Qt::AccessibleTextRole:
-        return pending.isEmpty() ? m_texts.Get(Text::NewEntryRow)
-                                 : QString(m_texts.Get(Text::NewEntryRow) + QStringLiteral(", ") + pending);
+        return pending.isEmpty()
+            ? m_texts.Get(Text::NewEntryRow)
+            : QString(m_texts.Get(Text::NewEntryRow) + QStringLiteral(", ") + ShownShort(pending));
     default:
         return {};
     }
@@ -238,6 +243,6 @@ QVariant CWordListModel::headerData(int section, Qt::Orientation orientation, in
     case CWordEntry::NoteField:
         return m_texts.Get(Text::Note);
     default:
-        return m_list.GetLanguage(headerField).trimmed();
+        return ShownShort(m_list.GetLanguage(headerField).trimmed());
     }
 }

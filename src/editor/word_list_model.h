@@ -36,6 +36,9 @@ public:
     /// The shown column of a field, which may not be shown.
     int column(int field) const;
 
+    /// What tells that only the start of a long text is edited.
+    QString LongTextHint() const;
+
     /// Follows a change of the document by the rows that it concerns; all rows are new where these cannot be
     /// named in one stretch, and then the result is false.
     bool Apply(const ListChange &change);

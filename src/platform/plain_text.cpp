@@ -33,9 +33,7 @@ QString ShownShort(const QString &text, qsizetype longest)
     if (text.size() <= longest) {
         return text;
     }
-    qsizetype kept = longest - 1;
-    kept -= kept > 0 && text.at(kept - 1).isHighSurrogate() ? 1 : 0;
-    return text.left(kept) + u'…';
+    return text.left(StartLength(text, longest - 1)) + u'…';
 }
 
 QString ShownInCaption(const QString &text)

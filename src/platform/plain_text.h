@@ -3,9 +3,21 @@
 
 #include <QString>
 
+/// How much of a text is shown where it is not edited: layout takes time in proportion to it. In code units.
+inline constexpr qsizetype MaxShownLength = 1000;
+
+/// The length of the start of `text` that has at most `length` code units and cuts no character in two.
+inline qsizetype StartLength(const QString &text, qsizetype length)
+{
+    if (text.size() <= length) {
+        return text.size();
+    }
+    return length > 0 && text.at(length - 1).isHighSurrogate() ? length - 1 : length;
+}
+
 /// `text` cut to at most `longest` code units, the last of them an ellipsis then: what comes from a file may be
 /// far longer than anything that can be shown.
-QString ShownShort(const QString &text, qsizetype longest);
+QString ShownShort(const QString &text, qsizetype longest = MaxShownLength);
 
 /// `text` for a part of a caption: short and on one line, and an ampersand in it marks no key.
 QString ShownInCaption(const QString &text);

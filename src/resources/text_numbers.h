@@ -59,6 +59,7 @@ inline constexpr int Unnamed = 70030;
 inline constexpr int SaveChanges = 70031;
 inline constexpr int CannotStartMail = 70032;
 inline constexpr int Right = 70033;
+inline constexpr int LongText = 70090;
 inline constexpr int CopiedToClipboard = 70036;
 inline constexpr int RecoverPart = 70052;
 inline constexpr int RecoverOverwritten = 70053;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/arranging.h"
 #include "editor/ui/edit_box_commands.h"
+#include "editor/ui/long_line_edit.h"
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
@@ -9,6 +10,7 @@
 #include "support/test_document.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -111,6 +113,7 @@ private Q_SLOTS:
     void manyRows();
     void editBoxes();
     void typingOnBesideTheFoundEntry();
+    void longTexts();
 };
 
 void Win32ViewTest::typingAListByKeys()
@@ -478,6 +481,48 @@ void Win32ViewTest::typingOnBesideTheFoundEntry()
     looking.Type(QStringLiteral("\n"));
     QCOMPARE(looking.Selected(), QStringLiteral("2"));
     QVERIFY(!looking.List()->IsEditing());
+}
+
+void Win32ViewTest::longTexts()
+{
+    const QString rest = QString(1000000, u'x') + QStringLiteral("end");
+    const QString start = QString(CLongLineEdit::MaxShown, u's');
+    View run({QStringLiteral("a|b|") + start + rest});
+    run.test.settings.synonymWarning = true;
+    const auto text = [&] { return run.test.document.List().Entry(0).GetNote(); };
+    const QModelIndex cell = run.List()->model()->index(1, 3);
+    QVERIFY(cell.data(Qt::ToolTipRole).toString().size() < 2000);
+    // Only the start is edited, and what follows it stays.
+    run.List()->EditCell(1, 2);
+    QCOMPARE(run.Editor()->text(), start);
+    QVERIFY(!run.Editor()->toolTip().isEmpty());
+    QTest::keyClick(run.Editor(), Qt::Key_End);
+    run.Type(QStringLiteral("y\n"));
+    QVERIFY(text() == start + u'y' + rest);
+    run.view.SelectEntry(0);
+    QTest::keyClick(run.Field(2), Qt::Key_Home);
+    run.Field(2)->setFocus();
+    run.Type(QStringLiteral("z"));
+    run.view.PendingWork().StoreWhole();
+    QVERIFY(text() == u'z' + start + u'y' + rest);
+    // Replaced as a whole, it goes as a whole.
+    run.List()->setFocus();
+    run.List()->SetCursorField(2);
+    run.Type(QStringLiteral("short"));
+    run.Editor()->undo();
+    QVERIFY(run.view.PendingWork().ListWithAll().Entry(0).GetNote() == text());
+    run.Editor()->selectAll();
+    run.Type(QStringLiteral("short\n"));
+    QCOMPARE(text(), QStringLiteral("short"));
+    // A long text that is pasted is kept whole; the question shows its start.
+    QApplication::clipboard()->setText(QStringLiteral("(x) ") + rest);
+    run.List()->EditCell(1, 0);
+    QTest::keyClick(run.Editor(), 'v', Qt::ControlModifier);
+    QVERIFY(run.Editor()->text().size() <= CLongLineEdit::MaxShown);
+    run.test.prompt.answers = {PromptAnswer::No};
+    QTest::keyClick(run.Editor(), Qt::Key_Return);
+    QVERIFY(run.test.document.List().Entry(0).GetText(0).endsWith(QStringLiteral("xend")));
+    QVERIFY(run.test.prompt.texts.last().size() < 2000);
 }
 
 QTEST_MAIN(Win32ViewTest)

@@ -1,12 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/edit_box_commands.h"
 
+#include "editor/ui/long_line_edit.h"
+
 #include <QApplication>
 #include <QLineEdit>
 
 QLineEdit *focusedEditBox()
 {
     return qobject_cast<QLineEdit *>(QApplication::focusWidget());
+}
+
+void pasteText(QLineEdit &box)
+{
+    if (auto *const line = qobject_cast<CLongLineEdit *>(&box)) {
+        line->Paste();
+    } else {
+        box.paste();
+    }
 }
 
 void changeText(QLineEdit &box, TextBox (*change)(const TextBox &))

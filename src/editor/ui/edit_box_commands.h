@@ -9,5 +9,8 @@ class QLineEdit;
 /// alone.
 QLineEdit *focusedEditBox();
 
+/// Pastes the text of the clipboard into an edit box.
+void pasteText(QLineEdit &box);
+
 /// Lets one of the commands that write into terms work on an edit box, as one step of its own undo.
 void changeText(QLineEdit &box, TextBox (*change)(const TextBox &));

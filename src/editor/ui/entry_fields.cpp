@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/entry_fields.h"
 
+#include "editor/ui/long_line_edit.h"
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
 #include "resources/text_numbers.h"
@@ -8,11 +9,8 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcutEvent>
-
-#include <limits>
 
 CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(parent), m_texts(texts)
 {
@@ -20,9 +18,8 @@ CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(paren
     layout->setContentsMargins(0, 0, 0, 0);
     for (size_t i = 0; i < m_fields.size(); ++i) {
         m_labels[i] = MakeLabel({}, this);
-        m_fields[i] = new QLineEdit(this);
+        m_fields[i] = new CLongLineEdit(texts.Get(Text::LongText), this);
         m_fields[i]->setObjectName(QStringLiteral("field%1").arg(i));
-        m_fields[i]->setMaxLength(std::numeric_limits<int>::max()); // No term is cut off.
         m_labels[i]->setBuddy(m_fields[i]);
         layout->addWidget(m_labels[i], int(i), 0);
         layout->addWidget(m_fields[i], int(i), 1);
@@ -73,13 +70,13 @@ void CEntryFields::SetLanguages(const QString &language1, const QString &languag
 
 EntryTexts CEntryFields::Texts() const
 {
-    return {m_fields[0]->text(), m_fields[1]->text(), m_fields[2]->text()};
+    return {m_fields[0]->WholeText(), m_fields[1]->WholeText(), m_fields[2]->WholeText()};
 }
 
 void CEntryFields::SetTexts(const EntryTexts &texts)
 {
     for (size_t i = 0; i < m_fields.size(); ++i) {
-        m_fields[i]->setText(texts[i]);
+        m_fields[i]->SetWholeText(texts[i]);
         m_fields[i]->setCursorPosition(0);
     }
 }
@@ -94,7 +91,7 @@ void CEntryFields::SetChangeMode(bool change)
 
 void CEntryFields::FocusField(int field)
 {
-    QLineEdit *const line = m_fields[size_t(field)];
+    CLongLineEdit *const line = m_fields[size_t(field)];
     line->setFocus(Qt::OtherFocusReason);
     line->selectAll();
 }

@@ -7,9 +7,9 @@
 
 #include <array>
 
+class CLongLineEdit;
 class CTexts;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 
 /// The three fields below the list in which an entry is typed or changed, with their buttons.
@@ -41,7 +41,7 @@ private:
 
     const CTexts &m_texts;
     std::array<QLabel *, CWordEntry::FieldCount> m_labels;
-    std::array<QLineEdit *, CWordEntry::FieldCount> m_fields;
+    std::array<CLongLineEdit *, CWordEntry::FieldCount> m_fields;
     QPushButton *m_addOrChange;
     bool m_changeMode = false;
 };

@@ -3,17 +3,15 @@
 
 #include "editor/pending_entries.h"
 #include "editor/ui/cell_colours.h"
+#include "editor/ui/long_line_edit.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
 #include "platform/plain_text.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPainter>
 #include <QToolTip>
-
-#include <limits>
 
 CWordListDelegate::CWordListDelegate(CWordListControl &list)
     : QStyledItemDelegate(&list), m_list(list), m_flagOn(QStringLiteral(":/pictures/flag-on.svg")),
@@ -67,18 +65,18 @@ void CWordListDelegate::paint(
     painter->drawText(room,
         (alignment.isValid() ? Qt::Alignment(alignment.toInt()) : Qt::AlignVCenter | Qt::AlignLeft)
             | Qt::Alignment(Qt::TextSingleLine),
-        option.fontMetrics.elidedText(Isolated(index.data(Qt::DisplayRole).toString()), Qt::ElideRight,
-            room.width(), Qt::TextSingleLine));
+        option.fontMetrics.elidedText(Isolated(ShownShort(index.data(Qt::DisplayRole).toString())),
+            Qt::ElideRight, room.width(), Qt::TextSingleLine));
 }
 
 QWidget *CWordListDelegate::createEditor(
     QWidget *parent, const QStyleOptionViewItem & /*option*/, const QModelIndex &index) const
 {
-    auto *const line = new QLineEdit(parent);
+    const auto *const model = static_cast<const CWordListModel *>(index.model());
+    auto *const line = new CLongLineEdit(model->LongTextHint(), parent);
     line->setObjectName(QStringLiteral("cellEditor"));
     line->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
     line->setFont(m_list.font());
-    line->setMaxLength(std::numeric_limits<int>::max()); // No term is cut off.
     line->setFrame(false);
     line->setAutoFillBackground(true);
     connect(line, &QLineEdit::textEdited, this, &CWordListDelegate::Typed);
@@ -90,9 +88,9 @@ QWidget *CWordListDelegate::createEditor(
 void CWordListDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
     // A change of the list must not undo what is being typed.
-    auto *const line = qobject_cast<QLineEdit *>(editor);
+    auto *const line = qobject_cast<CLongLineEdit *>(editor);
     if (!line->isModified() && line->text().isEmpty()) {
-        line->setText(index.data(Qt::EditRole).toString());
+        line->SetWholeText(index.data(Qt::EditRole).toString());
     }
 }
 
@@ -122,17 +120,17 @@ void CWordListDelegate::EndEditing(bool commit, int key)
 
 std::optional<OpenEdit> CWordListDelegate::Edited() const
 {
-    const auto *const line = qobject_cast<const QLineEdit *>(m_editor);
+    const auto *const line = qobject_cast<const CLongLineEdit *>(m_editor);
     if (line == nullptr || !m_edited.isValid()) {
         return {};
     }
     const auto *const model = static_cast<const CWordListModel *>(m_edited.model());
-    return OpenEdit{m_edited.row(), model->field(m_edited.column()), line->text()};
+    return OpenEdit{m_edited.row(), model->field(m_edited.column()), line->WholeText()};
 }
 
 std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const
 {
-    const auto *const line = qobject_cast<QLineEdit *>(editor);
+    const auto *const line = qobject_cast<CLongLineEdit *>(editor);
     if (line == nullptr || line != m_editor || !m_edited.isValid()) {
         return {};
     }
@@ -143,7 +141,7 @@ std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const
         : m_endKey == Qt::Key_Tab              ? Key::Tab
         : m_endKey == Qt::Key_Backtab          ? Key::Backtab
                                                : Key::None;
-    return CellEdit{m_edited.row(), model->field(m_edited.column()), line->text(), key};
+    return CellEdit{m_edited.row(), model->field(m_edited.column()), line->WholeText(), key};
 }
 
 bool CWordListDelegate::helpEvent(
@@ -152,7 +150,7 @@ bool CWordListDelegate::helpEvent(
     // The whole text is told only where it doesn't fit.
     const int mark =
         index.data(CWordListModel::MarkRole).isValid() ? MarkArea(option.rect, option.fontMetrics).width() : 0;
-    const int wanted = option.fontMetrics.horizontalAdvance(index.data(Qt::DisplayRole).toString());
+    const int wanted = option.fontMetrics.horizontalAdvance(ShownShort(index.data(Qt::DisplayRole).toString()));
     if (event->type() == QEvent::ToolTip && wanted <= option.rect.width() - mark - 6) {
         QToolTip::hideText();
         return true;
@@ -163,7 +161,7 @@ bool CWordListDelegate::helpEvent(
 bool CWordListDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     // One that is being taken down is no line any more, and loses the focus once again.
-    if (watched != m_editor || qobject_cast<QLineEdit *>(watched) == nullptr) {
+    if (watched != m_editor || qobject_cast<CLongLineEdit *>(watched) == nullptr) {
         return false;
     }
     if (event->type() == QEvent::KeyPress) {

@@ -14,6 +14,11 @@ CElidedLabel::CElidedLabel(QWidget *parent) : QLabel(parent)
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
+void CElidedLabel::setText(const QString &text)
+{
+    QLabel::setText(ShownShort(text));
+}
+
 QSize CElidedLabel::sizeHint() const
 {
     return minimumSizeHint();
@@ -28,9 +33,7 @@ QSize CElidedLabel::minimumSizeHint() const
 
 QString CElidedLabel::Shown() const
 {
-    // More than fits in any line.
-    constexpr qsizetype Longest = 2000;
-    return Isolated(ShownShort(text(), Longest));
+    return Isolated(text());
 }
 
 bool CElidedLabel::Fits() const

@@ -12,6 +12,9 @@ class CElidedLabel : public QLabel
 public:
     explicit CElidedLabel(QWidget *parent = nullptr);
 
+    /// Only the start of a long text is kept.
+    void setText(const QString &text);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -64,7 +64,9 @@ bool CTypeAheadFilter::ShowDeaf(QMessageBox &box)
     timer.start(m_typeAhead.DeafFor());
     box.show();
     const bool hears = loop.exec() == 1 && m_typeAhead.TryToHear();
+    const QPoint place = box.pos();
     box.hide();
+    box.move(place); // It doesn't jump under the mouse.
     box.setAttribute(Qt::WA_ShowWithoutActivating, false);
     box.setWindowModality(modality);
     return hears;

@@ -109,7 +109,7 @@ void CEditCommands::ConnectText()
     SetTextHandler(
         Copy, [](QLineEdit &box) { box.copy(); }, [this] { m_clipboard.Copy(AllColumns); });
     SetTextHandler(
-        Paste, [](QLineEdit &box) { box.paste(); }, [this] { m_clipboard.Paste(); });
+        Paste, [](QLineEdit &box) { pasteText(box); }, [this] { m_clipboard.Paste(); });
     SetTextHandler(
         CommandId::Delete, [](QLineEdit &box) { box.del(); }, [this] { m_view.DeleteSelection(); });
     SetTextHandler(
