@@ -142,11 +142,14 @@ void Run(int count)
 void RunLongTerms()
 {
     Editor editor(0);
-    editor.settings.showEditFields = true;
+    editor.settings.editor.showEditFields = true;
+    editor.settingsChanges.Tell(SettingsSection::Editor);
     const QString term = QStringLiteral("ett ord ").repeated(130000);
-    for (int i = 0; i < 4; ++i) {
-        editor.document.BeginChange().Insert(CWordEntry(term + QString::number(i), term + term, term));
-    }
+    editor.document.Change([&term](CWordList &list) {
+        for (int i = 0; i < 4; ++i) {
+            list.Insert(CWordEntry(term + QString::number(i), term + term, term));
+        }
+    });
     CWin32View &view = editor.view;
     auto *const list = view.findChild<CWordListControl *>();
     std::printf("4 entries of 1 MB terms\n");

@@ -12,8 +12,6 @@
 
 namespace {
 
-/// In code units; far more than anybody reads in a tool tip.
-
 bool IsLanguage(int field)
 {
     return field == 0 || field == 1;

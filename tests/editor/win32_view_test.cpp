@@ -460,7 +460,7 @@ void Win32ViewTest::typingOnBesideTheFoundEntry()
     QCOMPARE(list.view.SelectedEntryCount(), 0); // The new-entry row follows again.
 
     View fields(before);
-    fields.view.ToggleEditFields();
+    fields.Flip(&EditorSettings::showEditFields);
     fields.Field(0)->setFocus();
     fields.Type(QStringLiteral("hund\ndog"));
     accept(fields, true);

@@ -3,6 +3,7 @@
 
 #include "platform/plain_text.h"
 
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -89,5 +90,5 @@ void CLongLineEdit::TextEdited()
 
 void CLongLineEdit::ShowHint()
 {
-    setToolTip(m_rest.isEmpty() ? QString() : ShownAsPlainText(m_hint));
+    setToolTip(m_rest.isEmpty() ? QString() : m_hint);
 }
