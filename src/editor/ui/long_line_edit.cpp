@@ -3,7 +3,6 @@
 
 #include "platform/plain_text.h"
 
-
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
