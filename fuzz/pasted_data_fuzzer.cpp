@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QMimeData pasted;
     pasted.setData(QString::fromLatin1(Forms.at(data[0] % Forms.size())),
         QByteArray(reinterpret_cast<const char *>(data + 1), qsizetype(size - 1)));
-    const CWordList list = entriesFromData(pasted);
+    const CWordList list = EntriesFromData(pasted);
     std::vector<int> entries(size_t(list.Count()));
     std::iota(entries.begin(), entries.end(), 0);
     bool hasBreaks = false;
@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             hasBreaks = hasBreaks || list.Entry(index).GetField(field).contains(u'\n');
         }
     }
-    const CWordList again = entriesFromData(*clipboardDataOf(list, entries, AllColumns));
+    const CWordList again = EntriesFromData(*ClipboardDataOf(list, entries, AllColumns));
     Require(hasBreaks || again.Count() == list.Count());
     return 0;
 }

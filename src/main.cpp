@@ -16,8 +16,8 @@ int Answer(const CommandLine &commandLine)
 {
     CTexts texts;
     const CIniStore store(CIniStore::UserPath(), CAppSettings::RootPath());
-    loadLanguage(loadLanguageSettings(store, CAppSettings::RootPath()), texts);
-    const CommandLineAnswer answer = answerCommandLine(commandLine, texts, QStringLiteral(ORDELIN_VERSION));
+    LoadLanguage(LoadLanguageSettings(store, CAppSettings::RootPath()), texts);
+    const CommandLineAnswer answer = AnswerCommandLine(commandLine, texts, QStringLiteral(ORDELIN_VERSION));
     std::FILE *const stream = answer.isError ? stderr : stdout;
     const bool written = std::fwrite(answer.text.constData(), 1, size_t(answer.text.size()), stream)
             == size_t(answer.text.size())
@@ -33,7 +33,7 @@ int main(int argc, char *argv[])
     for (int i = 1; i < argc; ++i) {
         arguments.append(DecodeFileName(argv[i]));
     }
-    const CommandLine commandLine = parseCommandLine(arguments);
+    const CommandLine commandLine = ParseCommandLine(arguments);
     if (commandLine.error != 0 || commandLine.action != CommandLine::Action::Run) {
         return Answer(commandLine);
     }

@@ -43,24 +43,24 @@ QString FromUtf16(const QByteArray &bytes)
 
 }
 
-std::unique_ptr<QMimeData> clipboardDataOf(const CWordList &list, CWordList::Selection entries, int column)
+std::unique_ptr<QMimeData> ClipboardDataOf(const CWordList &list, CWordList::Selection entries, int column)
 {
     auto data = std::make_unique<QMimeData>();
-    const QString text = entriesAsText(list, entries, column);
+    const QString text = EntriesAsText(list, entries, column);
     data->setData(Text8Bit, To8Bit(text));
     data->setText(text);
-    const QByteArray richText = entriesAsRichText(list, entries, column);
+    const QByteArray richText = EntriesAsRichText(list, entries, column);
     data->setData(RichText, richText);
     data->setData(RichTextOlderName, richText);
     if (column < 0) {
-        const QString records = entriesAsRecords(list, entries);
+        const QString records = EntriesAsRecords(list, entries);
         data->setData(Records, ToUtf16(records));
         data->setData(Records8Bit, To8Bit(records));
     }
     return data;
 }
 
-QStringList filesFromData(const QMimeData &data)
+QStringList FilesFromData(const QMimeData &data)
 {
     QStringList files;
     for (const QUrl &url : data.urls()) {
@@ -71,18 +71,18 @@ QStringList filesFromData(const QMimeData &data)
     return files;
 }
 
-bool mayHoldEntries(const QMimeData &data)
+bool MayHoldEntries(const QMimeData &data)
 {
     return data.hasText() || data.hasFormat(Records) || data.hasFormat(Records8Bit) || data.hasFormat(Text8Bit);
 }
 
-CWordList entriesFromData(const QMimeData &data)
+CWordList EntriesFromData(const QMimeData &data)
 {
     if (data.hasFormat(Records)) {
-        return entriesFromRecords(FromUtf16(data.data(Records)));
+        return EntriesFromRecords(FromUtf16(data.data(Records)));
     }
     if (data.hasFormat(Records8Bit)) {
-        return entriesFromRecords(DecodeWindows1252(data.data(Records8Bit)));
+        return EntriesFromRecords(DecodeWindows1252(data.data(Records8Bit)));
     }
-    return entriesFromText(data.hasText() ? data.text() : DecodeWindows1252(data.data(Text8Bit)));
+    return EntriesFromText(data.hasText() ? data.text() : DecodeWindows1252(data.data(Text8Bit)));
 }

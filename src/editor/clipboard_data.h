@@ -11,11 +11,11 @@ class QMimeData;
 
 /// What a copy of entries puts on the clipboard: text and rich text for other programs, and of all columns
 /// also the program's own records, for this program and other running copies of it.
-std::unique_ptr<QMimeData> clipboardDataOf(const CWordList &list, CWordList::Selection entries, int column);
+std::unique_ptr<QMimeData> ClipboardDataOf(const CWordList &list, CWordList::Selection entries, int column);
 
 /// The files that data is a list of, by their paths; none for other data.
-QStringList filesFromData(const QMimeData &data);
+QStringList FilesFromData(const QMimeData &data);
 /// Whether there is a form that entries can be read from; reads none of it.
-bool mayHoldEntries(const QMimeData &data);
+bool MayHoldEntries(const QMimeData &data);
 /// The entries of the best form that is there: records before text.
-CWordList entriesFromData(const QMimeData &data);
+CWordList EntriesFromData(const QMimeData &data);

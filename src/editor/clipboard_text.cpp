@@ -113,7 +113,7 @@ std::optional<CWordEntry> EntryFromLine(QStringView line)
 
 }
 
-QString entriesAsText(const CWordList &list, CWordList::Selection entries, int column)
+QString EntriesAsText(const CWordList &list, CWordList::Selection entries, int column)
 {
     const auto [first, last] = FieldsOf(column);
     QString text;
@@ -128,7 +128,7 @@ QString entriesAsText(const CWordList &list, CWordList::Selection entries, int c
     return text;
 }
 
-QByteArray entriesAsRichText(const CWordList &list, CWordList::Selection entries, int column)
+QByteArray EntriesAsRichText(const CWordList &list, CWordList::Selection entries, int column)
 {
     constexpr qsizetype Markup = 31; // Of an entry that is flagged twice.
     const auto [first, last] = FieldsOf(column);
@@ -146,7 +146,7 @@ QByteArray entriesAsRichText(const CWordList &list, CWordList::Selection entries
     return document.append('}');
 }
 
-QString entriesAsRecords(const CWordList &list, CWordList::Selection entries)
+QString EntriesAsRecords(const CWordList &list, CWordList::Selection entries)
 {
     constexpr qsizetype FlagsAndLineEnds = 12;
     QString records;
@@ -165,7 +165,7 @@ QString entriesAsRecords(const CWordList &list, CWordList::Selection entries)
     return records;
 }
 
-CWordList entriesFromRecords(QStringView records)
+CWordList EntriesFromRecords(QStringView records)
 {
     records = WithoutByteOrderMark(records);
     constexpr size_t LineCount = 5;
@@ -184,7 +184,7 @@ CWordList entriesFromRecords(QStringView records)
     }
 }
 
-CWordList entriesFromText(QStringView text)
+CWordList EntriesFromText(QStringView text)
 {
     CWordList list;
     text = WithoutByteOrderMark(text);

@@ -9,14 +9,14 @@
 inline constexpr int AllColumns = -1;
 
 /// A line per entry, the columns separated by tabs.
-QString entriesAsText(const CWordList &list, CWordList::Selection entries, int column);
+QString EntriesAsText(const CWordList &list, CWordList::Selection entries, int column);
 /// A document in Rich Text Format with a paragraph per entry, flagged terms in bold.
-QByteArray entriesAsRichText(const CWordList &list, CWordList::Selection entries, int column);
+QByteArray EntriesAsRichText(const CWordList &list, CWordList::Selection entries, int column);
 /// Records, which lose nothing: five lines per entry, each term behind its flag ("0" or "1"), then the note.
-QString entriesAsRecords(const CWordList &list, CWordList::Selection entries);
+QString EntriesAsRecords(const CWordList &list, CWordList::Selection entries);
 
 /// The entries of records, up to the first record that is not complete.
-CWordList entriesFromRecords(QStringView records);
+CWordList EntriesFromRecords(QStringView records);
 /// An entry from each line that holds two terms and perhaps a note, separated by a character that is found out
 /// line by line. Other lines are left out.
-CWordList entriesFromText(QStringView text);
+CWordList EntriesFromText(QStringView text);

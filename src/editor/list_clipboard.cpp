@@ -23,7 +23,7 @@ void CListClipboard::Copy(int column)
 {
     const std::vector<int> entries = m_view.SelectedEntries();
     if (!entries.empty()) {
-        m_clipboard.SetData(clipboardDataOf(m_document.List(), entries, column));
+        m_clipboard.SetData(ClipboardDataOf(m_document.List(), entries, column));
     }
 }
 
@@ -36,17 +36,17 @@ void CListClipboard::Cut()
 void CListClipboard::Paste()
 {
     const QMimeData *const data = m_clipboard.Data();
-    if (data == nullptr || !mayHoldEntries(*data)) {
+    if (data == nullptr || !MayHoldEntries(*data)) {
         qDebug("BFE! Illegal clipboard format!");
         return;
     }
-    const QStringList files = filesFromData(*data);
+    const QStringList files = FilesFromData(*data);
     if (files.size() == 1 && QFileInfo(files.first()).isFile()) {
         m_openFile(files.first());
         return;
     }
     // Of several files nothing is read: their names are no terms.
-    const CWordList pasted = files.isEmpty() ? entriesFromData(*data) : CWordList();
+    const CWordList pasted = files.isEmpty() ? EntriesFromData(*data) : CWordList();
     const int count = pasted.Count();
     if (count == 0) {
         m_view.UpdateStatusText(m_texts.Get(Text::NothingPasted));
@@ -61,5 +61,5 @@ void CListClipboard::Paste()
 bool CListClipboard::CanPaste() const
 {
     const QMimeData *const data = m_clipboard.Data();
-    return data != nullptr && mayHoldEntries(*data);
+    return data != nullptr && MayHoldEntries(*data);
 }

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-TextBox insertSynonym(const TextBox &box)
+TextBox WithSynonym(const TextBox &box)
 {
     QString text = NormalizeTerm(box.text);
     if (!text.isEmpty()) {
@@ -15,7 +15,7 @@ TextBox insertSynonym(const TextBox &box)
     return {text, end, end};
 }
 
-TextBox insertComment(const TextBox &box)
+TextBox WithComment(const TextBox &box)
 {
     QString text = box.text;
     text.insert(box.selectionEnd, u']').insert(box.selectionStart, u'[');

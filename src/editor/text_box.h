@@ -13,6 +13,6 @@ struct TextBox
 };
 
 /// The text in normal form, made ready for one more alternative; the caret goes to the end.
-TextBox insertSynonym(const TextBox &box);
+TextBox WithSynonym(const TextBox &box);
 /// Puts the selection in comment brackets, or makes an empty comment with the caret inside.
-TextBox insertComment(const TextBox &box);
+TextBox WithComment(const TextBox &box);

@@ -28,12 +28,12 @@ CWordListModel::CWordListModel(
     m_rows.SetInsertionPoint(document.InsertionPoint());
 }
 
-int CWordListModel::field(int column) const
+int CWordListModel::FieldOf(int column) const
 {
     return m_settings.showWordNumber ? column - 1 : column;
 }
 
-int CWordListModel::column(int field) const
+int CWordListModel::ColumnOf(int field) const
 {
     return m_settings.showWordNumber ? field + 1 : field;
 }
@@ -156,7 +156,7 @@ Qt::ItemFlags CWordListModel::flags(const QModelIndex &index) const
         return Qt::NoItemFlags;
     }
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return field(index.column()) == NumberColumn ? flags : flags | Qt::ItemIsEditable;
+    return FieldOf(index.column()) == NumberColumn ? flags : flags | Qt::ItemIsEditable;
 }
 
 QVariant CWordListModel::data(const QModelIndex &index, int role) const
@@ -164,7 +164,7 @@ QVariant CWordListModel::data(const QModelIndex &index, int role) const
     if (!index.isValid()) {
         return {};
     }
-    const int cellField = field(index.column());
+    const int cellField = FieldOf(index.column());
     if (role == Qt::TextAlignmentRole && cellField == NumberColumn) {
         return int(Qt::AlignRight | Qt::AlignVCenter);
     }
@@ -228,7 +228,7 @@ QVariant CWordListModel::headerData(int section, Qt::Orientation orientation, in
     if (orientation != Qt::Horizontal) {
         return {};
     }
-    const int headerField = field(section);
+    const int headerField = FieldOf(section);
     if (role == Qt::TextAlignmentRole) {
         return int((headerField == NumberColumn ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }

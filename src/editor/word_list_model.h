@@ -23,7 +23,7 @@ public:
     static constexpr int MarkRole = Qt::UserRole;
     enum CellMark { NotFlagged = 0, Flagged = 1, NewRow = 4 };
 
-    /// What a field() can be besides the fields of an entry.
+    /// What a FieldOf() can be besides the fields of an entry.
     static constexpr int NumberColumn = -1;
 
     CWordListModel(
@@ -32,9 +32,9 @@ public:
     CRowModel &Rows() { return m_rows; }
     const CRowModel &Rows() const { return m_rows; }
     /// The field of an entry that a shown column holds, or NumberColumn.
-    int field(int column) const;
+    int FieldOf(int column) const;
     /// The shown column of a field, which may not be shown.
-    int column(int field) const;
+    int ColumnOf(int field) const;
 
     /// What tells that only the start of a long text is edited.
     QString LongTextHint() const;

@@ -5,7 +5,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-QStringList dataFolders(const QString &programFolder)
+QStringList DataFolders(const QString &programFolder)
 {
     QStringList folders = {
         QDir::cleanPath(programFolder), QDir::cleanPath(programFolder + QStringLiteral("/../share/ordelin"))};
@@ -16,7 +16,7 @@ QStringList dataFolders(const QString &programFolder)
     return folders;
 }
 
-QString findDataFile(const QStringList &folders, const QString &path)
+QString FindDataFile(const QStringList &folders, const QString &path)
 {
     const QString relative = QDir::cleanPath(path);
     if (path.isEmpty() || QDir::isAbsolutePath(relative) || relative.startsWith(QStringLiteral(".."))) {

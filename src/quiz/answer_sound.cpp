@@ -11,8 +11,8 @@ QString findSound(const QString &name, const QStringList &dataFolders)
     if (QFileInfo(name).isAbsolute()) {
         return QFileInfo(name).isFile() ? name : QString();
     }
-    const QString shipped = findDataFile(dataFolders, QStringLiteral("sounds/") + name);
-    return shipped.isEmpty() ? findDataFile(dataFolders, name) : shipped;
+    const QString shipped = FindDataFile(dataFolders, QStringLiteral("sounds/") + name);
+    return shipped.isEmpty() ? FindDataFile(dataFolders, name) : shipped;
 }
 
 QString answerSound(AnswerVerdict verdict, const QuizSettings &settings, const QStringList &dataFolders)

@@ -8,7 +8,7 @@
 #include <QHash>
 #include <QUrl>
 
-CommandLine parseCommandLine(const QStringList &arguments)
+CommandLine ParseCommandLine(const QStringList &arguments)
 {
     using enum CommandLine::Action;
     static const QHash<QString, CommandLine::Action> actions = {{QStringLiteral("--help"), ShowHelp},
@@ -40,7 +40,7 @@ CommandLine parseCommandLine(const QStringList &arguments)
     return result;
 }
 
-CommandLineAnswer answerCommandLine(const CommandLine &commandLine, const CTexts &texts, const QString &version)
+CommandLineAnswer AnswerCommandLine(const CommandLine &commandLine, const CTexts &texts, const QString &version)
 {
     const QString usage = texts.Get(Text::Usage);
     if (commandLine.error != 0) {

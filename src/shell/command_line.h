@@ -23,7 +23,7 @@ struct CommandLine
 
 /// `arguments` without the program's name: at most one file, a path or a file: URL. "--" ends the switches.
 /// Those of the toolkit that session managers and tests pass are left to it.
-CommandLine parseCommandLine(const QStringList &arguments);
+CommandLine ParseCommandLine(const QStringList &arguments);
 
 /// What a command line that opens no window, or is wrong, is answered with.
 struct CommandLineAnswer
@@ -33,5 +33,5 @@ struct CommandLineAnswer
     bool isError = false;
     int exitCode = 0;
 };
-CommandLineAnswer answerCommandLine(
+CommandLineAnswer AnswerCommandLine(
     const CommandLine &commandLine, const CTexts &texts, const QString &version);

@@ -117,13 +117,13 @@ QList<Command> MakeTable()
 
 }
 
-const QList<Command> &commandTable()
+const QList<Command> &CommandTable()
 {
     static const QList<Command> table = MakeTable();
     return table;
 }
 
-const Command &commandOf(int id)
+const Command &CommandOf(int id)
 {
-    return *std::ranges::find(commandTable(), id, &Command::id);
+    return *std::ranges::find(CommandTable(), id, &Command::id);
 }

@@ -9,7 +9,7 @@
 
 using namespace CommandId;
 
-bool isEnabled(EnabledRule rule, const CommandState &state)
+bool IsCommandEnabled(EnabledRule rule, const CommandState &state)
 {
     switch (rule) {
     case EnabledRule::Always:
@@ -40,7 +40,7 @@ bool isEnabled(EnabledRule rule, const CommandState &state)
     return false;
 }
 
-const QList<CommandMenu> &commandMenus()
+const QList<CommandMenu> &CommandMenus()
 {
     static const QList<CommandMenu> menus = {
         {Text::FileMenu,
@@ -68,7 +68,7 @@ const QList<CommandMenu> &commandMenus()
     return menus;
 }
 
-const QList<CommandMenu> &commandSubmenus()
+const QList<CommandMenu> &CommandSubmenus()
 {
     static const QList<CommandMenu> menus = {
         {Text::CopySpecialMenu, {CopyLanguage1, CopyLanguage2, CopyNotes}},
@@ -84,29 +84,29 @@ namespace {
 /// The commands of a menu from one to another.
 QList<int> PartOfMenu(int title, int first, int last)
 {
-    const QList<int> &commands = std::ranges::find(commandMenus(), title, &CommandMenu::title)->commands;
+    const QList<int> &commands = std::ranges::find(CommandMenus(), title, &CommandMenu::title)->commands;
     const qsizetype start = commands.indexOf(first);
     return commands.mid(start, commands.indexOf(last) - start + 1);
 }
 
 }
 
-QList<int> rowMenu()
+QList<int> RowMenuCommands()
 {
     return PartOfMenu(Text::EditMenu, Undo, PlaceInsertionPoint);
 }
 
-QList<int> columnMenu()
+QList<int> ColumnMenuCommands()
 {
     return PartOfMenu(Text::ViewMenu, ShowEditFields, ShowNotes);
 }
 
-bool isSubmenu(int id)
+bool IsSubmenu(int id)
 {
-    return std::ranges::find(commandSubmenus(), id, &CommandMenu::title) != commandSubmenus().end();
+    return std::ranges::find(CommandSubmenus(), id, &CommandMenu::title) != CommandSubmenus().end();
 }
 
-const QList<int> &standardToolBar()
+const QList<int> &StandardToolBarCommands()
 {
     static const QList<int> bar = {NewFile, OpenFile, SaveFile, Separator, Cut, Copy, Paste, Delete, Separator,
         Undo, Redo, Separator, Find, Separator, SetFlag, InvertFlag, Separator, StandardQuiz,
@@ -114,7 +114,7 @@ const QList<int> &standardToolBar()
     return bar;
 }
 
-const QList<int> &quizToolBar()
+const QList<int> &QuizToolBarCommands()
 {
     static const QList<int> bar = {StandardQuiz, StandardQuiz + 1, StandardQuiz + 2, StandardQuiz + 3,
         StandardQuiz + 4, StandardQuiz + 5, StandardQuiz + 6, StandardQuiz + 7, LastQuiz, Separator,
@@ -123,7 +123,7 @@ const QList<int> &quizToolBar()
     return bar;
 }
 
-QString fillCaption(const QString &caption, const QString &language1, const QString &language2)
+QString FillCaption(const QString &caption, const QString &language1, const QString &language2)
 {
     return FillPlaceholders(caption,
         {{QStringLiteral("%1"), ShownInCaption(language1)}, {QStringLiteral("%2"), ShownInCaption(language2)}},

@@ -112,7 +112,7 @@ struct CommandState
     bool canRedo = false;
 };
 
-bool isEnabled(EnabledRule rule, const CommandState &state);
+bool IsCommandEnabled(EnabledRule rule, const CommandState &state);
 
 enum class CommandKind { Plain, Check, Radio };
 
@@ -140,29 +140,29 @@ struct Command
 };
 
 /// The table of all commands.
-const QList<Command> &commandTable();
+const QList<Command> &CommandTable();
 /// The command of an id that stands in the table.
-const Command &commandOf(int id);
+const Command &CommandOf(int id);
 
 /// A menu: its title's text number, and the ids of its commands with Separator between groups. A number that
-/// isSubmenu() is the title of one of the commandSubmenus().
+/// IsSubmenu() is the title of one of the CommandSubmenus().
 struct CommandMenu
 {
     int title = 0;
     QList<int> commands = {};
 };
 /// The menu bar.
-const QList<CommandMenu> &commandMenus();
-const QList<CommandMenu> &commandSubmenus();
-bool isSubmenu(int id);
+const QList<CommandMenu> &CommandMenus();
+const QList<CommandMenu> &CommandSubmenus();
+bool IsSubmenu(int id);
 
 /// The context menus of the list's rows and of its column headers: parts of the menus, likewise.
-QList<int> rowMenu();
-QList<int> columnMenu();
+QList<int> RowMenuCommands();
+QList<int> ColumnMenuCommands();
 
 /// The commands of the tool bars, likewise.
-const QList<int> &standardToolBar();
-const QList<int> &quizToolBar();
+const QList<int> &StandardToolBarCommands();
+const QList<int> &QuizToolBarCommands();
 
 /// A caption with the names of the languages filled in; what stands in a name is shown as it is.
-QString fillCaption(const QString &caption, const QString &language1, const QString &language2);
+QString FillCaption(const QString &caption, const QString &language1, const QString &language2);

@@ -6,10 +6,10 @@
 #include "resources/text_numbers.h"
 #include "resources/texts.h"
 
-void openHelp(const CTexts &texts, const QStringList &dataFolders, IUserPrompt &prompt,
+void OpenHelp(const CTexts &texts, const QStringList &dataFolders, IUserPrompt &prompt,
     const std::function<bool(const QString &path)> &open)
 {
-    const QString file = findDataFile(dataFolders, texts.Get(Text::HelpPath));
+    const QString file = FindDataFile(dataFolders, texts.Get(Text::HelpPath));
     if (file.isEmpty() || !open(file)) {
         prompt.Tell(texts.Prompt(Text::CannotOpenHelp), PromptIcon::Warning);
     }

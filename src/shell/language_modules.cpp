@@ -57,7 +57,7 @@ void AddModules(QList<LanguageEntry> &entries, const CTexts &texts, const QStrin
         });
         QByteArray module;
         LanguageEntry entry;
-        if (!known && testLanguageModule(path, texts, module, &entry) != ModuleTest::CannotLoad) {
+        if (!known && TestLanguageModule(path, texts, module, &entry) != ModuleTest::CannotLoad) {
             entries.append(entry);
         }
     }
@@ -65,7 +65,7 @@ void AddModules(QList<LanguageEntry> &entries, const CTexts &texts, const QStrin
 
 }
 
-ModuleTest testLanguageModule(
+ModuleTest TestLanguageModule(
     const QString &path, const CTexts &texts, QByteArray &module, LanguageEntry *entry)
 {
     module.clear();
@@ -91,7 +91,7 @@ ModuleTest testLanguageModule(
     return ModuleTest::Ok;
 }
 
-QList<LanguageEntry> findLanguages(const CTexts &texts, const QStringList &folders)
+QList<LanguageEntry> FindLanguages(const CTexts &texts, const QStringList &folders)
 {
     QList<LanguageEntry> entries = {MakeEntry(texts.Own(), texts, {})};
     for (const QString &folder : folders) {
@@ -101,7 +101,7 @@ QList<LanguageEntry> findLanguages(const CTexts &texts, const QStringList &folde
     return entries;
 }
 
-QString languageAbbreviation(const QLocale &locale)
+QString LanguageAbbreviation(const QLocale &locale)
 {
     struct Abbreviation
     {

@@ -16,7 +16,7 @@ struct LanguageEntry
     /// The module's file; empty for the program's own language.
     QString path = {};
     QString name = {};
-    /// Compared with languageAbbreviation().
+    /// Compared with LanguageAbbreviation().
     QString abbreviation = {};
     QString caption = {};
     QString question = {};
@@ -36,13 +36,13 @@ enum class ModuleTest { Ok = 0, CannotLoad = 2, OtherVersion = 3 };
 /// Reads a module and compares its version with the program's own. What is no regular file, unreasonably large
 /// or no module can't be loaded. `module` is filled when the test gives Ok, and then holds what the module file
 /// holds; `entry`, which may be null, is filled with what the result allows.
-ModuleTest testLanguageModule(
+ModuleTest TestLanguageModule(
     const QString &path, const CTexts &texts, QByteArray &module, LanguageEntry *entry = nullptr);
 
 /// The program's own language, then the modules in each of the folders and anywhere below their "ordmod", in
 /// the order of their paths. Folders are not searched through symbolic links, so that none is searched forever.
-QList<LanguageEntry> findLanguages(const CTexts &texts, const QStringList &folders);
+QList<LanguageEntry> FindLanguages(const CTexts &texts, const QStringList &folders);
 
 /// The three-letter abbreviation of a locale's language that modules are compared with, in lower case: those
 /// that differ by country or by history as listed, else the ISO 639-2 code.
-QString languageAbbreviation(const QLocale &locale);
+QString LanguageAbbreviation(const QLocale &locale);

@@ -53,7 +53,7 @@ QString UpperCase(const QString &text)
 
 }
 
-const QString &charactersOf(CharacterSet set)
+const QString &CharactersOf(CharacterSet set)
 {
     static const std::array<QString, 6> sets = {
         QString(),
@@ -78,7 +78,7 @@ CharacterSet CSpecialCharacters::Set() const
 
 int CSpecialCharacters::Count() const
 {
-    return ShowsOwn() ? int(m_settings.keys.size()) + 1 : int(charactersOf(Set()).size());
+    return ShowsOwn() ? int(m_settings.keys.size()) + 1 : int(CharactersOf(Set()).size());
 }
 
 QString CSpecialCharacters::Text(int row) const
@@ -86,7 +86,7 @@ QString CSpecialCharacters::Text(int row) const
     if (ShowsOwn()) {
         return m_settings.keys.value(row);
     }
-    return charactersOf(Set()).mid(row, row < 0 ? 0 : 1);
+    return CharactersOf(Set()).mid(row, row < 0 ? 0 : 1);
 }
 
 bool CSpecialCharacters::IsRowForAdding(int row) const

@@ -11,7 +11,7 @@ struct EasyKeySettings;
 enum class CharacterSet { Own, Latin1, Latin2, Greek, Cyrillic, Phonetic };
 
 /// The characters of a set in their order, none for the user's own; every one is a single code unit.
-const QString &charactersOf(CharacterSet set);
+const QString &CharactersOf(CharacterSet set);
 
 /// What choosing a character leads to.
 enum class CharacterAction {

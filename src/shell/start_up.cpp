@@ -7,7 +7,7 @@
 #include "settings/app_settings.h"
 #include "shell/language_modules.h"
 
-MiscSettings loadLanguageSettings(const ISettingsStore &store, const QString &root)
+MiscSettings LoadLanguageSettings(const ISettingsStore &store, const QString &root)
 {
     const QString section = root + QStringLiteral("\\misc");
     MiscSettings settings;
@@ -18,11 +18,11 @@ MiscSettings loadLanguageSettings(const ISettingsStore &store, const QString &ro
     return settings;
 }
 
-QString loadLanguage(const MiscSettings &settings, CTexts &texts)
+QString LoadLanguage(const MiscSettings &settings, CTexts &texts)
 {
     QByteArray module;
     if (!settings.plugInUse || settings.languageFile.isEmpty()
-        || testLanguageModule(settings.languageFile, texts, module) != ModuleTest::Ok
+        || TestLanguageModule(settings.languageFile, texts, module) != ModuleTest::Ok
         || !texts.LoadModule(module)) {
         return {};
     }
@@ -40,7 +40,7 @@ void CStartUp::Prepare()
     if (m_settings.isFirstRun) {
         m_chooseLanguage();
     }
-    m_modulePath = loadLanguage(m_settings.misc, m_texts);
+    m_modulePath = LoadLanguage(m_settings.misc, m_texts);
     if (!m_modulePath.isEmpty() && m_settings.isFirstRun) {
         // The factory texts of new lists are the language's.
         m_settings.SetDefaults();

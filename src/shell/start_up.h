@@ -34,7 +34,7 @@ private:
 };
 
 /// The language settings alone, without storing anything: for runs that only answer the command line.
-MiscSettings loadLanguageSettings(const ISettingsStore &store, const QString &root);
+MiscSettings LoadLanguageSettings(const ISettingsStore &store, const QString &root);
 /// Lets `texts` speak the language that the settings name. Returns the module's file, empty when it is the
 /// program's own language or the module can't be used.
-QString loadLanguage(const MiscSettings &settings, CTexts &texts);
+QString LoadLanguage(const MiscSettings &settings, CTexts &texts);

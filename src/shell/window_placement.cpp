@@ -16,7 +16,7 @@ QString SectionPath(const QString &root)
 
 }
 
-std::optional<WindowPlacement> loadWindowPlacement(
+std::optional<WindowPlacement> LoadWindowPlacement(
     const ISettingsStore &store, const QString &root, const DesktopGeometry &desktop)
 {
     // A value of -1 counts as missing.
@@ -47,7 +47,7 @@ std::optional<WindowPlacement> loadWindowPlacement(
     return WindowPlacement{QRect({int(x), int(y)}, size), status == Maximised};
 }
 
-void saveWindowPlacement(ISettingsStore &store, const QString &root, const WindowPlacement &placement,
+void SaveWindowPlacement(ISettingsStore &store, const QString &root, const WindowPlacement &placement,
     const DesktopGeometry &desktop)
 {
     const QRect relative = placement.rectangle.translated(-desktop.workArea.topLeft());

@@ -23,11 +23,11 @@ struct DesktopGeometry
     QRect workArea;
 };
 
-/// The placement that saveWindowPlacement() stored, with its corner moved in so that at least the size of an
+/// The placement that SaveWindowPlacement() stored, with its corner moved in so that at least the size of an
 /// icon lies inside the right and the bottom edge, and no larger than all screens together. None when a value
 /// is missing or no size is left.
-std::optional<WindowPlacement> loadWindowPlacement(
+std::optional<WindowPlacement> LoadWindowPlacement(
     const ISettingsStore &store, const QString &root, const DesktopGeometry &desktop);
 /// Stores the rectangle relative to the work area, in the section "Winpos" below `root`.
-void saveWindowPlacement(ISettingsStore &store, const QString &root, const WindowPlacement &placement,
+void SaveWindowPlacement(ISettingsStore &store, const QString &root, const WindowPlacement &placement,
     const DesktopGeometry &desktop);

@@ -74,8 +74,8 @@ void ClipboardTest::writes()
     QFETCH(QString, text);
     QFETCH(QByteArray, richText);
     const CWordList list = MakeList(entries.split(u'/'));
-    QCOMPARE(entriesAsText(list, All(list), column), text);
-    QCOMPARE(entriesAsRichText(list, All(list), column), richText);
+    QCOMPARE(EntriesAsText(list, All(list), column), text);
+    QCOMPARE(EntriesAsRichText(list, All(list), column), richText);
 }
 
 void ClipboardTest::readsRecords_data()
@@ -102,7 +102,7 @@ void ClipboardTest::readsRecords_data()
 void ClipboardTest::readsRecords()
 {
     QFETCH(QString, records);
-    QTEST(Joined(entriesFromRecords(records)), "entries");
+    QTEST(Joined(EntriesFromRecords(records)), "entries");
 }
 
 void ClipboardTest::readsText_data()
@@ -139,13 +139,13 @@ void ClipboardTest::readsText_data()
 void ClipboardTest::readsText()
 {
     QFETCH(QString, text);
-    QTEST(Joined(entriesFromText(text)), "entries");
+    QTEST(Joined(EntriesFromText(text)), "entries");
 }
 
 void ClipboardTest::formatsOfData()
 {
     const CWordList list = MakeList({QString::fromUtf8("é|α|€|1")});
-    const auto data = clipboardDataOf(list, All(list), AllColumns);
+    const auto data = ClipboardDataOf(list, All(list), AllColumns);
     QCOMPARE(data->text(), QString::fromUtf8("é\tα\t€\r\n"));
     QCOMPARE(data->data(QStringLiteral("text/plain;charset=windows-1252")), QByteArray("\xE9\t?\t\x80\r\n"));
     QVERIFY(data->data(QStringLiteral("text/rtf")).startsWith("{\\rtf1\\ansi"));
@@ -154,25 +154,25 @@ void ClipboardTest::formatsOfData()
     QCOMPARE(data->data(Unicode).toHex(' '),
         QByteArray(
             "31 00 0d 00 0a 00 e9 00 0d 00 0a 00 30 00 0d 00 0a 00 b1 03 0d 00 0a 00 ac 20 0d 00 0a 00"));
-    QCOMPARE(clipboardDataOf(list, All(list), 0)->formats().size(), 4); // One column has no records.
+    QCOMPARE(ClipboardDataOf(list, All(list), 0)->formats().size(), 4); // One column has no records.
 
     // The best form is read first, and alone.
-    QVERIFY(mayHoldEntries(*data));
-    QCOMPARE(Joined(entriesFromData(*data)), QString::fromUtf8("é|α|€|1"));
+    QVERIFY(MayHoldEntries(*data));
+    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|α|€|1"));
     data->removeFormat(Unicode);
-    QCOMPARE(Joined(entriesFromData(*data)), QString::fromUtf8("é|?|€|1"));
+    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|?|€|1"));
     data->setData(EightBit, "cut off");
-    QCOMPARE(Joined(entriesFromData(*data)), QString());
+    QCOMPARE(Joined(EntriesFromData(*data)), QString());
     data->removeFormat(EightBit);
-    QCOMPARE(Joined(entriesFromData(*data)), QString::fromUtf8("é|α|€"));
+    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|α|€"));
     data->removeFormat(QStringLiteral("text/plain"));
-    QCOMPARE(Joined(entriesFromData(*data)), QString::fromUtf8("é|?|€"));
+    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|?|€"));
     data->removeFormat(QStringLiteral("text/plain;charset=windows-1252"));
-    QVERIFY(!mayHoldEntries(*data));
-    QCOMPARE(entriesFromData(*data).Count(), 0);
+    QVERIFY(!MayHoldEntries(*data));
+    QCOMPARE(EntriesFromData(*data).Count(), 0);
     data->setData(Unicode, QByteArray(3, '\n'));
-    QVERIFY(mayHoldEntries(*data));
-    QCOMPARE(entriesFromData(*data).Count(), 0);
+    QVERIFY(MayHoldEntries(*data));
+    QCOMPARE(EntriesFromData(*data).Count(), 0);
 }
 
 void ClipboardTest::recordsKeepEverything()
@@ -183,7 +183,7 @@ void ClipboardTest::recordsKeepEverything()
         const auto text = [&] { return RandomText(random, u"ab *]\\{}\t\r\n-,å\u0434\xD834\xFFFE", 12); };
         list.Insert(CWordEntry(text(), text(), text(), random.Next() % 2 == 0, random.Next() % 2 == 0));
     }
-    QCOMPARE(Describe(entriesFromData(*clipboardDataOf(list, All(list), AllColumns))), Describe(list));
+    QCOMPARE(Describe(EntriesFromData(*ClipboardDataOf(list, All(list), AllColumns))), Describe(list));
 }
 
 QTEST_APPLESS_MAIN(ClipboardTest)

@@ -286,7 +286,7 @@ void EntryEditingTest::textBoxes()
         box.selectionEnd = int(before.indexOf(u'>')) - 1;
     }
     box.text.remove(u'|').remove(u'<').remove(u'>');
-    TextBox changed = comment ? insertComment(box) : insertSynonym(box);
+    TextBox changed = comment ? WithComment(box) : WithSynonym(box);
     QCOMPARE(changed.selectionStart, changed.selectionEnd);
     QCOMPARE(changed.text.insert(changed.selectionEnd, u'|'), after);
 }

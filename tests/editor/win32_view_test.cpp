@@ -48,7 +48,7 @@ struct View
     CWordListControl *List() { return view.findChild<CWordListControl *>(); }
     QLineEdit *Editor()
     {
-        auto *const box = focusedEditBox();
+        auto *const box = FocusedEditBox();
         return box != nullptr && box->objectName() == QStringLiteral("cellEditor") ? box : nullptr;
     }
     QLineEdit *Field(int field) { return view.findChild<QLineEdit *>(QStringLiteral("field%1").arg(field)); }
@@ -424,7 +424,7 @@ void Win32ViewTest::editBoxes()
     View run(Numbered(1));
     run.other.setText(QStringLiteral("ett hus"));
     run.other.setSelection(4, 3);
-    changeText(run.other, insertComment);
+    ChangeText(run.other, WithComment);
     QCOMPARE(run.other.text(), QStringLiteral("ett [hus]"));
     run.other.undo();
     QCOMPARE(run.other.text(), QStringLiteral("ett hus"));

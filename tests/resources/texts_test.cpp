@@ -181,15 +181,15 @@ void TextsTest::mnemonicsAreUnique()
     const auto captions = [](const CommandMenu &menu) {
         QList<int> numbers;
         for (const int id : menu.commands) {
-            numbers.append(isSubmenu(id) ? id : 100000 + id);
+            numbers.append(IsSubmenu(id) ? id : 100000 + id);
         }
         return numbers;
     };
-    for (const CommandMenu &menu : commandMenus()) {
+    for (const CommandMenu &menu : CommandMenus()) {
         titles.append(menu.title);
         windows.append(captions(menu));
     }
-    for (const CommandMenu &menu : commandSubmenus()) {
+    for (const CommandMenu &menu : CommandSubmenus()) {
         windows.append(captions(menu));
     }
     windows.append(titles);

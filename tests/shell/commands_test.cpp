@@ -27,7 +27,7 @@ void CommandsTest::tableIsSound()
     const CTexts texts;
     std::set<int> ids;
     std::set<QString> shortcuts;
-    for (const Command &command : commandTable()) {
+    for (const Command &command : CommandTable()) {
         QVERIFY2(ids.insert(command.id).second, qPrintable(QString::number(command.id)));
         for (const QString &shortcut : command.shortcuts) {
             QVERIFY2(shortcuts.insert(shortcut).second, qPrintable(shortcut));
@@ -43,13 +43,13 @@ void CommandsTest::tableIsSound()
     }
     // Everything in a menu or a tool bar is in the table, and the other way round.
     std::set<int> used;
-    QList<CommandMenu> menus = commandMenus() + commandSubmenus();
-    menus += {{Text::FileMenu, standardToolBar()}, {Text::FileMenu, quizToolBar()}};
+    QList<CommandMenu> menus = CommandMenus() + CommandSubmenus();
+    menus += {{Text::FileMenu, StandardToolBarCommands()}, {Text::FileMenu, QuizToolBarCommands()}};
     for (const CommandMenu &menu : std::as_const(menus)) {
         QVERIFY(!texts.Get(menu.title).isEmpty());
         used.insert(menu.commands.begin(), menu.commands.end());
     }
-    std::erase_if(used, isSubmenu);
+    std::erase_if(used, IsSubmenu);
     used.erase(CommandId::Separator);
     used.erase(CommandId::RecentFiles);
     QCOMPARE(used, ids);
@@ -59,8 +59,8 @@ void CommandsTest::enabledRules()
 {
     const auto enabled = [](const CommandState &state) {
         std::set<int> ids;
-        for (const Command &command : commandTable()) {
-            if (isEnabled(command.enabled, state)) {
+        for (const Command &command : CommandTable()) {
+            if (IsCommandEnabled(command.enabled, state)) {
                 ids.insert(command.id);
             }
         }
@@ -82,7 +82,7 @@ void CommandsTest::enabledRules()
 
 void CommandsTest::languageNamesInCaptions()
 {
-    QCOMPARE(fillCaption(QStringLiteral("%1 &till %2\tF1"), QStringLiteral("a&b"), QStringLiteral("%1\tc")),
+    QCOMPARE(FillCaption(QStringLiteral("%1 &till %2\tF1"), QStringLiteral("a&b"), QStringLiteral("%1\tc")),
         QStringLiteral("a&&b &till %1 c\tF1"));
 }
 
@@ -108,7 +108,7 @@ void CommandsTest::commandLines()
     QFETCH(QStringList, arguments);
     QFETCH(QString, file);
     QFETCH(int, error);
-    const CommandLine result = parseCommandLine(arguments);
+    const CommandLine result = ParseCommandLine(arguments);
     QCOMPARE(result.file, file);
     QCOMPARE(result.error, error);
 }
@@ -117,8 +117,8 @@ void CommandsTest::answers()
 {
     const CTexts texts;
     const auto answer = [&](const char *argument) {
-        return answerCommandLine(
-            parseCommandLine({QString::fromLatin1(argument)}), texts, QStringLiteral("2.31"));
+        return AnswerCommandLine(
+            ParseCommandLine({QString::fromLatin1(argument)}), texts, QStringLiteral("2.31"));
     };
     QCOMPARE(answer("--version").text, QByteArray("Ordelin 2.31\n"));
     QVERIFY(answer("--help").text.contains("--export-strings"));

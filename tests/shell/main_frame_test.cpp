@@ -152,7 +152,7 @@ void MainFrameTest::everyCommandOnAnEmptyList()
 {
     Frame run;
     run.frame.show();
-    for (const Command &command : commandTable()) {
+    for (const Command &command : CommandTable()) {
         run.Command(command.id)->trigger();
     }
     const auto windows = QApplication::topLevelWidgets();

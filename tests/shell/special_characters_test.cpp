@@ -44,14 +44,14 @@ private Q_SLOTS:
 
 void SpecialCharactersTest::sets()
 {
-    QCOMPARE(charactersOf(CharacterSet::Latin1), QStringLiteral("abcdefghijklmnopqrstuvwxyz"));
-    QCOMPARE(charactersOf(CharacterSet::Latin2), QStringLiteral("àáâãäåæçèéêëìíîïðñòóôõö÷øùúûüýþÿ"));
-    QCOMPARE(charactersOf(CharacterSet::Greek),
+    QCOMPARE(CharactersOf(CharacterSet::Latin1), QStringLiteral("abcdefghijklmnopqrstuvwxyz"));
+    QCOMPARE(CharactersOf(CharacterSet::Latin2), QStringLiteral("àáâãäåæçèéêëìíîïðñòóôõö÷øùúûüýþÿ"));
+    QCOMPARE(CharactersOf(CharacterSet::Greek),
         QStringLiteral(
             "\u037E\u0384\u0385\u0386\u0387\u0388\u0389\u038AΌΎΏΐΑΒΓΔΕΖΗΘΙΚΛΜΝΞΟΠΡΣΤΥΦΧΨΩΪΫάέήίΰαβγδεζηθικλμ"
             "νξοπρςστυφχψωϊϋόύώ"));
-    QCOMPARE(charactersOf(CharacterSet::Cyrillic), QStringLiteral("абвгдеёжзийклмнопрстуфхцчшщъыьэюя"));
-    const QString &phonetic = charactersOf(CharacterSet::Phonetic);
+    QCOMPARE(CharactersOf(CharacterSet::Cyrillic), QStringLiteral("абвгдеёжзийклмнопрстуфхцчшщъыьэюя"));
+    const QString &phonetic = CharactersOf(CharacterSet::Phonetic);
     QCOMPARE(phonetic.size(), 134);
     QVERIFY(phonetic.startsWith(u'\u0251') && phonetic.endsWith(u'\u2198'));
     QCOMPARE(phonetic.count(u'\u026B'), 2);

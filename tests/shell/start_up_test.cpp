@@ -129,7 +129,7 @@ void StartUpTest::unusableModules()
     const CTexts texts;
     QByteArray module;
     LanguageEntry entry;
-    QCOMPARE(int(testLanguageModule(path, texts, module, &entry)), result);
+    QCOMPARE(int(TestLanguageModule(path, texts, module, &entry)), result);
     QCOMPARE(module.isEmpty(), result != 0);
     CMemoryStore store;
     const Start start(store, path);
@@ -149,7 +149,7 @@ void StartUpTest::findingModules()
     QFile::link(Path("program/ordmod"), Path("program/ordmod/deep/loop"));
     QFile::link(Path("program/ordmod/self.ordmod"), Path("program/ordmod/self.ordmod"));
     QStringList found;
-    for (const LanguageEntry &entry : findLanguages(CTexts(), {Path("program"), Path("data"), Path("none")})) {
+    for (const LanguageEntry &entry : FindLanguages(CTexts(), {Path("program"), Path("data"), Path("none")})) {
         found.append(QStringLiteral("%1 %2 %3 %4")
                          .arg(entry.path.mid(m_folder->path().size()), entry.name, entry.caption,
                              entry.valid ? QStringLiteral("valid") : QStringLiteral("invalid")));
@@ -207,7 +207,7 @@ void StartUpTest::abbreviations()
 {
     QStringList found;
     for (const char *name : {"sv_SE", "en_US", "en_GB", "de_DE", "nb_NO", "fi_FI", "la"}) {
-        found.append(languageAbbreviation(QLocale(QString::fromLatin1(name))));
+        found.append(LanguageAbbreviation(QLocale(QString::fromLatin1(name))));
     }
     QCOMPARE(found.join(u' '), QStringLiteral("sve enu eng deu nor fin lat"));
 }
@@ -236,10 +236,10 @@ void StartUpTest::help()
     WriteFile(Path("secret.html"), "x");
     const QString page = WriteFile(Path("data/help/en.html"), "x");
     const QStringList folders = {Path("program"), Path("data")};
-    QCOMPARE(findDataFile(folders, QStringLiteral("./help/en.html")), page);
-    QCOMPARE(findDataFile(folders, QStringLiteral("help/../../secret.html")), QString());
-    QCOMPARE(findDataFile(folders, page), QString());
-    QCOMPARE(findDataFile(folders, QStringLiteral("help")), QString());
+    QCOMPARE(FindDataFile(folders, QStringLiteral("./help/en.html")), page);
+    QCOMPARE(FindDataFile(folders, QStringLiteral("help/../../secret.html")), QString());
+    QCOMPARE(FindDataFile(folders, page), QString());
+    QCOMPARE(FindDataFile(folders, QStringLiteral("help")), QString());
 
     CTexts texts;
     CScriptedPrompt prompt;
@@ -248,12 +248,12 @@ void StartUpTest::help()
         opened.append(path);
         return opened.size() == 1;
     };
-    openHelp(texts, folders, prompt, open); // There is no Swedish one.
+    ::OpenHelp(texts, folders, prompt, open); // There is no Swedish one.
     QCOMPARE(prompt.numbers, QList<int>{Text::CannotOpenHelp});
     QVERIFY(texts.LoadModule(English));
-    openHelp(texts, folders, prompt, open);
+    ::OpenHelp(texts, folders, prompt, open);
     QCOMPARE(prompt.numbers.size(), 1);
-    openHelp(texts, folders, prompt, open);
+    ::OpenHelp(texts, folders, prompt, open);
     QCOMPARE(prompt.numbers.size(), 2);
     QCOMPARE(opened, QStringList({page, page}));
 }
@@ -300,7 +300,7 @@ void StartUpTest::placement()
     for (int i = 0; i < values.size(); ++i) {
         store.Write(section, names.at(i), values.at(i));
     }
-    const auto placement = loadWindowPlacement(store, root, desktop);
+    const auto placement = LoadWindowPlacement(store, root, desktop);
     QString found;
     if (placement) {
         const QRect &place = placement->rectangle;
@@ -308,8 +308,8 @@ void StartUpTest::placement()
             QStringLiteral("%1,%2 %3x%4").arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height());
         found += placement->maximised ? QStringLiteral(" maximised") : QString();
         // Stored again, it does not creep.
-        saveWindowPlacement(store, root, *placement, desktop);
-        QCOMPARE(loadWindowPlacement(store, root, desktop)->rectangle, place);
+        SaveWindowPlacement(store, root, *placement, desktop);
+        QCOMPARE(LoadWindowPlacement(store, root, desktop)->rectangle, place);
     }
     QCOMPARE(found, shown);
 }

@@ -22,7 +22,7 @@ QColor CursorBackground(const QPalette &palette)
 
 }
 
-CellColours cellColours(const QPalette &palette, const CellState &state)
+CellColours CellColoursFor(const QPalette &palette, const CellState &state)
 {
     const QColor text = palette.color(QPalette::Active, QPalette::Text);
     if (!state.selected) {

@@ -25,4 +25,4 @@ struct CellColours
 
 /// The colours of a cell of the word list. The cell of the cursor differs from the others of a selected row,
 /// and its text can be read on light and on dark palettes.
-CellColours cellColours(const QPalette &palette, const CellState &state);
+CellColours CellColoursFor(const QPalette &palette, const CellState &state);

@@ -6,12 +6,12 @@
 #include <QApplication>
 #include <QLineEdit>
 
-QLineEdit *focusedEditBox()
+QLineEdit *FocusedEditBox()
 {
     return qobject_cast<QLineEdit *>(QApplication::focusWidget());
 }
 
-void pasteText(QLineEdit &box)
+void PasteText(QLineEdit &box)
 {
     if (auto *const line = qobject_cast<CLongLineEdit *>(&box)) {
         line->Paste();
@@ -20,7 +20,7 @@ void pasteText(QLineEdit &box)
     }
 }
 
-void changeText(QLineEdit &box, TextBox (*change)(const TextBox &))
+void ChangeText(QLineEdit &box, TextBox (*change)(const TextBox &))
 {
     TextBox before = {box.text(), box.cursorPosition(), box.cursorPosition()};
     if (box.hasSelectedText()) {

@@ -7,10 +7,10 @@ class QLineEdit;
 
 /// The edit box that has the keyboard focus, in whichever window; null for none. Commands on text act on it
 /// alone.
-QLineEdit *focusedEditBox();
+QLineEdit *FocusedEditBox();
 
 /// Pastes the text of the clipboard into an edit box.
-void pasteText(QLineEdit &box);
+void PasteText(QLineEdit &box);
 
 /// Lets one of the commands that write into terms work on an edit box, as one step of its own undo.
-void changeText(QLineEdit &box, TextBox (*change)(const TextBox &));
+void ChangeText(QLineEdit &box, TextBox (*change)(const TextBox &));

@@ -45,8 +45,8 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
 {
     m_list->setObjectName(QStringLiteral("wordList"));
     m_list->setAccessibleName(services.texts.Get(Text::ViewList));
-    m_list->setListModel(m_model);
-    m_list->setQuickEdit([this] { return m_services.settings.editor.quickedit; });
+    m_list->SetListModel(m_model);
+    m_list->SetQuickEdit([this] { return m_services.settings.editor.quickedit; });
     m_fields->setVisible(services.settings.editor.showEditFields);
 
     auto *layout = new QGridLayout(this);
@@ -110,11 +110,11 @@ void CWin32View::ListChanged(const ListChange &change)
     const int entries = m_model->Rows().EntryCount();
     KeepSelection([this, &change] {
         if (!m_model->Apply(change)) {
-            m_list->layoutChangedColumns();
+            m_list->LayoutChangedColumns();
         }
     });
     if (m_model->Rows().EntryCount() > entries) {
-        m_list->widenNumberColumn();
+        m_list->WidenNumberColumn();
     }
     if (change.PropertiesChanged()) {
         ShowProperties();
@@ -148,7 +148,7 @@ void CWin32View::ForgetDocument()
 void CWin32View::RefreshAll()
 {
     KeepSelection([this] { m_model->Reset(); });
-    m_list->layoutChangedColumns();
+    m_list->LayoutChangedColumns();
     ShowProperties();
 }
 
@@ -183,7 +183,7 @@ void CWin32View::KeepSelection(const std::function<void()> &show)
 void CWin32View::PlaceCursor(int row, int field)
 {
     // Without a cursor no key would have a cell to go to.
-    const int lastField = m_model->column(CWordEntry::NoteField) < m_model->columnCount() ? 2 : 1;
+    const int lastField = m_model->ColumnOf(CWordEntry::NoteField) < m_model->columnCount() ? 2 : 1;
     const int wanted = row < 0 ? int(!m_services.settings.editor.lang1first) : std::max(field, 0);
     m_list->SetCursor(
         row < 0 ? InsertionPoint() : std::min(row, m_model->rowCount() - 1), std::min(wanted, lastField));

@@ -36,7 +36,7 @@ void CWin32View::CellEdited(const CellEdit &edit)
     Follow(step, edit.key == Key::Enter || (newEntry && edit.key == Key::Tab));
     if (!newEntry && step.action == EditStep::Action::None && edit.key != Key::None && edit.key != Key::Enter) {
         const int field = edit.field + (edit.key == Key::Tab ? 1 : -1);
-        if (field >= 0 && m_model->column(field) < m_model->columnCount()) {
+        if (field >= 0 && m_model->ColumnOf(field) < m_model->columnCount()) {
             m_list->EditCell(edit.row, field);
         }
     }
@@ -67,7 +67,7 @@ void CWin32View::Follow(const EditStep &step, bool byEnter)
         m_list->SelectRow(-1, false);
         break;
     case EditStep::Action::ClearFields:
-        m_list->scrollTo(m_model->index(InsertionPoint(), m_model->column(0)));
+        m_list->scrollTo(m_model->index(InsertionPoint(), m_model->ColumnOf(0)));
         ClearFields();
         break;
     case EditStep::Action::EditNewEntry:
@@ -91,9 +91,9 @@ void CWin32View::SelectAndTypeOn(int entry)
         m_fields->FocusField(m_services.settings.editor.lang1first ? 0 : 1);
     } else {
         const int row = m_model->Rows().RowOfEntry(entry);
-        m_list->scrollTo(m_model->index(InsertionPoint(), m_model->column(0)));
+        m_list->scrollTo(m_model->index(InsertionPoint(), m_model->ColumnOf(0)));
         if (!m_list->IsRowVisible(row)) {
-            m_list->scrollTo(m_model->index(row, m_model->column(0)));
+            m_list->scrollTo(m_model->index(row, m_model->ColumnOf(0)));
         }
         m_list->EditCellBeside(InsertionPoint(), m_editing.NextField());
     }
@@ -135,7 +135,7 @@ void CWin32View::MarkEntry(int entry)
 {
     const int row = entry < 0 ? -1 : m_model->Rows().RowOfEntry(entry);
     if (row >= 0) {
-        m_list->scrollTo(m_model->index(row, m_model->column(0)));
+        m_list->scrollTo(m_model->index(row, m_model->ColumnOf(0)));
     }
     m_list->SetHotRow(row);
 }

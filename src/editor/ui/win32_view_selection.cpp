@@ -31,7 +31,7 @@ int CWin32View::SelectedRowCount() const
 int CWin32View::SelectedEntryCount() const
 {
     const bool newRow =
-        m_list->selectionModel()->isSelected(m_model->index(InsertionPoint(), m_model->column(0)));
+        m_list->selectionModel()->isSelected(m_model->index(InsertionPoint(), m_model->ColumnOf(0)));
     return SelectedRowCount() - int(newRow);
 }
 

@@ -35,15 +35,15 @@ CWordListControl::CWordListControl(QWidget *parent)
     connect(horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
         [this](const QPoint &place) { Q_EMIT HeaderMenuRequested(horizontalHeader()->mapToGlobal(place)); });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
-        [this](int column) { Q_EMIT HeaderClicked(m_model->field(column)); });
+        [this](int column) { Q_EMIT HeaderClicked(m_model->FieldOf(column)); });
     // The program's own scrolling doesn't come this way.
     for (const QScrollBar *const bar : {verticalScrollBar(), horizontalScrollBar()}) {
         connect(bar, &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
     }
-    layoutRows();
+    LayoutRows();
 }
 
-void CWordListControl::setListModel(CWordListModel *model)
+void CWordListControl::SetListModel(CWordListModel *model)
 {
     m_model = model;
     setModel(model);
@@ -54,7 +54,7 @@ void CWordListControl::setListModel(CWordListModel *model)
     connect(model, &QAbstractItemModel::rowsRemoved, this, forget);
 }
 
-void CWordListControl::layoutRows()
+void CWordListControl::LayoutRows()
 {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
 }
@@ -63,14 +63,14 @@ void CWordListControl::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        layoutRows();
+        LayoutRows();
     }
 }
 
 void CWordListControl::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
-    layoutColumns();
+    LayoutColumns();
 }
 
 QRegion CWordListControl::visualRegionForSelection(const QItemSelection &selection) const
@@ -81,7 +81,7 @@ QRegion CWordListControl::visualRegionForSelection(const QItemSelection &selecti
                                    : QTableView::visualRegionForSelection(selection);
 }
 
-int CWordListControl::numberColumnWidth() const
+int CWordListControl::NumberColumnWidth() const
 {
     const QString widest = QString(QString::number(m_model->Rows().EntryCount()).size(), u'8');
     const int content = m_model->Rows().EntryCount() == 0
@@ -90,7 +90,7 @@ int CWordListControl::numberColumnWidth() const
     return std::max(content, horizontalHeader()->sectionSizeHint(0));
 }
 
-void CWordListControl::layoutColumns()
+void CWordListControl::LayoutColumns()
 {
     const int columns = m_model == nullptr ? 0 : m_model->columnCount();
     if (columns == 0) {
@@ -101,8 +101,8 @@ void CWordListControl::layoutColumns()
     constexpr int FirstMore = 16; // The first language has the marks of the new-entry row beside its words.
     int available = width() - verticalScrollBar()->sizeHint().width() - Margin;
     int first = 0;
-    if (m_model->field(0) == CWordListModel::NumberColumn) {
-        const int number = numberColumnWidth();
+    if (m_model->FieldOf(0) == CWordListModel::NumberColumn) {
+        const int number = NumberColumnWidth();
         setColumnWidth(0, number);
         available -= number;
         first = 1;
@@ -113,25 +113,25 @@ void CWordListControl::layoutColumns()
     }
 }
 
-void CWordListControl::layoutChangedColumns()
+void CWordListControl::LayoutChangedColumns()
 {
     if (m_model->columnCount() != m_laidOutColumns) {
-        layoutColumns();
+        LayoutColumns();
     } else {
-        widenNumberColumn();
+        WidenNumberColumn();
     }
 }
 
-void CWordListControl::widenNumberColumn()
+void CWordListControl::WidenNumberColumn()
 {
-    if (m_model->field(0) == CWordListModel::NumberColumn && numberColumnWidth() > columnWidth(0)) {
-        setColumnWidth(0, numberColumnWidth());
+    if (m_model->FieldOf(0) == CWordListModel::NumberColumn && NumberColumnWidth() > columnWidth(0)) {
+        setColumnWidth(0, NumberColumnWidth());
     }
 }
 
 int CWordListControl::CursorField() const
 {
-    return currentIndex().isValid() ? m_model->field(currentIndex().column()) : 0;
+    return currentIndex().isValid() ? m_model->FieldOf(currentIndex().column()) : 0;
 }
 
 void CWordListControl::PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select)
@@ -143,7 +143,7 @@ void CWordListControl::PlaceCursor(const QModelIndex &index, QItemSelectionModel
 
 void CWordListControl::SetCursor(int row, int field)
 {
-    PlaceCursor(m_model->index(row, m_model->column(field)), QItemSelectionModel::NoUpdate);
+    PlaceCursor(m_model->index(row, m_model->ColumnOf(field)), QItemSelectionModel::NoUpdate);
 }
 
 void CWordListControl::SetCursorField(int field)
@@ -189,7 +189,7 @@ void CWordListControl::SelectRow(int row, bool ensureVisible)
         clearSelection();
         return;
     }
-    const QModelIndex index = m_model->index(row, m_model->column(std::max(CursorField(), 0)));
+    const QModelIndex index = m_model->index(row, m_model->ColumnOf(std::max(CursorField(), 0)));
     PlaceCursor(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     // A row that shows in part counts as visible.
     if (ensureVisible && !IsRowVisible(row)) {
@@ -234,7 +234,7 @@ QItemSelectionModel::SelectionFlags CWordListControl::SelectionForEdit(int row) 
 
 void CWordListControl::EditCell(int row, int field)
 {
-    const QModelIndex index = m_model->index(row, m_model->column(field));
+    const QModelIndex index = m_model->index(row, m_model->ColumnOf(field));
     selectionModel()->setCurrentIndex(index, SelectionForEdit(row));
     scrollTo(index);
     setFocus();

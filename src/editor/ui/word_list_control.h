@@ -35,15 +35,15 @@ class CWordListControl : public QTableView
 public:
     explicit CWordListControl(QWidget *parent = nullptr);
 
-    void setListModel(CWordListModel *model);
+    void SetListModel(CWordListModel *model);
     /// Asked at each key: whether typing starts editing.
-    void setQuickEdit(std::function<bool()> quickEdit) { m_quickEdit = std::move(quickEdit); }
+    void SetQuickEdit(std::function<bool()> quickEdit) { m_quickEdit = std::move(quickEdit); }
     /// Gives the columns their widths: the number column fits its numbers, the others share what is left.
-    void layoutColumns();
+    void LayoutColumns();
     /// The same when there are other columns than before; else widths that the user gave them stay.
-    void layoutChangedColumns();
+    void LayoutChangedColumns();
     /// Makes the number column wide enough for its numbers.
-    void widenNumberColumn();
+    void WidenNumberColumn();
 
     /// The field of the cell cursor.
     int CursorField() const;
@@ -115,10 +115,10 @@ protected:
     void commitData(QWidget *editor) override;
 
 private:
-    void layoutRows();
+    void LayoutRows();
     /// Moves the cell cursor without the scrolling that follows its keys.
     void PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select);
-    int numberColumnWidth() const;
+    int NumberColumnWidth() const;
     /// The entry whose flag is drawn at a place, as row and language.
     std::optional<std::pair<int, int>> FlagAt(const QPoint &place) const;
     void MoveCursorField(int step);

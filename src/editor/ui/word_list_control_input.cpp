@@ -86,7 +86,7 @@ void CWordListControl::keyboardSearch(const QString &search)
 
 QModelIndex CWordListControl::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
-    const int column = m_model->column(std::max(CursorField(), 0));
+    const int column = m_model->ColumnOf(std::max(CursorField(), 0));
     switch (action) {
     case MoveHome:
         return m_model->index(0, column);
@@ -100,7 +100,7 @@ QModelIndex CWordListControl::moveCursor(CursorAction action, Qt::KeyboardModifi
 void CWordListControl::MoveCursorField(int step)
 {
     const int field = CursorField() + step;
-    const int column = m_model->column(field);
+    const int column = m_model->ColumnOf(field);
     if (!currentIndex().isValid() || field < 0 || column >= m_model->columnCount()) {
         return;
     }
@@ -120,11 +120,11 @@ void CWordListControl::ScrollToCursorField()
 void CWordListControl::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);
-    if (current.isValid() && m_model->field(current.column()) == CWordListModel::NumberColumn) {
+    if (current.isValid() && m_model->FieldOf(current.column()) == CWordListModel::NumberColumn) {
         // The cell cursor never stands on a number.
-        const int field = previous.isValid() ? std::max(m_model->field(previous.column()), 0) : 0;
+        const int field = previous.isValid() ? std::max(m_model->FieldOf(previous.column()), 0) : 0;
         selectionModel()->setCurrentIndex(
-            m_model->index(current.row(), m_model->column(field)), QItemSelectionModel::NoUpdate);
+            m_model->index(current.row(), m_model->ColumnOf(field)), QItemSelectionModel::NoUpdate);
         return;
     }
     // Its colour stands in every selected row.
@@ -142,7 +142,7 @@ std::optional<std::pair<int, int>> CWordListControl::FlagAt(const QPoint &place)
         || !CWordListDelegate::MarkArea(visualRect(index), fontMetrics()).contains(place)) {
         return {};
     }
-    return std::pair(index.row(), m_model->field(index.column()));
+    return std::pair(index.row(), m_model->FieldOf(index.column()));
 }
 
 void CWordListControl::mousePressEvent(QMouseEvent *event)
@@ -167,7 +167,7 @@ void CWordListControl::mouseDoubleClickEvent(QMouseEvent *event)
         Q_EMIT FlagClicked(flag->first, flag->second); // Two quick clicks on a flag are two clicks.
     } else if (event->button() == Qt::LeftButton && index.isValid()) {
         Q_EMIT CellDoubleClicked(
-            index.row(), m_model->field(index.column()), event->modifiers().testFlag(Qt::ShiftModifier));
+            index.row(), m_model->FieldOf(index.column()), event->modifiers().testFlag(Qt::ShiftModifier));
     }
 }
 

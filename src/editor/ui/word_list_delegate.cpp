@@ -29,8 +29,8 @@ void CWordListDelegate::paint(
     QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const auto *const model = static_cast<const CWordListModel *>(index.model());
-    const bool isNumber = model->field(index.column()) == CWordListModel::NumberColumn;
-    const CellColours colours = cellColours(option.palette,
+    const bool isNumber = model->FieldOf(index.column()) == CWordListModel::NumberColumn;
+    const CellColours colours = CellColoursFor(option.palette,
         {.selected = option.state.testFlag(QStyle::State_Selected),
             .focused = m_list.HasKeyboard(),
             .cursor = index.column() == m_list.currentIndex().column(),
@@ -125,7 +125,7 @@ std::optional<OpenEdit> CWordListDelegate::Edited() const
         return {};
     }
     const auto *const model = static_cast<const CWordListModel *>(m_edited.model());
-    return OpenEdit{m_edited.row(), model->field(m_edited.column()), line->WholeText()};
+    return OpenEdit{m_edited.row(), model->FieldOf(m_edited.column()), line->WholeText()};
 }
 
 std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const
@@ -141,7 +141,7 @@ std::optional<CellEdit> CWordListDelegate::TakeEdit(QWidget *editor) const
         : m_endKey == Qt::Key_Tab              ? Key::Tab
         : m_endKey == Qt::Key_Backtab          ? Key::Backtab
                                                : Key::None;
-    return CellEdit{m_edited.row(), model->field(m_edited.column()), line->WholeText(), key};
+    return CellEdit{m_edited.row(), model->FieldOf(m_edited.column()), line->WholeText(), key};
 }
 
 bool CWordListDelegate::helpEvent(

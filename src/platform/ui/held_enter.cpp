@@ -25,7 +25,7 @@ public:
 
 }
 
-void ignoreHeldEnter(QWidget &window)
+void IgnoreHeldEnter(QWidget &window)
 {
     auto *const filter = new CHeldEnterFilter(&window);
     window.installEventFilter(filter);

@@ -75,7 +75,7 @@ int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons b
     }
     box.setDefaultButton(defaultButton);
     box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
-    ignoreHeldEnter(box);
+    IgnoreHeldEnter(box);
     return typeAhead != nullptr && box.parentWidget() != nullptr ? typeAhead->Ask(box) : box.exec();
 }
 

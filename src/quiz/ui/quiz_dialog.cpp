@@ -116,7 +116,7 @@ QWidget *CQuizDialog::makeStatistics()
 void CQuizDialog::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous() && !std::exchange(m_wasShown, true)) {
-        ignoreHeldEnter(*this); // The window has all its controls now.
+        IgnoreHeldEnter(*this); // The window has all its controls now.
         showNextWord();
     }
     QDialog::showEvent(event);

@@ -78,7 +78,7 @@ CQuizResultDialog::CQuizResultDialog(
     const int narrowest = layout->totalMinimumSize().width();
     setMinimumSize(narrowest, layout->minimumHeightForWidth(narrowest));
     m_list->setFocus();
-    ignoreHeldEnter(*this);
+    IgnoreHeldEnter(*this);
 }
 
 void CQuizResultDialog::makeList()

@@ -38,9 +38,9 @@ CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject
 {
     // One of them is always chosen.
     auto *radio = new QActionGroup(this);
-    for (const Command &command : commandTable()) {
+    for (const Command &command : CommandTable()) {
         auto *action = new QAction(texts.Get(Text::Caption(command.id)), this);
-        if (standardToolBar().contains(command.id)) {
+        if (StandardToolBarCommands().contains(command.id)) {
             action->setIcon(CommandIcon(command.icon));
         }
         action->setObjectName(QStringLiteral("command%1").arg(command.id));
@@ -69,7 +69,7 @@ void CCommandActions::LoadIcons()
     if (std::exchange(m_iconsLoaded, true)) {
         return;
     }
-    for (const Command &command : commandTable()) {
+    for (const Command &command : CommandTable()) {
         if (!command.icon.isEmpty() && Action(command.id)->icon().isNull()) {
             Action(command.id)->setIcon(CommandIcon(command.icon));
         }
@@ -83,7 +83,7 @@ void CCommandActions::SetHandler(int id, std::function<void()> handler, std::fun
         m_checks.insert(id, std::move(isChecked));
     }
     connect(Action(id), &QAction::triggered, this, [this, id, handler = std::move(handler)] {
-        m_prepare(commandOf(id));
+        m_prepare(CommandOf(id));
         handler();
         Q_EMIT CommandDone();
     });
@@ -91,8 +91,9 @@ void CCommandActions::SetHandler(int id, std::function<void()> handler, std::fun
 
 void CCommandActions::Update(const CommandState &state)
 {
-    for (const Command &command : commandTable()) {
-        Action(command.id)->setEnabled(m_handled.contains(command.id) && isEnabled(command.enabled, state));
+    for (const Command &command : CommandTable()) {
+        Action(command.id)
+            ->setEnabled(m_handled.contains(command.id) && IsCommandEnabled(command.enabled, state));
     }
     for (auto check = m_checks.cbegin(); check != m_checks.cend(); ++check) {
         Action(check.key())->setChecked(check.value()());
@@ -106,10 +107,10 @@ void CCommandActions::UpdateCaptions(const QString &language1, const QString &la
     }
     m_language1 = language1;
     m_language2 = language2;
-    for (const Command &command : commandTable()) {
+    for (const Command &command : CommandTable()) {
         const QString caption = m_texts.Get(Text::Caption(command.id));
         if (caption.contains(QStringLiteral("%1")) || caption.contains(QStringLiteral("%2"))) {
-            Action(command.id)->setText(fillCaption(caption, language1, language2));
+            Action(command.id)->setText(FillCaption(caption, language1, language2));
         }
     }
 }

@@ -21,26 +21,26 @@ QMenu *Named(QMenu *menu)
 
 }
 
-QMenu *addNamedMenu(QMenuBar &bar, const QString &title)
+QMenu *AddNamedMenu(QMenuBar &bar, const QString &title)
 {
     return Named(bar.addMenu(title));
 }
 
-void fillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts)
+void FillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts)
 {
     for (const int id : commands) {
         if (id == CommandId::Separator) {
             menu.addSeparator();
-        } else if (isSubmenu(id)) {
-            const auto submenu = std::ranges::find(commandSubmenus(), id, &CommandMenu::title);
-            fillMenu(*Named(menu.addMenu(texts.Get(id))), submenu->commands, actions, texts);
+        } else if (IsSubmenu(id)) {
+            const auto submenu = std::ranges::find(CommandSubmenus(), id, &CommandMenu::title);
+            FillMenu(*Named(menu.addMenu(texts.Get(id))), submenu->commands, actions, texts);
         } else if (QAction *const action = actions.Action(id)) {
             menu.addAction(action);
         }
     }
 }
 
-void fillToolBar(QToolBar &bar, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts)
+void FillToolBar(QToolBar &bar, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts)
 {
     for (const int id : commands) {
         if (id == CommandId::Separator) {

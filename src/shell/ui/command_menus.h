@@ -11,13 +11,13 @@ class QToolBar;
 class QString;
 
 /// Adds a menu that also has a name for assistive technology.
-QMenu *addNamedMenu(QMenuBar &bar, const QString &title);
+QMenu *AddNamedMenu(QMenuBar &bar, const QString &title);
 
 /// Fills a menu with the commands of a list; submenus are made as the list names them. Places for other things,
 /// such as the recent files, are left out.
-void fillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts);
+void FillMenu(QMenu &menu, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts);
 
 /// Fills a tool bar likewise. Its buttons don't take the focus, so that an edit box keeps it for the commands
 /// that act on its text.
-void fillToolBar(
+void FillToolBar(
     QToolBar &bar, const QList<int> &commands, const CCommandActions &actions, const CTexts &texts);

@@ -109,15 +109,15 @@ void CEditCommands::ConnectText()
     SetTextHandler(
         Copy, [](QLineEdit &box) { box.copy(); }, [this] { m_clipboard.Copy(AllColumns); });
     SetTextHandler(
-        Paste, [](QLineEdit &box) { pasteText(box); }, [this] { m_clipboard.Paste(); });
+        Paste, [](QLineEdit &box) { PasteText(box); }, [this] { m_clipboard.Paste(); });
     SetTextHandler(
         CommandId::Delete, [](QLineEdit &box) { box.del(); }, [this] { m_view.DeleteSelection(); });
     SetTextHandler(
         SelectAll, [](QLineEdit &box) { box.selectAll(); }, [this] { m_view.SelectAll(); });
     SetTextHandler(
-        InsertSynonym, [](QLineEdit &box) { changeText(box, insertSynonym); }, [] {});
+        InsertSynonym, [](QLineEdit &box) { ChangeText(box, WithSynonym); }, [] {});
     SetTextHandler(
-        InsertComment, [](QLineEdit &box) { changeText(box, insertComment); }, [] {});
+        InsertComment, [](QLineEdit &box) { ChangeText(box, WithComment); }, [] {});
     SetTextHandler(
         CommandId::Undo, [](QLineEdit &box) { box.undo(); }, [this] { m_document.Undo(); });
     SetTextHandler(

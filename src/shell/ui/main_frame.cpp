@@ -97,9 +97,9 @@ CMainFrame::CMainFrame(const FrameServices &services)
     });
     connect(m_editCommands, &CEditCommands::StateChanged, this, &CMainFrame::UpdateCommands);
     connect(m_view, &CWin32View::RowMenuRequested, this,
-        [this](const QPoint &place) { ShowMenu(rowMenu(), place); });
+        [this](const QPoint &place) { ShowMenu(RowMenuCommands(), place); });
     connect(m_view, &CWin32View::ColumnMenuRequested, this,
-        [this](const QPoint &place) { ShowMenu(columnMenu(), place); });
+        [this](const QPoint &place) { ShowMenu(ColumnMenuCommands(), place); });
     // From the event loop, after the paste.
     connect(
         m_editCommands, &CEditCommands::FilePasted, this,
@@ -159,9 +159,9 @@ void CMainFrame::MakeMenus()
     const CTexts &texts = m_services.texts;
     menuBar()->setAccessibleName(texts.Get(Text::FrameMenuBar));
     statusBar()->setAccessibleName(texts.Get(Text::FrameStatusBar));
-    for (const CommandMenu &menu : commandMenus()) {
-        QMenu *const shown = addNamedMenu(*menuBar(), texts.Get(menu.title));
-        fillMenu(*shown, menu.commands, *m_actions, texts);
+    for (const CommandMenu &menu : CommandMenus()) {
+        QMenu *const shown = AddNamedMenu(*menuBar(), texts.Get(menu.title));
+        FillMenu(*shown, menu.commands, *m_actions, texts);
         connect(shown, &QMenu::aboutToShow, m_actions, &CCommandActions::LoadIcons);
         connect(shown, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
         const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
@@ -171,9 +171,9 @@ void CMainFrame::MakeMenus()
                 *shown, shown->actions().at(recent), m_services.files, m_services.recent, texts);
         }
     }
-    MakeToolBar(texts.Get(Text::StandardToolBar), "standardToolBar", standardToolBar());
+    MakeToolBar(texts.Get(Text::StandardToolBar), "standardToolBar", StandardToolBarCommands());
     addToolBarBreak();
-    auto *const quizBar = MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", quizToolBar());
+    auto *const quizBar = MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", QuizToolBarCommands());
     quizBar->hide();
     connect(quizBar, &QToolBar::visibilityChanged, m_actions, &CCommandActions::LoadIcons);
     // The menus have commands for it.
@@ -184,7 +184,7 @@ QToolBar *CMainFrame::MakeToolBar(const QString &title, const char *name, const 
 {
     QToolBar *const bar = addToolBar(title);
     bar->setObjectName(QLatin1StringView(name));
-    fillToolBar(*bar, commands, *m_actions, m_services.texts);
+    FillToolBar(*bar, commands, *m_actions, m_services.texts);
     // The toolkit's own button for what finds no room.
     if (auto *const more = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
         more->setAccessibleName(m_services.texts.Get(Text::FrameMoreButtons));
@@ -263,7 +263,7 @@ void CMainFrame::ShowMenu(const QList<int> &commands, const QPoint &place)
     m_actions->LoadIcons();
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillMenu(*menu, commands, *m_actions, m_services.texts);
+    FillMenu(*menu, commands, *m_actions, m_services.texts);
     menu->popup(place);
 }
 

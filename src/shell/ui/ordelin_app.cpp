@@ -32,7 +32,7 @@ constexpr int FailureShown = 20000;
 COrdelinApp::COrdelinApp(int &argc, char **argv)
     : QApplication(argc, argv), m_qtTexts(m_texts), m_store(CIniStore::UserPath(), CAppSettings::RootPath()),
       m_settings(m_store, m_texts), m_startUp(m_settings, m_texts, [this] { ChooseLanguage(); }),
-      m_dataFolders(dataFolders(applicationDirPath())), m_random(quint32(QDateTime::currentMSecsSinceEpoch())),
+      m_dataFolders(DataFolders(applicationDirPath())), m_random(quint32(QDateTime::currentMSecsSinceEpoch())),
       m_document({m_texts, m_settings.editor, m_prompt, [] { return QDate::currentDate(); },
           [](const QString &program, const QStringList &arguments) {
               return QProcess::startDetached(program, arguments);
@@ -128,8 +128,8 @@ void COrdelinApp::MakeMainWindow()
 
 void COrdelinApp::ChooseLanguage()
 {
-    CLanguageChoice choice(findLanguages(m_texts, m_dataFolders), m_startUp.ModulePath(), m_settings.isFirstRun,
-        languageAbbreviation(QLocale::system()));
+    CLanguageChoice choice(FindLanguages(m_texts, m_dataFolders), m_startUp.ModulePath(), m_settings.isFirstRun,
+        LanguageAbbreviation(QLocale::system()));
     CLanguageDialog dialog(choice, m_texts.Get(Text::LanguageList), activeWindow());
     if (dialog.exec() == QDialog::Accepted) {
         choice.Accept(m_settings.misc, m_prompt);
@@ -138,7 +138,7 @@ void COrdelinApp::ChooseLanguage()
 
 void COrdelinApp::OpenHelp()
 {
-    openHelp(m_texts, m_dataFolders, m_prompt,
+    ::OpenHelp(m_texts, m_dataFolders, m_prompt,
         [](const QString &path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
 }
 

@@ -41,7 +41,7 @@ bool CWindowPlace::Restore()
     }
     m_window.statusBar()->setVisible(m_store.Read(BarSection(m_root), StatusBarShown) != QStringLiteral("0"));
 
-    const auto placement = loadWindowPlacement(m_store, m_root, Desktop());
+    const auto placement = LoadWindowPlacement(m_store, m_root, Desktop());
     if (!placement) {
         return false;
     }
@@ -60,7 +60,7 @@ void CWindowPlace::Save()
         m_window.statusBar()->isHidden() ? QStringLiteral("0") : QStringLiteral("1"));
     const bool isNormal = !(m_window.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen));
     const QRect inside = isNormal ? m_window.geometry() : m_window.normalGeometry();
-    saveWindowPlacement(m_store, m_root,
+    SaveWindowPlacement(m_store, m_root,
         {.rectangle = QRect(inside.topLeft() - m_frame, inside.size()),
             .maximised = m_window.windowState().testFlag(Qt::WindowMaximized)},
         Desktop());
