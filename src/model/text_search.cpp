@@ -34,6 +34,26 @@ bool BoundaryAfter(QStringView field, qsizetype position)
     return position == field.size() || !IsWordCharacter(CharacterAt(field, position));
 }
 
+/// Whether the units at `place`, of which there are enough, stand for those of `text`, which is folded.
+bool EqualFolded(const char16_t *place, QStringView text, const char16_t *folding)
+{
+    return std::equal(text.utf16(), text.utf16() + text.size(), place,
+        [folding](char16_t folded, char16_t unit) { return folding[unit] == folded; });
+}
+
+/// The first place of `text`, which is folded, at or after `from`, where there is room for it; -1 without one.
+qsizetype IndexOfFolded(QStringView field, QStringView text, const char16_t *folding, qsizetype from)
+{
+    const auto isFirst = [folding, first = text.front().unicode()](
+                             char16_t unit) { return folding[unit] == first; };
+    const char16_t *const end = field.utf16() + field.size() - text.size() + 1;
+    const char16_t *place = std::find_if(field.utf16() + from, end, isFirst);
+    while (place != end && !EqualFolded(place, text, folding)) {
+        place = std::find_if(place + 1, end, isFirst);
+    }
+    return place == end ? -1 : place - field.utf16();
+}
+
 }
 
 CTextMatcher::CTextMatcher(const TextSearch &search)
@@ -56,36 +76,11 @@ CTextMatcher::CTextMatcher(const TextSearch &search)
     }
 }
 
-bool CTextMatcher::EqualAt(QStringView field, qsizetype position) const
-{
-    for (qsizetype i = 0; i < m_text.size(); ++i) {
-        if (Fold(field[position + i]) != m_text[i]) {
-            return false;
-        }
-    }
-    return true;
-}
-
 bool CTextMatcher::IsPrefixOf(QStringView field) const
 {
-    return field.size() >= m_text.size() && EqualAt(field, 0);
-}
-
-qsizetype CTextMatcher::IndexOf(QStringView field, qsizetype from) const
-{
-    if (m_folding == nullptr) {
-        return field.indexOf(m_text, from);
-    }
-    const char16_t *const folding = m_folding;
-    const char16_t first = m_text[0].unicode();
-    // Behind it the text would not find room.
-    const char16_t *const end = field.utf16() + field.size() - m_text.size() + 1;
-    const auto isFirst = [=](char16_t unit) { return folding[unit] == first; };
-    const char16_t *place = std::find_if(field.utf16() + from, end, isFirst);
-    while (place != end && !EqualAt(field, place - field.utf16())) {
-        place = std::find_if(place + 1, end, isFirst);
-    }
-    return place == end ? -1 : place - field.utf16();
+    return m_folding == nullptr
+        ? field.startsWith(m_text)
+        : field.size() >= m_text.size() && EqualFolded(field.utf16(), m_text, m_folding);
 }
 
 std::optional<CTextMatcher::Range> CTextMatcher::Find(QStringView field) const
@@ -98,7 +93,8 @@ std::optional<CTextMatcher::Range> CTextMatcher::Find(QStringView field) const
         return FindWildcard(field);
     }
     for (qsizetype from = 0; from + length <= field.size();) {
-        const qsizetype position = IndexOf(field, from);
+        const qsizetype position =
+            m_folding == nullptr ? field.indexOf(m_text, from) : IndexOfFolded(field, m_text, m_folding, from);
         if (position < 0) {
             break;
         }

@@ -66,9 +66,6 @@ private:
     };
 
     char16_t Fold(QChar unit) const { return m_folding ? m_folding[unit.unicode()] : unit.unicode(); }
-    bool EqualAt(QStringView field, qsizetype position) const;
-    /// The first place of the text, for which there is room, at or after `from`; -1 without one.
-    qsizetype IndexOf(QStringView field, qsizetype from) const;
     /// The end of `segment` in `field` when it stands at `position`, else -1.
     qsizetype EndOfSegment(const Segment &segment, QStringView field, qsizetype position) const;
     /// The start and end of the first place of `segment` at or after `from` that keeps the boundaries asked

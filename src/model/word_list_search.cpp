@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "model/word_list.h"
 
+#include <algorithm>
+
 namespace {
 
 bool Passes(FlagFilter filter, bool flag)
@@ -14,10 +16,9 @@ TextMatch MatchEntry(const CTextMatcher &matcher, const TextSearch &search, cons
     if (!Passes(search.flag1, entry.GetFlag(0)) || !Passes(search.flag2, entry.GetFlag(1))) {
         return {};
     }
-    for (int column = 0; column < CWordEntry::FieldCount; ++column) {
-        if (search.column >= 0 && search.column != column) {
-            continue;
-        }
+    const bool all = search.column < 0;
+    const int last = all ? CWordEntry::NoteField : std::min(search.column, CWordEntry::NoteField);
+    for (int column = all ? 0 : search.column; column <= last; ++column) {
         if (const auto range = matcher.Find(entry.GetField(column))) {
             return {index, column, int(range->start), int(range->start + range->length) - 1};
         }
