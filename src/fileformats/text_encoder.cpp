@@ -7,8 +7,11 @@
 
 namespace {
 
-/// No encoding takes more bytes for a code unit.
-constexpr qsizetype MostBytesPerUnit = 3;
+/// The bytes that a code unit takes at most.
+qsizetype MostBytesPerUnit(TextEncoding encoding)
+{
+    return encoding == TextEncoding::Ansi ? 1 : encoding == TextEncoding::Utf8 ? 3 : 2;
+}
 
 /// Unit by unit, as the reader takes them apart: surrogates are three bytes each.
 char *EncodeUtf8(QStringView text, char *bytes)
@@ -38,12 +41,17 @@ CTextEncoder::CTextEncoder(TextEncoding encoding) : m_encoding(encoding)
     }
 }
 
+void CTextEncoder::Reserve(qsizetype units)
+{
+    m_bytes.resize(m_size + MostBytesPerUnit(m_encoding) * units);
+}
+
 void CTextEncoder::Append(QStringView text)
 {
     if (text.isEmpty()) {
         return;
     }
-    const qsizetype needed = m_size + MostBytesPerUnit * text.size();
+    const qsizetype needed = m_size + MostBytesPerUnit(m_encoding) * text.size();
     if (needed > m_bytes.size()) {
         m_bytes.resize(std::max(needed, 2 * m_bytes.size()));
     }

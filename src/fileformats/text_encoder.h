@@ -11,6 +11,8 @@ class CTextEncoder
 {
 public:
     explicit CTextEncoder(TextEncoding encoding);
+    /// Makes room for that many code units to come, so that the memory is taken once.
+    void Reserve(qsizetype units);
 
     void Append(QStringView text);
     /// CR LF, in every encoding.

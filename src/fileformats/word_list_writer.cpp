@@ -39,7 +39,7 @@ QString OneLine(QString text)
 class CLines
 {
 public:
-    explicit CLines(TextEncoding encoding) : m_encoder(encoding) { }
+    CLines(TextEncoding encoding, qsizetype units) : m_encoder(encoding) { m_encoder.Reserve(units); }
 
     void Append(QStringView line)
     {
@@ -86,11 +86,22 @@ void AppendRecord(const CWordEntry &entry, const GlossaryVersion &version, CLine
     }
 }
 
+/// The most code units that the records can take.
+qsizetype Length(const CWordList &list)
+{
+    constexpr qsizetype LineEndsAndFlags = 11;
+    qsizetype length = 0;
+    list.ForEach([&](int, const CWordEntry &entry) {
+        length += entry.GetText(0).size() + entry.GetText(1).size() + entry.GetNote().size() + LineEndsAndFlags;
+    });
+    return length;
+}
+
 /// The content of the file; what the encoding lacks ends it.
 CLines Encoded(const CWordList &list, TextEncoding encoding)
 {
     const GlossaryVersion &version = SmallestVersion(list);
-    CLines lines(encoding);
+    CLines lines(encoding, Length(list));
     AppendHeader(list, version, lines);
     for (int index = 0; index < list.Count() && !lines.Lossy(); ++index) {
         AppendRecord(list.Entry(index), version, lines);
