@@ -217,7 +217,8 @@ QWidget *CSpecialCharacterKeys::Target() const
     if (!inWindow || qobject_cast<QLineEdit *>(focus) != nullptr) {
         return focus;
     }
-    return m_target != nullptr && m_target->isVisible() ? m_target : nullptr;
+    QWidget *const target = m_target;
+    return target != nullptr && target->isVisible() ? target : nullptr;
 }
 
 void CSpecialCharacterKeys::Send(const QString &text)
@@ -262,8 +263,8 @@ void CSpecialCharacterKeys::RememberOtherProgram(Qt::ApplicationState state)
 
 void CSpecialCharacterKeys::GiveFocusBack()
 {
-    if (m_target != nullptr && m_target->isVisible()) {
-        m_target->activateWindow();
+    if (QWidget *const target = m_target; target != nullptr && target->isVisible()) {
+        target->activateWindow();
     } else {
         m_sender.ActivateRememberedWindow();
     }
