@@ -26,7 +26,7 @@ public:
     /// Copies the selected entries and asks whether to delete them.
     void Cut();
     /// Inserts entries at the insertion point, as one step for undo, selects them and tells how many they are.
-    /// A file that was copied is told by the view's FilePasted().
+    /// A file that was copied is opened.
     void Paste();
 
     /// Whether the clipboard may hold entries.

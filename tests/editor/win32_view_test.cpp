@@ -296,12 +296,13 @@ void Win32ViewTest::selectionAndInsertionPoint()
     QCOMPARE(run.Selected(), QStringLiteral("1 2 3"));
     run.view.SelectAll();
     QCOMPARE(run.Selected(), QStringLiteral("0 1 2 3"));
+    QCOMPARE(run.view.SelectedRowCount(), 4);
     run.List()->SelectRow(2, true);
     QCOMPARE(lastStatus(), QStringLiteral("Här kommer nästa glosa att läggas till."));
     run.List()->SelectRow(3, true);
     run.view.SetInsertionPoint(3);
     QCOMPARE(run.view.InsertionPoint(), 3);
-    run.view.MoveInsertionPoint(9);
+    run.view.SetInsertionPoint(12);
     QCOMPARE(run.view.InsertionPoint(), 4);
     run.view.SelectEntryRange(1, 2);
     QVERIFY(lastStatus().startsWith(QStringLiteral("2 glosor markerade. 4 glosor")));
@@ -334,12 +335,20 @@ void Win32ViewTest::deletingAroundTheInsertionPoint()
         (QStringList{QStringLiteral("a0|b0"), QStringLiteral("a3|b3"), QStringLiteral("a4|b4")}));
     run.test.document.Undo();
     QCOMPARE(run.Entries(), Numbered(5));
+
+    run.view.SelectEntries({0, 2, 3}); // Apart.
+    run.test.prompt.answers = {PromptAnswer::Yes};
+    run.view.DeleteSelection();
+    QCOMPARE(run.Entries(), (QStringList{QStringLiteral("a1|b1"), QStringLiteral("a4|b4")}));
+    QCOMPARE(run.view.SelectedRowCount(), 0);
 }
 
 void Win32ViewTest::fieldsFollowTheSelection()
 {
     View run(Numbered(3));
+    QVERIFY(!run.Field(1)->isVisible());
     run.Flip(&EditorSettings::showEditFields);
+    QVERIFY(run.Field(1)->isVisible());
     run.view.SelectEntry(0);
     QCOMPARE(run.Field(1)->text(), QStringLiteral("b0"));
     // Enter in a field changes the entry and goes on to the next one.

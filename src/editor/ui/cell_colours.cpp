@@ -31,7 +31,8 @@ CellColours CellColoursFor(const QPalette &palette, const CellState &state)
         if (state.hot) {
             return {Mixed(base, link, 0.25), text};
         }
-        return {base, state.number ? palette.color(QPalette::Active, QPalette::PlaceholderText) : text};
+        // Quieter, and still read: some themes leave their own colour for placeholders black on black.
+        return {base, state.number ? Mixed(text, base, 0.3) : text};
     }
     if (!state.focused) {
         return {palette.color(QPalette::Active, QPalette::Button),

@@ -60,7 +60,6 @@ public:
     void SelectAll();
 
     void SetInsertionPoint(int row) override;
-    void MoveInsertionPoint(int delta);
     int InsertionPoint() const override;
 
     /// Shows everything anew, after columns came or went; the selected rows stay selected.

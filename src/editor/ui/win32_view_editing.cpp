@@ -184,7 +184,14 @@ void CWin32View::DeleteSelection()
 {
     const std::vector<int> entries = SelectedEntries();
     const bool hadKeyboard = m_list->hasFocus();
-    if (m_editing.DeleteEntries(entries)) { }
+    const int row = m_list->CursorRow();
+    const int field = m_list->CursorField();
+    const auto above =
+        std::ranges::count_if(entries, [&](int entry) { return m_model->Rows().RowOfEntry(entry) < row; });
+    if (m_editing.DeleteEntries(entries)) {
+        m_list->SelectRow(-1, false);
+        PlaceCursor(std::max(row - int(above), 0), field);
+    }
     if (hadKeyboard) {
         m_list->setFocus();
     }

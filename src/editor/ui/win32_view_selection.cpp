@@ -172,8 +172,3 @@ void CWin32View::SetInsertionPoint(int row)
     m_model->SetInsertionPoint(row);
     ReadSelection();
 }
-
-void CWin32View::MoveInsertionPoint(int delta)
-{
-    SetInsertionPoint(InsertionPoint() + delta);
-}

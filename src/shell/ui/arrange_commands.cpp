@@ -4,14 +4,14 @@
 #include "editor/arranging.h"
 #include "editor/ui/win32_view.h"
 #include "platform/ui/wait_cursor.h"
-#include "settings/shell_settings.h"
+#include "settings/settings.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 
 using namespace CommandId;
 
 CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, CArranging &arranging,
-    ArrangeSettings &settings, QObject *parent)
+    ArrangeSettings &settings, CSettingsChanges &settingsChanges, QObject *parent)
     : QObject(parent)
 {
     const auto sort = [&arranging](int field) {
@@ -26,6 +26,11 @@ CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, C
              {GroupFlagged, &ArrangeSettings::groupFlagged}, {SortByLength, &ArrangeSettings::byLength}}) {
         bool &value = settings.*option;
         actions.SetHandler(
-            command, [&value] { value = !value; }, [&value] { return value; });
+            command,
+            [&value, &settingsChanges] {
+                value = !value;
+                settingsChanges.Tell(SettingsSection::Arrange);
+            },
+            [&value] { return value; });
     }
 }

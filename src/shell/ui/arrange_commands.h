@@ -5,6 +5,7 @@
 
 class CArranging;
 class CCommandActions;
+class CSettingsChanges;
 class CWin32View;
 struct ArrangeSettings;
 
@@ -14,5 +15,5 @@ class CArrangeCommands : public QObject
 public:
     /// Nothing is owned.
     CArrangeCommands(CCommandActions &actions, CWin32View &view, CArranging &arranging,
-        ArrangeSettings &settings, QObject *parent);
+        ArrangeSettings &settings, CSettingsChanges &settingsChanges, QObject *parent);
 };

@@ -14,11 +14,12 @@
 #include "resources/texts.h"
 #include "settings/settings.h"
 #include "shell/commands.h"
-#include "shell/ui/about_dialog.h"
 #include "shell/ui/arrange_commands.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/command_menus.h"
 #include "shell/ui/edit_commands.h"
+#include "shell/ui/file_menu_commands.h"
+#include "shell/ui/help_commands.h"
 #include "shell/ui/quiz_commands.h"
 #include "shell/ui/recent_files_menu.h"
 #include "shell/ui/special_character_keys.h"
@@ -195,30 +196,19 @@ QToolBar *CMainFrame::MakeToolBar(const QString &title, const char *name, const 
 
 void CMainFrame::ConnectCommands()
 {
-    using namespace CommandId;
-    new CArrangeCommands(*m_actions, *m_view, m_arranging, m_services.settings.arrange, this);
+    new CFileMenuCommands(*m_actions, m_services.files, *this);
+    new CHelpCommands(*m_actions, m_services.texts, m_services.openHelp, *this);
+    new CArrangeCommands(
+        *m_actions, *m_view, m_arranging, m_services.settings.arrange, m_services.settingsChanges, this);
     new CViewCommands(*m_actions,
         {*this, *m_view, m_services.settings.editor, m_services.settingsChanges, m_services.specialCharacters},
         this);
-    new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, this);
+    new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
     connect(m_actions, &CCommandActions::CommandDone, this, &CMainFrame::UpdateCommands);
     connect(
         &m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this, &CMainFrame::UpdateCommands);
-    CFileCommands &files = m_services.files;
-    m_actions->SetHandler(NewFile, [&files] { files.New(); });
-    m_actions->SetHandler(OpenFile, [&files] { files.Open(); });
-    m_actions->SetHandler(SaveFile, [&files] { files.Save(); });
-    m_actions->SetHandler(SaveFileAs, [&files] { files.SaveAs(); });
-    m_actions->SetHandler(SendMail, [&files] { files.Send(); });
-    m_actions->SetHandler(Exit, [this] { close(); });
     m_actions->SetHandler(CommandId::QuizSettings, [this] { OpenQuizSettings(); });
-    m_actions->SetHandler(Help, [this] { m_services.openHelp(); });
-    m_actions->SetHandler(About, [this] {
-        auto *dialog = new CAboutDialog(m_services.texts, this);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->open();
-    });
 }
 
 void CMainFrame::PrepareCommand(const Command &command)
@@ -239,7 +229,8 @@ void CMainFrame::OpenQuizSettings()
             m_services.texts, m_services.chooser, m_services.dataFolders),
         this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, &CMainFrame::UpdateCommands);
+    connect(
+        dialog, &QDialog::accepted, this, [this] { m_services.settingsChanges.Tell(SettingsSection::Quiz); });
     dialog->open();
 }
 

@@ -3,14 +3,14 @@
 
 #include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_launch.h"
-#include "settings/quiz_settings.h"
+#include "settings/settings.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 
 using namespace CommandId;
 
-CQuizCommands::CQuizCommands(
-    CCommandActions &actions, CQuizLaunch &launch, ::QuizSettings &settings, QObject *parent)
+CQuizCommands::CQuizCommands(CCommandActions &actions, CQuizLaunch &launch, ::QuizSettings &settings,
+    CSettingsChanges &settingsChanges, QObject *parent)
     : QObject(parent)
 {
     for (const QuizKindRow &row : quizKinds()) {
@@ -21,7 +21,11 @@ CQuizCommands::CQuizCommands(
     for (const int direction : {FromLanguage1, FromLanguage2}) {
         const int language = direction - FromLanguage1;
         actions.SetHandler(
-            direction, [&settings, language] { settings.showLanguage = language; },
+            direction,
+            [&settings, &settingsChanges, language] {
+                settings.showLanguage = language;
+                settingsChanges.Tell(SettingsSection::Quiz);
+            },
             [&settings, language] { return settings.showLanguage == language; });
     }
 }

@@ -5,6 +5,7 @@
 
 class CCommandActions;
 class CQuizLaunch;
+class CSettingsChanges;
 struct QuizSettings;
 
 /// The commands of the menu for quizzes.
@@ -12,5 +13,6 @@ class CQuizCommands : public QObject
 {
 public:
     /// Nothing is owned.
-    CQuizCommands(CCommandActions &actions, CQuizLaunch &launch, QuizSettings &settings, QObject *parent);
+    CQuizCommands(CCommandActions &actions, CQuizLaunch &launch, QuizSettings &settings,
+        CSettingsChanges &settingsChanges, QObject *parent);
 };
