@@ -2,6 +2,7 @@
 #include "editor/clipboard_data.h"
 
 #include "editor/clipboard_text.h"
+#include "platform/file_name.h"
 #include "platform/windows_1252.h"
 
 #include <QMimeData>
@@ -65,7 +66,7 @@ QStringList FilesFromData(const QMimeData &data)
     QStringList files;
     for (const QUrl &url : data.urls()) {
         if (url.isLocalFile()) {
-            files.append(url.toLocalFile());
+            files.append(LocalFileOf(url));
         }
     }
     return files;
