@@ -28,6 +28,7 @@ void ProgramEndTest::ends_data()
     row("signal,start", true, true, false);
     row("start,change,give up,end,quit", false, true, true);
     row("start,change,give up,end,change,quit", true, true, true); // It went on, and there was more work.
+    row("start,change,give up,end,type,quit", true, true, true);
     row("start,change,refuse,end,quit", true, true, true);
     row("start,change,end,quit", true, true, true); // The session let nobody be asked.
     row("start,change,give up,end", false, false, true); // Killed without a word.
@@ -48,6 +49,8 @@ void ProgramEndTest::ends()
             end.StartIsOver();
         } else if (event == QStringLiteral("change")) {
             ++counter;
+        } else if (event == QStringLiteral("type")) {
+            end.UserTyped();
         } else if (event == QStringLiteral("give up")) {
             end.SessionAsks(counter);
         } else if (event == QStringLiteral("refuse")) {
