@@ -90,9 +90,9 @@ bool CFileCommands::OpenRecent(const QString &path)
 
 bool CFileCommands::OpenNow(const QString &path)
 {
-    m_lastFolder = QFileInfo(path).absolutePath();
+    m_lastFolder = QFileInfo(AbsoluteFilePath(path)).path();
     if (!m_document.OpenDocument(path)) {
-        m_recent.Remove(QFileInfo(path).absoluteFilePath());
+        m_recent.Remove(AbsoluteFilePath(path));
         return false;
     }
     m_recent.Add(path);
@@ -130,7 +130,7 @@ bool CFileCommands::DoSave(const QString &path, bool replace)
         if (target.isEmpty()) {
             return false;
         }
-        m_lastFolder = QFileInfo(target).absolutePath();
+        m_lastFolder = QFileInfo(AbsoluteFilePath(target)).path();
     }
     if (!replace) {
         return m_document.SaveCopy(target);
@@ -145,7 +145,7 @@ bool CFileCommands::DoSave(const QString &path, bool replace)
 QString CFileCommands::StartFolder() const
 {
     if (!m_document.Path().isEmpty()) {
-        return QFileInfo(m_document.Path()).absolutePath();
+        return QFileInfo(m_document.Path()).path();
     }
     return m_lastFolder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                   : m_lastFolder;

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "document/recent_files.h"
 
+#include "platform/file_name.h"
 #include "settings/settings_store.h"
-
-#include <QFileInfo>
 
 namespace {
 
@@ -27,7 +26,7 @@ CRecentFiles::CRecentFiles(ISettingsStore &store, const QString &root)
 
 void CRecentFiles::Add(const QString &path)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const QString absolute = AbsoluteFilePath(path);
     m_paths.removeAll(absolute);
     m_paths.prepend(absolute);
     m_paths = m_paths.mid(0, Most);

@@ -2,6 +2,7 @@
 #include "document/win32_doc.h"
 
 #include "fileformats/word_list_file.h"
+#include "platform/file_name.h"
 #include "platform/local_formats.h"
 #include "platform/user_prompt.h"
 #include "resources/text_numbers.h"
@@ -191,7 +192,7 @@ void CWin32Doc::OnNewDocument()
 bool CWin32Doc::OpenDocument(const QString &file)
 {
     // Absolute, since the path outlives the folder that the program was started in.
-    const QString path = QFileInfo(file).absoluteFilePath();
+    const QString path = AbsoluteFilePath(file);
     const FileStamp stamp = FileStamp::Of(path); // Before it is read, so that a change meanwhile is one.
     DeleteContents();
     CWordList list = List();
@@ -219,7 +220,7 @@ void CWin32Doc::OpenRecovered(CWordList list, const QString &path, const FileSta
 
 bool CWin32Doc::OnSaveDocument(const QString &file)
 {
-    const QString path = QFileInfo(file).absoluteFilePath();
+    const QString path = AbsoluteFilePath(file);
     const CTexts &texts = m_services.texts;
     const FileStamp now = FileStamp::Of(path);
     if (path == Path() && now.size >= 0 && now != m_stamp

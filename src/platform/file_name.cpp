@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_name.h"
 
+#include <QDir>
 #include <QStringDecoder>
 #include <QUrl>
 
 #include <algorithm>
+#include <climits>
+#include <optional>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -20,6 +24,15 @@ qsizetype CharacterLength(QByteArrayView bytes)
         }
     }
     return 0;
+}
+
+/// None when there is nothing of this name.
+std::optional<struct stat> StatusOf(const QString &path)
+{
+    struct stat status = {};
+    return !path.contains(QChar::Null) && ::stat(EncodeFileName(path).constData(), &status) == 0
+        ? std::optional(status)
+        : std::nullopt;
 }
 
 bool IsByteMark(QChar unit)
@@ -75,8 +88,24 @@ QString LocalFileOf(const QUrl &url)
         : path;
 }
 
+QString AbsoluteFilePath(const QString &path)
+{
+    if (QDir::isAbsolutePath(path)) {
+        return QDir::cleanPath(path);
+    }
+    QByteArray folder(PATH_MAX, '\0');
+    const bool isKnown = ::getcwd(folder.data(), size_t(folder.size())) != nullptr;
+    return QDir::cleanPath((isKnown ? DecodeFileName(folder.constData()) : QString()) + u'/' + path);
+}
+
 bool FileExists(const QString &path)
 {
-    struct stat status = {};
-    return !path.contains(QChar::Null) && ::stat(EncodeFileName(path).constData(), &status) == 0;
+    return StatusOf(path).has_value();
+}
+
+bool IsSameFile(const QString &path, const QString &other)
+{
+    const auto first = StatusOf(path);
+    const auto second = StatusOf(other);
+    return first && second && first->st_dev == second->st_dev && first->st_ino == second->st_ino;
 }

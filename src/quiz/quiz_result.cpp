@@ -5,6 +5,7 @@
 #include "document/win32_doc.h"
 #include "fileformats/text_file_writer.h"
 #include "platform/file_chooser.h"
+#include "platform/file_name.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_session.h"
 #include "quiz/rounding.h"
@@ -78,8 +79,7 @@ QString CQuizResult::table() const
 
 bool CQuizResult::isListsOwnFile(const QString &path)
 {
-    const QString own = QFileInfo(m_session.document().Path()).canonicalFilePath();
-    if (own.isEmpty() || own != QFileInfo(path).canonicalFilePath()) {
+    if (!IsSameFile(m_session.document().Path(), path)) {
         return false;
     }
     m_services.prompt.Tell(m_services.texts.Prompt(Text::HoldsWholeList, {path}), PromptIcon::Warning);

@@ -3,6 +3,7 @@
 #include "document/file_filters.h"
 #include "document/pending_work.h"
 #include "document/recent_files.h"
+#include "platform/file_name.h"
 #include "resources/text_numbers.h"
 #include "settings/settings_store.h"
 #include "support/test_document.h"
@@ -11,6 +12,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <cstdio>
 
 class FileCommandsTest : public QObject
 {
@@ -23,6 +26,7 @@ private Q_SLOTS:
     void savingWithAndWithoutAName();
     void openingByDialog();
     void recentFiles();
+    void namesThatAreNoText();
     void filters();
 };
 
@@ -173,6 +177,26 @@ void FileCommandsTest::recentFiles()
     QVERIFY(QFile::remove(path(2)) && QDir().mkpath(path(2))); // Is there, but can't be read.
     QVERIFY(!files.OpenRecent(path(2)));
     QCOMPARE(CRecentFiles(store, QStringLiteral("root")).Paths(), QStringList({path(3), path(4)}));
+}
+
+void FileCommandsTest::namesThatAreNoText()
+{
+    const QTemporaryDir folder;
+    const QString path = DecodeFileName(folder.path().toUtf8() + "/caf\xE9.gls");
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    CScriptedChooser chooser;
+    CMemoryStore store;
+    CRecentFiles recent(store, QStringLiteral("root"));
+    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
+    QVERIFY(files.DoSave(folder.filePath(QStringLiteral("x.gls")), true));
+    QCOMPARE(::rename((folder.path() + QStringLiteral("/x.gls")).toUtf8().constData(),
+                 EncodeFileName(path).constData()),
+        0);
+    QVERIFY(files.OpenFile(QDir::current().relativeFilePath(folder.path()) + path.mid(folder.path().size())));
+    QCOMPARE(test.document.Path(), path);
+    QCOMPARE(recent.Paths().first(), path);
+    QVERIFY(files.Save() && files.OpenRecent(path));
+    QVERIFY(IsSameFile(path, folder.path() + QStringLiteral("/./") + path.section(u'/', -1)));
 }
 
 void FileCommandsTest::filters()
