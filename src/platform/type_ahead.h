@@ -33,6 +33,8 @@ public:
     bool TryToHear();
     /// How long typing must pause still until TryToHear() succeeds.
     std::chrono::milliseconds DeafFor() const;
+    /// Who looks elsewhere types on after a pause: the question is deaf again.
+    void TypedOn() { m_hears = false; }
     void QuestionClosed();
 
     /// Whether keys are kept: the question is deaf, or there are some to go on with first.

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -88,6 +89,7 @@ void MessageBoxPromptTest::typingGoesOn()
         QVERIFY(run.prompt.TypingGoesOn());
         run.first.clear();
     });
+    QSignalSpy again(&run.second, &QLineEdit::returnPressed);
     QTest::keyClick(&run.first, Qt::Key_Return);
     QApplication::setActiveWindow(&run.window); // As a window manager does.
     QTest::keyClick(&run.first, Qt::Key_Q); // Typed before the others went on.
@@ -95,6 +97,7 @@ void MessageBoxPromptTest::typingGoesOn()
     QTRY_VERIFY(!run.prompt.TypingGoesOn());
     QCOMPARE(run.first.text(), QStringLiteral("nyaé"));
     QCOMPARE(run.second.text(), QStringLiteral("zq"));
+    QCOMPARE(again.count(), 0); // What opened the question is not typed once more.
 }
 
 QTEST_MAIN(MessageBoxPromptTest)

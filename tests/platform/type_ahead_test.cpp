@@ -60,6 +60,9 @@ void TypeAheadTest::deafUntilAPause()
     typist.Type('c', 399ms);
     typist.now += 400ms;
     QVERIFY(typist.typeAhead.TryToHear());
+    typist.typeAhead.TypedOn(); // By who still looks elsewhere.
+    QVERIFY(typist.typeAhead.Keeps());
+    QVERIFY(typist.typeAhead.TryToHear());
     typist.Type(Qt::Key_Tab, 0ms);
     typist.Type(Qt::Key_Escape, 10ms); // Whoever answers may be quick.
     QCOMPARE(typist.passed, (QList<int>{'a', Qt::Key_Tab, Qt::Key_Escape}));

@@ -31,7 +31,9 @@ int CTypeAheadFilter::Ask(QMessageBox &box)
     m_box = &box;
     const bool sending = std::exchange(m_sending, false); // What is typed now is typed, not sent on.
     m_typeAhead.QuestionOpened();
-    const int answer = ShowDeaf(box) ? box.exec() : box.result();
+    m_hasFocus = ShowDeaf(box);
+    const int answer = m_hasFocus ? box.exec() : box.result();
+    m_hasFocus = false;
     m_typeAhead.QuestionClosed();
     m_sending = sending;
     m_box = nullptr;
@@ -91,11 +93,30 @@ bool CTypeAheadFilter::KeepKey(const QKeyEvent &event)
     return true;
 }
 
+void CTypeAheadFilter::NoteKeyOfBox(const QKeyEvent &event)
+{
+    constexpr auto CommandKeys = Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier;
+    if (m_typeAhead.TryToHear() && !(event.modifiers() & CommandKeys) && !event.text().isEmpty()
+        && event.text().at(0).isPrint() && event.key() != Qt::Key_Space) {
+        m_typeAhead.TypedOn();
+    }
+}
+
+bool CTypeAheadFilter::IsFirstStop(const QObject *watched) const
+{
+    return !watched->isWidgetType() || IsPartOf(watched, m_box) || m_window->focusWidget() == nullptr
+        || watched == m_window->focusWidget();
+}
+
 bool CTypeAheadFilter::eventFilter(QObject *watched, QEvent *event)
 {
     const bool inWindow = IsPartOf(watched, m_window);
     if (inWindow && event->type() == QEvent::WindowActivate) {
         GoOnSoon();
+    }
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (isKey && m_hasFocus && !m_sending && IsPartOf(watched, m_box)) {
+        NoteKeyOfBox(*static_cast<QKeyEvent *>(event));
     }
     if (m_sending || !m_typeAhead.Keeps() || !(inWindow || IsPartOf(watched, m_box))) {
         return false;
@@ -103,6 +124,9 @@ bool CTypeAheadFilter::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
+        if (!IsFirstStop(watched)) {
+            return false;
+        }
         event->accept();
         return KeepKey(*static_cast<QKeyEvent *>(event));
     case QEvent::KeyRelease:

@@ -29,6 +29,11 @@ private:
     /// Whether an event for `watched` is one for `window`.
     static bool IsPartOf(const QObject *watched, const QWidget *window);
     bool KeepKey(const QKeyEvent &event);
+    /// Lets the question hear again after a pause, and be deaf again to a letter, which is no answer.
+    void NoteKeyOfBox(const QKeyEvent &event);
+    /// Whether a key press comes first to `watched`. One that opened the question goes on to the parents of its
+    /// field when that is answered, and is not typed anew.
+    bool IsFirstStop(const QObject *watched) const;
     /// Shows the box without the focus until it hears; true then, false when it was answered or the program
     /// ends.
     bool ShowDeaf(QMessageBox &box);
@@ -42,6 +47,7 @@ private:
     QPointer<QWidget> m_window; // Where the typing goes on.
     QPointer<QMessageBox> m_box;
     bool m_sending = false;
+    bool m_hasFocus = false; // The question has been heard once and has the keyboard.
     bool m_goesOnSoon = false;
     // A key comes twice, first for those who would rather have it than a shortcut.
     int m_announcedKey = 0;

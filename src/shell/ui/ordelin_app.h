@@ -44,6 +44,7 @@ public:
     bool InitInstance(const QString &file);
     /// Its end: saves the settings, after the event loop ended.
     void ExitInstance();
+    CMainFrame &MainFrame() const { return *m_frame; }
 
 protected:
     bool event(QEvent *event) override;
