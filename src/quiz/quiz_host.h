@@ -12,6 +12,8 @@ public:
     IQuizHost(const IQuizHost &) = delete;
     IQuizHost &operator=(const IQuizHost &) = delete;
 
+    // Named as the main window names its functions, which carries them out.
+    // NOLINTBEGIN(readability-identifier-naming)
     /// The entries selected in the view, ascending.
     virtual std::vector<int> SelectedEntries() const = 0;
     virtual void SelectEntries(const std::vector<int> &entries) = 0;
@@ -20,4 +22,5 @@ public:
     virtual void FocusList() = 0;
     /// Ends an open editing in the list and keeps what was typed.
     virtual void EndEditing() = 0;
+    // NOLINTEND(readability-identifier-naming)
 };
