@@ -127,7 +127,7 @@ void CWordList::SortByKey(int key, const SortOptions &options)
     if (options.byLength) {
         std::ranges::sort(items, {}, &SortItem::rank);
     } else if (grouped) {
-        std::ranges::partition(items, [](const SortItem &item) { return item.rank == 0; });
+        std::partition(items.begin(), items.end(), [](const SortItem &item) { return item.rank == 0; });
     }
     ForEachTie(items, sameRank, [&](SortItems tie) { SortByTexts(tie, textOf, 0, CWordEntry::FieldCount); });
     if (!options.ascending) {

@@ -60,14 +60,14 @@ bool KeepCopies(const Folders &folders)
     TestDocument test;
     CRecovery recovery(test.document, folders.State(), 0);
     bool kept = true;
-    for (const auto &[path, word] : {std::pair(folders.List(), QStringLiteral("first")),
+    for (const auto &file : {std::pair(folders.List(), QStringLiteral("first")),
              std::pair(folders.OtherList(), QStringLiteral("second"))}) {
-        if (!test.document.OpenDocument(path)) {
+        if (!test.document.OpenDocument(file.first)) {
             return false;
         }
-        test.document.Change([&word](CWordList &list) {
+        test.document.Change([&file](CWordList &list) {
             list.DeleteAll();
-            for (const QString &entry : Entries(word)) {
+            for (const QString &entry : Entries(file.second)) {
                 list.Insert(MakeEntry(entry));
             }
         });
