@@ -84,7 +84,6 @@ has_hardening() {
 }
 has_hardening "position-independent code" 'Type: +DYN' --file-header
 has_hardening "stack protector" '__stack_chk_fail' --dyn-syms
-has_hardening "checked library calls" '__[a-z]+_chk' --dyn-syms
 has_hardening "read-only relocations" 'GNU_RELRO' --program-headers
 has_hardening "binding at the start" 'FLAGS.*NOW' --dynamic
 
