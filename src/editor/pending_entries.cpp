@@ -3,6 +3,7 @@
 
 #include "document/win32_doc.h"
 #include "model/term_syntax.h"
+#include "platform/user_prompt.h"
 
 #include <utility>
 
@@ -43,9 +44,9 @@ EntryTexts InNormalForm(EntryTexts texts)
 
 }
 
-CPendingEntries::CPendingEntries(
-    const CWin32Doc &document, CRowModel &rows, CEntryEditing &editing, IPendingView &view)
-    : m_document(document), m_rows(rows), m_editing(editing), m_view(view)
+CPendingEntries::CPendingEntries(const CWin32Doc &document, const IUserPrompt &prompt, CRowModel &rows,
+    CEntryEditing &editing, IPendingView &view)
+    : m_document(document), m_prompt(prompt), m_rows(rows), m_editing(editing), m_view(view)
 {
 }
 
@@ -121,6 +122,13 @@ CWordList CPendingEntries::ListWithAll() const
     int position = m_rows.InsertionPoint();
     for (const EntryTexts &texts : {row, Added(fields)}) {
         if (std::optional<CWordEntry> entry = RestAsEntry(texts)) {
+            list.Insert(std::move(*entry), {.position = position++});
+        }
+    }
+    // Which field each word is for is only known when it goes on, so they become pairs in their order.
+    const QStringList words = m_prompt.TypedMeanwhile().split(u'\n', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < words.size(); i += 2) {
+        if (std::optional<CWordEntry> entry = RestAsEntry({words.at(i), words.value(i + 1), {}})) {
             list.Insert(std::move(*entry), {.position = position++});
         }
     }

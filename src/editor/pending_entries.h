@@ -42,13 +42,14 @@ public:
     virtual void Stored(const EditStep &step) = 0;
 };
 
-/// What is typed in the editor and no entry yet: an open edit, the texts of the new-entry row, and the entry
-/// fields.
+/// What is typed in the editor and no entry yet: an open edit, the texts of the new-entry row, the entry
+/// fields, and what is typed while a question waits.
 class CPendingEntries : public IPendingWork
 {
 public:
     /// Nothing is owned.
-    CPendingEntries(const CWin32Doc &document, CRowModel &rows, CEntryEditing &editing, IPendingView &view);
+    CPendingEntries(const CWin32Doc &document, const IUserPrompt &prompt, CRowModel &rows,
+        CEntryEditing &editing, IPendingView &view);
 
     void StoreWhole() override;
     bool HasRest() const override;
@@ -57,6 +58,7 @@ public:
 
 private:
     const CWin32Doc &m_document;
+    const IUserPrompt &m_prompt;
     CRowModel &m_rows;
     CEntryEditing &m_editing;
     IPendingView &m_view;

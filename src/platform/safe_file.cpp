@@ -23,7 +23,7 @@ namespace {
 constexpr QByteArrayView Prefix(".ordelin-");
 constexpr QByteArrayView Suffix(".tmp");
 constexpr qsizetype DigitCount = 16;
-constexpr time_t StrayAge = 24 * 60 * 60; // In seconds.
+constexpr time_t StrayAge = 24L * 60 * 60; // In seconds.
 
 /// Short, so that it fits wherever the name of the file fits.
 QByteArray NewTemporaryName()

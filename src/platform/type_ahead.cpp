@@ -85,3 +85,19 @@ std::optional<TypedInput> CTypeAhead::TakeNext()
     m_kept.pop_front();
     return next;
 }
+
+QString CTypeAhead::KeptText() const
+{
+    constexpr auto CommandKeys = Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier;
+    QString text;
+    for (const TypedInput &input : m_kept) {
+        if (input.key == Qt::Key_Backspace) {
+            text.chop(1);
+        } else if (EndsEdit(input.key)) {
+            text += u'\n';
+        } else if (!(input.modifiers & CommandKeys)) {
+            text += input.text;
+        }
+    }
+    return text;
+}

@@ -48,6 +48,8 @@ public:
     void Done() { m_delivering = false; }
     /// Forgets what was kept: there is nowhere to go on.
     void Forget() { m_kept.clear(); }
+    /// What was kept, as lines: the keys that end an edit end one.
+    QString KeptText() const;
     bool HasKept() const { return !m_kept.empty(); }
     /// Whether something kept is still to go on, or does right now.
     bool GoesOn() const { return m_delivering || HasKept(); }

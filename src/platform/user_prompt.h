@@ -44,6 +44,9 @@ public:
     }
     /// Whether something that was typed during such a question is still to go on, or does right now.
     virtual bool TypingGoesOn() const { return false; }
+    /// What was typed during such a question and has not gone on yet, as lines: the keys that end an edit end
+    /// one. For an end of the program that leaves no time to let it go on.
+    virtual QString TypedMeanwhile() const { return {}; }
 
     /// For questions on which any answer but Yes leaves everything as it is: true for Yes alone.
     bool Confirm(const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer)

@@ -44,7 +44,7 @@ struct Editor : IEntryView, IPendingView
     FieldTexts fields;
     EditStep stored;
     CEntryEditing editing{{test.document, rows, test.settings, arrange, test.texts, test.prompt}, *this};
-    CPendingEntries pending{test.document, rows, editing, *this};
+    CPendingEntries pending{test.document, test.prompt, rows, editing, *this};
 };
 
 QString T(const char *text)
@@ -74,6 +74,9 @@ void PendingEntriesTest::wholePairs()
     editor.fields.typed = {T("x"), T("y, z"), T("n")};
     const QStringList all = {T("a|b"), T("abc|def"), T("x|y, z|n")};
     QCOMPARE(Describe(editor.pending.ListWithAll()), all);
+    editor.test.prompt.typedMeanwhile = T("natt\nnight\n\nso");
+    QCOMPARE(Describe(editor.pending.ListWithAll()), (all + QStringList{T("natt|night"), T("so")}));
+    editor.test.prompt.typedMeanwhile.clear();
     QCOMPARE(editor.List(), QStringList{T("a|b")});
     editor.test.prompt.answers = {PromptAnswer::No};
     editor.pending.StoreWhole();

@@ -104,8 +104,13 @@ void TypeAheadTest::keysWithoutAText()
     // Enter held down says once what it says.
     typist.typeAhead.Keep({.key = Qt::Key_Return, .repeated = true});
     typist.typeAhead.Keep({.key = Qt::Key_E, .text = QStringLiteral("e"), .repeated = true});
+    typist.typeAhead.Keep({.key = Qt::Key_Tab});
+    typist.typeAhead.Keep({.key = Qt::Key_S, .modifiers = Qt::ControlModifier, .text = QStringLiteral("\x13")});
+    typist.typeAhead.Keep({.text = QStringLiteral("éx")});
+    typist.typeAhead.Keep({.key = Qt::Key_Backspace});
+    QCOMPARE(typist.typeAhead.KeptText(), QStringLiteral("e\né"));
     typist.typeAhead.QuestionClosed();
-    QCOMPARE(typist.TakeAll(), QList<int>{Qt::Key_E});
+    QCOMPARE(typist.TakeAll(), (QList<int>{Qt::Key_E, Qt::Key_Tab, Qt::Key_S, 0, Qt::Key_Backspace}));
 }
 
 QTEST_APPLESS_MAIN(TypeAheadTest)

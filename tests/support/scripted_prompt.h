@@ -45,8 +45,10 @@ public:
     }
 
     bool TypingGoesOn() const override { return typingGoesOn; }
+    QString TypedMeanwhile() const override { return typedMeanwhile; }
 
     bool typingGoesOn = false;
+    QString typedMeanwhile;
     QList<PromptAnswer> answers;
     QList<int> numbers;
     QStringList texts;

@@ -41,7 +41,7 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
       m_editing({services.document, m_model->Rows(), services.settings.editor, services.settings.arrange,
                     services.texts, services.prompt},
           *this),
-      m_pending(services.document, m_model->Rows(), m_editing, *this)
+      m_pending(services.document, services.prompt, m_model->Rows(), m_editing, *this)
 {
     m_list->setObjectName(QStringLiteral("wordList"));
     m_list->setAccessibleName(services.texts.Get(Text::ViewList));

@@ -124,3 +124,8 @@ bool CMessageBoxPrompt::TypingGoesOn() const
 {
     return m_typeAhead->TypingGoesOn();
 }
+
+QString CMessageBoxPrompt::TypedMeanwhile() const
+{
+    return m_typeAhead->KeptText();
+}

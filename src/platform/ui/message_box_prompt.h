@@ -22,6 +22,7 @@ public:
     PromptAnswer AskTypist(
         const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer) override;
     bool TypingGoesOn() const override;
+    QString TypedMeanwhile() const override;
 
 private:
     std::unique_ptr<CTypeAheadFilter> m_typeAhead;

@@ -13,6 +13,7 @@
 
 QT_BEGIN_NAMESPACE
 // What comes before a key press that may be a shortcut; the toolkit declares it for its own tests alone.
+// NOLINTNEXTLINE(readability-identifier-naming)
 Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject *receiver, ulong timestamp, int key,
     Qt::KeyboardModifiers modifiers, const QString &text, bool autorepeat, ushort count);
 QT_END_NAMESPACE

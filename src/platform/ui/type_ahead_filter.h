@@ -22,6 +22,7 @@ public:
     /// Like the box's exec(). The box has a parent, in whose window the typing goes on.
     int Ask(QMessageBox &box);
     bool TypingGoesOn() const { return m_typeAhead.GoesOn(); }
+    QString KeptText() const { return m_typeAhead.KeptText(); }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
