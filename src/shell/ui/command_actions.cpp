@@ -76,11 +76,11 @@ void CCommandActions::LoadIcons()
     }
 }
 
-void CCommandActions::SetHandler(int id, std::function<void()> handler, std::function<bool()> isChecked)
+void CCommandActions::SetHandler(int id, std::function<void()> handler, const std::function<bool()> &isChecked)
 {
     m_handled.insert(id);
     if (isChecked) {
-        m_checks.insert(id, std::move(isChecked));
+        m_checks.insert(id, isChecked);
     }
     connect(Action(id), &QAction::triggered, this, [this, id, handler = std::move(handler)] {
         m_prepare(CommandOf(id));

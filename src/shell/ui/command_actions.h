@@ -27,7 +27,7 @@ public:
     /// `prepare` is called with a command right before its handler.
     void SetPreparation(std::function<void(const Command &command)> prepare) { m_prepare = std::move(prepare); }
     /// Who owns a command sets its handler and, where it has a mark, what is asked for it.
-    void SetHandler(int id, std::function<void()> handler, std::function<bool()> isChecked = {});
+    void SetHandler(int id, std::function<void()> handler, const std::function<bool()> &isChecked = {});
     /// Refreshes what can be chosen, and the marks.
     void Update(const CommandState &state);
     /// Puts the names of the list's languages into the captions.
