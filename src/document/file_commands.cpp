@@ -4,11 +4,11 @@
 #include "document/file_filters.h"
 #include "document/pending_work.h"
 #include "document/recent_files.h"
+#include "document/text_numbers.h"
 #include "document/win32_doc.h"
 #include "platform/file_chooser.h"
 #include "platform/file_name.h"
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QDir>

@@ -60,10 +60,7 @@ protected:
         }
         m_list = CWordList();
         m_copy = {};
-        QMetaObject::invokeMethod(
-            &m_recovery,
-            [&recovery = m_recovery, written = m_written.load()] { recovery.CopyWritten(written); },
-            Qt::QueuedConnection);
+        Q_EMIT m_recovery.WriterEnded(m_written, {});
     }
 
 private:
@@ -81,6 +78,7 @@ CRecovery::CRecovery(CWin32Doc &document, const QString &folder, int delay, QObj
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &CRecovery::WriteCopy);
+    connect(this, &CRecovery::WriterEnded, this, &CRecovery::CopyWritten, Qt::QueuedConnection);
     connect(&document, &CWin32Doc::Changed, this, [this](const ListChange &change) {
         if (change.replaced) {
             Discard();

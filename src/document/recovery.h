@@ -52,6 +52,8 @@ public:
 Q_SIGNALS:
     /// The copy could not be written. Told once, until one could.
     void CopyFailed();
+    /// Emitted on the writing thread, for this object alone.
+    void WriterEnded(bool written, QPrivateSignal);
 
 private:
     class CWriter;

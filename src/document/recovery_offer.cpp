@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "document/recovery.h"
+#include "document/text_numbers.h"
 #include "fileformats/word_list_file.h"
 #include "platform/file_name.h"
 #include "platform/regular_file.h"
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QBuffer>

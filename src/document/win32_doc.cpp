@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "document/win32_doc.h"
 
+#include "document/text_numbers.h"
 #include "fileformats/word_list_file.h"
 #include "platform/file_name.h"
 #include "platform/local_formats.h"
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
 

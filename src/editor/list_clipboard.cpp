@@ -5,8 +5,8 @@
 #include "editor/clipboard_data.h"
 #include "editor/clipboard_text.h"
 #include "editor/editor_view.h"
+#include "editor/text_numbers.h"
 #include "platform/clipboard.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QFileInfo>

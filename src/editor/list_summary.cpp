@@ -2,7 +2,7 @@
 #include "editor/list_summary.h"
 
 #include "document/win32_doc.h"
-#include "resources/text_numbers.h"
+#include "editor/text_numbers.h"
 #include "resources/texts.h"
 
 CListSummary::CListSummary(const CWin32Doc &document, const CTexts &texts)

@@ -2,8 +2,8 @@
 #include "editor/word_list_model.h"
 
 #include "document/win32_doc.h"
+#include "editor/text_numbers.h"
 #include "platform/plain_text.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
 

@@ -3,7 +3,7 @@
 
 #include "model/term_syntax.h"
 #include "platform/letters.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/quiz_settings.h"
 

@@ -6,7 +6,7 @@
 #include "platform/plain_text.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_session.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 CChangeEntry::CChangeEntry(CQuizSession &session, const CTexts &texts, IUserPrompt &prompt, QObject *parent)

@@ -4,7 +4,7 @@
 #include "model/duplicate_search.h"
 #include "model/word_list.h"
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
 

@@ -2,7 +2,7 @@
 #include "quiz/quiz_form.h"
 
 #include "quiz/answer_sound.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 QString CQuizForm::sound(AnswerVerdict verdict, const QStringList &dataFolders) const

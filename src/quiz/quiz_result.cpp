@@ -9,7 +9,7 @@
 #include "platform/user_prompt.h"
 #include "quiz/quiz_session.h"
 #include "quiz/rounding.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/quiz_settings.h"
 

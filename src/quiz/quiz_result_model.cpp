@@ -5,7 +5,7 @@
 #include "platform/plain_text.h"
 #include "quiz/quiz_session.h"
 #include "quiz/rounding.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 CQuizResultModel::CQuizResultModel(

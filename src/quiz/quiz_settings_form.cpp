@@ -5,7 +5,7 @@
 #include "platform/file_chooser.h"
 #include "platform/plain_text.h"
 #include "quiz/answer_sound.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 CQuizSettingsForm::CQuizSettingsForm(QuizSettings &settings, const std::array<QString, 2> &languages,

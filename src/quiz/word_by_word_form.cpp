@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/word_by_word_form.h"
 
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 #include <utility>

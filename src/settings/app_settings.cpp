@@ -2,8 +2,8 @@
 #include "settings/app_settings.h"
 
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "settings/text_numbers.h"
 
 namespace {
 

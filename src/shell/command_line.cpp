@@ -2,8 +2,8 @@
 #include "shell/command_line.h"
 
 #include "platform/file_name.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "shell/text_numbers.h"
 
 #include <QHash>
 #include <QUrl>

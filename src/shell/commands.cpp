@@ -3,7 +3,7 @@
 
 #include "platform/plain_text.h"
 #include "resources/placeholders.h"
-#include "resources/text_numbers.h"
+#include "shell/text_numbers.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 
 #include "platform/safe_file.h"
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "shell/text_numbers.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,8 +3,8 @@
 
 #include "platform/data_folders.h"
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "shell/text_numbers.h"
 
 void OpenHelp(const CTexts &texts, const QStringList &dataFolders, IUserPrompt &prompt,
     const std::function<bool(const QString &path)> &open)

@@ -3,8 +3,8 @@
 
 #include "platform/user_prompt.h"
 #include "resources/placeholders.h"
-#include "resources/text_numbers.h"
 #include "settings/shell_settings.h"
+#include "shell/text_numbers.h"
 
 CLanguageChoice::CLanguageChoice(
     QList<LanguageEntry> entries, const QString &loadedModule, bool firstRun, const QString &userAbbreviation)

@@ -2,8 +2,8 @@
 #include "shell/language_modules.h"
 
 #include "resources/string_table.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "shell/text_numbers.h"
 
 #include <QDirIterator>
 #include <QFile>

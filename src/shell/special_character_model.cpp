@@ -2,9 +2,9 @@
 #include "shell/special_character_model.h"
 
 #include "platform/plain_text.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/special_characters.h"
+#include "shell/text_numbers.h"
 
 namespace {
 

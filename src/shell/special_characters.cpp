@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/special_characters.h"
 
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/shell_settings.h"
+#include "shell/text_numbers.h"
 
 #include <algorithm>
 #include <array>

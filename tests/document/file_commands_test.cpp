@@ -3,8 +3,8 @@
 #include "document/file_filters.h"
 #include "document/pending_work.h"
 #include "document/recent_files.h"
+#include "document/text_numbers.h"
 #include "platform/file_name.h"
-#include "resources/text_numbers.h"
 #include "settings/settings_store.h"
 #include "support/test_document.h"
 

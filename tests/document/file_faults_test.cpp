@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "document/recovery.h"
 #include "fileformats/word_list_file.h"
-#include "resources/text_numbers.h"
 #include "settings/app_settings.h"
 #include "settings/ini_store.h"
 #include "support/failing_calls.h"

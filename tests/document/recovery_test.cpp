@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/recovery.h"
+#include "document/text_numbers.h"
 #include "fileformats/word_list_file.h"
-#include "resources/text_numbers.h"
 #include "support/test_document.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "resources/text_numbers.h"
+#include "document/text_numbers.h"
 #include "support/test_document.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 #include "editor/entry_editing.h"
 #include "editor/row_model.h"
 #include "editor/text_box.h"
-#include "resources/text_numbers.h"
+#include "editor/text_numbers.h"
 #include "settings/shell_settings.h"
 #include "support/test_document.h"
 

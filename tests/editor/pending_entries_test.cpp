@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "editor/pending_entries.h"
-#include "resources/text_numbers.h"
+#include "editor/text_numbers.h"
 #include "settings/shell_settings.h"
 #include "support/test_document.h"
 

@@ -5,7 +5,6 @@
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
-#include "resources/text_numbers.h"
 #include "settings/shell_settings.h"
 #include "support/test_document.h"
 

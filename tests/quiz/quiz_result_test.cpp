@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/quiz_result.h"
 #include "quiz/quiz_session.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "settings/quiz_settings.h"
 #include "support/test_document.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/input_guard_filter.h"
+#include "quiz/text_numbers.h"
 #include "quiz/ui/quiz_result_dialog.h"
 #include "quiz/ui/standard_quiz.h"
-#include "resources/text_numbers.h"
 #include "support/test_quiz.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/command_line.h"
 #include "shell/commands.h"
+#include "shell/text_numbers.h"
 
 #include <QFile>
 #include <QTest>

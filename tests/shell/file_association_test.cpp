@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/file_association.h"
+#include "shell/text_numbers.h"
 #include "support/scripted_prompt.h"
 
 #include <QDir>

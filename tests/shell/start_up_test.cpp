@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "document/recent_files.h"
 #include "platform/data_folders.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/app_settings.h"
 #include "shell/help.h"
 #include "shell/language_choice.h"
 #include "shell/start_up.h"
+#include "shell/text_numbers.h"
 #include "shell/window_placement.h"
 #include "support/scripted_prompt.h"
 

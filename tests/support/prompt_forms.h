@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/text_numbers.h"
+#include "editor/text_numbers.h"
 #include "platform/user_prompt.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
+#include "settings/text_numbers.h"
+#include "shell/text_numbers.h"
 
 #include <QList>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/entry_fields.h"
 
+#include "editor/text_numbers.h"
 #include "editor/ui/long_line_edit.h"
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QGridLayout>

@@ -2,11 +2,11 @@
 #include "editor/ui/win32_view.h"
 
 #include "document/win32_doc.h"
+#include "editor/text_numbers.h"
 #include "editor/ui/entry_fields.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
 #include "platform/ui/elided_label.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
 

@@ -2,7 +2,7 @@
 #include "quiz/ui/accept_answer_bar.h"
 
 #include "platform/ui/elided_label.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QPushButton>

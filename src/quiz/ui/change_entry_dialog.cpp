@@ -3,7 +3,7 @@
 
 #include "platform/ui/elided_label.h"
 #include "platform/ui/label.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QComboBox>

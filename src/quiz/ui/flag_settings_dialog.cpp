@@ -5,7 +5,7 @@
 #include "platform/ui/number_field.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_result.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/quiz_settings.h"
 

@@ -7,9 +7,9 @@
 #include "platform/ui/label.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
+#include "quiz/text_numbers.h"
 #include "quiz/ui/change_entry_dialog.h"
 #include "quiz/ui/quiz_result_dialog.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QGridLayout>

@@ -5,11 +5,11 @@
 #include "platform/ui/label.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/quiz_session.h"
+#include "quiz/text_numbers.h"
 #include "quiz/ui/accept_answer_bar.h"
 #include "quiz/ui/difference_delegate.h"
 #include "quiz/ui/flag_settings_dialog.h"
 #include "quiz/ui/share_delegate.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QCheckBox>

@@ -5,7 +5,7 @@
 #include "platform/ui/number_field.h"
 #include "platform/ui/setting_controls.h"
 #include "quiz/quiz_settings_form.h"
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QCheckBox>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_settings_dialog.h"
 
+#include "quiz/text_numbers.h"
 #include "quiz/ui/quiz_settings1.h"
 #include "quiz/ui/quiz_settings2.h"
 #include "quiz/ui/quiz_settings3.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 CQuizSettingsDialog::CQuizSettingsDialog(const CQuizSettingsForm &form, QWidget *parent)

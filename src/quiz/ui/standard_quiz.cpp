@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/standard_quiz.h"
 
-#include "resources/text_numbers.h"
+#include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QLineEdit>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/word_by_word_dialog.h"
 
+#include "quiz/text_numbers.h"
 #include "quiz/ui/accept_answer_bar.h"
 #include "quiz/ui/question_area.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 
 #include <QPushButton>

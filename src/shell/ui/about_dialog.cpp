@@ -2,8 +2,8 @@
 #include "shell/ui/about_dialog.h"
 
 #include "platform/ui/label.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "shell/text_numbers.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

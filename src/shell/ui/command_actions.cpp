@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/command_actions.h"
 
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/commands.h"
+#include "shell/text_numbers.h"
 
 #include <QAction>
 #include <QActionGroup>

@@ -2,9 +2,9 @@
 #include "shell/ui/ordelin_app.h"
 
 #include "platform/data_folders.h"
-#include "resources/text_numbers.h"
 #include "shell/help.h"
 #include "shell/language_choice.h"
+#include "shell/text_numbers.h"
 #include "shell/ui/language_dialog.h"
 #include "shell/ui/main_frame.h"
 #include "shell/ui/special_character_keys.h"

@@ -4,9 +4,9 @@
 #include "document/file_commands.h"
 #include "document/recent_files.h"
 #include "platform/plain_text.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/commands.h"
+#include "shell/text_numbers.h"
 
 #include <QFileInfo>
 #include <QMenu>

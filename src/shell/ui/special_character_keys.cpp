@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/special_character_keys.h"
 
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
+#include "shell/text_numbers.h"
 #include "shell/ui/special_character_window.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/special_character_list.h"
 
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "shell/special_character_model.h"
+#include "shell/text_numbers.h"
 
 #include <QApplication>
 #include <QHeaderView>

@@ -4,11 +4,11 @@
 #include "platform/ui/elided_label.h"
 #include "platform/ui/label.h"
 #include "platform/ui/window_placing.h"
-#include "resources/text_numbers.h"
 #include "resources/texts.h"
 #include "settings/shell_settings.h"
 #include "shell/special_character_model.h"
 #include "shell/special_characters.h"
+#include "shell/text_numbers.h"
 #include "shell/ui/special_character_list.h"
 
 #include <QApplication>

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "resources/text_numbers.h"
+
+namespace Text {
+
+inline constexpr int ProposeCorrection = 61023;
+inline constexpr int Note = 61041;
+inline constexpr int ListSummary = 61106;
+inline constexpr int NumberColumn = 62609;
+inline constexpr int EntrySelected = 70001;
+inline constexpr int NewEntryRowSelected = 70002;
+inline constexpr int EntriesSelected = 70003;
+inline constexpr int NewEntry = 70004;
+inline constexpr int SelectSimilar = 70005;
+inline constexpr int ReallyDelete = 70006;
+inline constexpr int NothingPasted = 70007;
+inline constexpr int EntriesPasted = 70008;
+inline constexpr int LongText = 70090;
+inline constexpr int Flagged = 70150;
+inline constexpr int NotFlagged = 70151;
+inline constexpr int ViewList = 301000;
+inline constexpr int ViewAuthor = 301001;
+inline constexpr int ViewComments = 301002;
+inline constexpr int FieldLanguage1 = 301003;
+inline constexpr int FieldLanguage2 = 301004;
+inline constexpr int FieldNote = 301005;
+inline constexpr int ClearFieldsButton = 301006;
+inline constexpr int AddEntryButton = 301007;
+inline constexpr int ChangeEntryButton = 301008;
+inline constexpr int NewEntryRow = 301009;
+inline constexpr int CellEditor = 301010;
+
+}

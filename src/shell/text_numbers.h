@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "resources/text_numbers.h"
+
+namespace Text {
+
+inline constexpr int VersionKey = 1;
+inline constexpr int LanguageName = 2;
+inline constexpr int LanguageAbbreviation = 3;
+inline constexpr int ApplicationTitle = 57344;
+inline constexpr int HelpPath = 60003;
+inline constexpr int CannotOpenHelp = 60010;
+inline constexpr int FirstRun = 60011;
+inline constexpr int OneFileAtATime = 61024;
+inline constexpr int StandardToolBar = 61140;
+inline constexpr int GlossaryFileType = 63201;
+inline constexpr int ReallyAssociate = 63202;
+inline constexpr int Associated = 63204;
+inline constexpr int CannotAssociate = 63205;
+inline constexpr int LanguageFromNextStart = 63211;
+inline constexpr int RowForAdding = 63301;
+inline constexpr int CharacterSets = 63302;
+inline constexpr int ShortcutColumn = 63303;
+inline constexpr int CtrlKey = 63304;
+inline constexpr int DockingSides = 63401;
+inline constexpr int LanguageTitle = 63506;
+inline constexpr int LanguageQuestion = 63507;
+inline constexpr int LanguageChosen = 63508;
+inline constexpr int Ok = 63510;
+inline constexpr int InvalidLanguageFile = 63511;
+inline constexpr int CopiedToClipboard = 70036;
+inline constexpr int CopyFailed = 70054;
+inline constexpr int SettingsNotSaved = 70055;
+inline constexpr int QuizToolBar = 70060;
+inline constexpr int Usage = 70152;
+inline constexpr int UnknownSwitch = 70153;
+inline constexpr int OneFileOnly = 70154;
+inline constexpr int CommandLineHelp = 70155;
+inline constexpr int NoRecentFiles = 70162;
+inline constexpr int FileMenu = 99000;
+inline constexpr int EditMenu = 99001;
+inline constexpr int ArrangeMenu = 99002;
+inline constexpr int QuizMenu = 99003;
+inline constexpr int ViewMenu = 99004;
+inline constexpr int ToolsMenu = 99005;
+inline constexpr int HelpMenu = 99006;
+inline constexpr int CopySpecialMenu = 99010;
+inline constexpr int FlagsMenu = 99011;
+inline constexpr int SortMenu = 99012;
+inline constexpr int MoveMenu = 99013;
+inline constexpr int AboutTitle = 201000;
+inline constexpr int AboutName = 201001;
+inline constexpr int AboutPurpose = 201002;
+inline constexpr int AboutLicence = 201003;
+inline constexpr int LanguageList = 204001;
+inline constexpr int FrameMenuBar = 300001;
+inline constexpr int FrameMoreButtons = 300002;
+inline constexpr int FrameStatusBar = 300003;
+inline constexpr int SpecialCharactersTitle = 346000;
+inline constexpr int SpecialCharacterSet = 346001;
+inline constexpr int SpecialCharacterList = 346002;
+inline constexpr int SpecialCharacterDocking = 346003;
+inline constexpr int SpecialCharacter = 346004;
+inline constexpr int CharacterWithCode = 346005;
+inline constexpr int AddOwnCharacter = 346006;
+inline constexpr int OwnCharacterAdded = 346007;
+
+/// The caption of a command.
+inline constexpr int Caption(int commandId)
+{
+    return 100000 + commandId;
+}
+
+}
