@@ -50,14 +50,10 @@ void Print(const Row &row, int count, const Row &reference, double aim)
 qint64 WalkDuplicates(const CWordList &list, qint64 most)
 {
     const CDuplicateSearch search(list);
-    DuplicatePair first;
+    const auto first = search.FindNext();
     qint64 pairs = 0;
-    if (search.FindNext({}, first)) {
-        DuplicatePair pair = first;
-        do {
-            ++pairs;
-            search.FindNext({pair.language, pair.entry, pair.other + 1}, pair);
-        } while (pair != first && pairs < most);
+    for (auto pair = first; pair && pairs < most && (pairs == 0 || pair != first); ++pairs) {
+        pair = search.FindNext({pair->language, pair->entry, pair->other + 1});
     }
     return pairs;
 }
@@ -241,10 +237,8 @@ private:
         const Row reference = {
             "(e) count duplicates", Take([&] { g_sink = Reference::CountDuplicates(entries); })};
         Print(reference, m_count);
-        Print({"index of duplicates", Take([&] {
-                   DuplicatePair found;
-                   g_sink = int(CDuplicateSearch(m_list).FindNext({}, found));
-               })},
+        Print({"index of duplicates",
+                  Take([&] { g_sink = int(CDuplicateSearch(m_list).FindNext().has_value()); })},
             m_count, reference, 2);
         qint64 pairs = 0;
         // A list of this kind has pairs without end; as many as entries are visited.

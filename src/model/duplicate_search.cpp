@@ -90,19 +90,19 @@ int CDuplicateSearch::NextPartner(const Language &language, int entry, int other
     return partner;
 }
 
-bool CDuplicateSearch::FindNext(const DuplicatePair &from, DuplicatePair &found) const
+std::optional<DuplicatePair> CDuplicateSearch::FindNext(const DuplicatePair &from) const
 {
-    const auto search = [&](DuplicatePair at) {
+    const auto search = [&](DuplicatePair at) -> std::optional<DuplicatePair> {
         for (; at.language < CWordEntry::LanguageCount; at = {at.language + 1, 0, 0}) {
             for (; at.entry < m_count; at = {at.language, at.entry + 1, 0}) {
                 const int partner = NextPartner(m_languages[size_t(at.language)], at.entry, at.other);
                 if (partner >= 0) {
-                    found = {at.language, at.entry, partner};
-                    return true;
+                    return DuplicatePair{at.language, at.entry, partner};
                 }
             }
         }
-        return false;
+        return {};
     };
-    return search({std::max(from.language, 0), std::max(from.entry, 0), from.other}) || search({});
+    const auto found = search({std::max(from.language, 0), std::max(from.entry, 0), from.other});
+    return found ? found : search({});
 }

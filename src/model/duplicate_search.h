@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 class CWordList;
@@ -25,8 +26,8 @@ public:
     explicit CDuplicateSearch(const CWordList &list);
 
     /// The first pair at or after `from` in the order language, entry, other entry; after the last pair comes
-    /// the first again. Returns false when there is none at all. `from` need not be a pair.
-    bool FindNext(const DuplicatePair &from, DuplicatePair &found) const;
+    /// the first again. Nothing when there is none at all. `from` need not be a pair.
+    std::optional<DuplicatePair> FindNext(const DuplicatePair &from = {}) const;
 
     /// Calls `join(first, later)` with neighbouring entries of every group that shares an alternative.
     template<class Join>

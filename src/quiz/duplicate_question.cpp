@@ -14,8 +14,7 @@ bool mayStartQuiz(
     if (!settings.duplicateCheckBeforeQuiz || list.Count() >= settings.duplilcateCheckBeforeQuizMax) {
         return true;
     }
-    DuplicatePair found;
-    return !CDuplicateSearch(list).FindNext({}, found)
+    return !CDuplicateSearch(list).FindNext()
         || prompt.Confirm(texts.Prompt(Text::DuplicatesBeforeQuiz), PromptIcon::Question,
             PromptButtons::YesNoCancel, PromptAnswer::No);
 }
