@@ -14,8 +14,8 @@ SortOptions SortOptionsOf(const ArrangeSettings &settings)
         .byLength = settings.byLength};
 }
 
-CArranging::CArranging(IEditorView &view, CWin32Doc &document, const ArrangeSettings &settings, CRandom &random)
-    : m_view(view), m_document(document), m_settings(settings), m_random(random)
+CArranging::CArranging(IEditorView &view, CWin32Doc &document, ArrangeSettings &settings, CRandom &random)
+    : m_view(view), m_document(document), m_settings(settings), m_random(random), m_order(document)
 {
 }
 
@@ -24,8 +24,27 @@ void CArranging::Sort(int field)
     if (m_document.List().Count() < 2) {
         return;
     }
-    m_document.Change([&](CWordList &list) { list.Sort(field, SortOptionsOf(m_settings), m_random); });
+    const SortOptions options = SortOptionsOf(m_settings);
+    m_document.Change([&](CWordList &list) { list.Sort(field, options, m_random); });
+    if (field >= 0) {
+        m_order.Set({field, options});
+    }
     m_view.SelectRow(m_view.InsertionPoint(), false);
+}
+
+bool CArranging::SortOrTurn(int field)
+{
+    if (m_document.List().Count() < 2) {
+        return false;
+    }
+    const bool before = m_settings.descending;
+    const std::optional<CListOrder::Order> &order = m_order.Current();
+    if (order && order->field == field && order->options.groupFlagged == m_settings.groupFlagged
+        && order->options.byLength == m_settings.byLength) {
+        m_settings.descending = order->options.ascending;
+    }
+    Sort(field);
+    return m_settings.descending != before;
 }
 
 void CArranging::SetFlags(FlagMode mode)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/word_list.h"
+#include "editor/list_order.h"
 
 class CRandom;
 class CWin32Doc;
@@ -16,10 +16,14 @@ class CArranging
 {
 public:
     /// Nothing is owned.
-    CArranging(IEditorView &view, CWin32Doc &document, const ArrangeSettings &settings, CRandom &random);
+    CArranging(IEditorView &view, CWin32Doc &document, ArrangeSettings &settings, CRandom &random);
 
     /// By a field; a negative one shuffles. The new-entry row becomes the selection.
     void Sort(int field);
+    /// By a field; a list that stands in that order already is turned round, and the option of descending with
+    /// it. Returns whether that option is another now.
+    bool SortOrTurn(int field);
+    const CListOrder &Order() const { return m_order; }
     /// Of the selected entries, in the language of the cell cursor.
     void SetFlags(FlagMode mode);
     void ToggleFlag(int entry, int language);
@@ -27,6 +31,7 @@ public:
 private:
     IEditorView &m_view;
     CWin32Doc &m_document;
-    const ArrangeSettings &m_settings;
+    ArrangeSettings &m_settings;
     CRandom &m_random;
+    CListOrder m_order;
 };

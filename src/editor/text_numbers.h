@@ -30,6 +30,7 @@ inline constexpr int ClearFieldsButton = 301006;
 inline constexpr int AddEntryButton = 301007;
 inline constexpr int ChangeEntryButton = 301008;
 inline constexpr int NewEntryRow = 301009;
-inline constexpr int CellEditor = 301010;
+inline constexpr int SortedAscending = 301011;
+inline constexpr int SortedDescending = 301012;
 
 }

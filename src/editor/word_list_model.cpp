@@ -232,15 +232,28 @@ QVariant CWordListModel::headerData(int section, Qt::Orientation orientation, in
     if (role == Qt::TextAlignmentRole) {
         return int((headerField == NumberColumn ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
-    if (role != Qt::DisplayRole) {
-        return {};
+    if (role == Qt::AccessibleTextRole && headerField != NumberColumn && headerField == m_orderField) {
+        return m_texts.Fill(
+            m_ascending ? Text::SortedAscending : Text::SortedDescending, {Heading(headerField)});
     }
-    switch (headerField) {
+    return role == Qt::DisplayRole ? Heading(headerField) : QVariant();
+}
+
+QString CWordListModel::Heading(int field) const
+{
+    switch (field) {
     case NumberColumn:
         return m_texts.Get(Text::NumberColumn);
     case CWordEntry::NoteField:
         return m_texts.Get(Text::Note);
     default:
-        return ShownShort(m_list.GetLanguage(headerField).trimmed());
+        return ShownShort(m_list.GetLanguage(field).trimmed());
     }
+}
+
+void CWordListModel::SetOrder(int field, bool ascending)
+{
+    m_orderField = field;
+    m_ascending = ascending;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }

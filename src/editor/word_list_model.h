@@ -31,6 +31,10 @@ public:
 
     CRowModel &Rows() { return m_rows; }
     const CRowModel &Rows() const { return m_rows; }
+    /// The field by which the list is sorted just now, which its heading tells; -1 for none.
+    void SetOrder(int field, bool ascending);
+    int OrderField() const { return m_orderField; }
+    bool IsAscending() const { return m_ascending; }
     /// The field of an entry that a shown column holds, or NumberColumn.
     int FieldOf(int column) const;
     /// The shown column of a field, which may not be shown.
@@ -56,6 +60,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
+    QString Heading(int field) const;
     QVariant EntryData(int entry, int field, int role) const;
     QVariant NewEntryData(int field, int role) const;
     void InsertRows(const ListDifference &difference);
@@ -69,4 +74,6 @@ private:
     const EditorSettings &m_settings;
     const CTexts &m_texts;
     CRowModel m_rows;
+    int m_orderField = -1;
+    bool m_ascending = true;
 };

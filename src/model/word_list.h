@@ -151,6 +151,8 @@ public:
     // Order (word_list_sort.cpp)
     /// `key` is a text field; a negative one shuffles. Entries equal in all fields come in any order.
     void Sort(int key, const SortOptions &options, CRandom &random);
+    /// Whether the entries from `first` to `last` stand in the order that Sort() by a text field gives.
+    bool IsSorted(int key, const SortOptions &options, int first, int last) const;
 
     // Text search (word_list_search.cpp)
     /// The next matching entry after (`downward`) or before `start`, wrapping, `start` itself tried last; a

@@ -19,6 +19,48 @@ struct SortItem
 };
 using SortItems = std::span<SortItem>;
 
+/// What decides about the order of two entries: their rank, then their texts field by field.
+class CSortRule
+{
+public:
+    CSortRule(int key, const SortOptions &options)
+        : m_field(std::min(key, CWordEntry::NoteField)),
+          m_groups(options.groupFlagged && m_field != CWordEntry::NoteField), m_byLength(options.byLength)
+    {
+    }
+
+    bool Groups() const { return m_groups; }
+    /// The field that counts at a level, from 0.
+    int Field(int level) const
+    {
+        const int fields[CWordEntry::FieldCount] = {m_field, m_field == 0 ? 1 : 0, m_field == 2 ? 1 : 2};
+        return fields[level];
+    }
+    quint64 Rank(const CWordEntry &entry) const
+    {
+        const quint64 length = m_byLength ? quint64(entry.GetField(m_field).size()) : 0;
+        return (quint64(m_groups && !entry.GetFlag(m_field)) << 32) | length;
+    }
+    /// Below, equal to or above 0, as when both are sorted ascending.
+    int Compare(const CWordEntry &a, const CWordEntry &b) const
+    {
+        if (Rank(a) != Rank(b)) {
+            return Rank(a) < Rank(b) ? -1 : 1;
+        }
+        const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+        int compared = 0;
+        for (int level = 0; level < CWordEntry::FieldCount && compared == 0; ++level) {
+            compared = collator.Compare(a.GetField(Field(level)), b.GetField(Field(level)));
+        }
+        return compared;
+    }
+
+private:
+    int m_field;
+    bool m_groups;
+    bool m_byLength;
+};
+
 /// The first eight bytes of a sort key as a number that orders like them.
 quint64 Prefix(const char *key)
 {
@@ -102,9 +144,7 @@ void CWordList::SortByKey(int key, const SortOptions &options)
         return;
     }
     m_saved = false;
-    const int keyField = std::min(key, CWordEntry::NoteField);
-    const int fields[CWordEntry::FieldCount] = {keyField, keyField == 0 ? 1 : 0, keyField == 2 ? 1 : 2};
-    const bool grouped = options.groupFlagged && keyField != CWordEntry::NoteField;
+    const CSortRule rule(key, options);
 
     // Always sorted as for `ascending`; descending is the exact reverse of it.
     std::vector<SortItem> items;
@@ -115,18 +155,15 @@ void CWordList::SortByKey(int key, const SortOptions &options)
         entries.push_back(&entry);
         SortItem &item = items[size_t(index)];
         item.index = index;
-        item.rank = quint64(grouped && !entry.GetFlag(keyField)) << 32;
-        if (options.byLength) {
-            item.rank |= quint64(entry.GetField(keyField).size());
-        }
+        item.rank = rule.Rank(entry);
     });
     const auto textOf = [&](int level, int index) {
-        return QStringView(entries[size_t(index)]->GetField(fields[level]));
+        return QStringView(entries[size_t(index)]->GetField(rule.Field(level)));
     };
     const auto sameRank = [](const SortItem &a, const SortItem &b) { return a.rank == b.rank; };
     if (options.byLength) {
         std::ranges::sort(items, {}, &SortItem::rank);
-    } else if (grouped) {
+    } else if (rule.Groups()) {
         std::partition(items.begin(), items.end(), [](const SortItem &item) { return item.rank == 0; });
     }
     ForEachTie(items, sameRank, [&](SortItems tie) { SortByTexts(tie, textOf, 0, CWordEntry::FieldCount); });
@@ -140,4 +177,16 @@ void CWordList::SortByKey(int key, const SortOptions &options)
         order.push_back(item.index);
     }
     m_entries.Reorder(order);
+}
+
+bool CWordList::IsSorted(int key, const SortOptions &options, int first, int last) const
+{
+    const CSortRule rule(key, options);
+    for (int index = std::max(first, 0) + 1; index <= std::min(last, Count() - 1); ++index) {
+        const int compared = rule.Compare(Entry(index - 1), Entry(index));
+        if (options.ascending ? compared > 0 : compared < 0) {
+            return false;
+        }
+    }
+    return true;
 }

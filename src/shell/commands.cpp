@@ -50,9 +50,7 @@ const QList<CommandMenu> &CommandMenus()
             {Undo, Redo, Separator, Cut, Copy, Text::CopySpecialMenu, Paste, Delete, SelectAll, Separator,
                 Text::FlagsMenu, Separator, InsertSynonym, InsertComment, PlaceInsertionPoint, Separator,
                 Previous, Next, Separator, Find, FindNext}},
-        {Text::ArrangeMenu,
-            {Text::SortMenu, Separator, Descending, GroupFlagged, SortByLength, Shuffle, Separator,
-                Text::MoveMenu, Separator, MoveLeft, MoveRight}},
+        {Text::ArrangeMenu, {Text::SortMenu, Shuffle, Separator, Text::MoveMenu}},
         {Text::QuizMenu,
             {StandardQuiz, StandardQuiz + 1, StandardQuiz + 2, StandardQuiz + 3, StandardQuiz + 4,
                 StandardQuiz + 5, StandardQuiz + 6, StandardQuiz + 7, LastQuiz, Separator, FromLanguage1,
@@ -73,8 +71,9 @@ const QList<CommandMenu> &CommandSubmenus()
     static const QList<CommandMenu> menus = {
         {Text::CopySpecialMenu, {CopyLanguage1, CopyLanguage2, CopyNotes}},
         {Text::FlagsMenu, {SetFlag, ClearFlag, InvertFlag}},
-        {Text::SortMenu, {SortByLanguage1, SortByLanguage2, SortByNote}},
-        {Text::MoveMenu, {MoveUp, MoveDown, MoveColumnUp, MoveColumnDown}},
+        {Text::SortMenu,
+            {SortByLanguage1, SortByLanguage2, SortByNote, Separator, Descending, GroupFlagged, SortByLength}},
+        {Text::MoveMenu, {MoveUp, MoveDown, MoveColumnUp, MoveColumnDown, Separator, MoveLeft, MoveRight}},
     };
     return menus;
 }

@@ -33,6 +33,7 @@ class ArrangingTest : public QObject
 
 private Q_SLOTS:
     void sorting();
+    void turningTheOrder();
     void flags();
     void steps();
 };
@@ -52,6 +53,49 @@ void ArrangingTest::sorting()
     run.settings.descending = true;
     run.arranging.Sort(1);
     QCOMPARE(run.Entries(), QStringLiteral("c|3 a|2 b|1"));
+}
+
+void ArrangingTest::turningTheOrder()
+{
+    Editor run(List("b|1 c|3 a|2"));
+    const auto order = [&] {
+        const auto &current = run.arranging.Order().Current();
+        return !current ? 0 : current->options.ascending ? current->field + 1 : -current->field - 1;
+    };
+    const auto change = [&](const std::function<void(CWordList &)> &made) { run.test.document.Change(made); };
+    QCOMPARE(order(), 0);
+    QVERIFY(!run.arranging.SortOrTurn(0)); // By the option as it is.
+    QCOMPARE(run.Entries(), QStringLiteral("c|3 b|1 a|2"));
+    QCOMPARE(order(), -1);
+    QVERIFY(run.arranging.SortOrTurn(0));
+    QCOMPARE(run.Entries(), QStringLiteral("a|2 b|1 c|3"));
+    QVERIFY(!run.settings.descending);
+    QCOMPARE(order(), 1);
+    QVERIFY(!run.arranging.SortOrTurn(1)); // Another field keeps the option.
+    QCOMPARE(order(), 2);
+    run.settings.descending = true;
+    QVERIFY(!run.arranging.SortOrTurn(1)); // The menu says it already.
+    QCOMPARE(run.Entries(), QStringLiteral("c|3 a|2 b|1"));
+
+    // What leaves each entry in its place keeps the order.
+    change([](CWordList &list) { list.SetEntryField(QStringLiteral("x"), 0, 0, false); });
+    change([](CWordList &list) { list.DeleteEntries(std::array{1}); });
+    change([](CWordList &list) { list.SetAuthor(QStringLiteral("x")); });
+    QCOMPARE(order(), -2);
+    change([](CWordList &list) { list.SetFlags(1, std::array{0}, FlagMode::Set); });
+    QCOMPARE(order(), 0); // Flagged entries would come last.
+    run.test.document.Undo();
+    QVERIFY(!run.arranging.SortOrTurn(1));
+    change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("d|2")), {.position = 1}); });
+    QCOMPARE(order(), -2);
+    change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("d|2"))); });
+    QCOMPARE(order(), 0);
+    run.settings.byLength = true;
+    QVERIFY(!run.arranging.SortOrTurn(1));
+    run.settings.byLength = false;
+    QVERIFY(!run.arranging.SortOrTurn(1)); // Other options are another order.
+    run.test.document.OnNewDocument();
+    QCOMPARE(order(), 0);
 }
 
 void ArrangingTest::flags()

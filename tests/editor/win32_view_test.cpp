@@ -32,11 +32,13 @@ struct View
         QApplication::setActiveWindow(&window);
         List()->setFocus();
         QObject::connect(
-            &view, &CWin32View::SortRequested, &view, [this](int field) { arranging.Sort(field); });
+            &view, &CWin32View::SortRequested, &view, [this](int field) { arranging.SortOrTurn(field); });
         QObject::connect(
             &view, &CWin32View::InvertFlagsRequested, &view, [this] { arranging.SetFlags(FlagMode::Toggle); });
-        QObject::connect(&view, &CWin32View::FlagClicked, &view,
-            [this](int entry, int language) { arranging.ToggleFlag(entry, language); });
+        QObject::connect(&view, &CWin32View::FlagClicked, &view, [this](const QPersistentModelIndex &cell) {
+            const auto flag = view.FlagOf(cell);
+            arranging.ToggleFlag(flag->first, flag->second);
+        });
     }
     void Flip(bool EditorSettings::*setting)
     {
@@ -103,6 +105,7 @@ private Q_SLOTS:
     void keysOfTheList();
     void typeToFind();
     void clicks();
+    void columnWidths();
     void selectionAndInsertionPoint();
     void deletingAroundTheInsertionPoint_data();
     void deletingAroundTheInsertionPoint();
@@ -283,6 +286,31 @@ void Win32ViewTest::clicks()
     QCOMPARE(run.Entries().first(), QStringLiteral("a3|b3"));
     QTest::mouseClick(run.List()->horizontalHeader()->viewport(), Qt::LeftButton, {}, {4, 8});
     QCOMPARE(run.test.document.UndoCount(), 2);
+}
+
+void Win32ViewTest::columnWidths()
+{
+    View run(Numbered(4));
+    CWordListControl &list = *run.List();
+    QHeaderView &header = *list.horizontalHeader();
+    // Dragged by the mouse, as far as a scroll bar is needed.
+    const QPoint edge(list.columnViewportPosition(1) + list.columnWidth(1) - 1, 8);
+    const int narrow = list.columnWidth(2);
+    const int wide = list.columnWidth(1) + 400;
+    QTest::mousePress(header.viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(header.viewport(), edge + QPoint(200, 0));
+    QTest::mouseMove(header.viewport(), edge + QPoint(400, 0));
+    QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, edge + QPoint(400, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(list.columnWidth(1), wide);
+    QCOMPARE(list.columnWidth(2), narrow);
+    QVERIFY(list.horizontalScrollBar()->maximum() > 0);
+    run.window.resize(1400, 500);
+    QCoreApplication::processEvents();
+    QCOMPARE(list.columnWidth(1), wide);
+    QVERIFY(list.columnWidth(2) > narrow);
+    run.Flip(&EditorSettings::showNotes); // Other columns are laid out anew.
+    QVERIFY(std::abs(list.columnWidth(1) - list.columnWidth(2)) <= 16);
 }
 
 void Win32ViewTest::selectionAndInsertionPoint()

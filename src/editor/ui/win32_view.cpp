@@ -83,12 +83,7 @@ void CWin32View::ConnectList()
     connect(m_list, &CWordListControl::CursorMoved, this, &CWin32View::SelectionChanged);
     connect(m_list, &CWordListControl::Typed, this, &CWin32View::TypedChanged);
     connect(m_list, &CWordListControl::CellEdited, this, &CWin32View::CellEdited);
-    connect(m_list, &CWordListControl::FlagClicked, this, [this](int row, int language) {
-        EndEditing(true);
-        if (const int entry = m_model->Rows().EntryOfRow(row); entry >= 0) {
-            Q_EMIT FlagClicked(entry, language);
-        }
-    });
+    connect(m_list, &CWordListControl::FlagClicked, this, &CWin32View::FlagClicked);
     connect(m_list, &CWordListControl::FlagKeyPressed, this, &CWin32View::InvertFlagsRequested);
     connect(m_list, &CWordListControl::CellDoubleClicked, this, &CWin32View::CellDoubleClicked);
     connect(m_list, &CWordListControl::SearchTyped, this, &CWin32View::SearchTyped);
@@ -96,7 +91,6 @@ void CWin32View::ConnectList()
     connect(m_list, &CWordListControl::HeaderMenuRequested, this, &CWin32View::ColumnMenuRequested);
     connect(m_list, &CWordListControl::HeaderClicked, this, [this](int field) {
         if (field >= 0) { // The numbers are the order itself.
-            EndEditing(true);
             Q_EMIT SortRequested(field);
         }
     });

@@ -7,9 +7,11 @@
 #include "editor/pending_entries.h"
 #include "editor/row_model.h"
 
+#include <QPersistentModelIndex>
 #include <QWidget>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 class CElidedLabel;
@@ -59,8 +61,13 @@ public:
     void SelectEntryRange(int first, int last) override;
     void SelectAll();
 
+    /// The entry and the language of a cell with a flag; none when the cell is gone.
+    std::optional<std::pair<int, int>> FlagOf(const QModelIndex &cell) const;
+
     void SetInsertionPoint(int row) override;
     int InsertionPoint() const override;
+    /// The heading of the field has an arrow; -1 for none.
+    void ShowOrder(int field, bool ascending);
 
     /// Shows everything anew, after columns came or went; the selected rows stay selected.
     void RefreshAll();
@@ -83,10 +90,10 @@ Q_SIGNALS:
     void SelectionChanged();
     /// What is typed and no entry yet is another.
     void TypedChanged();
-    /// The heading of a field was clicked.
+    /// The heading of a field was clicked. An edit is left open, here and for a flag: the command ends it.
     void SortRequested(int field);
-    /// The flag of an entry in a language was clicked.
-    void FlagClicked(int entry, int language);
+    /// A flag was clicked; FlagOf() says whose.
+    void FlagClicked(const QPersistentModelIndex &cell);
     /// The flags of the selected entries are to be turned round.
     void InvertFlagsRequested();
     /// Menus for the selected rows and for the columns, at places on the screen.

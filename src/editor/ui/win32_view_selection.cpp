@@ -172,3 +172,14 @@ void CWin32View::SetInsertionPoint(int row)
     m_model->SetInsertionPoint(row);
     ReadSelection();
 }
+
+std::optional<std::pair<int, int>> CWin32View::FlagOf(const QModelIndex &cell) const
+{
+    const int entry = cell.isValid() ? m_model->Rows().EntryOfRow(cell.row()) : CRowModel::NoEntry;
+    return entry < 0 ? std::nullopt : std::optional(std::pair(entry, m_model->FieldOf(cell.column())));
+}
+
+void CWin32View::ShowOrder(int field, bool ascending)
+{
+    m_model->SetOrder(field, ascending);
+}

@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QEvent>
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -34,8 +35,15 @@ CWordListControl::CWordListControl(QWidget *parent)
     horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
         [this](const QPoint &place) { Q_EMIT HeaderMenuRequested(horizontalHeader()->mapToGlobal(place)); });
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
-        [this](int column) { Q_EMIT HeaderClicked(m_model->FieldOf(column)); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        Q_EMIT HeaderClicked(m_model->FieldOf(column));
+        ShowOrder(); // A click moves the toolkit's arrow.
+    });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (!m_layingOut) {
+            m_userColumns.insert(column);
+        }
+    });
     // The program's own scrolling doesn't come this way.
     for (const QScrollBar *const bar : {verticalScrollBar(), horizontalScrollBar()}) {
         connect(bar, &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
@@ -50,6 +58,8 @@ void CWordListControl::SetListModel(CWordListModel *model)
     const auto forget = [this] { m_ranges.reset(); };
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, forget);
     connect(model, &QAbstractItemModel::modelReset, this, forget);
+    connect(model, &QAbstractItemModel::modelReset, this, &CWordListControl::ShowOrder);
+    connect(model, &QAbstractItemModel::headerDataChanged, this, &CWordListControl::ShowOrder);
     connect(model, &QAbstractItemModel::rowsInserted, this, forget);
     connect(model, &QAbstractItemModel::rowsRemoved, this, forget);
 }
@@ -70,7 +80,10 @@ void CWordListControl::changeEvent(QEvent *event)
 void CWordListControl::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
-    LayoutColumns();
+    // Not for a scroll bar that comes or goes.
+    if (width() != m_laidOutWidth) {
+        LayoutColumns();
+    }
 }
 
 QRegion CWordListControl::visualRegionForSelection(const QItemSelection &selection) const
@@ -96,26 +109,36 @@ void CWordListControl::LayoutColumns()
     if (columns == 0) {
         return;
     }
+    const QScopedValueRollback layingOut(m_layingOut, true);
     m_laidOutColumns = columns;
+    m_laidOutWidth = width();
     constexpr int Margin = 10;
     constexpr int FirstMore = 16; // The first language has the marks of the new-entry row beside its words.
     int available = width() - verticalScrollBar()->sizeHint().width() - Margin;
-    int first = 0;
     if (m_model->FieldOf(0) == CWordListModel::NumberColumn) {
-        const int number = NumberColumnWidth();
-        setColumnWidth(0, number);
-        available -= number;
-        first = 1;
+        const int wanted = NumberColumnWidth();
+        setColumnWidth(0, m_userColumns.contains(0) ? std::max(wanted, columnWidth(0)) : wanted);
+        available -= columnWidth(0);
     }
-    const int share = (available - FirstMore) / (columns - first);
-    for (int column = first; column < columns; ++column) {
-        setColumnWidth(column, column == first ? share + FirstMore : share);
+    std::vector<int> sharing;
+    for (int column = m_model->ColumnOf(0); column < columns; ++column) {
+        if (m_userColumns.contains(column)) {
+            available -= columnWidth(column);
+        } else {
+            sharing.push_back(column);
+        }
+    }
+    const int least = fontMetrics().averageCharWidth() * 10;
+    for (const int column : sharing) {
+        const int share = (available - FirstMore) / int(sharing.size());
+        setColumnWidth(column, std::max(column == sharing.front() ? share + FirstMore : share, least));
     }
 }
 
 void CWordListControl::LayoutChangedColumns()
 {
     if (m_model->columnCount() != m_laidOutColumns) {
+        m_userColumns.clear();
         LayoutColumns();
     } else {
         WidenNumberColumn();
@@ -125,7 +148,19 @@ void CWordListControl::LayoutChangedColumns()
 void CWordListControl::WidenNumberColumn()
 {
     if (m_model->FieldOf(0) == CWordListModel::NumberColumn && NumberColumnWidth() > columnWidth(0)) {
+        const QScopedValueRollback layingOut(m_layingOut, true);
         setColumnWidth(0, NumberColumnWidth());
+    }
+}
+
+void CWordListControl::ShowOrder()
+{
+    const int column = m_model->OrderField() < 0 ? -1 : m_model->ColumnOf(m_model->OrderField());
+    const bool shown = column >= 0 && column < m_model->columnCount();
+    horizontalHeader()->setSortIndicatorShown(shown);
+    if (shown) {
+        horizontalHeader()->setSortIndicator(
+            column, m_model->IsAscending() ? Qt::AscendingOrder : Qt::DescendingOrder);
     }
 }
 

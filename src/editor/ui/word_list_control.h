@@ -3,10 +3,12 @@
 
 #include <QElapsedTimer>
 #include <QItemSelectionModel>
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -27,7 +29,8 @@ struct CellEdit
 };
 
 /// The table of the word list: whole rows are selected, the current column is the cell cursor, rows have one
-/// height, columns share the width. Says what the user does; what follows is the view's.
+/// height, columns share the width that the user's own widths leave. Says what the user does; what follows is
+/// the view's.
 class CWordListControl : public QTableView
 {
     Q_OBJECT
@@ -38,9 +41,8 @@ public:
     void SetListModel(CWordListModel *model);
     /// Asked at each key: whether typing starts editing.
     void SetQuickEdit(std::function<bool()> quickEdit) { m_quickEdit = std::move(quickEdit); }
-    /// Gives the columns their widths: the number column fits its numbers, the others share what is left.
-    void LayoutColumns();
-    /// The same when there are other columns than before; else widths that the user gave them stay.
+    /// Gives the columns their widths when there are other columns than before: the number column fits its
+    /// numbers, the others share what is left. Later ones by the user stay.
     void LayoutChangedColumns();
     /// Makes the number column wide enough for its numbers.
     void WidenNumberColumn();
@@ -84,7 +86,7 @@ Q_SIGNALS:
     void CellEdited(const CellEdit &edit);
     /// The text of the cell that is being edited is another.
     void Typed();
-    void FlagClicked(int row, int language);
+    void FlagClicked(const QPersistentModelIndex &cell);
     void FlagKeyPressed();
     void CellDoubleClicked(int row, int field, bool shift);
     void HeaderClicked(int field);
@@ -116,11 +118,14 @@ protected:
 
 private:
     void LayoutRows();
+    void LayoutColumns();
+    /// The heading of the column by which the list is sorted has an arrow.
+    void ShowOrder();
     /// Moves the cell cursor without the scrolling that follows its keys.
     void PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select);
     int NumberColumnWidth() const;
-    /// The entry whose flag is drawn at a place, as row and language.
-    std::optional<std::pair<int, int>> FlagAt(const QPoint &place) const;
+    /// The cell whose flag is drawn at a place; none where there is no flag.
+    QModelIndex FlagAt(const QPoint &place) const;
     void MoveCursorField(int step);
     void ScrollToCursorField();
     QItemSelectionModel::SelectionFlags SelectionForEdit(int row) const;
@@ -131,8 +136,12 @@ private:
     std::function<bool()> m_quickEdit;
     int m_hotRow = -1;
     int m_laidOutColumns = 0;
+    int m_laidOutWidth = 0;
+    bool m_layingOut = false;
+    std::set<int> m_userColumns; // Those that the user gave a width.
     mutable std::optional<std::vector<std::pair<int, int>>> m_ranges; // Until the selection changes.
-    std::optional<std::pair<int, int>> m_pressedFlag;
+    QPersistentModelIndex m_pressedFlag;
+    QPoint m_pressedCell; // Where it stood; the list may have moved until the button is released.
     std::optional<CellEdit> m_ended;
     QString m_typed;
     QElapsedTimer m_sinceTyped;

@@ -134,38 +134,42 @@ void CWordListControl::currentChanged(const QModelIndex &current, const QModelIn
     Q_EMIT CursorMoved();
 }
 
-std::optional<std::pair<int, int>> CWordListControl::FlagAt(const QPoint &place) const
+QModelIndex CWordListControl::FlagAt(const QPoint &place) const
 {
     const QModelIndex index = indexAt(place);
     const QVariant mark = index.data(CWordListModel::MarkRole);
-    if (!mark.isValid() || mark.toInt() == CWordListModel::NewRow
-        || !CWordListDelegate::MarkArea(visualRect(index), fontMetrics()).contains(place)) {
-        return {};
-    }
-    return std::pair(index.row(), m_model->FieldOf(index.column()));
+    const bool isFlag = mark.isValid() && mark.toInt() != CWordListModel::NewRow
+        && CWordListDelegate::MarkArea(visualRect(index), fontMetrics()).contains(place);
+    return isFlag ? index : QModelIndex();
 }
 
 void CWordListControl::mousePressEvent(QMouseEvent *event)
 {
-    m_pressedFlag = event->button() == Qt::LeftButton ? FlagAt(event->pos()) : std::nullopt;
+    m_pressedFlag = event->button() == Qt::LeftButton ? FlagAt(event->pos()) : QModelIndex();
+    m_pressedCell = visualRect(m_pressedFlag).topLeft();
     QTableView::mousePressEvent(event);
 }
 
 void CWordListControl::mouseReleaseEvent(QMouseEvent *event)
 {
     QTableView::mouseReleaseEvent(event);
-    const auto pressed = std::exchange(m_pressedFlag, std::nullopt);
-    if (pressed && pressed == FlagAt(event->pos())) {
-        Q_EMIT FlagClicked(pressed->first, pressed->second);
+    const QPersistentModelIndex pressed = std::exchange(m_pressedFlag, {});
+    const QModelIndex released = FlagAt(event->pos());
+    // The entry that was pressed, also when the end of an edit moved its row in between.
+    if (pressed.isValid() && released.isValid() && visualRect(released).topLeft() == m_pressedCell) {
+        Q_EMIT FlagClicked(pressed);
     }
 }
 
 void CWordListControl::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->pos());
-    if (const auto flag = FlagAt(event->pos()); flag && event->button() == Qt::LeftButton) {
-        Q_EMIT FlagClicked(flag->first, flag->second); // Two quick clicks on a flag are two clicks.
-    } else if (event->button() == Qt::LeftButton && index.isValid()) {
+    if (event->button() != Qt::LeftButton || !index.isValid()) {
+        return;
+    }
+    if (FlagAt(event->pos()).isValid()) {
+        Q_EMIT FlagClicked(index); // Two quick clicks on a flag are two clicks.
+    } else {
         Q_EMIT CellDoubleClicked(
             index.row(), m_model->FieldOf(index.column()), event->modifiers().testFlag(Qt::ShiftModifier));
     }

@@ -21,7 +21,18 @@ CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, C
     for (const int command : {Shuffle, SortByLanguage1, SortByLanguage2, SortByNote}) {
         actions.SetHandler(command, [sort, command] { sort(command - SortByLanguage1); });
     }
-    connect(&view, &CWin32View::SortRequested, this, sort);
+    connect(&view, &CWin32View::SortRequested, this, [&actions, &arranging, &settingsChanges](int field) {
+        actions.Run(SortByLanguage1 + field, [&arranging, &settingsChanges, field] {
+            const CWaitCursor wait;
+            if (arranging.SortOrTurn(field)) {
+                settingsChanges.Tell(SettingsSection::Arrange);
+            }
+        });
+    });
+    connect(&arranging.Order(), &CListOrder::Changed, &view, [&arranging, &view] {
+        const auto &order = arranging.Order().Current();
+        view.ShowOrder(order ? order->field : -1, order && order->options.ascending);
+    });
     for (const auto &[command, option] : {std::pair(Descending, &ArrangeSettings::descending),
              {GroupFlagged, &ArrangeSettings::groupFlagged}, {SortByLength, &ArrangeSettings::byLength}}) {
         bool &value = settings.*option;

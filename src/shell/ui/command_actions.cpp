@@ -82,11 +82,20 @@ void CCommandActions::SetHandler(int id, std::function<void()> handler, const st
     if (isChecked) {
         m_checks.insert(id, isChecked);
     }
-    connect(Action(id), &QAction::triggered, this, [this, id, handler = std::move(handler)] {
-        m_prepare(CommandOf(id));
-        handler();
-        Q_EMIT CommandDone();
-    });
+    connect(
+        Action(id), &QAction::triggered, this, [this, id, handler = std::move(handler)] { Run(id, handler); });
+}
+
+void CCommandActions::Choose(int id)
+{
+    Action(id)->trigger();
+}
+
+void CCommandActions::Run(int id, const std::function<void()> &handler)
+{
+    m_prepare(CommandOf(id));
+    handler();
+    Q_EMIT CommandDone();
 }
 
 void CCommandActions::Update(const CommandState &state)

@@ -28,6 +28,10 @@ public:
     void SetPreparation(std::function<void(const Command &command)> prepare) { m_prepare = std::move(prepare); }
     /// Who owns a command sets its handler and, where it has a mark, what is asked for it.
     void SetHandler(int id, std::function<void()> handler, const std::function<bool()> &isChecked = {});
+    /// Carries out a command that can be chosen, as from its menu.
+    void Choose(int id);
+    /// Carries out a command in another way than by its handler, with what is right before and after it.
+    void Run(int id, const std::function<void()> &handler);
     /// Refreshes what can be chosen, and the marks.
     void Update(const CommandState &state);
     /// Puts the names of the list's languages into the captions.

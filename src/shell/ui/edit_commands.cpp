@@ -142,8 +142,12 @@ void CEditCommands::ConnectList()
             m_arranging.SetFlags(flagMode);
         });
     }
-    connect(
-        &m_view, &CWin32View::InvertFlagsRequested, this, [this] { m_arranging.SetFlags(FlagMode::Toggle); });
-    connect(&m_view, &CWin32View::FlagClicked, this,
-        [this](int entry, int language) { m_arranging.ToggleFlag(entry, language); });
+    connect(&m_view, &CWin32View::InvertFlagsRequested, this, [this] { m_actions.Choose(InvertFlag); });
+    connect(&m_view, &CWin32View::FlagClicked, this, [this](const QPersistentModelIndex &cell) {
+        m_actions.Run(InvertFlag, [this, cell] {
+            if (const auto flag = m_view.FlagOf(cell)) {
+                m_arranging.ToggleFlag(flag->first, flag->second);
+            }
+        });
+    });
 }

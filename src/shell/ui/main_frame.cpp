@@ -17,6 +17,7 @@
 #include "shell/ui/arrange_commands.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/command_menus.h"
+#include "shell/ui/command_refresh.h"
 #include "shell/ui/edit_commands.h"
 #include "shell/ui/file_menu_commands.h"
 #include "shell/ui/help_commands.h"
@@ -88,15 +89,12 @@ CMainFrame::CMainFrame(const FrameServices &services)
     statusBar()->addWidget(m_statusText, 1);
 
     connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::setText);
-    connect(&services.document, &CWin32Doc::Changed, this, &CMainFrame::UpdateCommands);
     connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::ShowTitle);
     connect(&services.settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
         if (section == SettingsSection::Misc) {
             UseFonts();
         }
-        UpdateCommands();
     });
-    connect(m_editCommands, &CEditCommands::StateChanged, this, &CMainFrame::UpdateCommands);
     connect(m_view, &CWin32View::RowMenuRequested, this,
         [this](const QPoint &place) { ShowMenu(RowMenuCommands(), place); });
     connect(m_view, &CWin32View::ColumnMenuRequested, this,
@@ -110,7 +108,6 @@ CMainFrame::CMainFrame(const FrameServices &services)
     setAcceptDrops(true);
     m_view->setFocus();
     ShowTitle();
-    UpdateCommands();
 }
 
 void CMainFrame::UseFonts()
@@ -137,7 +134,6 @@ void CMainFrame::ShowAsBefore()
     }
     m_place.Show();
     m_services.specialCharacters.DockBeside(*this);
-    UpdateCommands();
 }
 
 void CMainFrame::FinishQuietly()
@@ -164,7 +160,6 @@ void CMainFrame::MakeMenus()
         QMenu *const shown = AddNamedMenu(*menuBar(), texts.Get(menu.title));
         FillMenu(*shown, menu.commands, *m_actions, texts);
         connect(shown, &QMenu::aboutToShow, m_actions, &CCommandActions::LoadIcons);
-        connect(shown, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommands);
         const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
         if (recent >= 0) {
             // The list's place is in front of the separator that follows it.
@@ -190,7 +185,6 @@ QToolBar *CMainFrame::MakeToolBar(const QString &title, const char *name, const 
     if (auto *const more = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
         more->setAccessibleName(m_services.texts.Get(Text::FrameMoreButtons));
     }
-    connect(bar, &QToolBar::visibilityChanged, this, &CMainFrame::UpdateCommands);
     return bar;
 }
 
@@ -205,10 +199,10 @@ void CMainFrame::ConnectCommands()
         this);
     new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
-    connect(m_actions, &CCommandActions::CommandDone, this, &CMainFrame::UpdateCommands);
-    connect(
-        &m_services.specialCharacters, &CSpecialCharacterKeys::OpenChanged, this, &CMainFrame::UpdateCommands);
     m_actions->SetHandler(CommandId::QuizSettings, [this] { OpenQuizSettings(); });
+    new CCommandRefresh({*m_actions, *m_editCommands, m_services.document, m_services.settingsChanges,
+                            m_services.specialCharacters, *this},
+        this);
 }
 
 void CMainFrame::PrepareCommand(const Command &command)
@@ -241,16 +235,8 @@ void CMainFrame::ShowTitle()
         Isolated(m_services.document.Title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
-void CMainFrame::UpdateCommands()
-{
-    const CWordList &list = m_services.document.List();
-    m_actions->Update(m_editCommands->State());
-    m_actions->UpdateCaptions(list.GetLanguage(0), list.GetLanguage(1));
-}
-
 void CMainFrame::ShowMenu(const QList<int> &commands, const QPoint &place)
 {
-    UpdateCommands();
     m_actions->LoadIcons();
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);

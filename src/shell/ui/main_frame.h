@@ -99,7 +99,6 @@ private:
     void UseFonts();
     void OpenQuizSettings();
     void ShowTitle();
-    void UpdateCommands();
     /// A menu of the commands that a list names.
     void ShowMenu(const QList<int> &commands, const QPoint &place);
     void OpenDropped(const QStringList &paths);
