@@ -5,6 +5,7 @@
 #include "fileformats/word_list_file.h"
 #include "platform/file_name.h"
 #include "platform/local_formats.h"
+#include "platform/plain_text.h"
 #include "platform/user_prompt.h"
 #include "resources/texts.h"
 #include "settings/editor_settings.h"
@@ -16,14 +17,6 @@
 #include <algorithm>
 
 namespace {
-
-/// The text on one line: a line break in a property would break the layout of the file.
-QString OneLine(QString text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](QChar unit) { return unit < u' ' || unit == u'\x7F'; }, QChar(u' '));
-    return text;
-}
 
 /// What the user is told of a file that was not read as a list of this version.
 int MessageOf(ReadResult result)

@@ -4,6 +4,7 @@
 #include "fileformats/text_file_reader.h"
 #include "fileformats/word_list_file.h"
 #include "model/word_list.h"
+#include "platform/plain_text.h"
 #include "platform/safe_file.h"
 
 namespace {
@@ -24,15 +25,6 @@ const GlossaryVersion &SmallestVersion(const CWordList &list)
         return Glossary::Version23;
     }
     return list.AnyNote() ? Glossary::Version23Mini : Glossary::Version23Micro;
-}
-
-/// A line break inside a header text would shift every line behind it; each becomes one blank.
-QString OneLine(QString text)
-{
-    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
-    text.replace(u'\r', u' ');
-    text.replace(u'\n', u' ');
-    return text;
 }
 
 /// The content of a file, which is made line by line.

@@ -36,6 +36,14 @@ QString ShownShort(const QString &text, qsizetype longest)
     return text.left(StartLength(text, longest - 1)) + u'…';
 }
 
+QString OneLine(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    text.replace(u'\r', u' ');
+    text.replace(u'\n', u' ');
+    return text;
+}
+
 QString ShownInCaption(const QString &text)
 {
     constexpr qsizetype Longest = 40;

@@ -19,6 +19,9 @@ inline qsizetype StartLength(const QString &text, qsizetype length)
 /// far longer than anything that can be shown.
 QString ShownShort(const QString &text, qsizetype longest = MaxShownLength);
 
+/// `text` with a blank for each line break: one in a header of a file would shift every line behind it.
+QString OneLine(QString text);
+
 /// `text` for a part of a caption: short and on one line, and an ampersand in it marks no key.
 QString ShownInCaption(const QString &text);
 

@@ -5,7 +5,6 @@
 #include "platform/letters.h"
 #include "quiz/text_numbers.h"
 #include "resources/texts.h"
-#include "settings/quiz_settings.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/word_entry.h"
+#include "settings/quiz_settings.h"
 
 #include <QString>
 #include <QStringList>
@@ -10,16 +11,12 @@
 #include <optional>
 
 class CTexts;
-struct QuizSettings;
 
 enum class AnswerVerdict {
     Wrong = 0,
     Right = 1,
     RightOneOfSeveral = 2, ///< Right, and the term has further accepted alternatives.
 };
-
-/// What counts when an answer is compared: the numbers of the setting.
-enum class CharacterCheck { AllCharacters = 0, OnlyLetters = 1, LettersAndSpaces = 2 };
 
 struct CheckingOptions
 {

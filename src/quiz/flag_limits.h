@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <vector>
+#include "settings/quiz_settings.h"
 
-struct ResultSettings;
+#include <optional>
+#include <vector>
 
 /// What a quiz does to the flag of a word.
 enum class FlagDecision { StaysOff = 0, StaysOn = 1, IsTakenOff = 2, IsSet = 3 };
@@ -15,8 +16,8 @@ struct FlagLimits
 
     int flag = Off;
     int unflag = Off;
-    /// What a word without an answer becomes: 0 not flagged, 1 flagged.
-    int unasked = Off;
+    /// What becomes of a word without an answer; nothing leaves it.
+    std::optional<FlagState> unasked = {};
 
     static FlagLimits of(const ResultSettings &settings);
 };

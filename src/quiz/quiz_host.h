@@ -20,7 +20,5 @@ public:
     virtual void ShowMainWindow(bool show) = 0;
     /// Gives the keyboard back to the list.
     virtual void FocusList() = 0;
-    /// Ends an open editing in the list and keeps what was typed.
-    virtual void EndEditing() = 0;
     // NOLINTEND(readability-identifier-naming)
 };

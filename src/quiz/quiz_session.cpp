@@ -3,7 +3,6 @@
 
 #include "document/win32_doc.h"
 #include "platform/random.h"
-#include "settings/quiz_settings.h"
 
 #include <algorithm>
 #include <iterator>
@@ -15,7 +14,7 @@ namespace {
 /// The most requiz rounds after each base round.
 int mostRequizRounds(const QuizSettings &settings)
 {
-    if (settings.requiz != QuizSettings::RequizAfterRound) {
+    if (settings.requiz != Requiz::AfterRound) {
         return 0;
     }
     return settings.requizMax ? settings.requizNumber : std::numeric_limits<int>::max();
@@ -26,8 +25,7 @@ int mostRequizRounds(const QuizSettings &settings)
 CQuizSession::CQuizSession(
     CWin32Doc &document, const QuizSettings &settings, CRandom &random, std::span<const int> selected)
     : m_document(document), m_settings(settings), m_random(random),
-      m_questionColumn(settings.showLanguage), m_options{settings.ignoreCase,
-                                                   CharacterCheck(settings.characterCheck)},
+      m_questionColumn(int(settings.showLanguage)), m_options{settings.ignoreCase, settings.characterCheck},
       m_requizLimit(mostRequizRounds(settings))
 {
     selectWords(selected, random);
@@ -38,7 +36,7 @@ CQuizSession::CQuizSession(
 void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
 {
     const CWordList &list = m_document.List();
-    if (m_settings.wordsToQuiz == QuizSettings::SelectedWords && !selected.empty()) {
+    if (m_settings.wordsToQuiz == WordsToQuiz::Selected && !selected.empty()) {
         m_candidates.assign(selected.begin(), selected.end());
     } else {
         m_candidates.resize(size_t(list.Count()));
@@ -46,10 +44,11 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
     }
 
     const auto flagged = [&](int index) { return list.Entry(index).GetFlag(m_questionColumn); };
-    if (m_settings.includeFlaggedWords != QuizSettings::Always && !std::ranges::all_of(m_candidates, flagged)) {
+    if (m_settings.includeFlaggedWords != IncludeFlagged::Always
+        && !std::ranges::all_of(m_candidates, flagged)) {
         const auto kept = [&](int index) {
             return !flagged(index)
-                || (m_settings.includeFlaggedWords == QuizSettings::Sometimes
+                || (m_settings.includeFlaggedWords == IncludeFlagged::Sometimes
                     && m_settings.includeFlaggedProbability
                         >= random.Next() * 100.0 / double(CRandom::Maximum));
         };
@@ -62,9 +61,9 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
 
     const qint64 available = qint64(m_candidates.size());
     qint64 wanted = available;
-    if (m_settings.wordsToQuiz == QuizSettings::FixedNumber) {
+    if (m_settings.wordsToQuiz == WordsToQuiz::FixedNumber) {
         wanted = std::clamp<qint64>(m_settings.numberOfWords, 0, available);
-    } else if (m_settings.wordsToQuiz == QuizSettings::FixedShare && m_settings.partOfWords >= 0
+    } else if (m_settings.wordsToQuiz == WordsToQuiz::FixedShare && m_settings.partOfWords >= 0
         && m_settings.partOfWords <= 100) {
         wanted = std::min(std::max<qint64>((available * m_settings.partOfWords + 50) / 100, 1), available);
     }
@@ -95,12 +94,12 @@ bool CQuizSession::startRound()
         }
         m_roundOrder.resize(m_candidates.size());
         std::iota(m_roundOrder.begin(), m_roundOrder.end(), 0);
-        if (m_settings.order == QuizSettings::Backwards) {
+        if (m_settings.order == QuizOrder::Backwards) {
             std::ranges::reverse(m_roundOrder);
         }
         m_requizRound = 0;
     }
-    if (m_settings.order == QuizSettings::InRandomOrder) {
+    if (m_settings.order == QuizOrder::Random) {
         shuffleAvoiding(last);
     }
     for (QuizWordRecord &record : m_records) {

@@ -4,7 +4,6 @@
 #include "document/win32_doc.h"
 #include "model/term_syntax.h"
 #include "quiz/rounding.h"
-#include "settings/quiz_settings.h"
 
 #include <utility>
 
@@ -12,7 +11,7 @@ FlagLimits FlagLimits::of(const ResultSettings &settings)
 {
     return {settings.flagWord ? settings.flagWordLimit : Off,
         settings.unFlagWord ? settings.unFlagWordLimit : Off,
-        settings.changeUnasked ? settings.changeUnaskedTo : Off};
+        settings.changeUnasked ? std::optional(settings.changeUnaskedTo) : std::nullopt};
 }
 
 void CQuizSession::changeList(const std::function<void(CWordList &)> &change)
@@ -91,7 +90,7 @@ FlagDecision CQuizSession::flagDecision(int position, const FlagLimits &limits) 
     const bool isSet = m_document.List().Entry(m_candidates[size_t(position)]).GetFlag(m_questionColumn);
     bool willBeSet = isSet;
     if (record(position).answers.isEmpty()) {
-        willBeSet = limits.unasked == FlagLimits::Off ? isSet : limits.unasked != 0;
+        willBeSet = limits.unasked ? *limits.unasked == FlagState::On : isSet;
     } else {
         const int percent = roundHalfUp(percentRight(position));
         if (limits.unflag != FlagLimits::Off && limits.unflag >= percent) {

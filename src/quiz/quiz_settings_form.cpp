@@ -21,30 +21,31 @@ CQuizSettingsForm::CQuizSettingsForm(QuizSettings &settings, const std::array<QS
     }
 }
 
-QString CQuizSettingsForm::directionCaption(int direction) const
+QString CQuizSettingsForm::directionCaption(QuizDirection direction) const
 {
-    return m_texts.Fill(direction == 0 ? Text::QuizSettingsFromLanguage1 : Text::QuizSettingsFromLanguage2,
-        {ShownInCaption(m_languages[size_t(direction)]), ShownInCaption(m_languages[size_t(1 - direction)])});
+    const bool first = direction == QuizDirection::FromLanguage1;
+    return m_texts.Fill(first ? Text::QuizSettingsFromLanguage1 : Text::QuizSettingsFromLanguage2,
+        {ShownInCaption(m_languages[first ? 0 : 1]), ShownInCaption(m_languages[first ? 1 : 0])});
 }
 
 bool CQuizSettingsForm::isNumberUsed() const
 {
-    return values.wordsToQuiz == QuizSettings::FixedNumber;
+    return values.wordsToQuiz == WordsToQuiz::FixedNumber;
 }
 
 bool CQuizSettingsForm::isShareUsed() const
 {
-    return values.wordsToQuiz == QuizSettings::FixedShare;
+    return values.wordsToQuiz == WordsToQuiz::FixedShare;
 }
 
 bool CQuizSettingsForm::isProbabilityUsed() const
 {
-    return values.includeFlaggedWords == QuizSettings::Sometimes;
+    return values.includeFlaggedWords == IncludeFlagged::Sometimes;
 }
 
 bool CQuizSettingsForm::isRequizMaxUsed() const
 {
-    return values.requiz == QuizSettings::RequizAfterRound;
+    return values.requiz == Requiz::AfterRound;
 }
 
 bool CQuizSettingsForm::isRequizNumberUsed() const

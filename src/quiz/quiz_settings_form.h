@@ -20,8 +20,7 @@ public:
     /// Rounds, repeats, shares and probabilities.
     static constexpr NumberRange Others = {1, 100};
     /// The values of `requiz` in the order of their buttons.
-    static constexpr std::array<int, 3> RequizButtons = {
-        QuizSettings::NoRequiz, QuizSettings::AskAgainAtOnce, QuizSettings::RequizAfterRound};
+    static constexpr std::array RequizButtons = {Requiz::None, Requiz::AtOnce, Requiz::AfterRound};
 
     /// `languages` are the two names of the list.
     CQuizSettingsForm(QuizSettings &settings, const std::array<QString, 2> &languages, const CTexts &texts,
@@ -31,7 +30,7 @@ public:
     QuizSettings values;
 
     const CTexts &texts() const { return m_texts; }
-    QString directionCaption(int direction) const;
+    QString directionCaption(QuizDirection direction) const;
 
     // Which rows of controls can be used.
     bool isNumberUsed() const;

@@ -29,7 +29,7 @@ CWordByWordForm::Outcome CWordByWordForm::recordAnswer(const QString &answer)
 CWordByWordForm::Next CWordByWordForm::advance(AnswerVerdict verdict)
 {
     m_leftByAccepting = false;
-    m_askedAgain = verdict == AnswerVerdict::Wrong && settings().requiz == QuizSettings::AskAgainAtOnce;
+    m_askedAgain = verdict == AnswerVerdict::Wrong && settings().requiz == Requiz::AtOnce;
     if (m_askedAgain) {
         return Next::SameWord;
     }

@@ -60,6 +60,13 @@ public:
     {
         m_settings.ExchangeInt(m_load, value, m_section, QString::fromLatin1(name), lower, upper);
     }
+    template<class Enumeration>
+    void Choice(const char *name, Enumeration &value, Enumeration last, Enumeration /*factory*/)
+    {
+        int number = int(value);
+        Integer(name, number, 0, int(last), 0);
+        value = Enumeration(number);
+    }
     void Color(const char *name, quint32 &value, quint32 /*factory*/)
     {
         m_settings.ExchangeColor(m_load, value, m_section, QString::fromLatin1(name));

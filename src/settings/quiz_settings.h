@@ -3,42 +3,47 @@
 
 #include "settings/sections.h"
 
+// What can be chosen; the numbers are those that are stored.
+
+/// Which language is asked; the other is expected.
+enum class QuizDirection { FromLanguage1 = 0, FromLanguage2 = 1 };
+/// What counts when an answer is compared.
+enum class CharacterCheck { AllCharacters = 0, OnlyLetters = 1, LettersAndSpaces = 2 };
+enum class QuizOrder { AsInList = 0, Backwards = 1, Random = 2 };
+enum class WordsToQuiz { All = 0, FixedNumber = 1, FixedShare = 2, Selected = 3 };
+enum class IncludeFlagged { Never = 0, Always = 1, Sometimes = 2 };
+/// What becomes of a word answered wrong: nothing, a round of all such after each round, or it is asked again.
+enum class Requiz { None = 0, AfterRound = 1, AtOnce = 2 };
+enum class FlagState { Off = 0, On = 1 };
+
 /// The direction, order, selection and judging of quizzes.
 struct QuizSettings
 {
     static constexpr int KindCount = 9;
-    enum Order { InListOrder = 0, Backwards = 1, InRandomOrder = 2 };
-    enum WordsToQuiz { AllWords = 0, FixedNumber = 1, FixedShare = 2, SelectedWords = 3 };
-    enum IncludeFlaggedWords { Never = 0, Always = 1, Sometimes = 2 };
-    enum Requiz { NoRequiz = 0, RequizAfterRound = 1, AskAgainAtOnce = 2 };
 
     bool playRight;
     bool playWrong;
     QString rightSoundFile;
     QString wrongSoundFile;
-    /// 0 asks language 1 and expects language 2, 1 the reverse.
-    int showLanguage;
-    /// 0 all characters count, 1 only letters, 2 letters and spaces.
-    int characterCheck;
+    QuizDirection showLanguage;
+    CharacterCheck characterCheck;
     bool showAnswer;
     bool showAnswerIfOneCorrect;
     bool ignoreCase;
-    /// Requiz: rounds of the wrong words after each round, or a wrong word again at once.
-    int requiz;
-    /// Limits the rounds of RequizAfterRound to `requizNumber`.
+    Requiz requiz;
+    /// Limits the rounds of Requiz::AfterRound to `requizNumber`.
     bool requizMax;
     int requizNumber;
-    /// Order
-    int order;
+    QuizOrder order;
     bool learning;
     bool allowChanges;
     int quizNumber;
-    /// IncludeFlaggedWords: sometimes is each with `includeFlaggedProbability` percent.
-    int includeFlaggedWords;
+    /// Sometimes is each with `includeFlaggedProbability` percent.
+    IncludeFlagged includeFlaggedWords;
     int includeFlaggedProbability;
     bool showResult;
-    /// WordsToQuiz: the fixed number is `numberOfWords`, the fixed share `partOfWords` percent.
-    int wordsToQuiz;
+    /// The fixed number is `numberOfWords`, the fixed share `partOfWords` percent.
+    WordsToQuiz wordsToQuiz;
     int numberOfWords;
     int partOfWords;
     bool selectedTestedWordsAfterQuiz;
@@ -54,22 +59,24 @@ struct QuizSettings
         // Both sounds serve all quizzes and are kept with the word contest.
         visit.Text("rightSoundFile", rightSoundFile, "right.wav", "quiz\\quizchallenge");
         visit.Text("wrongSoundFile", wrongSoundFile, "wrong.wav", "quiz\\quizchallenge");
-        visit.Integer("showLanguage", showLanguage, 0, 1, 0);
-        visit.Integer("characterCheck", characterCheck, 0, 2, 0);
+        visit.Choice("showLanguage", showLanguage, QuizDirection::FromLanguage2, QuizDirection::FromLanguage1);
+        visit.Choice(
+            "characterCheck", characterCheck, CharacterCheck::LettersAndSpaces, CharacterCheck::AllCharacters);
         visit.Flag("showAnswer", showAnswer, true);
         visit.Flag("showAnswerIfOneCorrect", showAnswerIfOneCorrect, false);
         visit.Flag("ignoreCase", ignoreCase, false);
-        visit.Integer("requiz", requiz, 0, 2, 2);
+        visit.Choice("requiz", requiz, Requiz::AtOnce, Requiz::AtOnce);
         visit.Flag("requizMax", requizMax, true);
         visit.Integer("requizNumber", requizNumber, 1, 100, 3);
-        visit.Integer("order", order, 0, 2, 2);
+        visit.Choice("order", order, QuizOrder::Random, QuizOrder::Random);
         visit.Flag("learning", learning, false);
         visit.Flag("allowChanges", allowChanges, true);
         visit.Integer("quizNumber", quizNumber, 1, 100, 3);
-        visit.Integer("includeFlaggedWords", includeFlaggedWords, 0, 2, 2);
+        visit.Choice(
+            "includeFlaggedWords", includeFlaggedWords, IncludeFlagged::Sometimes, IncludeFlagged::Sometimes);
         visit.Integer("includeFlaggedProbability", includeFlaggedProbability, 1, 99, 20);
         visit.Flag("showResult", showResult, true);
-        visit.Integer("wordsToQuiz", wordsToQuiz, 0, 3, 0);
+        visit.Choice("wordsToQuiz", wordsToQuiz, WordsToQuiz::Selected, WordsToQuiz::All);
         visit.Integer("numberOfWords", numberOfWords, None, None, 20);
         visit.Integer("partOfWords", partOfWords, None, None, 50);
         visit.Flag("selectedTestedWordsAfterQuiz", selectedTestedWordsAfterQuiz, true);
@@ -141,7 +148,7 @@ struct ResultSettings
     bool unFlagWord;
     int unFlagWordLimit;
     bool changeUnasked;
-    int changeUnaskedTo;
+    FlagState changeUnaskedTo;
 
     ResultSettings() { SetFactoryValues(*this); }
 
@@ -153,6 +160,6 @@ struct ResultSettings
         visit.Flag("unFlagWord", unFlagWord, true);
         visit.Integer("unFlagWordLimit", unFlagWordLimit, 0, 100, 0);
         visit.Flag("changeUnasked", changeUnasked, false);
-        visit.Integer("changeUnaskedTo", changeUnaskedTo, 0, 1, 0);
+        visit.Choice("changeUnaskedTo", changeUnaskedTo, FlagState::On, FlagState::Off);
     }
 };

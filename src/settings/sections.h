@@ -22,6 +22,12 @@ public:
     {
         value = factory;
     }
+    /// One of an enumeration's values from 0 to `last`.
+    template<class Enumeration>
+    void Choice(const char * /*name*/, Enumeration &value, Enumeration /*last*/, Enumeration factory)
+    {
+        value = factory;
+    }
     void Color(const char * /*name*/, quint32 &value, quint32 factory) { value = factory; }
     void Text(
         const char * /*name*/, QString &value, const char *factory, const char * /*otherSection*/ = nullptr)

@@ -28,13 +28,10 @@ void AddQuizzes(QList<Command> &table)
     for (const QuizKindRow &row : quizKinds()) {
         // Ctrl+Alt+F1 to F9 never arrive where they switch the virtual console, so the digit is shown.
         const QString digit = QString::number(int(row.kind) + 1);
-        const int minimum = row.minimumEntries;
         table.append({.id = row.command,
             .shortcuts = {QStringLiteral("Ctrl+Alt+") + digit, QStringLiteral("Ctrl+Alt+F") + digit},
             .icon = Icon(row.icon),
-            .enabled = minimum > 2 ? EnabledRule::ListHasFourEntries
-                : minimum == 2     ? EnabledRule::ListHasTwoEntries
-                                   : EnabledRule::ListHasEntries});
+            .minimumEntries = row.minimumEntries});
     }
 }
 

@@ -2,6 +2,7 @@
 #include "shell/commands.h"
 
 #include "platform/plain_text.h"
+#include "quiz/quiz_kinds.h"
 #include "resources/placeholders.h"
 #include "shell/text_numbers.h"
 
@@ -9,17 +10,15 @@
 
 using namespace CommandId;
 
-bool IsCommandEnabled(EnabledRule rule, const CommandState &state)
+namespace {
+
+bool Holds(EnabledRule rule, const CommandState &state)
 {
     switch (rule) {
     case EnabledRule::Always:
         return true;
-    case EnabledRule::ListHasEntries:
-        return state.entries > 0;
     case EnabledRule::ListHasTwoEntries:
         return state.entries > 1;
-    case EnabledRule::ListHasFourEntries:
-        return state.entries > 3;
     case EnabledRule::EntriesSelected:
         return state.selectedEntries > 0;
     case EnabledRule::FlagsSelected:
@@ -40,6 +39,22 @@ bool IsCommandEnabled(EnabledRule rule, const CommandState &state)
     return false;
 }
 
+QList<int> QuizCommands()
+{
+    QList<int> commands;
+    for (const QuizKindRow &row : quizKinds()) {
+        commands.append(row.command);
+    }
+    return commands;
+}
+
+}
+
+bool IsCommandEnabled(const Command &command, const CommandState &state)
+{
+    return state.entries >= command.minimumEntries && Holds(command.enabled, state);
+}
+
 const QList<CommandMenu> &CommandMenus()
 {
     static const QList<CommandMenu> menus = {
@@ -52,9 +67,8 @@ const QList<CommandMenu> &CommandMenus()
                 Previous, Next, Separator, Find, FindNext}},
         {Text::ArrangeMenu, {Text::SortMenu, Shuffle, Separator, Text::MoveMenu}},
         {Text::QuizMenu,
-            {StandardQuiz, StandardQuiz + 1, StandardQuiz + 2, StandardQuiz + 3, StandardQuiz + 4,
-                StandardQuiz + 5, StandardQuiz + 6, StandardQuiz + 7, LastQuiz, Separator, FromLanguage1,
-                FromLanguage2, Separator, CommandId::QuizSettings}},
+            QuizCommands()
+                + QList<int>{Separator, FromLanguage1, FromLanguage2, Separator, CommandId::QuizSettings}},
         {Text::ViewMenu,
             {CommandId::StandardToolBar, QuizToolBar, StatusBar, Separator, ShowEditFields, ShowWordNumber,
                 ShowNotes, Separator, SpecialCharacters}},
@@ -108,17 +122,16 @@ bool IsSubmenu(int id)
 const QList<int> &StandardToolBarCommands()
 {
     static const QList<int> bar = {NewFile, OpenFile, SaveFile, Separator, Cut, Copy, Paste, Delete, Separator,
-        Undo, Redo, Separator, Find, Separator, SetFlag, InvertFlag, Separator, StandardQuiz,
-        CommandId::QuizSettings, Separator, Help};
+        Undo, Redo, Separator, Find, Separator, SetFlag, InvertFlag, Separator,
+        quizKindRow(QuizKind::Standard).command, CommandId::QuizSettings, Separator, Help};
     return bar;
 }
 
 const QList<int> &QuizToolBarCommands()
 {
-    static const QList<int> bar = {StandardQuiz, StandardQuiz + 1, StandardQuiz + 2, StandardQuiz + 3,
-        StandardQuiz + 4, StandardQuiz + 5, StandardQuiz + 6, StandardQuiz + 7, LastQuiz, Separator,
-        FromLanguage1, FromLanguage2, Separator, CommandId::QuizSettings, Separator, SortByLanguage1,
-        SortByLanguage2, Shuffle, Separator, MoveUp, MoveDown};
+    static const QList<int> bar = QuizCommands()
+        + QList<int>{Separator, FromLanguage1, FromLanguage2, Separator, CommandId::QuizSettings, Separator,
+            SortByLanguage1, SortByLanguage2, Shuffle, Separator, MoveUp, MoveDown};
     return bar;
 }
 

@@ -3,7 +3,7 @@
 
 #include <QStringList>
 
-/// The commands of the program by their ids.
+/// The commands of the program by their ids; those of quizzes stand in the rows of their kinds.
 namespace CommandId {
 
 enum : int {
@@ -41,9 +41,6 @@ enum : int {
     MakeOneEntry = 32841,
     MergeDuplicates = 32846,
     QuizSettings = 32850,
-    /// The first of the nine kinds of quiz; the others follow.
-    StandardQuiz = 32855,
-    LastQuiz = 32863,
     ShowNotes = 32870,
     FromLanguage1 = 32879,
     FromLanguage2 = 32880,
@@ -80,9 +77,7 @@ enum : int {
 /// When a command can be chosen.
 enum class EnabledRule {
     Always,
-    ListHasEntries,
     ListHasTwoEntries,
-    ListHasFourEntries,
     EntriesSelected,
     /// Entries, and the cell cursor stands in a language.
     FlagsSelected,
@@ -112,8 +107,6 @@ struct CommandState
     bool canRedo = false;
 };
 
-bool IsCommandEnabled(EnabledRule rule, const CommandState &state);
-
 enum class CommandKind { Plain, Check, Radio };
 
 /// What becomes of an edit that is open in the list when a command begins.
@@ -137,7 +130,11 @@ struct Command
     EnabledRule enabled = EnabledRule::Always;
     CommandKind kind = CommandKind::Plain;
     OpenEditRule openEdit = OpenEditRule::Stored;
+    /// The fewest entries that the list must have, beside the rule.
+    int minimumEntries = 0;
 };
+
+bool IsCommandEnabled(const Command &command, const CommandState &state);
 
 /// The table of all commands.
 const QList<Command> &CommandTable();

@@ -25,8 +25,8 @@ struct Change
     }
     static const QuizSettings &InListOrder(QuizSettings &settings)
     {
-        settings.order = 0;
-        settings.includeFlaggedWords = 1;
+        settings.order = QuizOrder::AsInList;
+        settings.includeFlaggedWords = IncludeFlagged::Always;
         return settings;
     }
     QString Line(int row) const { return entries.index(row).data().toString(); }

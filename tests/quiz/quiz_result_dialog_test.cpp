@@ -27,7 +27,7 @@ Widget *Find(QWidget *window, const char *name)
 /// Plays the quiz to its end; the answers come in the order of the questions.
 CQuizResultDialog *PlayToResult(TestQuiz &run, const QStringList &answers)
 {
-    run.settings.requiz = 0;
+    run.settings.requiz = Requiz::None;
     run.launch.startQuiz(QuizKind::Standard);
     auto *window = FindWindow<CStandardQuiz>();
     for (const QString &answer : answers) {
@@ -184,7 +184,7 @@ void QuizResultDialogTest::duringTheQuiz()
 void QuizResultDialogTest::flagSettings()
 {
     TestQuiz run;
-    run.resultSettings.changeUnaskedTo = 1;
+    run.resultSettings.changeUnaskedTo = FlagState::On;
     auto *result = PlayToResult(run, {QStringLiteral("dog"), QStringLiteral("x")});
     Find<QPushButton>(result, "flagSettingsButton")->click();
     auto *dialog = FindWindow<CFlagSettingsDialog>();
@@ -205,7 +205,8 @@ void QuizResultDialogTest::flagSettings()
     dialog->accept();
     const ResultSettings &settings = run.resultSettings;
     QVERIFY(settings.flagWord && settings.flagWordLimit == 50 && !settings.unFlagWord
-        && settings.unFlagWordLimit == 50 && settings.changeUnasked && settings.changeUnaskedTo == 0);
+        && settings.unFlagWordLimit == 50 && settings.changeUnasked
+        && settings.changeUnaskedTo == FlagState::Off);
     QCOMPARE(Find<QLabel>(result, "flagLine")->text(), QStringLiteral("1 glosor kommer att flaggas."));
     result->reject();
 }

@@ -31,8 +31,8 @@ struct TestResult
     static QuizSettings InOrder()
     {
         QuizSettings settings;
-        settings.order = 0;
-        settings.includeFlaggedWords = 1;
+        settings.order = QuizOrder::AsInList;
+        settings.includeFlaggedWords = IncludeFlagged::Always;
         return settings;
     }
     void Answer(int word, const QStringList &answers)
@@ -133,7 +133,7 @@ void QuizResultTest::flagLine()
     settings.unFlagWord = limits[1] >= 0;
     settings.unFlagWordLimit = limits[1];
     settings.changeUnasked = unaskedTo >= 0;
-    settings.changeUnaskedTo = unaskedTo;
+    settings.changeUnaskedTo = FlagState(unaskedTo);
     QCOMPARE(run.result.flagLine(), line);
     run.result.applyFlags();
     QString found;

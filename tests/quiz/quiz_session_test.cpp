@@ -14,10 +14,10 @@ namespace {
 QuizSettings PlainSettings()
 {
     QuizSettings settings;
-    settings.order = 0;
+    settings.order = QuizOrder::AsInList;
     settings.quizNumber = 1;
-    settings.requiz = 0;
-    settings.includeFlaggedWords = 1;
+    settings.requiz = Requiz::None;
+    settings.includeFlaggedWords = IncludeFlagged::Always;
     return settings;
 }
 
@@ -99,7 +99,7 @@ void QuizSessionTest::selection()
     QFETCH(int, expected);
     TestDocument test(Words(available));
     QuizSettings settings = PlainSettings();
-    settings.wordsToQuiz = wordsToQuiz;
+    settings.wordsToQuiz = WordsToQuiz(wordsToQuiz);
     settings.numberOfWords = amount;
     settings.partOfWords = amount;
     std::set<int> chosen;
@@ -118,7 +118,7 @@ void QuizSessionTest::evenChoice()
 {
     TestDocument test(Words(5));
     QuizSettings settings = PlainSettings();
-    settings.wordsToQuiz = 1;
+    settings.wordsToQuiz = WordsToQuiz::FixedNumber;
     settings.numberOfWords = 2;
     std::array<int, 5> chosen = {};
     std::set<QString> orders;
@@ -130,7 +130,7 @@ void QuizSessionTest::evenChoice()
             ++chosen[size_t(entry)];
         }
         QuizSettings all = PlainSettings();
-        all.order = 2;
+        all.order = QuizOrder::Random;
         orders.insert(Round(CQuizSession(test.document, all, random, {})));
     }
     for (const int count : chosen) {
@@ -144,12 +144,12 @@ void QuizSessionTest::flaggedWords()
     TestDocument test(QStringList{QStringLiteral("a|b||1"), QStringLiteral("c|d||2"), QStringLiteral("e|f")});
     CRandom random(1);
     QuizSettings settings = PlainSettings();
-    settings.includeFlaggedWords = 0;
+    settings.includeFlaggedWords = IncludeFlagged::Never;
     QCOMPARE(CQuizSession(test.document, settings, random, {}).candidates(), (std::vector<int>{1, 2}));
-    settings.showLanguage = 1;
+    settings.showLanguage = QuizDirection::FromLanguage2;
     QCOMPARE(CQuizSession(test.document, settings, random, {}).candidates(), (std::vector<int>{0, 2}));
     TestDocument learnt(Words(4, QStringLiteral("1")));
-    settings.showLanguage = 0;
+    settings.showLanguage = QuizDirection::FromLanguage1;
     QCOMPARE(
         CQuizSession(learnt.document, settings, random, {}).wordCount(), 4); // Nothing else is left to ask.
 
@@ -157,7 +157,7 @@ void QuizSessionTest::flaggedWords()
     QStringList words = Words(3000, QStringLiteral("1"));
     words.append(QStringLiteral("x|y"));
     TestDocument many(words);
-    settings.includeFlaggedWords = 2;
+    settings.includeFlaggedWords = IncludeFlagged::Sometimes;
     settings.includeFlaggedProbability = 20;
     const int kept = CQuizSession(many.document, settings, random, {}).wordCount();
     QVERIFY2(kept > 500 && kept < 700, qPrintable(QString::number(kept)));
@@ -168,7 +168,7 @@ void QuizSessionTest::selectedEntries()
     TestDocument test(Words(6));
     CRandom random(1);
     QuizSettings settings = PlainSettings();
-    settings.wordsToQuiz = 3;
+    settings.wordsToQuiz = WordsToQuiz::Selected;
     const CQuizSession session(test.document, settings, random, std::vector<int>{1, 4});
     QCOMPARE(Round(session), QStringLiteral("q1 q4"));
 }
@@ -182,9 +182,9 @@ void QuizSessionTest::randomRounds()
         TestDocument test(Words(count));
         CRandom random(seed);
         QuizSettings settings = PlainSettings();
-        settings.order = 2;
+        settings.order = QuizOrder::Random;
         settings.quizNumber = 4;
-        settings.requiz = 1;
+        settings.requiz = Requiz::AfterRound;
         settings.requizNumber = 2;
         CQuizSession session(test.document, settings, random, {});
         first.emplace(count, Round(session).split(u' ').first());
@@ -225,7 +225,7 @@ void QuizSessionTest::recheckAfterAChange()
     TestDocument test(Words(2));
     CRandom random(1);
     QuizSettings settings = PlainSettings();
-    settings.requiz = 1;
+    settings.requiz = Requiz::AfterRound;
     settings.requizMax = false;
     CQuizSession session(test.document, settings, random, {});
     session.recordAnswer(0, QStringLiteral("new"));
@@ -302,7 +302,8 @@ void QuizSessionTest::flagDecisions()
     for (int i = 0; i < wrong; ++i) {
         session.recordAnswer(0, QStringLiteral("x"));
     }
-    QCOMPARE(int(session.flagDecision(0, {limits[0], limits[1], limits[2]})), decision);
+    const auto unasked = limits[2] < 0 ? std::nullopt : std::optional(FlagState(limits[2]));
+    QCOMPARE(int(session.flagDecision(0, {limits[0], limits[1], unasked})), decision);
 }
 
 void QuizSessionTest::applyingFlags()
@@ -310,13 +311,13 @@ void QuizSessionTest::applyingFlags()
     TestDocument test(Words(3));
     CRandom random(1);
     QuizSettings settings = PlainSettings();
-    settings.showLanguage = 1;
+    settings.showLanguage = QuizDirection::FromLanguage2;
     CQuizSession session(test.document, settings, random, std::vector<int>{});
     session.recordAnswer(1, QStringLiteral("q1"));
     const quint64 before = test.document.ChangeCounter();
-    QCOMPARE(session.applyFlags({-1, 0, -1}), 0);
+    QCOMPARE(session.applyFlags({FlagLimits::Off, 0}), 0);
     QCOMPARE(test.document.ChangeCounter(), before);
-    QCOMPARE(session.applyFlags({100, 0, -1}), 1);
+    QCOMPARE(session.applyFlags({100, 0}), 1);
     QCOMPARE(Describe(test.document.List()).join(u','), QStringLiteral("q0|a0,q1|a1||2,q2|a2"));
     QVERIFY(test.document.IsModified());
 }
@@ -388,7 +389,7 @@ void QuizSessionTest::oneStepForUndo()
     session.recordAnswer(1, QStringLiteral("new"));
     session.changeEntry(0, QStringLiteral("Q"), QStringLiteral("A"), QStringLiteral("n"));
     QVERIFY(session.acceptAnswer(1, QStringLiteral("new")));
-    QCOMPARE(session.applyFlags({100, 0, -1}), 1);
+    QCOMPARE(session.applyFlags({100, 0}), 1);
     QCOMPARE(Describe(test.document.List()).join(u','), QStringLiteral("Q|A|n,q1|a1 * new||1,q2|a2"));
     QCOMPARE(test.document.UndoCount(), 1);
     test.document.Undo();
@@ -405,7 +406,7 @@ void QuizSessionTest::selectedAfterwards()
     TestDocument test(Words(4));
     CRandom random(1);
     QuizSettings settings = PlainSettings();
-    settings.wordsToQuiz = 3;
+    settings.wordsToQuiz = WordsToQuiz::Selected;
     CQuizSession session(test.document, settings, random, std::vector<int>{0, 2, 3});
     session.recordAnswer(0, QStringLiteral("a0"));
     session.recordAnswer(1, QStringLiteral("x"));

@@ -52,9 +52,10 @@ struct Window
 QString Describe(const QuizSettings &s)
 {
     const QList<int> numbers = {s.quizNumber, s.showResult, s.selectedTestedWordsAfterQuiz, s.learning,
-        s.allowChanges, s.order, s.showLanguage, s.wordsToQuiz, s.numberOfWords, s.partOfWords,
-        s.includeFlaggedWords, s.includeFlaggedProbability, s.characterCheck, s.ignoreCase, s.showAnswer,
-        s.showAnswerIfOneCorrect, s.playRight, s.playWrong, s.requiz, s.requizMax, s.requizNumber};
+        s.allowChanges, int(s.order), int(s.showLanguage), int(s.wordsToQuiz), s.numberOfWords, s.partOfWords,
+        int(s.includeFlaggedWords), s.includeFlaggedProbability, int(s.characterCheck), s.ignoreCase,
+        s.showAnswer, s.showAnswerIfOneCorrect, s.playRight, s.playWrong, int(s.requiz), s.requizMax,
+        s.requizNumber};
     QStringList parts;
     for (const int number : numbers) {
         parts.append(QString::number(number));
@@ -130,19 +131,19 @@ void QuizSettingsTest::cancelStoresNothing()
     QTest::keyClick(&window.dialog, Qt::Key_Escape);
     QVERIFY(!window.dialog.isVisible());
     QCOMPARE(settings.quizNumber, 3);
-    QCOMPARE(settings.showLanguage, 0);
+    QCOMPARE(settings.showLanguage, QuizDirection::FromLanguage1);
 }
 
 void QuizSettingsTest::requizButtons()
 {
     const char *const buttons[] = {"noRequiz", "askAgain", "requizAfter"};
-    const int values[] = {0, 2, 1};
+    constexpr Requiz Values[] = {Requiz::None, Requiz::AtOnce, Requiz::AfterRound};
     QuizSettings settings;
     for (int i = 0; i < 3; ++i) {
         Window chosen(settings);
         chosen.Find<QRadioButton>(buttons[i])->click();
         chosen.dialog.accept();
-        QCOMPARE(settings.requiz, values[i]);
+        QCOMPARE(settings.requiz, Values[i]);
         const Window again(settings);
         QVERIFY2(again.Find<QRadioButton>(buttons[i])->isChecked(), buttons[i]);
     }

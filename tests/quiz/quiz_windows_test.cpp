@@ -119,7 +119,7 @@ void QuizWindowsTest::buttonsByKeyboard()
 void QuizWindowsTest::hastyInput()
 {
     TestQuiz run({QStringLiteral("hund|dog"), QStringLiteral("katt|cat"), QStringLiteral("ko|cow")});
-    run.settings.requiz = 0;
+    run.settings.requiz = Requiz::None;
     run.settings.showAnswer = false;
     run.clock.step = {};
     run.launch.startQuiz(QuizKind::Standard);

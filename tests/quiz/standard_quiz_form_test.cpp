@@ -10,10 +10,10 @@ namespace {
 QuizSettings InOrder(int requiz, int rounds)
 {
     QuizSettings settings;
-    settings.order = 0;
-    settings.requiz = requiz;
+    settings.order = QuizOrder::AsInList;
+    settings.requiz = Requiz(requiz);
     settings.quizNumber = rounds;
-    settings.includeFlaggedWords = 1;
+    settings.includeFlaggedWords = IncludeFlagged::Always;
     settings.showAnswerIfOneCorrect = true;
     return settings;
 }
@@ -100,8 +100,8 @@ Vad heter "katt" på Engelska? Förhör 2 av 2. Glosa 2 av 2. 2 rätt av 3.
 over)";
 
     QuizSettings backwards = InOrder(0, 1);
-    backwards.order = 1;
-    backwards.showLanguage = 1;
+    backwards.order = QuizOrder::Backwards;
+    backwards.showLanguage = QuizDirection::FromLanguage2;
     QTest::newRow("backwards, the other direction") << animals << backwards << "puss vovve"
                                                     <<
         R"(Vad heter "cat * puss" på Svenska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. 63005

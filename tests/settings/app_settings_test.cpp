@@ -32,6 +32,11 @@ public:
         const bool accepted = upper == CRegistrySettings::NO_BOUND || lower <= upper;
         value = !accepted ? factory : factory == upper ? factory - 1 : factory + 1;
     }
+    template<class Enumeration>
+    void Choice(const char *, Enumeration &value, Enumeration last, Enumeration factory)
+    {
+        value = Enumeration(int(factory) + (factory == last ? -1 : 1));
+    }
     void Color(const char *, quint32 &value, quint32 factory) { value = ~factory; }
     void Text(const char *name, QString &value, const char *, const char * = nullptr) { KeptText(name, value); }
     void NumberedText(const char *name, QString &value, int) { KeptText(name, value); }

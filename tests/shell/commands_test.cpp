@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "quiz/quiz_kinds.h"
 #include "resources/texts.h"
 #include "shell/command_line.h"
 #include "shell/commands.h"
@@ -60,7 +61,7 @@ void CommandsTest::enabledRules()
     const auto enabled = [](const CommandState &state) {
         std::set<int> ids;
         for (const Command &command : CommandTable()) {
-            if (IsCommandEnabled(command.enabled, state)) {
+            if (IsCommandEnabled(command, state)) {
                 ids.insert(command.id);
             }
         }
@@ -68,10 +69,11 @@ void CommandsTest::enabledRules()
     };
     using namespace CommandId;
     const auto none = enabled({});
-    QVERIFY(!none.contains(StandardQuiz) && !none.contains(Copy) && !none.contains(Delete));
+    const auto quiz = [](QuizKind kind) { return quizKindRow(kind).command; };
+    QVERIFY(!none.contains(quiz(QuizKind::Standard)) && !none.contains(Copy) && !none.contains(Delete));
     QVERIFY(none.contains(Find) && none.contains(Descending) && none.contains(Next));
     const auto three = enabled({.entries = 3, .selectedEntries = 1, .selectedRows = 1, .cursorColumn = 2});
-    QVERIFY(three.contains(StandardQuiz + 5) && !three.contains(StandardQuiz + 3));
+    QVERIFY(three.contains(quiz(QuizKind::PairMatching)) && !three.contains(quiz(QuizKind::Alternatives)));
     QVERIFY(three.contains(Copy) && three.contains(PlaceInsertionPoint) && three.contains(MakeOneEntry));
     QVERIFY(!three.contains(SetFlag) && !three.contains(InsertComment));
     QVERIFY(enabled({.entries = 1, .selectedEntries = 1, .cursorColumn = 1}).contains(InvertFlag));

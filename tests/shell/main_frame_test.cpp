@@ -5,6 +5,7 @@
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "fileformats/word_list_file.h"
+#include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_settings_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "settings/quiz_settings.h"
@@ -95,14 +96,14 @@ private Q_SLOTS:
 void MainFrameTest::showsTheSampleList()
 {
     Frame run;
-    QVERIFY(!run.Command(CommandId::StandardQuiz)->isEnabled());
+    QVERIFY(!run.Command(quizKindRow(QuizKind::Standard).command)->isEnabled());
     QVERIFY(run.files.OpenFile(QStringLiteral(ORDELIN_SOURCE_DIR "/samples/vardagsord.gls")));
     run.frame.show();
     QVERIFY(QTest::qWaitForWindowExposed(&run.frame));
     const auto *const list = run.frame.findChild<QTableView *>(QStringLiteral("wordList"));
     QVERIFY(list->model()->rowCount() >= 150);
     QCOMPARE(run.frame.windowTitle(), QStringLiteral("vardagsord.gls"));
-    QVERIFY(run.Command(CommandId::StandardQuiz)->isEnabled());
+    QVERIFY(run.Command(quizKindRow(QuizKind::Standard).command)->isEnabled());
     QVERIFY(run.Status().startsWith(QString::number(list->model()->rowCount() - 1)));
     QVERIFY(!list->accessibleName().isEmpty());
 }
@@ -405,7 +406,7 @@ void MainFrameTest::captionsFollowTheLanguages()
     QVERIFY(QMetaObject::invokeMethod(menu, "aboutToShow"));
     QCOMPARE(run.Command(CommandId::FromLanguage1)->text(), QStringLiteral("A&&B &till Engelska"));
     run.Command(CommandId::FromLanguage2)->trigger();
-    QCOMPARE(run.quizSettings.showLanguage, 1);
+    QCOMPARE(run.quizSettings.showLanguage, QuizDirection::FromLanguage2);
     QVERIFY(!run.Command(CommandId::FromLanguage1)->isChecked());
 
     run.Command(CommandId::QuizSettings)->trigger();
@@ -439,7 +440,7 @@ void MainFrameTest::textsFromOutsideArePlain()
     run.specialCharacters.Toggle();
     run.Command(CommandId::About)->trigger();
     run.Command(CommandId::QuizSettings)->trigger();
-    run.Command(CommandId::StandardQuiz)->trigger();
+    run.Command(quizKindRow(QuizKind::Standard).command)->trigger();
     CStandardQuiz *quiz = nullptr;
     for (QWidget *const window : QApplication::topLevelWidgets()) {
         quiz = quiz == nullptr ? qobject_cast<CStandardQuiz *>(window) : quiz;

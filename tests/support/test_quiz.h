@@ -25,7 +25,6 @@ public:
         calls.append(show ? QStringLiteral("show") : QStringLiteral("hide"));
     }
     void FocusList() override { calls.append(QStringLiteral("focus")); }
-    void EndEditing() override { calls.append(QStringLiteral("end editing")); }
 
     std::vector<int> selected;
     bool shown = true;
@@ -90,9 +89,9 @@ struct TestQuiz
                                         .clock = [this] { return clock.Read(); }}},
                              mainWindow)
     {
-        settings.order = 0;
+        settings.order = QuizOrder::AsInList;
         settings.quizNumber = 1;
-        settings.includeFlaggedWords = 1;
+        settings.includeFlaggedWords = IncludeFlagged::Always;
         mainWindow.show();
     }
 };

@@ -24,13 +24,14 @@ QCheckBox *MakeCheckBox(QWidget *page, const char *name, const QString &caption,
     return box;
 }
 
-QComboBox *MakeChoice(QWidget *page, const char *name, const QString &items, int &value)
+QComboBox *MakeChoice(
+    QWidget *page, const char *name, const QString &items, int current, const std::function<void(int)> &choose)
 {
     auto *choice = new QComboBox(page);
     choice->setObjectName(QLatin1StringView(name));
     choice->addItems(items.split(u'\n'));
-    choice->setCurrentIndex(value);
-    QObject::connect(choice, &QComboBox::currentIndexChanged, choice, [&value](int index) { value = index; });
+    choice->setCurrentIndex(current);
+    QObject::connect(choice, &QComboBox::currentIndexChanged, choice, choose);
     return choice;
 }
 
@@ -42,15 +43,16 @@ CNumberField *MakeNumber(QWidget *page, const char *name, const NumberRange &ran
     return number;
 }
 
-QRadioButton *MakeRadioButton(QWidget *page, const char *name, const QString &caption, int chosen, int &value)
+QRadioButton *MakeRadioButton(
+    QWidget *page, const char *name, const QString &caption, bool checked, const std::function<void()> &choose)
 {
     auto *button = new QRadioButton(caption, page);
     button->setObjectName(QLatin1StringView(name));
     button->setAccessibleName(CaptionReadOut(caption));
-    button->setChecked(value == chosen);
-    QObject::connect(button, &QRadioButton::toggled, button, [&value, chosen](bool checked) {
-        if (checked) {
-            value = chosen;
+    button->setChecked(checked);
+    QObject::connect(button, &QRadioButton::toggled, button, [choose](bool isChosen) {
+        if (isChosen) {
+            choose();
         }
     });
     return button;

@@ -21,11 +21,25 @@ class QWidget;
 // `name` is the control's object name. Explanations are made by MakeWrappedLabel().
 
 QCheckBox *MakeCheckBox(QWidget *page, const char *name, const QString &caption, bool &value);
-/// `items` are separated by line breaks; the value is the index of the one chosen.
-QComboBox *MakeChoice(QWidget *page, const char *name, const QString &items, int &value);
+/// `items` are separated by line breaks; `choose` gets the index of the one chosen.
+QComboBox *MakeChoice(
+    QWidget *page, const char *name, const QString &items, int current, const std::function<void(int)> &choose);
+/// The value, a number or one of an enumeration, is the index of the item chosen.
+template<class Value>
+QComboBox *MakeChoice(QWidget *page, const char *name, const QString &items, Value &value)
+{
+    return MakeChoice(page, name, items, int(value), [&value](int index) { value = Value(index); });
+}
 CNumberField *MakeNumber(QWidget *page, const char *name, const NumberRange &range, int &value);
+QRadioButton *MakeRadioButton(
+    QWidget *page, const char *name, const QString &caption, bool checked, const std::function<void()> &choose);
 /// A button that gives the value `chosen`.
-QRadioButton *MakeRadioButton(QWidget *page, const char *name, const QString &caption, int chosen, int &value);
+template<class Value>
+QRadioButton *MakeRadioButton(
+    QWidget *page, const char *name, const QString &caption, Value chosen, Value &value)
+{
+    return MakeRadioButton(page, name, caption, value == chosen, [&value, chosen] { value = chosen; });
+}
 
 /// A field for the name of a file, and the button beside it that lets the user choose one.
 struct FileField

@@ -3,11 +3,11 @@
 
 #include "platform/ui/label.h"
 #include "platform/ui/number_field.h"
+#include "platform/ui/setting_controls.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_result.h"
 #include "quiz/text_numbers.h"
 #include "resources/texts.h"
-#include "settings/quiz_settings.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,33 +15,38 @@
 #include <QGridLayout>
 #include <QLabel>
 
+namespace {
+
+/// The control can be used while the box is checked, and is read out by its caption.
+void controlWith(const QCheckBox &box, QWidget &control)
+{
+    control.setAccessibleName(box.accessibleName());
+    control.setEnabled(box.isChecked());
+    QObject::connect(&box, &QCheckBox::toggled, &control, &QWidget::setEnabled);
+}
+
+}
+
 CFlagSettingsDialog::CFlagSettingsDialog(
     ResultSettings &settings, const CTexts &texts, IUserPrompt &prompt, QWidget *parent)
-    : QDialog(parent), m_settings(settings), m_texts(texts), m_prompt(prompt)
+    : QDialog(parent), m_settings(settings), m_values(settings), m_texts(texts), m_prompt(prompt)
 {
     setObjectName(QStringLiteral("flagSettings"));
     setWindowTitle(texts.Get(Text::FlagSettingsTitle));
     setWindowModality(Qt::WindowModal);
 
     auto *grid = new QGridLayout;
-    m_flag = addSwitch(*grid, Text::FlagWordsAtLeast, "flagWord", settings.flagWord);
-    m_flagLimit = addLimit(*grid, *m_flag, "flagWordLimit", settings.flagWordLimit);
-    m_unflag = addSwitch(*grid, Text::UnflagWordsAtMost, "unFlagWord", settings.unFlagWord);
-    m_unflagLimit = addLimit(*grid, *m_unflag, "unFlagWordLimit", settings.unFlagWordLimit);
-    m_unasked = addSwitch(*grid, Text::ChangeUnaskedTo, "changeUnasked", settings.changeUnasked);
-    m_unaskedTo = new QComboBox(this);
-    m_unaskedTo->setObjectName(QStringLiteral("changeUnaskedTo"));
-    m_unaskedTo->setAccessibleName(m_unasked->accessibleName());
-    m_unaskedTo->addItems(texts.Get(Text::FlagStates).split(u'\n'));
-    m_unaskedTo->setCurrentIndex(settings.changeUnaskedTo);
-    m_unaskedTo->setEnabled(settings.changeUnasked);
-    connect(m_unasked, &QCheckBox::toggled, m_unaskedTo, &QWidget::setEnabled);
-    grid->addWidget(m_unaskedTo, grid->rowCount() - 1, 1, 1, 2, Qt::AlignLeft);
+    addLimit(*grid,
+        {"flagWord", "flagWordLimit", Text::FlagWordsAtLeast, m_values.flagWord, m_values.flagWordLimit});
+    addLimit(*grid,
+        {"unFlagWord", "unFlagWordLimit", Text::UnflagWordsAtMost, m_values.unFlagWord,
+            m_values.unFlagWordLimit});
+    addUnasked(*grid);
     grid->setColumnStretch(2, 1);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->setObjectName(QStringLiteral("buttons"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &CFlagSettingsDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto *layout = new QVBoxLayout(this);
@@ -50,42 +55,35 @@ CFlagSettingsDialog::CFlagSettingsDialog(
     layout->addWidget(buttons);
 }
 
-QCheckBox *CFlagSettingsDialog::addSwitch(QGridLayout &grid, int text, const char *name, bool on)
+void CFlagSettingsDialog::addLimit(QGridLayout &grid, const Limit &limit)
 {
-    auto *box = new QCheckBox(m_texts.Get(text), this);
-    box->setObjectName(QLatin1StringView(name));
-    box->setAccessibleName(m_texts.Get(text).remove(u'&').trimmed());
-    box->setChecked(on);
-    grid.addWidget(box, grid.count() == 0 ? 0 : grid.rowCount(), 0);
-    return box;
+    auto *box = MakeCheckBox(this, limit.switchName, m_texts.Get(limit.caption), limit.isOn);
+    auto *number = MakeNumber(this, limit.numberName, {0, 100}, limit.percent);
+    const QString unit = m_texts.Get(Text::PercentRight);
+    controlWith(*box, *number);
+    number->setAccessibleName(number->accessibleName() + u' ' + unit);
+    const int row = grid.rowCount();
+    grid.addWidget(box, row, 0);
+    grid.addWidget(number, row, 1);
+    grid.addWidget(MakeLabel(unit, this), row, 2);
 }
 
-CNumberField *CFlagSettingsDialog::addLimit(QGridLayout &grid, QCheckBox &toggle, const char *name, int value)
+void CFlagSettingsDialog::addUnasked(QGridLayout &grid)
 {
-    auto *limit = new CNumberField({0, 100}, value, this);
-    limit->setObjectName(QLatin1StringView(name));
-    limit->setAccessibleName(toggle.accessibleName() + u' ' + m_texts.Get(Text::PercentRight));
-    limit->setEnabled(toggle.isChecked());
-    connect(&toggle, &QCheckBox::toggled, limit, &QWidget::setEnabled);
-    QLabel *const unit = MakeLabel(m_texts.Get(Text::PercentRight), this);
-    grid.addWidget(limit, grid.rowCount() - 1, 1);
-    grid.addWidget(unit, grid.rowCount() - 1, 2);
-    return limit;
+    auto *box = MakeCheckBox(this, "changeUnasked", m_texts.Get(Text::ChangeUnaskedTo), m_values.changeUnasked);
+    auto *state = MakeChoice(this, "changeUnaskedTo", m_texts.Get(Text::FlagStates), m_values.changeUnaskedTo);
+    controlWith(*box, *state);
+    const int row = grid.rowCount();
+    grid.addWidget(box, row, 0);
+    grid.addWidget(state, row, 1, 1, 2, Qt::AlignLeft);
 }
 
 void CFlagSettingsDialog::accept()
 {
-    ResultSettings settings = m_settings;
-    settings.flagWord = m_flag->isChecked();
-    settings.flagWordLimit = m_flagLimit->Entered();
-    settings.unFlagWord = m_unflag->isChecked();
-    settings.unFlagWordLimit = m_unflagLimit->Entered();
-    settings.changeUnasked = m_unasked->isChecked();
-    settings.changeUnaskedTo = m_unaskedTo->currentIndex();
-    if (flagLimitsContradict(settings)) {
+    if (flagLimitsContradict(m_values)) {
         m_prompt.Tell(m_texts.Prompt(Text::FlagLimitsContradict), PromptIcon::Information);
         return;
     }
-    m_settings = settings;
+    m_settings = m_values;
     QDialog::accept();
 }

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/quiz_settings.h"
+
 #include <QDialog>
 
-class CNumberField;
 class CTexts;
 class IUserPrompt;
-class QCheckBox;
-class QComboBox;
 class QGridLayout;
-struct ResultSettings;
 
 /// The window for the limits by which a quiz changes flags. OK stores them, unless they contradict each other.
 class CFlagSettingsDialog : public QDialog
@@ -24,16 +22,20 @@ public:
     void accept() override;
 
 private:
-    QCheckBox *addSwitch(QGridLayout &grid, int text, const char *name, bool on);
-    CNumberField *addLimit(QGridLayout &grid, QCheckBox &toggle, const char *name, int value);
+    /// The names of the controls, the caption and the settings of one of the two limits.
+    struct Limit
+    {
+        const char *switchName;
+        const char *numberName;
+        int caption;
+        bool &isOn;
+        int &percent;
+    };
+    void addLimit(QGridLayout &grid, const Limit &limit);
+    void addUnasked(QGridLayout &grid);
 
     ResultSettings &m_settings;
+    ResultSettings m_values; // What the controls show.
     const CTexts &m_texts;
     IUserPrompt &m_prompt;
-    QCheckBox *m_flag;
-    CNumberField *m_flagLimit;
-    QCheckBox *m_unflag;
-    CNumberField *m_unflagLimit;
-    QCheckBox *m_unasked;
-    QComboBox *m_unaskedTo;
 };

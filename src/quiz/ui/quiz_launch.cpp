@@ -23,8 +23,6 @@ void CQuizLaunch::startQuiz(QuizKind kind)
     if (isRunning() || !hasWindow(kind)) {
         return;
     }
-    // First, since it may add an entry or make a duplicate.
-    m_services.host.EndEditing();
     const QuizWindowServices &windows = m_services.windows;
     if (document.List().Count() < quizKindRow(kind).minimumEntries
         || !mayStartQuiz(document.List(), m_services.editorSettings, windows.texts, windows.prompt)) {

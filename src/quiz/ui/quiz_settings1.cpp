@@ -41,10 +41,12 @@ CQuizSettings1::CQuizSettings1(CQuizSettingsForm &form, QWidget *parent) : QWidg
     auto *languages = new QGroupBox(texts.Get(Text::QuizSettingsLanguages), this);
     languages->setObjectName(QStringLiteral("languages"));
     auto *directions = new QVBoxLayout(languages);
-    directions->addWidget(
-        MakeRadioButton(languages, "fromLanguage1", form.directionCaption(0), 0, values.showLanguage));
-    directions->addWidget(
-        MakeRadioButton(languages, "fromLanguage2", form.directionCaption(1), 1, values.showLanguage));
+    const auto addDirection = [&](const char *name, QuizDirection direction) {
+        directions->addWidget(
+            MakeRadioButton(languages, name, form.directionCaption(direction), direction, values.showLanguage));
+    };
+    addDirection("fromLanguage1", QuizDirection::FromLanguage1);
+    addDirection("fromLanguage2", QuizDirection::FromLanguage2);
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(rows);

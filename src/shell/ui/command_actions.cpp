@@ -101,8 +101,7 @@ void CCommandActions::Run(int id, const std::function<void()> &handler)
 void CCommandActions::Update(const CommandState &state)
 {
     for (const Command &command : CommandTable()) {
-        Action(command.id)
-            ->setEnabled(m_handled.contains(command.id) && IsCommandEnabled(command.enabled, state));
+        Action(command.id)->setEnabled(m_handled.contains(command.id) && IsCommandEnabled(command, state));
     }
     for (auto check = m_checks.cbegin(); check != m_checks.cend(); ++check) {
         Action(check.key())->setChecked(check.value()());

@@ -273,11 +273,6 @@ void CMainFrame::FocusList()
     m_view->setFocus();
 }
 
-void CMainFrame::EndEditing()
-{
-    m_view->EndEditing(true);
-}
-
 void CMainFrame::OpenDropped(const QStringList &paths)
 {
     if (paths.size() > 1) {

@@ -74,7 +74,6 @@ public:
     void SelectEntries(const std::vector<int> &entries) override;
     void ShowMainWindow(bool show) override;
     void FocusList() override;
-    void EndEditing() override;
 
 Q_SIGNALS:
     /// The window was closed and nothing stands against ending the program.

@@ -18,14 +18,15 @@ CQuizCommands::CQuizCommands(CCommandActions &actions, CQuizLaunch &launch, ::Qu
             actions.SetHandler(row.command, [&launch, kind = row.kind] { launch.startQuiz(kind); });
         }
     }
-    for (const int direction : {FromLanguage1, FromLanguage2}) {
-        const int language = direction - FromLanguage1;
+    const auto setDirection = [&](int command, QuizDirection direction) {
         actions.SetHandler(
-            direction,
-            [&settings, &settingsChanges, language] {
-                settings.showLanguage = language;
+            command,
+            [&settings, &settingsChanges, direction] {
+                settings.showLanguage = direction;
                 settingsChanges.Tell(SettingsSection::Quiz);
             },
-            [&settings, language] { return settings.showLanguage == language; });
-    }
+            [&settings, direction] { return settings.showLanguage == direction; });
+    };
+    setDirection(FromLanguage1, QuizDirection::FromLanguage1);
+    setDirection(FromLanguage2, QuizDirection::FromLanguage2);
 }
