@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/win32_doc.h"
 
+#include "document/list_placeholders.h"
 #include "document/text_numbers.h"
 #include "fileformats/word_list_file.h"
 #include "platform/file_name.h"
@@ -33,12 +34,6 @@ int MessageOf(ReadResult result)
     default:
         return Text::CannotOpen;
     }
-}
-
-/// The first of two texts that is not empty.
-QString FirstGiven(const QString &first, const QString &second)
-{
-    return first.isEmpty() ? second : first;
 }
 
 /// Where the insertion point comes to stand: it keeps its place between the entries around it, and what is
@@ -299,21 +294,11 @@ void CWin32Doc::SetListProperties(ListProperties properties)
 
 QString CWin32Doc::ExpandPlaceholders(const QString &text) const
 {
-    QList<Placeholder> placeholders = {{QStringLiteral("%language1"), List().GetLanguage(0)},
-        {QStringLiteral("%language2"), List().GetLanguage(1)},
-        {QStringLiteral("%comments"), List().GetComments()}, {QStringLiteral("%author"), List().GetAuthor()},
-        {QStringLiteral("%nwords"), FormatNumber(List().Count())}};
-    const QString date = FormatShortDate(m_services.today());
-    if (!date.isEmpty()) {
-        placeholders.append({QStringLiteral("%date"), date});
-    }
-    return FillInOrder(text, placeholders, FilledFor::Storage);
+    return ExpandListPlaceholders(text, List(), m_services.today());
 }
 
 QString CWin32Doc::SuggestFileName() const
 {
-    QString name = ExpandPlaceholders(
-        FirstGiven(m_services.settings.standardFilename, m_services.texts.Get(Text::SuggestedFileName)));
-    name.removeIf([](QChar character) { return QStringView(u"\\/:*?\"<>|").contains(character); });
-    return name;
+    return AsFileName(ExpandPlaceholders(
+        FirstGiven(m_services.settings.standardFilename, m_services.texts.Get(Text::SuggestedFileName))));
 }

@@ -17,7 +17,6 @@ inline constexpr int SelectSimilar = 70005;
 inline constexpr int ReallyDelete = 70006;
 inline constexpr int NothingPasted = 70007;
 inline constexpr int EntriesPasted = 70008;
-inline constexpr int LongText = 70090;
 inline constexpr int Flagged = 70150;
 inline constexpr int NotFlagged = 70151;
 inline constexpr int ViewList = 301000;

@@ -10,6 +10,7 @@ namespace Text {
 inline constexpr int OpenFilters = 61010;
 inline constexpr int CannotSave = 61014;
 inline constexpr int Cancel = 62800;
+inline constexpr int LongText = 70090;
 inline constexpr int OpenTitle = 70137;
 
 }

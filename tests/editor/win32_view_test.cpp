@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/arranging.h"
 #include "editor/ui/edit_box_commands.h"
-#include "editor/ui/long_line_edit.h"
+#include "platform/ui/long_line_edit.h"
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ui/edit_box_commands.h"
 
-#include "editor/ui/long_line_edit.h"
+#include "platform/ui/long_line_edit.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -2,7 +2,7 @@
 #include "editor/ui/entry_fields.h"
 
 #include "editor/text_numbers.h"
-#include "editor/ui/long_line_edit.h"
+#include "platform/ui/long_line_edit.h"
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
 #include "resources/texts.h"

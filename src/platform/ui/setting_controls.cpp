@@ -3,6 +3,7 @@
 
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
+#include "platform/ui/long_line_edit.h"
 #include "platform/ui/number_field.h"
 
 #include <QCheckBox>
@@ -33,6 +34,17 @@ QComboBox *MakeChoice(
     choice->setCurrentIndex(current);
     QObject::connect(choice, &QComboBox::currentIndexChanged, choice, choose);
     return choice;
+}
+
+CLongLineEdit *MakeTextField(QWidget *page, const char *name, const QString &hint, QString &value)
+{
+    auto *field = new CLongLineEdit(hint, page);
+    field->setObjectName(QLatin1StringView(name));
+    field->SetWholeText(value);
+    field->setMinimumWidth(page->fontMetrics().averageCharWidth() * 30);
+    QObject::connect(
+        field, &CLongLineEdit::textChanged, field, [field, &value] { value = field->WholeText(); });
+    return field;
 }
 
 CNumberField *MakeNumber(QWidget *page, const char *name, const NumberRange &range, int &value)

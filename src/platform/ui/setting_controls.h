@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class CLongLineEdit;
 class CNumberField;
 class QCheckBox;
 class QComboBox;
@@ -30,6 +31,8 @@ QComboBox *MakeChoice(QWidget *page, const char *name, const QString &items, Val
 {
     return MakeChoice(page, name, items, int(value), [&value](int index) { value = Value(index); });
 }
+/// A line for a text of any length. `hint` is its tool tip while not all of it is shown.
+CLongLineEdit *MakeTextField(QWidget *page, const char *name, const QString &hint, QString &value);
 CNumberField *MakeNumber(QWidget *page, const char *name, const NumberRange &range, int &value);
 QRadioButton *MakeRadioButton(
     QWidget *page, const char *name, const QString &caption, bool checked, const std::function<void()> &choose);

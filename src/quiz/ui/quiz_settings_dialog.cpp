@@ -15,9 +15,3 @@ CQuizSettingsDialog::CQuizSettingsDialog(const CQuizSettingsForm &form, QWidget 
     AddPage(new CQuizSettings2(m_form), texts.Get(Text::QuizSettingsWordsPage));
     AddPage(new CQuizSettings3(m_form), texts.Get(Text::QuizSettingsMistakesPage));
 }
-
-void CQuizSettingsDialog::accept()
-{
-    m_form.accept();
-    CSettingsSheet::accept();
-}

@@ -12,7 +12,8 @@ class CQuizSettingsDialog : public CSettingsSheet
 public:
     explicit CQuizSettingsDialog(const CQuizSettingsForm &form, QWidget *parent = nullptr);
 
-    void accept() override;
+protected:
+    void Store() override { m_form.accept(); }
 
 private:
     CQuizSettingsForm m_form;

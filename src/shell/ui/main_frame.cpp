@@ -9,7 +9,6 @@
 #include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
 #include "quiz/ui/quiz_launch.h"
-#include "quiz/ui/quiz_settings_dialog.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
 #include "shell/commands.h"
@@ -23,6 +22,7 @@
 #include "shell/ui/help_commands.h"
 #include "shell/ui/quiz_commands.h"
 #include "shell/ui/recent_files_menu.h"
+#include "shell/ui/settings_commands.h"
 #include "shell/ui/special_character_keys.h"
 #include "shell/ui/user_fonts.h"
 #include "shell/ui/view_commands.h"
@@ -190,16 +190,28 @@ QToolBar *CMainFrame::MakeToolBar(const QString &title, const char *name, const 
 
 void CMainFrame::ConnectCommands()
 {
+    const CTexts &texts = m_services.texts;
     new CFileMenuCommands(*m_actions, m_services.files, *this);
-    new CHelpCommands(*m_actions, m_services.texts, m_services.openHelp, *this);
+    new CHelpCommands(*m_actions, texts, m_services.openHelp, *this);
     new CArrangeCommands(
         *m_actions, *m_view, m_arranging, m_services.settings.arrange, m_services.settingsChanges, this);
     new CViewCommands(*m_actions,
         {*this, *m_view, m_services.settings.editor, m_services.settingsChanges, m_services.specialCharacters},
         this);
+    new CSettingsCommands(*m_actions,
+        {m_services.document,
+            {.settings = m_services.settings,
+                .changes = m_services.settingsChanges,
+                .texts = texts,
+                .today = m_services.today,
+                .reset = m_services.resetSettings,
+                .chooseLanguage = m_services.chooseLanguage,
+                .associateFiles = m_services.associateFiles,
+                .openQuizSettings = {}},
+            m_services.chooser, m_services.dataFolders},
+        *this);
     new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
-    m_actions->SetHandler(CommandId::QuizSettings, [this] { OpenQuizSettings(); });
     new CCommandRefresh({*m_actions, *m_editCommands, m_services.document, m_services.settingsChanges,
                             m_services.specialCharacters, *this},
         this);
@@ -213,19 +225,6 @@ void CMainFrame::PrepareCommand(const Command &command)
     if (!left) {
         m_view->EndEditing(command.openEdit != OpenEditRule::Cancelled);
     }
-}
-
-void CMainFrame::OpenQuizSettings()
-{
-    const CWordList &list = m_services.document.List();
-    auto *dialog = new CQuizSettingsDialog(
-        CQuizSettingsForm(m_services.settings.quiz, {list.GetLanguage(0), list.GetLanguage(1)},
-            m_services.texts, m_services.chooser, m_services.dataFolders),
-        this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(
-        dialog, &QDialog::accepted, this, [this] { m_services.settingsChanges.Tell(SettingsSection::Quiz); });
-    dialog->open();
 }
 
 void CMainFrame::ShowTitle()

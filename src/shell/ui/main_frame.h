@@ -6,6 +6,7 @@
 #include "settings/quiz_settings.h"
 #include "shell/ui/window_place.h"
 
+#include <QDate>
 #include <QMainWindow>
 
 #include <functional>
@@ -48,6 +49,11 @@ struct FrameServices
     QString root;
     CSpecialCharacterKeys &specialCharacters;
     std::function<void()> openHelp;
+    std::function<QDate()> today = {};
+    // For the window of settings; see SettingsFormServices.
+    std::function<bool()> resetSettings = {};
+    std::function<void()> chooseLanguage = {};
+    std::function<void()> associateFiles = {};
     /// What comes with the program is looked for in these.
     QStringList dataFolders = {};
 };
@@ -96,7 +102,6 @@ private:
     /// What becomes of an open edit before a command is carried out.
     void PrepareCommand(const Command &command);
     void UseFonts();
-    void OpenQuizSettings();
     void ShowTitle();
     /// A menu of the commands that a list names.
     void ShowMenu(const QList<int> &commands, const QPoint &place);

@@ -2,6 +2,7 @@
 #include "shell/ui/ordelin_app.h"
 
 #include "platform/data_folders.h"
+#include "shell/file_association.h"
 #include "shell/help.h"
 #include "shell/language_choice.h"
 #include "shell/text_numbers.h"
@@ -13,6 +14,7 @@
 #include <QDesktopServices>
 #include <QIcon>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
@@ -112,6 +114,10 @@ void COrdelinApp::MakeMainWindow()
         .root = CAppSettings::RootPath(),
         .specialCharacters = *m_specialCharacters,
         .openHelp = [this] { OpenHelp(); },
+        .today = [] { return QDate::currentDate(); },
+        .resetSettings = [this] { return m_settings.ResetToFactory(m_prompt); },
+        .chooseLanguage = [this] { ChooseLanguage(); },
+        .associateFiles = [this] { AssociateFiles(); },
         .dataFolders = m_dataFolders});
     connect(&m_recovery, &CRecovery::CopyFailed, m_frame.get(),
         [this] { m_frame->statusBar()->showMessage(m_texts.Get(Text::CopyFailed), FailureShown); });
@@ -134,6 +140,15 @@ void COrdelinApp::ChooseLanguage()
     if (dialog.exec() == QDialog::Accepted) {
         choice.Accept(m_settings.misc, m_prompt);
     }
+}
+
+void COrdelinApp::AssociateFiles()
+{
+    const QString userData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    AssociateGlossaryFiles(applicationFilePath(), userData, m_texts, m_prompt,
+        [](const QString &program, const QStringList &arguments) {
+            return QProcess::execute(program, arguments) == 0;
+        });
 }
 
 void COrdelinApp::OpenHelp()

@@ -52,6 +52,7 @@ protected:
 private:
     void MakeMainWindow();
     void ChooseLanguage();
+    void AssociateFiles();
     void OpenHelp();
     /// The questions of a start, once the main window is shown.
     void Welcome();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "editor/ui/long_line_edit.h"
+#include "platform/ui/long_line_edit.h"
 
 #include "platform/plain_text.h"
 

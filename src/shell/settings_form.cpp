@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "shell/settings_form.h"
+
+#include "settings/settings.h"
+
+CSettingsForm::CSettingsForm(SettingsFormServices services)
+    : newLists(services.texts, services.today()), m_services(std::move(services))
+{
+    Load();
+}
+
+void CSettingsForm::Load()
+{
+    general.Load(m_services.settings.misc);
+    editing.Load(m_services.settings.editor);
+    newLists.Load(m_services.settings.editor);
+    view.Load(m_services.settings.editor);
+}
+
+void CSettingsForm::Store()
+{
+    general.Store(m_services.settings.misc);
+    editing.Store(m_services.settings.editor);
+    newLists.Store(m_services.settings.editor);
+    view.Store(m_services.settings.editor);
+    m_services.changes.Tell(SettingsSection::Misc);
+    m_services.changes.Tell(SettingsSection::Editor);
+}
+
+bool CSettingsForm::Reset()
+{
+    if (!m_services.reset()) {
+        return false;
+    }
+    Load();
+    for (const SettingsSection section :
+        {SettingsSection::Misc, SettingsSection::Editor, SettingsSection::Quiz, SettingsSection::Arrange}) {
+        m_services.changes.Tell(section);
+    }
+    return true;
+}
