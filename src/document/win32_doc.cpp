@@ -289,6 +289,11 @@ void CWin32Doc::SetListProperties(ListProperties properties)
             *text = OneLine(**text);
         }
     }
+    for (std::optional<QString> *language : {&properties.language1, &properties.language2}) {
+        if (*language) {
+            *language = (**language).trimmed();
+        }
+    }
     Change([&properties](CWordList &list) { list.SetProperties(properties); });
 }
 

@@ -95,7 +95,7 @@ public:
     void OnFileSendMail();
 
     /// Sets properties as one undo step, or does nothing when none differs. They are single lines: control
-    /// characters become blanks.
+    /// characters become blanks. The names of the languages are trimmed.
     void SetListProperties(ListProperties properties);
 
     /// Replaces %language1, %language2, %comments, %author, %nwords and %date, in this order.

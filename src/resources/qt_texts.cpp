@@ -22,6 +22,8 @@ constexpr std::array ToolkitTexts = {
     ToolkitText{"&OK", 63510},
     ToolkitText{"Cancel", 62800},
     ToolkitText{"&Cancel", 62800},
+    ToolkitText{"Apply", 70172},
+    ToolkitText{"&Apply", 70172},
     ToolkitText{"Close", 62801},
     ToolkitText{"&Close", 62801},
     ToolkitText{"&Yes", 70050},

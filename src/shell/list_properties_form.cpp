@@ -70,8 +70,8 @@ QString CListPropertiesForm::Example(int direction) const
 
 void CListPropertiesForm::Accept()
 {
-    m_document.SetListProperties({.language1 = languages[0].trimmed(),
-        .language2 = languages[1].trimmed(),
+    m_document.SetListProperties({.language1 = languages[0],
+        .language2 = languages[1],
         .author = author,
         .comments = comments,
         .adaptQuestion1 = adaptQuestion[0],

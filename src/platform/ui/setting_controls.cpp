@@ -41,7 +41,8 @@ CLongLineEdit *MakeTextField(QWidget *page, const char *name, const QString &hin
     auto *field = new CLongLineEdit(hint, page);
     field->setObjectName(QLatin1StringView(name));
     field->SetWholeText(value);
-    field->setMinimumWidth(page->fontMetrics().averageCharWidth() * 30);
+    field->setMinimumWidth(page->fontMetrics().averageCharWidth() * 45);
+    field->setCursorPosition(0);
     QObject::connect(
         field, &CLongLineEdit::textChanged, field, [field, &value] { value = field->WholeText(); });
     return field;

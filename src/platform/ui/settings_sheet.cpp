@@ -10,27 +10,31 @@
 #include <QVBoxLayout>
 
 CSettingsSheet::CSettingsSheet(const QString &title, QWidget *parent, Buttons kind)
-    : QDialog(parent), m_pages(new QTabWidget(this))
+    : QDialog(parent), m_pages(new QTabWidget(this)),
+      m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
     setWindowTitle(title);
     setWindowModality(Qt::WindowModal);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->setAccessibleName(title);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttons"));
+    m_buttons->setObjectName(QStringLiteral("buttons"));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_pages, 1);
-    layout->addWidget(buttons);
+    layout->addWidget(m_buttons);
     if (kind == Buttons::OkCancelApply) {
-        connect(buttons->addButton(QDialogButtonBox::Apply), &QPushButton::clicked, this, [this] { Store(); });
+        connect(
+            m_buttons->addButton(QDialogButtonBox::Apply), &QPushButton::clicked, this, [this] { Store(); });
     }
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 void CSettingsSheet::AddPage(QWidget *page, const QString &title)
 {
     m_pages->addTab(new CScrollingPage(page), title);
+    // By Tab the buttons are reached after the page, in the order of the parents' children.
+    m_buttons->setParent(nullptr);
+    layout()->addWidget(m_buttons);
 }
 
 void CSettingsSheet::ReplacePages(const std::function<void()> &addPages)

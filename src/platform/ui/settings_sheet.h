@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QDialogButtonBox;
 class QTabWidget;
 
 /// A window of pages of settings that are stored together with OK, and with Apply where it has that. Each page
@@ -32,4 +33,5 @@ protected:
 
 private:
     QTabWidget *m_pages;
+    QDialogButtonBox *m_buttons;
 };

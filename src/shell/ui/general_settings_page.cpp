@@ -61,8 +61,8 @@ void AddFont(QVBoxLayout &page, CGeneralSettingsForm &form, const CTexts &texts)
     rows->addRow(own);
     QComboBox *const name = MakeFontChoice(group, values.fontName);
     CNumberField *const size = MakeNumber(group, "fontSize", CGeneralSettingsForm::FontSizes, values.fontSize);
-    QList<QWidget *> used = AddRow(*rows, texts.Get(Text::FontName), name)
-        + AddRow(*rows, texts.Get(Text::FontSize), size, texts.Get(Text::FontUnit));
+    QList<QWidget *> used = AddRow(*rows, texts.Get(Text::FontName), name);
+    used += AddRow(*rows, texts.Get(Text::FontSize), size, texts.Get(Text::FontUnit));
     used.append(MakeCheckBox(
         group, "useOtherFontQuizOnly", texts.Get(Text::FontInQuizzesOnly), values.useOtherFontQuizOnly));
     rows->addRow(used.last());
