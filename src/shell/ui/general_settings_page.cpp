@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int SampleLines = 3; // Of the desktop's font; a larger one scrolls.
+constexpr int SampleLines = 5; // Of the desktop's font; a larger one scrolls.
 
 /// The fonts that there are, to choose from, and room for the name of one that there isn't.
 QComboBox *MakeFontChoice(QWidget *parent, QString &name)
