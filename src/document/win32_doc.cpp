@@ -19,6 +19,15 @@
 
 namespace {
 
+/// A property as the user gives it: on one line, and nothing in it that can't be seen.
+QString CleanProperty(const QString &text)
+{
+    QString clean = OneLine(text);
+    std::replace_if(
+        clean.begin(), clean.end(), [](QChar unit) { return unit < u' ' || unit == u'\x7F'; }, QChar(u' '));
+    return clean;
+}
+
 /// What the user is told of a file that was not read as a list of this version.
 int MessageOf(ReadResult result)
 {
@@ -165,9 +174,9 @@ void CWin32Doc::OnNewDocument()
     const CTexts &texts = m_services.texts;
     const EditorSettings &settings = m_services.settings;
     CWordList list = List();
-    list.SetComments(OneLine(ExpandPlaceholders(settings.standardComments)));
+    list.SetComments(CleanProperty(ExpandPlaceholders(settings.standardComments)));
     const auto fill = [](const QString &given, const QString &standard) {
-        return OneLine(FirstGiven(given, standard));
+        return CleanProperty(FirstGiven(given, standard));
     };
     list.SetProperties(
         {.language1 = fill(list.GetLanguage(0), FirstGiven(settings.language1, texts.Get(Text::Language1))),
@@ -286,7 +295,7 @@ void CWin32Doc::SetListProperties(ListProperties properties)
     for (std::optional<QString> *text : {&properties.language1, &properties.language2, &properties.author,
              &properties.comments, &properties.questionTemplate1, &properties.questionTemplate2}) {
         if (*text) {
-            *text = OneLine(**text);
+            *text = CleanProperty(**text);
         }
     }
     for (std::optional<QString> *language : {&properties.language1, &properties.language2}) {

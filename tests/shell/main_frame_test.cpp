@@ -64,7 +64,8 @@ struct Frame
         .store = store,
         .root = QStringLiteral("root"),
         .specialCharacters = specialCharacters,
-        .openHelp = [this] { ++helpOpened; }}};
+        .openHelp = [this] { ++helpOpened; },
+        .today = [] { return QDate(2004, 5, 6); }}};
 
     QAction *Command(int id) const { return frame.findChild<QAction *>(QStringLiteral("command%1").arg(id)); }
     QString Status() const { return frame.findChild<QLabel *>(QStringLiteral("statusText"))->text(); }
