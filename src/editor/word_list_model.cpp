@@ -156,7 +156,12 @@ Qt::ItemFlags CWordListModel::flags(const QModelIndex &index) const
         return Qt::NoItemFlags;
     }
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return FieldOf(index.column()) == NumberColumn ? flags : flags | Qt::ItemIsEditable;
+    const int field = FieldOf(index.column());
+    if (field == NumberColumn) {
+        return flags;
+    }
+    const bool hasFlag = IsLanguage(field) && !m_rows.IsNewEntryRow(index.row());
+    return flags | Qt::ItemIsEditable | (hasFlag ? Qt::ItemIsUserCheckable : Qt::NoItemFlags);
 }
 
 QVariant CWordListModel::data(const QModelIndex &index, int role) const
@@ -187,6 +192,9 @@ QVariant CWordListModel::EntryData(int entry, int field, int role) const
         return shown.GetField(field);
     case MarkRole:
         return IsLanguage(field) ? QVariant(int(shown.GetFlag(field) ? Flagged : CellMark::NotFlagged))
+                                 : QVariant();
+    case Qt::CheckStateRole: // Of the flag, for assistive technology; it is drawn as a mark.
+        return IsLanguage(field) ? QVariant(int(shown.GetFlag(field) ? Qt::Checked : Qt::Unchecked))
                                  : QVariant();
     case Qt::AccessibleTextRole:
         if (IsLanguage(field)) {

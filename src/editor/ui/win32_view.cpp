@@ -114,7 +114,7 @@ void CWin32View::ListChanged(const ListChange &change)
         ShowProperties();
     }
     if (!change.replaced && m_list->hasFocus()) {
-        m_list->TellCursorName(); // Its flag may be another.
+        m_list->TellCursorChanged(); // Its flag may be another.
     }
 }
 

@@ -244,18 +244,34 @@ void CWordListControl::SetHotRow(int row)
     viewport()->update();
 }
 
-void CWordListControl::TellCursorName()
+QAccessibleInterface *CWordListControl::CursorCell()
 {
     if (!QAccessible::isActive() || !currentIndex().isValid()) {
-        return;
+        return nullptr;
     }
     QAccessibleInterface *const list = QAccessible::queryAccessibleInterface(this);
     QAccessibleTableInterface *const table = list != nullptr ? list->tableInterface() : nullptr;
-    if (table != nullptr) {
-        if (QAccessibleInterface *const cell = table->cellAt(currentIndex().row(), currentIndex().column())) {
-            QAccessibleEvent event(cell, QAccessible::NameChanged);
-            QAccessible::updateAccessibility(&event);
-        }
+    return table != nullptr ? table->cellAt(currentIndex().row(), currentIndex().column()) : nullptr;
+}
+
+void CWordListControl::TellCursorChanged()
+{
+    if (QAccessibleInterface *const cell = CursorCell()) {
+        QAccessibleEvent name(cell, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&name);
+        QAccessible::State flag;
+        flag.checked = true;
+        QAccessibleStateChangeEvent state(cell, flag);
+        QAccessible::updateAccessibility(&state);
+    }
+}
+
+void CWordListControl::TellCursorFocused()
+{
+    QAccessibleInterface *const cell = hasFocus() ? CursorCell() : nullptr;
+    if (cell != nullptr) {
+        QAccessibleEvent focus(cell, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focus);
     }
 }
 

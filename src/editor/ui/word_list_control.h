@@ -14,6 +14,7 @@
 
 class CWordListDelegate;
 class CWordListModel;
+class QAccessibleInterface;
 struct OpenEdit;
 
 /// How editing a cell in place ended, when it was not cancelled.
@@ -63,8 +64,8 @@ public:
     void SelectRow(int row, bool ensureVisible);
     bool IsRowVisible(int row) const;
 
-    /// Tells assistive technology that the cell of the cursor has another name, its flag for example.
-    void TellCursorName();
+    /// Tells assistive technology that the cell of the cursor has another name or flag.
+    void TellCursorChanged();
 
     /// A row that stands out; -1 for none.
     void SetHotRow(int row);
@@ -121,6 +122,9 @@ private:
     void LayoutColumns();
     /// The heading of the column by which the list is sorted has an arrow.
     void ShowOrder();
+    /// The cell of the cursor as assistive technology knows it; null when there is none of either.
+    QAccessibleInterface *CursorCell();
+    void TellCursorFocused();
     /// Moves the cell cursor without the scrolling that follows its keys.
     void PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select);
     int NumberColumnWidth() const;

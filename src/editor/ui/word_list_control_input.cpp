@@ -198,6 +198,8 @@ void CWordListControl::focusInEvent(QFocusEvent *event)
 {
     QTableView::focusInEvent(event);
     viewport()->update();
+    // The toolkit tells that the list has the focus, not which of its cells; that comes behind it.
+    QMetaObject::invokeMethod(this, &CWordListControl::TellCursorFocused, Qt::QueuedConnection);
 }
 
 void CWordListControl::focusOutEvent(QFocusEvent *event)
