@@ -9,7 +9,8 @@ import sys
 import tempfile
 
 # Where labels are made, and the one message box.
-FACTORIES = {"platform/ui/label.cpp", "platform/ui/elided_label.h", "platform/ui/elided_label.cpp"}
+FACTORIES = {"platform/ui/label.cpp", "platform/ui/elided_label.h", "platform/ui/elided_label.cpp",
+             "platform/ui/wrapped_text.h", "platform/ui/wrapped_text.cpp"}
 PROMPT = "platform/ui/message_box_prompt.cpp"
 
 LABEL = "a label that MakeLabel() did not make"

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/message_box_prompt.h"
+#include "platform/ui/wrapped_text.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -50,6 +52,7 @@ class MessageBoxPromptTest : public QObject
 
 private Q_SLOTS:
     void lettersChooseNothing();
+    void longTextsAreShownToTheirEnd();
     void typingGoesOn();
 };
 
@@ -67,6 +70,32 @@ void MessageBoxPromptTest::lettersChooseNothing()
     });
     QCOMPARE(run.Ask(), PromptAnswer::No);
     QVERIFY(open);
+}
+
+void MessageBoxPromptTest::longTextsAreShownToTheirEnd()
+{
+    Window run;
+    QFont large = run.window.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    run.window.setFont(large); // As the user may choose for quizzes.
+    const QSize screen = run.window.screen()->availableSize();
+    const QString word(130, u'w');
+    for (const QString &text : {word, QStringLiteral("a word ").repeated(1200)}) {
+        QTimer::singleShot(0, &run.window, [&] {
+            QMessageBox *const box = run.Box();
+            const auto *const shown = box->findChild<CWrappedText *>();
+            QCOMPARE(box->font(), large);
+            QCOMPARE(shown->text(), text);
+            QVERIFY(box->height() <= screen.height() && box->width() <= screen.width());
+            QVERIFY(box->rect().contains(box->button(QMessageBox::Ok)->geometry()));
+            QVERIFY(shown->height() >= shown->heightForWidth(shown->width()));
+            const QRect place = shown->geometry();
+            QTest::keyClick(box, Qt::Key_PageDown);
+            QCOMPARE(shown->geometry() != place, text != word); // What finds no room scrolls.
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        run.prompt.Tell({1, text}, PromptIcon::PlainInformation);
+    }
 }
 
 void MessageBoxPromptTest::typingGoesOn()

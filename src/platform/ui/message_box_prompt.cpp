@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/message_box_prompt.h"
 
+#include "platform/plain_text.h"
 #include "platform/ui/held_enter.h"
 #include "platform/ui/owner_window.h"
 #include "platform/ui/type_ahead_filter.h"
+#include "platform/ui/wrapped_text.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 
 namespace {
@@ -43,15 +50,42 @@ QMessageBox::StandardButton BoxButton(PromptAnswer answer)
 }
 
 /// A message box whose buttons are not chosen by letters alone: those may be meant for what it stands in front
-/// of.
+/// of. Its text is shown to its end, and scrolls where the screen is too low for it.
 class CPromptBox : public QMessageBox
 {
 public:
-    using QMessageBox::QMessageBox;
+    CPromptBox(const QString &text, PromptIcon icon, StandardButtons buttons, QWidget *owner)
+        : QMessageBox(BoxIcon(icon), QApplication::applicationDisplayName(), text, buttons, owner)
+    {
+        // The user may have chosen a font for the window that it belongs to.
+        if (owner != nullptr && owner->testAttribute(Qt::WA_SetFont)) {
+            setFont(owner->font());
+        }
+        if (icon == PromptIcon::PlainInformation) {
+            const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+            setIconPixmap(style()->standardIcon(QStyle::SP_MessageBoxInformation, nullptr, this).pixmap(size));
+        }
+        // The toolkit's own label cuts long words off, and grows out of the screen.
+        auto *const grid = qobject_cast<QGridLayout *>(layout());
+        auto *const label = findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+        const int place = grid != nullptr && label != nullptr ? grid->indexOf(label) : -1;
+        if (place >= 0) {
+            int row = 0;
+            int column = 0;
+            int rows = 0;
+            int columns = 0;
+            grid->getItemPosition(place, &row, &column, &rows, &columns);
+            label->hide();
+            grid->addWidget(MakeText(text), row, column, rows, columns);
+        }
+    }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override
     {
+        if (m_bar != nullptr && Scroll(event->key())) {
+            return;
+        }
         const bool withCommandKey =
             (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) != 0;
         if (!withCommandKey && !event->text().isEmpty() && event->text().at(0).isPrint()) {
@@ -60,19 +94,59 @@ protected:
             QMessageBox::keyPressEvent(event);
         }
     }
+
+private:
+    QWidget *MakeText(const QString &text)
+    {
+        constexpr qsizetype Longest = 20000; // Nobody reads more.
+        auto *const area = new QScrollArea(this);
+        auto *const shown = new CWrappedText(ShownShort(text, Longest), area);
+        area->setWidget(shown);
+        area->setWidgetResizable(true);
+        area->setFrameShape(QFrame::NoFrame);
+        area->setFocusPolicy(Qt::NoFocus);
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area->viewport()->setAutoFillBackground(false);
+        shown->setAutoFillBackground(false);
+        m_bar = area->verticalScrollBar();
+        const QSize screenSize = screen()->availableSize();
+        const int width = std::min(shown->sizeHint().width(), screenSize.width() * 2 / 3);
+        const int height = shown->heightForWidth(width);
+        const int highest = screenSize.height() * 3 / 5; // The rest is for the buttons and the frame.
+        area->setFixedSize(
+            height > highest ? width + m_bar->sizeHint().width() : width, std::min(height, highest));
+        return area;
+    }
+    /// Whether the key scrolls the text: its buttons stand beside each other.
+    bool Scroll(int key)
+    {
+        switch (key) {
+        case Qt::Key_Up:
+            m_bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+            return true;
+        case Qt::Key_Down:
+            m_bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+            return true;
+        case Qt::Key_PageUp:
+            m_bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+            return true;
+        case Qt::Key_PageDown:
+            m_bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    QScrollBar *m_bar = nullptr; // Of the text.
 };
 
 int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons buttons,
     QMessageBox::StandardButton defaultButton, CTypeAheadFilter *typeAhead = nullptr)
 {
-    CPromptBox box(BoxIcon(icon), QApplication::applicationDisplayName(), text.text, buttons, OwnerWindow());
+    CPromptBox box(text.text, icon, buttons, OwnerWindow());
     box.setObjectName(QStringLiteral("prompt%1").arg(text.number));
     box.setTextFormat(Qt::PlainText);
-    if (icon == PromptIcon::PlainInformation) {
-        const QStyle &style = *box.style();
-        const int size = style.pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
-        box.setIconPixmap(style.standardIcon(QStyle::SP_MessageBoxInformation, nullptr, &box).pixmap(size));
-    }
     box.setDefaultButton(defaultButton);
     box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     IgnoreHeldEnter(box);

@@ -2,10 +2,10 @@
 #include "quiz/ui/question_area.h"
 
 #include "platform/plain_text.h"
+#include "platform/ui/wrapped_text.h"
 
 #include <QEvent>
 #include <QPlainTextEdit>
-#include <QTextLayout>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -19,25 +19,6 @@ constexpr double Step = 0.25;
 
 constexpr int Gap = 8; // Between the question and the fields.
 constexpr int Slack = 4; // Rounded heights must not bring a scroll bar.
-
-/// How high a text becomes in a width.
-int heightOf(const QString &text, const QFont &font, int width)
-{
-    qreal height = 0;
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    for (const QString &paragraph : text.split(u'\n')) {
-        QTextLayout layout(paragraph, font);
-        layout.setTextOption(option);
-        layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(width);
-            height += line.height();
-        }
-        layout.endLayout();
-    }
-    return int(std::ceil(height));
-}
 
 }
 
@@ -106,7 +87,9 @@ void CQuestionArea::placeAll()
     const double wide = width() / (60.0 * fontMetrics().averageCharWidth());
     const double high = height() / (14.0 * fontMetrics().lineSpacing());
     double factor = std::clamp(Smallest * std::min(wide, high), Smallest, Largest);
-    const auto needed = [&] { return heightOf(question, scaledFont(factor), width() - margins()) + margins(); };
+    const auto needed = [&] {
+        return WrappedHeight(question, scaledFont(factor), width() - margins()) + margins();
+    };
     while (factor > Smallest && needed() > room) {
         factor = std::max(factor - Step, Smallest);
     }

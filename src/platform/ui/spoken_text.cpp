@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ui/spoken_text.h"
+
+#include "platform/plain_text.h"
+
+#include <QAccessibleWidget>
+#include <QEvent>
+
+#include <utility>
+
+namespace {
+
+/// Screen readers read out a notification that shows itself.
+QAccessibleInterface *MakeNotification(const QString & /*className*/, QObject *object)
+{
+    auto *const spoken = qobject_cast<CSpokenText *>(object);
+    return spoken != nullptr ? new QAccessibleWidget(spoken, QAccessible::Notification) : nullptr;
+}
+
+}
+
+CSpokenText::CSpokenText(QWidget *window) : QWidget(window)
+{
+    QAccessible::installFactory(MakeNotification);
+    setObjectName(QStringLiteral("spokenText"));
+    setFixedSize(0, 0);
+    window->installEventFilter(this);
+}
+
+void CSpokenText::Say(const QString &text)
+{
+    setAccessibleName(ShownShort(text));
+    m_waits = !window()->isActiveWindow();
+    if (!m_waits) {
+        Tell();
+    }
+}
+
+bool CSpokenText::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate && std::exchange(m_waits, false)) {
+        // After the focus has come back, which is spoken first.
+        QMetaObject::invokeMethod(this, &CSpokenText::Tell, Qt::QueuedConnection);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CSpokenText::Tell()
+{
+    QAccessibleEvent shown(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
+}

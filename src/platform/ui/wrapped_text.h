@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+/// How high a plain text becomes in a width, with lines that end at blanks, or anywhere in a word that finds no
+/// room on a line of its own.
+int WrappedHeight(const QString &text, const QFont &font, int width);
+/// The width of its longest paragraph on one line, or `most` when that is less.
+int NaturalWidth(const QString &text, const QFont &font, int most);
+
+/// A label that shows such a text to its end, however long its words are. Its height follows from its width.
+class CWrappedText : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// The text must not change.
+    CWrappedText(const QString &text, QWidget *parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
