@@ -25,7 +25,7 @@ ALLOWED = {
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 # Modules of the toolkit that the window-free library doesn't link.
-WINDOW_MODULES = re.compile(r"^Qt(Widgets|Gui|Multimedia|Svg|PrintSupport)/|^Qt(Widgets|Gui)$")
+WINDOW_MODULES = re.compile(r"^Qt(Widgets|Gui|Svg|PrintSupport)/|^Qt(Widgets|Gui)$")
 
 
 def core_headers():

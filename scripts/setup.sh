@@ -4,8 +4,8 @@
 # "checks" for formatting, static analysis, fuzzing and packaging. Does nothing when all of it is there.
 set -euo pipefail
 
-program=(g++ cmake ninja-build ccache python3 qt6-base-dev qt6-multimedia-dev libqt6svg6 qt6-wayland libicu-dev libgl-dev
-    libx11-dev libxtst-dev fonts-dejavu-core)
+program=(g++ cmake ninja-build ccache python3 pkg-config qt6-base-dev libqt6svg6 qt6-wayland libicu-dev libgl-dev
+    libx11-dev libxtst-dev libcanberra-dev fonts-dejavu-core)
 display=(xvfb openbox imagemagick xdotool)
 checks=(clang clang-format clang-tidy libclang-rt-dev git
     desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base dpkg-dev file)
@@ -15,7 +15,7 @@ declare -n packages=${1:?"usage: setup.sh program|display|checks"}
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     cat >&2 <<EOF
 This system has no Debian packages, so nothing was installed. Needed are: a C++20 compiler, CMake 3.25, Ninja,
-Python 3, Qt 6.4 (base, multimedia and SVG) and ICU, with their development files; for pictures of windows without a
+Python 3, Qt 6.4 (base and SVG), ICU and libcanberra, with their development files; for pictures of windows without a
 display Xvfb, openbox, xdotool and ImageMagick; for the checks clang, clang-format and clang-tidy.
 EOF
     # What is needed may have come another way.

@@ -7,10 +7,10 @@
 #include "document/win32_doc.h"
 #include "platform/exit_signals.h"
 #include "platform/random.h"
+#include "platform/ui/desktop_sounds.h"
 #include "platform/ui/file_dialog_chooser.h"
 #include "platform/ui/label.h"
 #include "platform/ui/message_box_prompt.h"
-#include "platform/ui/sound_effect_player.h"
 #include "resources/qt_texts.h"
 #include "resources/texts.h"
 #include "settings/app_settings.h"
@@ -72,7 +72,7 @@ private:
     CRandom m_random;
     CMessageBoxPrompt m_prompt;
     CFileDialogChooser m_chooser;
-    CSoundEffectPlayer m_sounds;
+    CSoundThread m_sounds{OpenDesktopSounds};
     CWin32Doc m_document;
     std::unique_ptr<CRecentFiles> m_recent;
     std::unique_ptr<CFileCommands> m_files;
