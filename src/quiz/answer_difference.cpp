@@ -237,10 +237,50 @@ QList<DifferencePart> differenceBetween(const Pair &pair)
     return walk.parts();
 }
 
-QString withoutMarks(const QString &text)
+/// `text` with one character for all that look the same.
+QString byLook(const QString &text)
 {
-    QString letters = text.normalized(QString::NormalizationForm_D);
-    letters.removeIf([](QChar unit) { return unit.isMark(); });
+    QString look = text.normalized(QString::NormalizationForm_C);
+    for (QChar &unit : look) {
+        switch (unit.unicode()) {
+        case QChar::Nbsp:
+        case 0x202F: // A narrow no-break space.
+            unit = u' ';
+            break;
+        case u'\u2018':
+        case u'\u2019':
+        case u'\u02BC':
+        case u'\u00B4':
+            unit = u'\'';
+            break;
+        case u'\u201C':
+        case u'\u201D':
+            unit = u'"';
+            break;
+        case u'\u2010':
+        case u'\u2011':
+            unit = u'-';
+            break;
+        default:
+            break;
+        }
+    }
+    return look;
+}
+
+QString withoutAccents(const QString &text)
+{
+    QString letters;
+    for (const QStringView character : splitCharacters(text)) {
+        const QString composed = character.toString().normalized(QString::NormalizationForm_C);
+        if (QStringView(u"åäöÅÄÖ").contains(composed)) {
+            letters += composed;
+            continue;
+        }
+        QString plain = composed.normalized(QString::NormalizationForm_D);
+        plain.removeIf([](QChar unit) { return unit.isMark(); });
+        letters += plain;
+    }
     return letters;
 }
 
@@ -256,6 +296,40 @@ QString withoutPunctuation(const QString &text)
     return kept;
 }
 
+/// `text` without what these slips are about.
+QString without(Slips slips, QString text)
+{
+    if (slips.testFlag(Slip::LetterCase)) {
+        text = ToLowerCase(text);
+    }
+    if (slips.testFlag(Slip::Accent)) {
+        text = withoutAccents(text);
+    }
+    return slips.testFlag(Slip::PunctuationOrBlanks) ? withoutPunctuation(text) : text;
+}
+
+/// Slips that leave the words as they are.
+Slips slipsBetween(const QString &typed, const QString &expected)
+{
+    const QString typedLook = byLook(typed);
+    const QString expectedLook = byLook(expected);
+    if (typedLook == expectedLook) {
+        return Slip::SameLook;
+    }
+    // The fewest first.
+    constexpr Slip Case = Slip::LetterCase;
+    constexpr Slip Accent = Slip::Accent;
+    constexpr Slip Punctuation = Slip::PunctuationOrBlanks;
+    for (const Slips slips : {Slips(Case), Slips(Accent), Slips(Punctuation), Case | Accent, Case | Punctuation,
+             Accent | Punctuation, Case | Accent | Punctuation}) {
+        const QString left = without(slips, typedLook);
+        if (!left.isEmpty() && left == without(slips, expectedLook)) {
+            return slips;
+        }
+    }
+    return {};
+}
+
 bool isOneLetter(const QList<DifferencePart> &parts)
 {
     const auto isOther = [](const DifferencePart &part) { return part.kind != Kind::Same; };
@@ -266,17 +340,36 @@ bool isOneLetter(const QList<DifferencePart> &parts)
     return std::ranges::count_if(parts, isOther) == 1 && isLetter(other->typed) && isLetter(other->expected);
 }
 
-/// A slip that leaves the words as they are.
-Slip slipBetween(const QString &typed, const QString &expected)
+bool isExchange(const Pair &pair)
 {
-    if (ToLowerCase(typed) == ToLowerCase(expected)) {
-        return Slip::LetterCase;
+    const auto typed = [&](size_t row) { return pair.typed.characters[pair.start + row].compared; };
+    const auto expected = [&](size_t column) { return pair.expected.characters[pair.start + column].compared; };
+    return pair.rows() == 2 && pair.columns() == 2 && typed(0) == expected(1) && typed(1) == expected(0);
+}
+
+/// Whether less than half of the characters are the same in both.
+bool isOtherWord(const Pair &pair, const QList<DifferencePart> &parts)
+{
+    size_t differing = 0;
+    for (const DifferencePart &part : parts) {
+        if (part.kind != Kind::Same) {
+            differing += std::max(splitCharacters(part.typed).size(), splitCharacters(part.expected).size());
+        }
     }
-    if (withoutMarks(typed) == withoutMarks(expected)) {
-        return Slip::Accent;
+    const size_t longer = std::max(pair.typed.characters.size(), pair.expected.characters.size());
+    return longer < 2 * differing;
+}
+
+/// What is left to name where the words are not the same.
+Slips slipsOf(const Pair &pair, const QList<DifferencePart> &parts)
+{
+    if (isExchange(pair)) {
+        return Slip::Exchange;
     }
-    const QString words = withoutPunctuation(typed);
-    return !words.isEmpty() && words == withoutPunctuation(expected) ? Slip::PunctuationOrBlanks : Slip::None;
+    if (isOtherWord(pair, parts)) {
+        return Slip::OtherWord;
+    }
+    return isOneLetter(parts) ? Slips(Slip::OneLetter) : Slips();
 }
 
 /// The alternatives in their order, then the whole term, each as it may be typed.
@@ -304,8 +397,8 @@ AnswerDifference answerDifference(
     std::optional<int> nearest;
     for (const QString &text : acceptedTexts(entry, answerColumn)) {
         const ComparedText accepted(text, options);
-        difference.slip = slipBetween(typed.compared, accepted.compared);
-        if (difference.slip != Slip::None) {
+        difference.slips = slipsBetween(typed.compared, accepted.compared);
+        if (difference.slips) {
             difference.expected = text;
             break;
         }
@@ -316,9 +409,14 @@ AnswerDifference answerDifference(
         }
     }
     const ComparedText expected(difference.expected, options);
-    difference.parts = differenceBetween(Pair(typed, expected));
-    if (difference.slip == Slip::None && isOneLetter(difference.parts)) {
-        difference.slip = Slip::OneLetter;
+    const Pair pair(typed, expected);
+    difference.parts = differenceBetween(pair);
+    if (!difference.slips) {
+        difference.slips = slipsOf(pair, difference.parts);
+    }
+    if (difference.slips.testFlag(Slip::OtherWord)) {
+        // Letters that agree by chance say nothing.
+        difference.parts = {{Kind::Changed, difference.typed, difference.expected}};
     }
     return difference;
 }

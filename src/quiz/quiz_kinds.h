@@ -20,6 +20,9 @@ enum class QuizKind {
     Memory = 8
 };
 
+/// How answers are given. A word whose answer is empty can't be typed, so it is left out.
+enum class QuizAnswers { AreChosen, AreTyped };
+
 /// What the program knows of a kind before it runs. Its window stands beside the other windows' makers.
 struct QuizKindRow
 {
@@ -29,6 +32,7 @@ struct QuizKindRow
     const char *icon;
     /// The fewest entries that a list must have.
     int minimumEntries;
+    QuizAnswers answers;
 };
 
 /// One row per kind, in the order of the kinds.

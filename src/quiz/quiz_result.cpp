@@ -20,7 +20,8 @@
 #include <cmath>
 
 CQuizResult::CQuizResult(CQuizSession &session, ResultServices services, ResultMode mode)
-    : m_session(session), m_services(services), m_mode(mode), m_model(session, services.texts, mode)
+    : m_session(session), m_services(services), m_mode(mode), m_proposesFlags(!session.settings().learning),
+      m_model(session, services.texts, mode)
 {
 }
 
@@ -42,9 +43,22 @@ int CQuizResult::rightShare() const
     return int(std::lround(m_session.totalPercent() * 10));
 }
 
+FlagLimits CQuizResult::limits() const
+{
+    return m_proposesFlags ? FlagLimits::of(m_services.settings) : FlagLimits();
+}
+
+QString CQuizResult::unanswerableLine() const
+{
+    const int count = m_session.unanswerableCount();
+    return count == 0 ? QString()
+        : count == 1  ? m_services.texts.Get(Text::OneWordUnanswerable)
+                      : m_services.texts.Fill(Text::WordsUnanswerable, {QString::number(count)});
+}
+
 QString CQuizResult::flagLine() const
 {
-    const FlagChanges changes = m_session.flagChanges(FlagLimits::of(m_services.settings));
+    const FlagChanges changes = m_session.flagChanges(limits());
     const QString flag = QString::number(changes.flag.size());
     const QString unflag = QString::number(changes.unflag.size());
     const CTexts &texts = m_services.texts;
@@ -58,7 +72,7 @@ QString CQuizResult::flagLine() const
 
 void CQuizResult::applyFlags()
 {
-    m_session.applyFlags(FlagLimits::of(m_services.settings));
+    m_session.applyFlags(limits());
 }
 
 QString CQuizResult::table() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "quiz/flag_limits.h"
 #include "quiz/quiz_result_model.h"
 
 #include <QString>
@@ -36,8 +37,12 @@ public:
     QString summary() const;
     /// The share of right answers in tenths of a percent.
     int rightShare() const;
-    /// How many flags will change under the settings in force.
+    /// Tells of words that were left out since there is nothing to type for them; empty for none.
+    QString unanswerableLine() const;
+    /// How many flags will change under the settings in force. After learning, when the answers were shown,
+    /// none until the user has confirmed the settings.
     QString flagLine() const;
+    void flagSettingsConfirmed() { m_proposesFlags = true; }
     void applyFlags();
     /// The titles, the rows and the summary as lines with tabs between the cells.
     QString table() const;
@@ -50,11 +55,13 @@ public:
 private:
     /// Tells so: neither a table nor a part takes the place of the whole list.
     bool isListsOwnFile(const QString &path);
+    FlagLimits limits() const;
     QString proposedFile(int name, const QString &suffix) const;
 
     CQuizSession &m_session;
     ResultServices m_services;
     ResultMode m_mode;
+    bool m_proposesFlags;
     CQuizResultModel m_model;
 };
 

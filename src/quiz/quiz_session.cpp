@@ -22,18 +22,31 @@ int mostRequizRounds(const QuizSettings &settings)
 
 }
 
-CQuizSession::CQuizSession(
-    CWin32Doc &document, const QuizSettings &settings, CRandom &random, std::span<const int> selected)
+CQuizSession::CQuizSession(CWin32Doc &document, const QuizSettings &settings, CRandom &random,
+    std::span<const int> selected, QuizAnswers answers)
     : m_document(document), m_settings(settings), m_random(random),
       m_questionColumn(int(settings.showLanguage)), m_options{settings.ignoreCase, settings.characterCheck},
       m_requizLimit(mostRequizRounds(settings))
 {
-    selectWords(selected, random);
+    selectWords(selected, random, answers);
     m_records.resize(m_candidates.size());
     startRound();
 }
 
-void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
+CQuizSession::CQuizSession(const CQuizSession &earlier, std::vector<int> entries)
+    : m_document(earlier.m_document), m_settings(earlier.m_settings), m_random(earlier.m_random),
+      m_questionColumn(earlier.m_questionColumn), m_options(earlier.m_options),
+      m_requizLimit(earlier.m_requizLimit), m_records(entries.size()), m_candidates(std::move(entries))
+{
+    startRound();
+}
+
+std::shared_ptr<CQuizSession> CQuizSession::overMistakes() const
+{
+    return std::shared_ptr<CQuizSession>(new CQuizSession(*this, mistakes()));
+}
+
+void CQuizSession::selectWords(std::span<const int> selected, CRandom &random, QuizAnswers answers)
 {
     const CWordList &list = m_document.List();
     if (m_settings.wordsToQuiz == WordsToQuiz::Selected && !selected.empty()) {
@@ -41,6 +54,11 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random)
     } else {
         m_candidates.resize(size_t(list.Count()));
         std::iota(m_candidates.begin(), m_candidates.end(), 0);
+    }
+
+    if (answers == QuizAnswers::AreTyped) {
+        m_unanswerable = int(std::erase_if(
+            m_candidates, [&](int index) { return list.Entry(index).GetText(answerColumn()).isEmpty(); }));
     }
 
     const auto flagged = [&](int index) { return list.Entry(index).GetFlag(m_questionColumn); };
@@ -133,6 +151,16 @@ AnswerVerdict CQuizSession::judge(int position, const QString &answer) const
 {
     const CWordEntry &entry = m_document.List().Entry(m_candidates[size_t(position)]);
     return checkAnswer(entry, 1 - m_questionColumn, answer, m_options);
+}
+
+std::optional<int> CQuizSession::otherWordOf(int position, const QString &answer) const
+{
+    for (int other = 0; other < wordCount(); ++other) {
+        if (other != position && judge(other, answer) != AnswerVerdict::Wrong) {
+            return other;
+        }
+    }
+    return std::nullopt;
 }
 
 void CQuizSession::count(int position, AnswerVerdict verdict)

@@ -3,9 +3,11 @@
 
 #include "quiz/answer_check.h"
 #include "quiz/flag_limits.h"
+#include "quiz/quiz_kinds.h"
 
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -33,13 +35,17 @@ class CQuizSession
 public:
     /// Selects the words and starts the first round. `selected` are the entries selected in the view,
     /// ascending. Nothing handed in is owned.
-    CQuizSession(
-        CWin32Doc &document, const QuizSettings &settings, CRandom &random, std::span<const int> selected);
+    CQuizSession(CWin32Doc &document, const QuizSettings &settings, CRandom &random,
+        std::span<const int> selected, QuizAnswers answers = QuizAnswers::AreChosen);
+    /// Another session over the words answered wrong, with the same direction and judging.
+    std::shared_ptr<CQuizSession> overMistakes() const;
 
     /// Begins the next re-quiz or base round; false when the quiz is over.
     bool startRound();
     int roundSize() const { return int(m_roundOrder.size()); }
     int wordCount() const { return int(m_candidates.size()); }
+    /// How many words were left out since there is nothing to type for them.
+    int unanswerableCount() const { return m_unanswerable; }
     int baseRound() const { return m_baseRound; }
     /// 0 in a base round.
     int requizRound() const { return m_requizRound; }
@@ -64,6 +70,10 @@ public:
     /// The question as it is put: by the list's own template for this direction, else by `defaultTemplate`.
     QString questionText(int roundPosition, const QString &defaultTemplate) const;
 
+    /// Judges an answer to the word at a position, as its entry is now.
+    AnswerVerdict judge(int position, const QString &answer) const;
+    /// The first other word that an answer would be right for.
+    std::optional<int> otherWordOf(int position, const QString &answer) const;
     /// Judges and records an answer as it is; the form tidies it first.
     AnswerVerdict recordAnswer(int roundPosition, const QString &text);
     /// Judges every recorded answer again, after an entry was changed.
@@ -111,11 +121,11 @@ public:
     std::optional<std::vector<int>> entriesToSelect() const;
 
 private:
-    void selectWords(std::span<const int> selected, CRandom &random);
+    CQuizSession(const CQuizSession &earlier, std::vector<int> entries);
+    void selectWords(std::span<const int> selected, CRandom &random, QuizAnswers answers);
     /// Not with the word `last` first.
     void shuffleAvoiding(std::optional<int> last);
     CWordEntry entryAccepting(int position, const QString &answer) const;
-    AnswerVerdict judge(int position, const QString &answer) const;
     void count(int position, AnswerVerdict verdict);
 
     CWin32Doc &m_document;
@@ -129,6 +139,7 @@ private:
     std::vector<QuizWordRecord> m_records;
     std::vector<int> m_roundOrder; // Positions in the order they are asked.
     std::vector<int> m_candidates;
+    int m_unanswerable = 0;
     std::vector<int> m_wrongList; // Positions answered wrong in this round, each once.
     int m_totalRight = 0;
     int m_totalWrong = 0;

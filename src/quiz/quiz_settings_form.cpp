@@ -4,19 +4,20 @@
 #include "document/file_filters.h"
 #include "platform/file_chooser.h"
 #include "platform/plain_text.h"
+#include "platform/sound_player.h"
 #include "quiz/answer_sound.h"
 #include "quiz/text_numbers.h"
 #include "resources/texts.h"
 
 CQuizSettingsForm::CQuizSettingsForm(QuizSettings &settings, const std::array<QString, 2> &languages,
-    const CTexts &texts, IFileChooser &chooser, const QStringList &dataFolders)
+    const CTexts &texts, IFileChooser &chooser, ISoundPlayer &sounds, const QStringList &dataFolders)
     : values(settings), m_settings(settings), m_languages(languages), m_texts(texts), m_chooser(chooser),
-      m_dataFolders(dataFolders)
+      m_sounds(sounds), m_dataFolders(dataFolders)
 {
     // Some are stored without bounds.
     values.numberOfWords = NumberOfWords.Clamped(values.numberOfWords);
-    for (int *const value :
-        {&values.quizNumber, &values.partOfWords, &values.includeFlaggedProbability, &values.requizNumber}) {
+    values.includeFlaggedProbability = Probability.Clamped(values.includeFlaggedProbability);
+    for (int *const value : {&values.quizNumber, &values.partOfWords, &values.requizNumber}) {
         *value = Others.Clamped(*value);
     }
 }
@@ -59,4 +60,11 @@ QString CQuizSettingsForm::browseSound(const QString &current) const
         .filters = FileFilters(m_texts.Get(Text::SoundFilters)),
         .start = findSound(current, m_dataFolders)});
     return chosen.isEmpty() ? current : chosen;
+}
+
+void CQuizSettingsForm::playSound(const QString &file) const
+{
+    if (const QString found = findSound(file, m_dataFolders); !found.isEmpty()) {
+        m_sounds.Play(found);
+    }
 }

@@ -2,20 +2,12 @@
 #pragma once
 
 #include "quiz/accept_offer.h"
-#include "quiz/answer_difference.h"
 
 #include <QAbstractListModel>
+#include <QHash>
 
 class CQuizSession;
 class CTexts;
-
-/// What the user typed, a mark where it changes into what was right, and that: characters too many are struck
-/// through, missing ones underlined. Long texts are shortened.
-QString differenceAsHtml(const AnswerDifference &difference);
-/// The same as a sentence with the steps from one to the other, and with the name of the slip.
-QString differenceInWords(const AnswerDifference &difference, const CTexts &texts);
-/// Empty for a slip without a name.
-QString slipName(Slip slip, const CTexts &texts);
 
 /// The wrong answers given to one word of a session, each once, with what was wrong. The text of a row is a
 /// sentence, which assistive technology reads.
@@ -24,7 +16,7 @@ class CWrongAnswersModel : public QAbstractListModel
     Q_OBJECT
 
 public:
-    /// The difference as markup, in which texts of the user are escaped.
+    /// The difference as markup.
     static constexpr int MarkupRole = Qt::UserRole;
 
     CWrongAnswersModel(const CQuizSession &session, const CTexts &texts, QObject *parent = nullptr);
@@ -44,4 +36,11 @@ private:
     const CTexts &m_texts;
     int m_position = -1;
     QStringList m_answers;
+    /// What was wrong with each, in words and as markup: made when it is looked at first.
+    struct Shown
+    {
+        QString words;
+        QString markup;
+    };
+    mutable QHash<int, Shown> m_shown;
 };

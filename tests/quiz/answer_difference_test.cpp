@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/answer_difference.h"
-#include "quiz/wrong_answers_model.h"
+#include "quiz/difference_text.h"
 #include "resources/texts.h"
 
 #include <QTest>
@@ -22,7 +22,7 @@ void AnswerDifferenceTest::differences_data()
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("options"); // i ignore case, 1 or 2 character check
     QTest::addColumn<QString>("parts"); // +missing, -surplus, typed>expected, same or typed/expected
-    QTest::addColumn<QString>("slip"); // The first letter of its name.
+    QTest::addColumn<QString>("slip"); // A letter for each.
     const auto row = [](const char *name, const char *term, const char *answer, const char *options,
                          const char *parts, const char *slip) {
         QTest::newRow(name) << QString::fromUtf8(term) << QString::fromUtf8(answer)
@@ -35,13 +35,19 @@ void AnswerDifferenceTest::differences_data()
     row("a digit is no letter", "mp3", "mp4", "", "mp|4>3", "");
     row("the fewest steps", "sitting", "kittens", "", "k>s|itt|e>i|n|s>g", "");
     row("one more and one less", "abcd", "bcde", "", "+a|bcd|-e", "");
-    row("all else", "dog", "cat", "", "cat>dog", "");
+    row("all else", "dog", "cat", "", "cat>dog", "W");
     row("letter case", "Hund", "hUND", "", "hUND>Hund", "L");
+    row("letter case and punctuation", "Don't", "dont", "", "d>D|on|+'|t", "LP");
+    row("å is a letter", "får", "far", "", "f|a>å|r", "O");
+    row("ü is an accent", "über", "uber", "", "u>ü|ber", "A");
+    row("an apostrophe that looks the same", "don't", "don’t", "", "don|’>'|t", "S");
+    row("a blank that looks the same", "to be", "to\u00A0be", "", "to|\u00A0> |be", "S");
+    row("two neighbours exchanged", "horse", "hrose", "", "h|ro>or|se", "X");
     row("accents", "été", "ete", "", "e>é|t|e>é", "A");
     row("a combining mark belongs to its letter", "e\u0301n", "en", "", "e>e\u0301|n", "A");
     row("an emoji of several code points is one", "a👩‍🚀b", "ab", "", "a|+👩‍🚀|b", "P");
     row("punctuation", "to-be, or", "to be or", "", "to| >-|be|+,| or", "P");
-    row("only digits left are no words", "!", "?", "", "?>!", "");
+    row("only digits left are no words", "!", "?", "", "?>!", "W");
     row("the nearest of several", "cat * house * horse", "housse", "", "hous|-s|e", "O");
     row("the first of those as near", "bat * cat", "rat", "", "r>b|at", "O");
     row("a named slip is nearest", "H * hund", "HUND", "", "HUND>hund", "L");
@@ -50,12 +56,12 @@ void AnswerDifferenceTest::differences_data()
     row("the comment typed", "hus [n]", "hus m", "", "hus |m>n", "O");
     row("what does not count is the same", "to-be or Not", "Tobe or noot", "i1", "Tobe or no/to-be or No|-o|t",
         "O");
-    row("also between steps", "fast, car!", "¡slow dog", "1", "¡/|slow>fast| /, |dog>car|/!", "");
+    row("also between steps", "fast, cars!", "¡last bars", "1", "¡/|l>f|ast| /, |b>c|ars|/!", "");
     row("only its case counts", "Hund!", "hUND", "1", "hUND>Hund|/!", "L");
     row("case ignored", "Hund", "HUNT", "i", "HUN/Hun|T>d", "O");
-    row("nothing left to compare", "to-be", "!!", "1", "+to|/-|+be|!!/", "");
+    row("nothing left to compare", "to-be", "!!", "1", "!!>to-be", "W");
     row("a mark that does not count stays with its letter", "e\u0301ne", "enn", "1", "en/e\u0301n|n>e", "O");
-    row("looks the same and is not", "e\u0301n", "én", "", "é>e\u0301|n", "A");
+    row("looks the same and is not", "e\u0301n", "én", "", "é>e\u0301|n", "S");
     row("looks the same and counts as without its mark", "én", "e\u0301n", "1", "e\u0301>é|n", "A");
     row("parts that make one character", "\u0e19\u0e33x", "\u0e19-\u0e33", "1", "\u0e19-\u0e33/\u0e19\u0e33|+x",
         "O");
@@ -81,7 +87,13 @@ void AnswerDifferenceTest::differences()
                                        : part.typed + u'>' + part.expected);
     }
     QCOMPARE(found.join(u'|'), parts);
-    QCOMPARE(QStringLiteral(" LAPO").at(int(difference.slip)), slip.isEmpty() ? QChar(u' ') : slip.at(0));
+    QString slips;
+    for (int bit = 0; bit < 7; ++bit) {
+        if (difference.slips.testFlag(Slip(1 << bit))) {
+            slips += QStringLiteral("LAPSOXW").at(bit);
+        }
+    }
+    QCOMPARE(slips, slip);
 }
 
 void AnswerDifferenceTest::shown()
@@ -96,8 +108,7 @@ void AnswerDifferenceTest::shown()
         QStringLiteral("\"<i>  & co\", rätt är \"<b> & co\": ändra \"i\" till \"b\", ta bort \" \"."));
     const AnswerDifference letter =
         answerDifference(CWordEntry(QStringLiteral("%s1")), 0, QStringLiteral("%1"), {});
-    QCOMPARE(differenceInWords(letter, texts),
-        QStringLiteral("\"%1\", rätt är \"%s1\": lägg till \"s\". En bokstav fel."));
+    QCOMPARE(differenceInWords(letter, texts), QStringLiteral("\"%1\", rätt är \"%s1\": lägg till \"s\"."));
     const AnswerDifference ignored = answerDifference(CWordEntry(QStringLiteral("to-be")), 0,
         QStringLiteral("Tobbe!"), {.ignoreCase = true, .characterCheck = CharacterCheck::OnlyLetters});
     QCOMPARE(differenceAsHtml(ignored), QStringLiteral("Tob<s>b</s>e! → to-be"));
@@ -105,16 +116,14 @@ void AnswerDifferenceTest::shown()
     const AnswerDifference turned =
         answerDifference(CWordEntry(QStringLiteral("a")), 0, QStringLiteral("a\u202E"), {});
     QCOMPARE(differenceAsHtml(turned), QStringLiteral("\u2068a<s>\u202E</s>\u2069 → a"));
-    QCOMPARE(differenceInWords(ignored, texts),
-        QStringLiteral("\"Tobbe!\", rätt är \"to-be\": ta bort \"b\". En bokstav fel."));
-    QStringList slips;
-    for (int slip = 0; slip <= int(Slip::OneLetter); ++slip) {
-        slips.append(slipName(Slip(slip), texts));
-    }
-    QCOMPARE(slips.join(u'|'),
-        QStringLiteral(
-            "|Stora och små bokstäver|Accenter eller prickar|Skiljetecken eller mellanslag|En bokstav "
-            "fel"));
+    QCOMPARE(
+        differenceInWords(ignored, texts), QStringLiteral("\"Tobbe!\", rätt är \"to-be\": ta bort \"b\"."));
+    QCOMPARE(slipNames(Slip::LetterCase | Slip::PunctuationOrBlanks, texts),
+        QStringLiteral("Stora och små bokstäver; Skiljetecken eller mellanslag"));
+    const AnswerDifference other =
+        answerDifference(CWordEntry(QStringLiteral("dog")), 0, QStringLiteral("cat"), {});
+    QCOMPARE(differenceInWords(other, texts) + u' ' + slipNames(other.slips, texts),
+        QStringLiteral("\"cat\", rätt är \"dog\". Annat ord"));
 }
 
 void AnswerDifferenceTest::longTexts()
@@ -122,11 +131,14 @@ void AnswerDifferenceTest::longTexts()
     // Too long to be compared letter by letter: what is between the common ends is one change.
     const QString middle(100000, u'x');
     const QString other(100001, u'y');
+    const QString words = QStringLiteral("word ").repeated(30000);
     const AnswerDifference difference =
-        answerDifference(CWordEntry(u'a' + middle + u'b'), 0, u'a' + other + u'b', {});
+        answerDifference(CWordEntry(words + middle + u'b'), 0, words + other + u'b', {});
     QCOMPARE(difference.parts.size(), 3);
     QCOMPARE(difference.parts.at(1), (DifferencePart{DifferencePart::Kind::Changed, other, middle}));
-    QVERIFY(differenceAsHtml(difference).size() < 300);
+    const QString html = differenceAsHtml(difference);
+    QVERIFY(html.size() < 400 && html.startsWith(QStringLiteral("word\u00A0word"))
+        && html.contains(QStringLiteral("word…word")));
     // So many steps that nobody reads them, although they are found at once.
     const AnswerDifference steps = answerDifference(CWordEntry(QStringLiteral("a-").repeated(100000)), 0,
         QStringLiteral("!"), {.characterCheck = CharacterCheck::OnlyLetters});

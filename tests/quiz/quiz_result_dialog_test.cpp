@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -63,6 +64,8 @@ private Q_SLOTS:
     void allRight();
     void duringTheQuiz();
     void flagSettings();
+    void mistakesAgain();
+    void orderAndFilter();
 };
 
 void QuizResultDialogTest::accepted()
@@ -83,11 +86,11 @@ void QuizResultDialogTest::accepted()
     auto *list = Find<QTableView>(dialog, "results");
     auto *wrong = Find<QListView>(dialog, "wrongAnswers");
     QCOMPARE(list->currentIndex().row(), 1);
-    QCOMPARE(wrong->currentIndex().data().toString(),
-        QStringLiteral("\"x\", rätt är \"cat\": ändra \"x\" till \"cat\"."));
+    QCOMPARE(wrong->currentIndex().data().toString(), QStringLiteral("\"x\", rätt är \"cat\". Annat ord."));
     QTest::keyClick(list, Qt::Key_Down);
     QCOMPARE(wrong->currentIndex().data().toString(),
-        QStringLiteral("\"hrose\", rätt är \"horse\": ändra \"ro\" till \"or\"."));
+        QStringLiteral(
+            "\"hrose\", rätt är \"horse\": ändra \"ro\" till \"or\". Två bokstäver har bytt plats."));
 
     Find<QPushButton>(dialog, "copyButton")->click();
     QVERIFY(QApplication::clipboard()->text().endsWith(
@@ -209,6 +212,62 @@ void QuizResultDialogTest::flagSettings()
         && settings.changeUnaskedTo == FlagState::Off);
     QCOMPARE(Find<QLabel>(result, "flagLine")->text(), QStringLiteral("1 glosor kommer att flaggas."));
     result->reject();
+}
+
+void QuizResultDialogTest::mistakesAgain()
+{
+    TestQuiz run({QStringLiteral("hund|dog"), QStringLiteral("katt|cat||1"), QStringLiteral("ko|")});
+    auto *result = PlayToResult(run, {QStringLiteral("dog"), QStringLiteral("x")});
+    QCOMPARE(Find<QLabel>(result, "unanswerable")->text(), QStringLiteral("1 glosa utan svar ställdes inte."));
+    run.settings.includeFlaggedWords = IncludeFlagged::Never;
+    Find<QPushButton>(result, "askAgainButton")->click();
+    QCOMPARE(Flags(run), QStringLiteral("hund|dog||1,katt|cat,ko")); // As with OK.
+    auto *again = FindWindow<CStandardQuiz>();
+    QVERIFY(again != nullptr && !run.host.shown);
+    QCOMPARE(Find<QLabel>(again, "wordText")->text(), QStringLiteral("Glosa 1 av 1."));
+    Find<QLineEdit>(again, "answer")->setText(QStringLiteral("cat"));
+    QTest::keyClick(again, Qt::Key_Return);
+    auto *second = FindWindow<CQuizResultDialog>();
+    QVERIFY(second != nullptr && !Find<QPushButton>(second, "askAgainButton")->isEnabled());
+    second->accept();
+    QCOMPARE(Flags(run), QStringLiteral("hund|dog||1,katt|cat||1,ko"));
+    QVERIFY(!run.launch.isRunning() && run.host.selected == std::vector<int>{1});
+}
+
+void QuizResultDialogTest::orderAndFilter()
+{
+    TestQuiz run({QStringLiteral("öl|beer"), QStringLiteral("zebra|zebra"), QStringLiteral("Apa|ape")});
+    run.settings.learning = true;
+    auto *result = PlayToResult(run, {QStringLiteral("beer"), QStringLiteral("x"), QStringLiteral("y")});
+    QCOMPARE(Find<QLabel>(result, "flagLine")->text(), QStringLiteral("Inga glosor kommer att ändras."));
+    auto *list = Find<QTableView>(result, "results");
+    const auto shown = [list] {
+        QStringList words;
+        for (int row = 0; row < list->model()->rowCount(); ++row) {
+            words.append(list->model()->index(row, 0).data().toString());
+        }
+        return words.join(u' ');
+    };
+    QCOMPARE(shown(), QStringLiteral("öl zebra Apa"));
+    auto *order = Find<QComboBox>(result, "order");
+    const auto sortBy = [&](int column) {
+        order->setCurrentIndex(column + 1);
+        Q_EMIT order->activated(column + 1);
+        return shown();
+    };
+    QCOMPARE(sortBy(0), QStringLiteral("Apa zebra öl"));
+    QCOMPARE(sortBy(3), QStringLiteral("zebra Apa öl")); // The most wrong answers first.
+    QCOMPARE(list->currentIndex().siblingAtColumn(0).data().toString(), QStringLiteral("zebra"));
+    list->horizontalHeader()->setSortIndicator(0, Qt::DescendingOrder);
+    QCOMPARE(shown() + u' ' + order->currentText(), QStringLiteral("öl zebra Apa Svenska"));
+    Find<QCheckBox>(result, "onlyMistakes")->click();
+    QCOMPARE(shown(), QStringLiteral("zebra Apa"));
+    QCOMPARE(sortBy(-1), QStringLiteral("zebra Apa"));
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(Find<QListView>(result, "wrongAnswers")->currentIndex().data().toString(),
+        QStringLiteral("\"y\", rätt är \"ape\". Annat ord."));
+    result->accept();
+    QCOMPARE(Flags(run), QStringLiteral("öl|beer,zebra|zebra,Apa|ape"));
 }
 
 QTEST_MAIN(QuizResultDialogTest)

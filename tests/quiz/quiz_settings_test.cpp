@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_settings_dialog.h"
 #include "support/scripted_prompt.h"
+#include "support/silent_sounds.h"
 
 #include "resources/texts.h"
 
@@ -21,9 +22,10 @@ struct Window
 {
     CTexts texts;
     CScriptedChooser chooser;
+    CSilentSounds sounds;
     QuizSettings &settings;
     CQuizSettingsDialog dialog{CQuizSettingsForm(settings, {QStringLiteral("A&B"), QStringLiteral("Engelska")},
-        texts, chooser, {QStringLiteral(ORDELIN_SOURCE_DIR)})};
+        texts, chooser, sounds, {QStringLiteral(ORDELIN_SOURCE_DIR)})};
 
     explicit Window(QuizSettings &stored) : settings(stored) { dialog.open(); }
 
@@ -115,7 +117,7 @@ void QuizSettingsTest::storesWhatIsShown()
         QCOMPARE(Describe(settings), factory);
         changed.dialog.accept();
     }
-    const QString stored = QStringLiteral("100 0 0 1 0 1 1 1 1000 100 1 100 1 1 0 1 0 0 0 0 100 a.wav ");
+    const QString stored = QStringLiteral("100 0 0 1 0 1 1 1 1000 100 1 99 1 1 0 1 0 0 0 0 100 a.wav ");
     QCOMPARE(Describe(settings), stored);
     Window again(settings);
     again.dialog.accept();
@@ -181,6 +183,9 @@ void QuizSettingsTest::choosingSounds()
         (QStringList{QStringLiteral("Ljud (*.wav)"), QStringLiteral("Alla filer (*)")}));
     window.Find<QPushButton>("fileWrongBrowse")->click();
     QCOMPARE(file->text(), QStringLiteral("/x/ding.wav"));
+    window.Find<QPushButton>("fileWrongPlay")->click(); // There is no such file.
+    window.Find<QPushButton>("fileRightPlay")->click();
+    QCOMPARE(window.sounds.played, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/right.wav")});
     window.dialog.accept();
     QCOMPARE(settings.wrongSoundFile, QStringLiteral("/x/ding.wav"));
     QCOMPARE(settings.rightSoundFile, QStringLiteral("right.wav"));

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/input_guard_filter.h"
+#include "platform/ui/spoken_text.h"
 #include "quiz/text_numbers.h"
 #include "quiz/ui/quiz_result_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "support/test_quiz.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -14,6 +16,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
+#include <QTextEdit>
 
 class QuizWindowsTest : public QObject
 {
@@ -26,6 +29,7 @@ private Q_SLOTS:
     void buttonsByKeyboard();
     void hastyInput();
     void hastyInputInAMessage();
+    void lastAnswerIsSeenAndHeard();
 };
 
 void QuizWindowsTest::wholeQuizByKeyboard()
@@ -169,6 +173,54 @@ void QuizWindowsTest::hastyInputInAMessage()
     now += CInputGuard::Pause;
     QTest::keyClick(box.button(QMessageBox::Ok), Qt::Key_Return);
     QVERIFY(!box.isVisible());
+}
+
+namespace {
+
+QStringList heard; // What a screen reader would say of what appears without a key.
+
+void hear(QAccessibleEvent *event)
+{
+    if (event->type() == QAccessible::ObjectShow && qobject_cast<CSpokenText *>(event->object()) != nullptr) {
+        QAccessibleInterface *const shown = event->accessibleInterface();
+        heard.append(shown->role() == QAccessible::Notification ? shown->text(QAccessible::Name) : QString());
+    }
+}
+
+}
+
+void QuizWindowsTest::lastAnswerIsSeenAndHeard()
+{
+    const auto handler = QAccessible::installUpdateHandler(hear);
+    QAccessible::setActive(true);
+    TestQuiz run({QStringLiteral("hund|dog|<i>"), QStringLiteral("katt|cat")});
+    run.launch.startQuiz(QuizKind::Standard);
+    auto *window = FindWindow<CStandardQuiz>();
+    auto *answer = window->findChild<QLineEdit *>(QStringLiteral("answer"));
+    auto *feedback = window->findChild<QTextEdit *>(QStringLiteral("feedback"));
+    QApplication::setActiveWindow(window);
+    QCoreApplication::processEvents();
+    const auto give = [&](const char *text) {
+        heard.clear();
+        answer->setText(QString::fromUtf8(text));
+        QTest::keyClick(answer, Qt::Key_Return);
+        return heard.join(u'|');
+    };
+    QCOMPARE(heard, QStringList{QStringLiteral("Vad heter \"hund\" på Engelska?")});
+    QCOMPARE(feedback->toPlainText(), QString());
+    QCOMPARE(give("cat"), QStringLiteral("Fel. Vad heter \"hund\" på Engelska?"));
+    QCOMPARE(feedback->toPlainText(),
+        QStringLiteral("Fel\u00A0\u00A0hund – dog (<i>)\ncat → dog\u00A0\u00A0Svaret hör till \"katt\""));
+    run.settings.showAnswer = false; // Then what was right isn't shown beside it either.
+    give("x");
+    QCOMPARE(feedback->toPlainText(), QStringLiteral("Fel"));
+    QCOMPARE(give("dog"), QStringLiteral("Rätt. Vad heter \"katt\" på Engelska?"));
+    QCOMPARE(feedback->toPlainText(), QStringLiteral("Rätt"));
+    QAccessible::setActive(false);
+    QAccessible::installUpdateHandler(handler);
+    run.test.prompt.answers = {PromptAnswer::Yes};
+    window->close();
+    FindWindow<CQuizResultDialog>()->reject();
 }
 
 QTEST_MAIN(QuizWindowsTest)

@@ -43,6 +43,11 @@ CAcceptAnswerBar::CAcceptAnswerBar(const CTexts &texts, QWidget *window)
     showOffer({});
 }
 
+QString CAcceptAnswerBar::shownLine() const
+{
+    return m_line->text();
+}
+
 void CAcceptAnswerBar::showOffer(const AcceptOffer &offer)
 {
     m_button->setText(acceptCaption(offer, m_texts));

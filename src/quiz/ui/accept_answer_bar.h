@@ -20,6 +20,8 @@ public:
 
     /// Without an offer the button is disabled.
     void showOffer(const AcceptOffer &offer);
+    /// The line that says what was accepted; empty while nothing was.
+    QString shownLine() const;
 
 Q_SIGNALS:
     void pressed();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/difference_delegate.h"
 
+#include "quiz/ui/difference_style.h"
 #include "quiz/wrong_answers_model.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -24,14 +25,9 @@ void CDifferenceDelegate::fill(
 {
     document.setDefaultFont(item.font);
     document.setDocumentMargin(Margin);
-    QString style = QStringLiteral("s, u { font-weight: bold } ");
     // On a selected row colours of our own might not be readable.
-    if (!isSelected(item)) {
-        const bool dark = item.palette.color(QPalette::Base).lightness() < 128;
-        style += dark ? QStringLiteral("s { color: #ff8a80 } u { color: #81e08c }")
-                      : QStringLiteral("s { color: #b00020 } u { color: #00691c }");
-    }
-    document.setDefaultStyleSheet(style);
+    document.setDefaultStyleSheet(
+        isSelected(item) ? QStringLiteral("s, u { font-weight: bold }") : differenceStyle(item.palette));
     document.setHtml(index.data(CWrongAnswersModel::MarkupRole).toString());
 }
 

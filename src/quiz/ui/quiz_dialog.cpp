@@ -5,6 +5,7 @@
 #include "platform/ui/held_enter.h"
 #include "platform/ui/input_guard_filter.h"
 #include "platform/ui/label.h"
+#include "platform/ui/spoken_text.h"
 #include "platform/user_prompt.h"
 #include "quiz/quiz_form.h"
 #include "quiz/text_numbers.h"
@@ -24,7 +25,7 @@
 
 CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form, QuizParts parts)
     : m_services(services), m_form(form), m_parts(parts), m_guard(new CInputGuardFilter(services.clock, this)),
-      m_content(new QVBoxLayout), m_buttonColumn(new QVBoxLayout)
+      m_spoken(new CSpokenText(this)), m_content(new QVBoxLayout), m_buttonColumn(new QVBoxLayout)
 {
     setWindowTitle(texts().Get(Text::QuizTitle));
     setWindowModality(Qt::WindowModal);
@@ -126,7 +127,17 @@ void CQuizDialog::showNextWord()
 {
     showCurrentWord();
     updateStatistics();
+    speak(spokenQuestion());
     m_guard->QuestionAppeared(*this, [this] { return isAnswerEmpty(); });
+}
+
+void CQuizDialog::speak(const QString &text)
+{
+    const QString verdict = std::exchange(m_verdict, {});
+    const QString spoken = verdict.isEmpty() ? text : verdict + QStringLiteral(". ") + text;
+    if (!spoken.isEmpty()) {
+        m_spoken->Say(spoken);
+    }
 }
 
 void CQuizDialog::showProgress(const Line &line, const QuizProgress &progress)
@@ -164,6 +175,7 @@ void CQuizDialog::showFeedback(AnswerVerdict verdict, const std::optional<Feedba
     if (!sound.isEmpty()) {
         m_services.sounds.Play(sound);
     }
+    m_verdict = texts().Get(verdict == AnswerVerdict::Wrong ? Text::AnswerIsWrong : Text::AnswerIsRight);
     if (feedback) {
         // One sound is enough.
         const PromptIcon icon = sound.isEmpty() ? PromptIcon::Information : PromptIcon::PlainInformation;

@@ -13,6 +13,7 @@
 #include <optional>
 
 class CInputGuardFilter;
+class CSpokenText;
 class CQuizForm;
 class CTexts;
 class IFileChooser;
@@ -78,11 +79,15 @@ protected:
     virtual void focusInput() = 0;
     /// Whether Enter would record an answer of nothing.
     virtual bool isAnswerEmpty() const { return false; }
+    /// What is to be answered now, as it is read out; empty where the focus says it.
+    virtual QString spokenQuestion() const { return {}; }
     /// The lines of statistics, and what else follows from the answers so far.
     virtual void updateStatistics();
 
     /// What showCurrentWord() shows is new: keys and clicks meant for what was there before don't answer it.
     void showNextWord();
+    /// Reads out what appeared without a key, behind the verdict on an answer where one was given.
+    void speak(const QString &text);
     /// The sound of an answer and the text about it, where there are such.
     void showFeedback(AnswerVerdict verdict, const std::optional<FeedbackText> &feedback);
 
@@ -115,6 +120,8 @@ private:
     CQuizForm &m_form;
     QuizParts m_parts;
     CInputGuardFilter *m_guard;
+    CSpokenText *m_spoken;
+    QString m_verdict; // Not read out yet.
     QVBoxLayout *m_content;
     QVBoxLayout *m_buttonColumn;
     QHash<QuizPart, QPushButton *> m_buttons;

@@ -30,8 +30,14 @@ void CQuizLaunch::startQuiz(QuizKind kind)
     }
     m_kind = kind;
     m_session = makeSession();
+    runSession();
+}
+
+void CQuizLaunch::runSession()
+{
+    const QuizWindowServices &windows = m_services.windows;
     if (m_session != nullptr) {
-        m_dialog = m_services.makers[size_t(kind)](windows,
+        m_dialog = m_services.makers[size_t(m_kind)](windows,
             {m_session, m_services.settings, m_services.kindSettings, windows.texts, m_services.random,
                 windows.clock});
     }
@@ -45,8 +51,8 @@ void CQuizLaunch::startQuiz(QuizKind kind)
 std::shared_ptr<CQuizSession> CQuizLaunch::makeSession() const
 {
     const CWaitCursor wait;
-    auto session = std::make_shared<CQuizSession>(
-        m_services.document, m_services.settings, m_services.random, m_services.host.SelectedEntries());
+    auto session = std::make_shared<CQuizSession>(m_services.document, m_services.settings, m_services.random,
+        m_services.host.SelectedEntries(), quizKindRow(m_kind).answers);
     const bool asks = session->roundSize() > 0 && session->baseRound() <= m_services.settings.quizNumber;
     return asks ? session : nullptr;
 }
@@ -90,9 +96,19 @@ void CQuizLaunch::showResult()
 {
     auto *result = new CQuizResultDialog(m_session, m_services.windows, ResultMode::AfterQuiz, &m_mainWindow);
     result->setAttribute(Qt::WA_DeleteOnClose);
-    connect(result, &QDialog::finished, this, &CQuizLaunch::finish);
+    connect(result, &QDialog::finished, this, [this, result] { resultClosed(*result); });
     (new CInputGuardFilter(m_services.windows.clock, result))->WindowOpens(*result);
     result->open();
+}
+
+void CQuizLaunch::resultClosed(const CQuizResultDialog &result)
+{
+    if (!result.asksMistakesAgain()) {
+        finish();
+        return;
+    }
+    m_session = m_session->overMistakes();
+    runSession();
 }
 
 void CQuizLaunch::finish()

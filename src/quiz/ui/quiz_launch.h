@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class CQuizResultDialog;
 class IQuizHost;
 struct EditorSettings;
 
@@ -47,9 +48,12 @@ public:
 private:
     /// Null when there is no word to ask.
     std::shared_ptr<CQuizSession> makeSession() const;
+    /// Opens the window of the session; without one there is no quiz.
+    void runSession();
     void openWindow();
     void quizClosed();
     void showResult();
+    void resultClosed(const CQuizResultDialog &result);
     void finish();
 
     QuizLaunchServices m_services;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_result_dialog.h"
 
+#include "platform/plain_text.h"
 #include "platform/ui/held_enter.h"
 #include "platform/ui/label.h"
 #include "platform/ui/wait_cursor.h"
@@ -14,6 +15,7 @@
 
 #include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -32,8 +34,8 @@ CQuizResultDialog::CQuizResultDialog(
     : QDialog(parent), m_session(std::move(session)), m_prompt(services.prompt),
       m_settings(services.resultSettings),
       m_result(*m_session, {services.texts, services.prompt, services.chooser, services.resultSettings}, mode),
-      m_wrongAnswers(*m_session, services.texts), m_list(new QTableView(this)), m_summary(MakeLabel({}, this)),
-      m_share(new QProgressBar(this))
+      m_order(m_result.model(), *m_session), m_wrongAnswers(*m_session, services.texts),
+      m_list(new QTableView(this)), m_summary(MakeLabel({}, this)), m_share(new QProgressBar(this))
 {
     const CTexts &texts = services.texts;
     setObjectName(QStringLiteral("quizResult"));
@@ -45,6 +47,7 @@ CQuizResultDialog::CQuizResultDialog(
     const QSize wanted(fontMetrics().averageCharWidth() * 110, fontMetrics().lineSpacing() * 34);
     resize(wanted.boundedTo(screen()->availableSize() * 0.9));
     makeList();
+    QLayout *const orderLine = makeOrderLine();
     m_summary->setObjectName(QStringLiteral("summary"));
     m_share->setObjectName(QStringLiteral("rightShare"));
     m_share->setAccessibleName(texts.Get(Text::ResultRightShare));
@@ -52,6 +55,7 @@ CQuizResultDialog::CQuizResultDialog(
     m_share->setTextVisible(false);
 
     auto *layout = new QVBoxLayout(this);
+    layout->addLayout(orderLine);
     layout->addWidget(m_list, 3);
     const bool mayTakeBack = m_session->acceptedAnswer().has_value();
     if (m_result.showsRightAnswers() && (m_result.hasMistakes() || mayTakeBack)) {
@@ -59,6 +63,11 @@ CQuizResultDialog::CQuizResultDialog(
     }
     layout->addWidget(m_summary);
     layout->addWidget(m_share);
+    if (const QString line = m_result.unanswerableLine(); !line.isEmpty()) {
+        QLabel *const unanswerable = MakeWrappedLabel(line, this);
+        unanswerable->setObjectName(QStringLiteral("unanswerable"));
+        layout->addWidget(unanswerable);
+    }
     if (m_result.changesFlags()) {
         m_selectMistakes = new QCheckBox(texts.Get(Text::SelectMistakes), this);
         m_selectMistakes->setObjectName(QStringLiteral("selectMistakes"));
@@ -85,7 +94,10 @@ void CQuizResultDialog::makeList()
 {
     m_list->setObjectName(QStringLiteral("results"));
     m_list->setAccessibleName(m_result.texts().Get(Text::ResultEntries));
-    m_list->setModel(&m_result.model());
+    m_list->setModel(&m_order);
+    m_list->sortByColumn(-1, Qt::AscendingOrder);
+    m_list->setSortingEnabled(true);
+    m_list->horizontalHeader()->setSortIndicatorClearable(true); // Back to the session's order.
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setShowGrid(false);
@@ -112,7 +124,58 @@ void CQuizResultDialog::makeList()
         }
     }
     connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-        [this](const QModelIndex &current) { showWord(current.row()); });
+        [this](const QModelIndex &current) {
+            showWord(current.isValid() ? m_order.positionOf(current.row()) : -1);
+        });
+}
+
+QLayout *CQuizResultDialog::makeOrderLine()
+{
+    const CTexts &texts = m_result.texts();
+    auto *only = new QCheckBox(texts.Get(Text::OnlyMistakes), this);
+    only->setObjectName(QStringLiteral("onlyMistakes"));
+    connect(only, &QCheckBox::toggled, this, &CQuizResultDialog::filter);
+    // What a click on a heading does, for the keyboard.
+    auto *orders = new QComboBox(this);
+    orders->setObjectName(QStringLiteral("order"));
+    orders->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    orders->setMinimumContentsLength(20);
+    orders->addItem(texts.Get(Text::OrderOfQuiz));
+    for (int column = 0; column < m_order.columnCount(); ++column) {
+        orders->addItem(ShownShort(m_order.headerData(column, Qt::Horizontal).toString(), 60));
+    }
+    QHeaderView *const header = m_list->horizontalHeader();
+    connect(orders, &QComboBox::activated, this,
+        [this](int order) { m_list->sortByColumn(order - 1, Qt::AscendingOrder); });
+    connect(header, &QHeaderView::sortIndicatorChanged, orders,
+        [orders](int section) { orders->setCurrentIndex(section + 1); });
+    QLabel *const label = MakeLabel(texts.Get(Text::ResultOrder), this);
+    label->setBuddy(orders);
+    orders->setAccessibleName(CaptionReadOut(label->text()));
+
+    auto *line = new QHBoxLayout;
+    line->addWidget(label);
+    line->addWidget(orders);
+    line->addStretch(1);
+    line->addWidget(only);
+    return line;
+}
+
+void CQuizResultDialog::filter(bool onlyMistakes)
+{
+    const int position = m_wrongAnswers.position();
+    m_order.setOnlyMistakes(onlyMistakes);
+    if (position >= 0 && m_order.rowOf(position) >= 0) {
+        selectWord(position);
+    } else {
+        selectFirstMistake();
+    }
+}
+
+void CQuizResultDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    m_list->scrollTo(m_list->currentIndex()); // There was no room yet when it was chosen.
 }
 
 QWidget *CQuizResultDialog::makeWrongAnswers()
@@ -189,6 +252,14 @@ QLayout *CQuizResultDialog::makeButtons()
     row->addWidget(copy);
     row->addWidget(m_saveMistakes);
     row->addStretch(1);
+    if (m_result.changesFlags()) {
+        m_askAgain = makeButton(Text::AskMistakesAgain, "askAgainButton");
+        m_askAgain->setToolTip(m_result.texts().Get(Text::AskMistakesAgainHint));
+        m_askAgain->setAccessibleDescription(m_askAgain->toolTip());
+        m_askAgain->setAutoDefault(false);
+        connect(m_askAgain, &QPushButton::clicked, this, &CQuizResultDialog::askAgain);
+        row->addWidget(m_askAgain);
+    }
     row->addWidget(end);
     return row;
 }
@@ -197,10 +268,22 @@ void CQuizResultDialog::selectFirstMistake()
 {
     for (int position = 0; position < m_session->wordCount(); ++position) {
         if (m_session->wasWrong(position)) {
-            m_list->selectRow(position);
+            selectWord(position);
             return;
         }
     }
+}
+
+void CQuizResultDialog::selectWord(int position)
+{
+    m_list->selectRow(m_order.rowOf(position));
+    m_list->scrollTo(m_list->currentIndex());
+}
+
+void CQuizResultDialog::askAgain()
+{
+    m_asksAgain = true;
+    accept();
 }
 
 void CQuizResultDialog::showWord(int position)
@@ -230,6 +313,9 @@ void CQuizResultDialog::updateTotals()
     m_share->setValue(m_result.rightShare());
     const bool mistakes = m_result.hasMistakes();
     m_saveMistakes->setEnabled(mistakes);
+    if (m_askAgain != nullptr) {
+        m_askAgain->setEnabled(mistakes);
+    }
     if (m_result.changesFlags()) {
         m_selectMistakes->setEnabled(mistakes);
         m_flagLine->setText(m_result.flagLine());
@@ -247,7 +333,7 @@ void CQuizResultDialog::takeAcceptOffer()
     }
     m_result.model().wordChanged(position);
     updateTotals();
-    m_list->selectRow(position);
+    selectWord(position);
     showWord(position);
     m_offersTakeBack = !takeBack;
     updateAcceptOffer();
@@ -263,7 +349,10 @@ void CQuizResultDialog::openFlagSettings()
 {
     auto *dialog = new CFlagSettingsDialog(m_settings, m_result.texts(), m_prompt, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, &CQuizResultDialog::updateTotals);
+    connect(dialog, &QDialog::accepted, this, [this] {
+        m_result.flagSettingsConfirmed();
+        updateTotals();
+    });
     dialog->open();
 }
 

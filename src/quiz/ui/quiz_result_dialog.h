@@ -2,6 +2,7 @@
 #pragma once
 
 #include "quiz/quiz_result.h"
+#include "quiz/result_order.h"
 #include "quiz/ui/quiz_dialog.h"
 #include "quiz/wrong_answers_model.h"
 
@@ -24,15 +25,24 @@ public:
         ResultMode mode, QWidget *parent);
 
     void accept() override;
+    /// After accept(): whether the words answered wrong are to be asked in a new quiz.
+    bool asksMistakesAgain() const { return m_asksAgain; }
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 private:
     void makeList();
+    QLayout *makeOrderLine();
     QWidget *makeWrongAnswers();
     QLayout *makeFlagLine();
     QLayout *makeButtons();
     QPushButton *makeButton(int text, const char *name);
     void selectFirstMistake();
+    void selectWord(int position);
     void showWord(int position);
+    void filter(bool onlyMistakes);
+    void askAgain();
     void answerSelected();
     void updateAcceptOffer();
     void updateTotals();
@@ -44,6 +54,7 @@ private:
     IUserPrompt &m_prompt;
     ResultSettings &m_settings;
     CQuizResult m_result;
+    CResultOrder m_order;
     CWrongAnswersModel m_wrongAnswers;
     QTableView *m_list;
     QListView *m_answers = nullptr;
@@ -54,4 +65,6 @@ private:
     QCheckBox *m_selectMistakes = nullptr;
     QLabel *m_flagLine = nullptr;
     QPushButton *m_saveMistakes = nullptr;
+    QPushButton *m_askAgain = nullptr;
+    bool m_asksAgain = false;
 };

@@ -46,8 +46,8 @@ CQuizSettings2::CQuizSettings2(CQuizSettingsForm &form, QWidget *parent) : QWidg
     AddRow(*rows, texts.Get(Text::QuizSettingsFlagged), flagged);
     m_probability = addNumber(Text::QuizSettingsProbabilityQuestion, Text::QuizSettingsProbability,
         Text::QuizSettingsPercent,
-        MakeNumber(
-            this, "includeFlaggedProbability", CQuizSettingsForm::Others, values.includeFlaggedProbability));
+        MakeNumber(this, "includeFlaggedProbability", CQuizSettingsForm::Probability,
+            values.includeFlaggedProbability));
 
     connect(words, &QComboBox::currentIndexChanged, this, &CQuizSettings2::updateEnabled);
     connect(flagged, &QComboBox::currentIndexChanged, this, &CQuizSettings2::updateEnabled);

@@ -37,10 +37,12 @@ CQuizSettings3::CQuizSettings3(CQuizSettingsForm &form, QWidget *parent) : QWidg
     auto *sounds = new QGridLayout;
     addSound(*sounds,
         {"playRight", "fileRight", Text::QuizSettingsPlayRight, Text::QuizSettingsRightFile,
-            Text::QuizSettingsBrowseRight, values.playRight, values.rightSoundFile});
+            Text::QuizSettingsBrowseRight, Text::QuizSettingsPlayRightNow, values.playRight,
+            values.rightSoundFile});
     addSound(*sounds,
         {"playWrong", "fileWrong", Text::QuizSettingsPlayWrong, Text::QuizSettingsWrongFile,
-            Text::QuizSettingsBrowseWrong, values.playWrong, values.wrongSoundFile});
+            Text::QuizSettingsBrowseWrong, Text::QuizSettingsPlayWrongNow, values.playWrong,
+            values.wrongSoundFile});
     layout->addLayout(sounds);
     layout->addWidget(makeRequiz());
     layout->addStretch(1);
@@ -53,10 +55,15 @@ void CQuizSettings3::addSound(QGridLayout &grid, const Sound &sound)
     auto *play = MakeCheckBox(this, sound.switchName, texts.Get(sound.caption), sound.play);
     const FileField file = MakeFileField(this, sound.fieldName, texts.Get(sound.file), texts.Get(sound.browse),
         sound.fileName, [this](const QString &current) { return m_form.browseSound(current); });
+    auto *listen = new QPushButton(texts.Get(sound.listen), this);
+    listen->setObjectName(file.name->objectName() + QStringLiteral("Play"));
+    listen->setAccessibleDescription(texts.Get(sound.file));
+    connect(listen, &QPushButton::clicked, this, [this, file] { m_form.playSound(file.name->text()); });
     const int row = grid.rowCount();
     grid.addWidget(play, row, 0);
     grid.addWidget(file.name, row, 1);
     grid.addWidget(file.browse, row, 2);
+    grid.addWidget(listen, row, 3);
 }
 
 QGroupBox *CQuizSettings3::makeRequiz()

@@ -27,6 +27,7 @@ private:
         int caption;
         int file;
         int browse;
+        int listen;
         bool &play;
         QString &fileName;
     };

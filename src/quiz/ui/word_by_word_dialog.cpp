@@ -3,6 +3,7 @@
 
 #include "quiz/text_numbers.h"
 #include "quiz/ui/accept_answer_bar.h"
+#include "quiz/ui/feedback_panel.h"
 #include "quiz/ui/question_area.h"
 #include "resources/texts.h"
 
@@ -13,10 +14,12 @@ using Next = CWordByWordForm::Next;
 
 CWordByWordDialog::CWordByWordDialog(const QuizWindowServices &services, CWordByWordForm &form, QuizParts parts)
     : CQuizDialog(services, form, parts), m_form(form),
-      m_area(new CQuestionArea(texts().Get(Text::QuizQuestion), this)), m_fields(new QVBoxLayout)
+      m_area(new CQuestionArea(texts().Get(Text::QuizQuestion), this)), m_fields(new QVBoxLayout),
+      m_feedback(new CFeedbackPanel(texts(), this))
 {
     content()->addWidget(m_area, 1);
     m_area->fields()->addLayout(m_fields);
+    m_area->fields()->addWidget(m_feedback);
     if (parts.testFlag(QuizPart::AcceptAnswer)) {
         m_accept = new CAcceptAnswerBar(texts(), this);
         m_area->fields()->addWidget(m_accept);
@@ -40,9 +43,15 @@ void CWordByWordDialog::showCurrentWord()
 void CWordByWordDialog::updateStatistics()
 {
     CQuizDialog::updateStatistics();
+    m_feedback->showAnswer(lastAnswer(*m_form.session(), texts()));
     if (m_accept != nullptr) {
         m_accept->showOffer(m_form.acceptOffer());
     }
+}
+
+QString CWordByWordDialog::spokenQuestion() const
+{
+    return m_form.question();
 }
 
 void CWordByWordDialog::answered(const CWordByWordForm::Outcome &outcome)
@@ -66,6 +75,7 @@ void CWordByWordDialog::takeAcceptOffer()
     if (next == Next::SameWord) {
         updateStatistics(); // What was typed for the next word stays.
         focusInput();
+        speak(m_accept->shownLine());
     } else {
         goOn(next);
     }

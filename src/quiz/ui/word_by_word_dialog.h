@@ -5,6 +5,7 @@
 #include "quiz/word_by_word_form.h"
 
 class CAcceptAnswerBar;
+class CFeedbackPanel;
 class CQuestionArea;
 
 /// The common base of the windows that ask one word at a time: the question with the form's own fields below
@@ -20,6 +21,7 @@ protected:
     /// Shows the question; a form adds to it what belongs to its own fields.
     void showCurrentWord() override;
     void updateStatistics() override;
+    QString spokenQuestion() const override;
 
     /// For the form's own fields, below the question.
     QVBoxLayout *fields() const { return m_fields; }
@@ -35,5 +37,6 @@ private:
     CWordByWordForm &m_form;
     CQuestionArea *m_area;
     QVBoxLayout *m_fields;
+    CFeedbackPanel *m_feedback;
     CAcceptAnswerBar *m_accept = nullptr;
 };

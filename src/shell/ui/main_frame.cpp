@@ -208,7 +208,7 @@ void CMainFrame::ConnectCommands()
                 .chooseLanguage = m_services.chooseLanguage,
                 .associateFiles = m_services.associateFiles,
                 .openQuizSettings = {}},
-            m_services.chooser, m_services.dataFolders},
+            m_services.chooser, m_services.sounds, m_services.dataFolders},
         *this);
     new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });

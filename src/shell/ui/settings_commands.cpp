@@ -33,7 +33,7 @@ void CSettingsCommands::OpenQuizSettings()
     QWidget *const opener = QApplication::activeModalWidget();
     auto *const dialog = new CQuizSettingsDialog(
         CQuizSettingsForm(m_services.form.settings.quiz, {list.GetLanguage(0), list.GetLanguage(1)},
-            m_services.form.texts, m_services.chooser, m_services.dataFolders),
+            m_services.form.texts, m_services.chooser, m_services.sounds, m_services.dataFolders),
         opener != nullptr ? opener : &m_mainWindow);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this] { m_services.form.changes.Tell(SettingsSection::Quiz); });

@@ -9,6 +9,7 @@
 class CCommandActions;
 class CWin32Doc;
 class IFileChooser;
+class ISoundPlayer;
 class QWidget;
 
 /// The commands that open the windows of settings, of quiz settings and of a list's properties.
@@ -22,6 +23,7 @@ public:
         CWin32Doc &document;
         SettingsFormServices form;
         IFileChooser &chooser;
+        ISoundPlayer &sounds;
         QStringList dataFolders;
     };
 
