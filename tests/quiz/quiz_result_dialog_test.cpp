@@ -256,7 +256,7 @@ void QuizResultDialogTest::orderAndFilter()
         return shown();
     };
     QCOMPARE(sortBy(0), QStringLiteral("Apa zebra öl"));
-    QCOMPARE(sortBy(3), QStringLiteral("zebra Apa öl")); // The most wrong answers first.
+    QCOMPARE(sortBy(3), QStringLiteral("Apa zebra öl")); // The most wrong answers first.
     QCOMPARE(list->currentIndex().siblingAtColumn(0).data().toString(), QStringLiteral("zebra"));
     list->horizontalHeader()->setSortIndicator(0, Qt::DescendingOrder);
     QCOMPARE(shown() + u' ' + order->currentText(), QStringLiteral("öl zebra Apa Svenska"));

@@ -27,6 +27,12 @@ public:
     /// Where the mark of a cell is drawn.
     static QRect MarkArea(const QRect &cell, const QFontMetrics &metrics);
 
+    /// Nothing: a flag is toggled by the list, where it is drawn.
+    bool editorEvent(QEvent * /*event*/, QAbstractItemModel * /*model*/,
+        const QStyleOptionViewItem & /*option*/, const QModelIndex & /*index*/) override
+    {
+        return false;
+    }
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QWidget *createEditor(
         QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;

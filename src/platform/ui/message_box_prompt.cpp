@@ -113,8 +113,10 @@ private:
         const int width = std::min(shown->sizeHint().width(), screenSize.width() * 2 / 3);
         const int height = shown->heightForWidth(width);
         const int highest = screenSize.height() * 3 / 5; // The rest is for the buttons and the frame.
-        area->setFixedSize(
-            height > highest ? width + m_bar->sizeHint().width() : width, std::min(height, highest));
+        // Told, since the area itself would count on less width once the bar was there.
+        const bool scrolls = height > highest;
+        area->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+        area->setFixedSize(scrolls ? width + m_bar->sizeHint().width() : width, std::min(height, highest));
         return area;
     }
     /// Whether the key scrolls the text: its buttons stand beside each other.

@@ -34,6 +34,13 @@ void CStandardQuiz::showCurrentWord()
     focusInput();
 }
 
+void CStandardQuiz::updateStatistics()
+{
+    CWordByWordDialog::updateStatistics();
+    // In place of the placeholder, which is the field's name.
+    m_answerField->setAccessibleDescription(m_form->wordProgress()->text);
+}
+
 void CStandardQuiz::focusInput()
 {
     m_answerField->setFocus();

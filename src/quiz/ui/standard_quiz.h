@@ -16,6 +16,7 @@ public:
 
 protected:
     void showCurrentWord() override;
+    void updateStatistics() override;
     void focusInput() override;
     bool isAnswerEmpty() const override;
 
