@@ -11,6 +11,8 @@ import tempfile
 # Where labels are made, and the one message box.
 FACTORIES = {"platform/ui/label.cpp", "platform/ui/elided_label.h", "platform/ui/elided_label.cpp",
              "platform/ui/wrapped_text.h", "platform/ui/wrapped_text.cpp"}
+# The help is written with markup.
+HELP = {"shell/ui/help_text.h", "shell/ui/help_text.cpp", "shell/ui/help_window.cpp"}
 PROMPT = "platform/ui/message_box_prompt.cpp"
 
 LABEL = "a label that MakeLabel() did not make"
@@ -28,7 +30,7 @@ RULES = [
                 r"|\bQMessageBox::(about|aboutQt|critical|information|question|warning)\s*\("),
      "a message box beside IUserPrompt", {PROMPT}),
     (re.compile(r"\bQ(ErrorMessage|InputDialog|ProgressDialog|WizardPage|SplashScreen|TextBrowser|WhatsThis)\b"),
-     "a window of the toolkit that guesses markup", set()),
+     "a window of the toolkit that guesses markup", HELP),
     (re.compile(r"\bsetWhatsThis\b|\bWhatsThisRole\b"), "a What's This text, which guesses markup", set()),
 ]
 ADD_ROW = re.compile(r"(\.|->)\s*addRow\s*\(")

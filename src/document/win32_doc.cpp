@@ -284,9 +284,10 @@ void CWin32Doc::OnFileSendMail()
     QTemporaryDir folder;
     folder.setAutoRemove(false);
     const QString path = folder.filePath(SuggestFileName() + QStringLiteral(".gls"));
-    if (SaveCopy(path)
-        && !m_services.startProgram(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path})) {
-        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotStartMail), PromptIcon::Warning);
+    if (SaveCopy(path)) {
+        m_services.startOpener(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path}, [this] {
+            m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotStartMail), PromptIcon::Warning);
+        });
     }
 }
 

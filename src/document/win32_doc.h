@@ -23,8 +23,9 @@ struct DocumentServices
     const EditorSettings &settings;
     IUserPrompt &prompt;
     std::function<QDate()> today;
-    /// Starts a program with arguments and returns whether it could be started.
-    std::function<bool(const QString &program, const QStringList &arguments)> startProgram;
+    /// Starts a program that opens something in another one, and calls `failed` later when that fails.
+    std::function<void(const QString &program, const QStringList &arguments, std::function<void()> failed)>
+        startOpener;
     /// Where an old file lies while it is overwritten in place; see WriteOptions.
     QString backupFolder = {};
 };

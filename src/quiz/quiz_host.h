@@ -3,6 +3,8 @@
 
 #include <vector>
 
+class QString;
+
 /// How a quiz meets the editor and the main window, which it does not know.
 class IQuizHost
 {
@@ -20,5 +22,7 @@ public:
     virtual void ShowMainWindow(bool show) = 0;
     /// Gives the keyboard back to the list.
     virtual void FocusList() = 0;
+    /// Opens the help at a section, by the name of its anchor; at its beginning when that is empty.
+    virtual void ShowHelp(const QString &section) = 0;
     // NOLINTEND(readability-identifier-naming)
 };

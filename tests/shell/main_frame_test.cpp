@@ -64,7 +64,7 @@ struct Frame
         .store = store,
         .root = QStringLiteral("root"),
         .specialCharacters = specialCharacters,
-        .openHelp = [this] { ++helpOpened; },
+        .openHelp = [this](const QString &) { ++helpOpened; },
         .today = [] { return QDate(2004, 5, 6); }}};
 
     QAction *Command(int id) const { return frame.findChild<QAction *>(QStringLiteral("command%1").arg(id)); }

@@ -242,20 +242,9 @@ void StartUpTest::help()
     QCOMPARE(FindDataFile(folders, QStringLiteral("help")), QString());
 
     CTexts texts;
-    CScriptedPrompt prompt;
-    QStringList opened;
-    const auto open = [&](const QString &path) {
-        opened.append(path);
-        return opened.size() == 1;
-    };
-    ::OpenHelp(texts, folders, prompt, open); // There is no Swedish one.
-    QCOMPARE(prompt.numbers, QList<int>{Text::CannotOpenHelp});
+    QCOMPARE(FindHelp(texts, folders), QString()); // There is no Swedish one.
     QVERIFY(texts.LoadModule(English));
-    ::OpenHelp(texts, folders, prompt, open);
-    QCOMPARE(prompt.numbers.size(), 1);
-    ::OpenHelp(texts, folders, prompt, open);
-    QCOMPARE(prompt.numbers.size(), 2);
-    QCOMPARE(opened, QStringList({page, page}));
+    QCOMPARE(FindHelp(texts, folders), page);
 }
 
 void StartUpTest::placement_data()

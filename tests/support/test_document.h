@@ -18,9 +18,11 @@ struct TestDocument
     bool canStartPrograms = true;
     QList<QStringList> started; // Program and arguments.
     CWin32Doc document{{texts, settings, prompt, [] { return QDate(2004, 5, 6); },
-        [this](const QString &program, const QStringList &arguments) {
+        [this](const QString &program, const QStringList &arguments, const std::function<void()> &failed) {
             started.append(QStringList{program} + arguments);
-            return canStartPrograms;
+            if (!canStartPrograms) {
+                failed();
+            }
         }}};
 
     TestDocument()

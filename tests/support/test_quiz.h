@@ -25,6 +25,7 @@ public:
         calls.append(show ? QStringLiteral("show") : QStringLiteral("hide"));
     }
     void FocusList() override { calls.append(QStringLiteral("focus")); }
+    void ShowHelp(const QString &section) override { calls.append(QStringLiteral("help ") + section); }
 
     std::vector<int> selected;
     bool shown = true;

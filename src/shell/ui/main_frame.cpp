@@ -192,7 +192,8 @@ void CMainFrame::ConnectCommands()
 {
     const CTexts &texts = m_services.texts;
     new CFileMenuCommands(*m_actions, m_services.files, *this);
-    new CHelpCommands(*m_actions, texts, m_services.openHelp, *this);
+    new CHelpCommands(
+        *m_actions, texts, [this] { ShowHelp({}); }, *this);
     new CArrangeCommands(
         *m_actions, *m_view, m_arranging, m_services.settings.arrange, m_services.settingsChanges, this);
     new CViewCommands(*m_actions,
@@ -270,6 +271,11 @@ void CMainFrame::ShowMainWindow(bool show)
 void CMainFrame::FocusList()
 {
     m_view->setFocus();
+}
+
+void CMainFrame::ShowHelp(const QString &section)
+{
+    m_services.openHelp(section);
 }
 
 void CMainFrame::OpenDropped(const QStringList &paths)

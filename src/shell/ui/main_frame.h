@@ -48,7 +48,8 @@ struct FrameServices
     ISettingsStore &store;
     QString root;
     CSpecialCharacterKeys &specialCharacters;
-    std::function<void()> openHelp;
+    /// Opens the help at a section, by the name of its anchor.
+    std::function<void(const QString &section)> openHelp;
     std::function<QDate()> today = {};
     // For the window of settings; see SettingsFormServices.
     std::function<bool()> resetSettings = {};
@@ -80,6 +81,7 @@ public:
     void SelectEntries(const std::vector<int> &entries) override;
     void ShowMainWindow(bool show) override;
     void FocusList() override;
+    void ShowHelp(const QString &section) override;
 
 Q_SIGNALS:
     /// The window was closed and nothing stands against ending the program.

@@ -2,22 +2,21 @@
 #include "shell/ui/ordelin_app.h"
 
 #include "platform/data_folders.h"
+#include "platform/opener.h"
 #include "shell/file_association.h"
-#include "shell/help.h"
 #include "shell/language_choice.h"
 #include "shell/text_numbers.h"
+#include "shell/ui/help_window.h"
 #include "shell/ui/language_dialog.h"
 #include "shell/ui/main_frame.h"
 #include "shell/ui/special_character_keys.h"
 
 #include <QDateTime>
-#include <QDesktopServices>
 #include <QIcon>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QTimer>
-#include <QUrl>
 
 #include <cstdio>
 
@@ -36,8 +35,8 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
       m_settings(m_store, m_texts), m_startUp(m_settings, m_texts, [this] { ChooseLanguage(); }),
       m_dataFolders(DataFolders(applicationDirPath())), m_random(quint32(QDateTime::currentMSecsSinceEpoch())),
       m_document({m_texts, m_settings.editor, m_prompt, [] { return QDate::currentDate(); },
-          [](const QString &program, const QStringList &arguments) {
-              return QProcess::startDetached(program, arguments);
+          [this](const QString &program, const QStringList &arguments, std::function<void()> failed) {
+              StartOpener(program, arguments, *this, std::move(failed));
           },
           CRecovery::UserFolder()}),
       m_recovery(m_document, CRecovery::UserFolder(), RecoveryDelay)
@@ -113,7 +112,7 @@ void COrdelinApp::MakeMainWindow()
         .store = m_store,
         .root = CAppSettings::RootPath(),
         .specialCharacters = *m_specialCharacters,
-        .openHelp = [this] { OpenHelp(); },
+        .openHelp = [this](const QString &section) { OpenHelp(section); },
         .today = [] { return QDate::currentDate(); },
         .resetSettings = [this] { return m_settings.ResetToFactory(m_prompt); },
         .chooseLanguage = [this] { ChooseLanguage(); },
@@ -151,10 +150,15 @@ void COrdelinApp::AssociateFiles()
         });
 }
 
-void COrdelinApp::OpenHelp()
+void COrdelinApp::OpenHelp(const QString &section)
 {
-    ::OpenHelp(m_texts, m_dataFolders, m_prompt,
-        [](const QString &path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+    if (!m_help) {
+        m_help = std::make_unique<CHelpWindow>(m_texts, m_dataFolders, m_prompt, [this](const QString &file) {
+            StartOpener(QStringLiteral("xdg-open"), {file}, *this,
+                [this] { m_prompt.Tell(m_texts.Prompt(Text::CannotOpenHelp), PromptIcon::Warning); });
+        });
+    }
+    m_help->ShowSection(section);
 }
 
 void COrdelinApp::Welcome()
@@ -163,7 +167,7 @@ void COrdelinApp::Welcome()
     if (m_settings.isFirstRun
         && m_prompt.Confirm(
             m_texts.Prompt(Text::FirstRun), PromptIcon::Information, PromptButtons::YesNo, PromptAnswer::Yes)) {
-        OpenHelp();
+        OpenHelp(QStringLiteral("quick"));
     }
     m_end.StartIsOver();
 }

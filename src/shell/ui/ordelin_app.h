@@ -23,6 +23,7 @@
 
 #include <memory>
 
+class CHelpWindow;
 class CMainFrame;
 class CSpecialCharacterKeys;
 
@@ -53,7 +54,7 @@ private:
     void MakeMainWindow();
     void ChooseLanguage();
     void AssociateFiles();
-    void OpenHelp();
+    void OpenHelp(const QString &section);
     /// The questions of a start, once the main window is shown.
     void Welcome();
     void SaveSettings();
@@ -80,5 +81,6 @@ private:
     CExitSignals m_exitSignals;
     std::unique_ptr<CSpecialCharacterKeys> m_specialCharacters;
     std::unique_ptr<CMainFrame> m_frame;
+    std::unique_ptr<CHelpWindow> m_help;
     CProgramEnd m_end;
 };

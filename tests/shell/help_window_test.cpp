@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "resources/texts.h"
+#include "shell/text_numbers.h"
+#include "shell/ui/help_text.h"
+#include "shell/ui/help_window.h"
+#include "support/scripted_prompt.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace {
+
+struct Help
+{
+    CTexts texts;
+    CScriptedPrompt prompt;
+    QStringList opened;
+    CHelpWindow window;
+
+    explicit Help(const QString &folder = QStringLiteral(ORDELIN_SOURCE_DIR))
+        : window(texts, {folder}, prompt, [this](const QString &file) { opened.append(file); })
+    {
+    }
+    template<class Widget>
+    Widget *Part(const char *name) const
+    {
+        return window.findChild<Widget *>(QLatin1StringView(name));
+    }
+    CHelpText &Shown() const { return *Part<CHelpText>("helpText"); }
+    QString Chapter() const { return Part<QTreeWidget>("contents")->currentItem()->text(0); }
+};
+
+}
+
+class HelpWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noHelp();
+    void sections();
+    void search();
+    void besideAQuiz();
+};
+
+void HelpWindowTest::noHelp()
+{
+    Help help(QStringLiteral("/nowhere"));
+    help.window.ShowSection({});
+    QCOMPARE(help.prompt.numbers, QList<int>{Text::CannotOpenHelp});
+    QVERIFY(!help.window.isVisible());
+}
+
+void HelpWindowTest::sections()
+{
+    Help help;
+    help.window.ShowSection(QStringLiteral("quizzes"));
+    QVERIFY(QTest::qWaitForWindowExposed(&help.window));
+    QCOMPARE(help.Chapter(), QStringLiteral("Förhör"));
+    const int place = help.Shown().verticalScrollBar()->value();
+    QVERIFY(place > 0);
+    help.window.ShowSection(QStringLiteral("keys"));
+    QVERIFY(help.Shown().verticalScrollBar()->value() > place);
+    help.Part<QPushButton>("back")->click();
+    QCOMPARE(help.Chapter(), QStringLiteral("Förhör"));
+    QCOMPARE(help.Shown().verticalScrollBar()->value(), place);
+    help.Part<QPushButton>("inBrowser")->click();
+    QCOMPARE(help.opened, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/help/se.html")});
+    QTest::keyClick(&help.window, Qt::Key_Escape);
+    QVERIFY(!help.window.isVisible());
+}
+
+void HelpWindowTest::search()
+{
+    Help help;
+    help.window.ShowSection({});
+    auto *const search = help.Part<QLineEdit>("search");
+    auto *const hits = help.Part<QLabel>("hits");
+    QTest::keyClick(&help.window, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(search, QStringLiteral("asterisk"));
+    QVERIFY(hits->text().section(u' ', 0, 0).toInt() > 2);
+    const int first = help.Shown().textCursor().selectionStart();
+    QTest::keyClick(search, Qt::Key_Return);
+    QVERIFY(help.Shown().textCursor().selectionStart() > first);
+    QTest::keyClick(search, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClick(search, Qt::Key_Return, Qt::ShiftModifier); // Round the beginning.
+    QVERIFY(help.Shown().textCursor().selectionStart() > first);
+    QTest::keyClicks(search, QStringLiteral("qqq"));
+    QCOMPARE(hits->text(), QStringLiteral("Inga träffar"));
+}
+
+void HelpWindowTest::besideAQuiz()
+{
+    QWidget mainWindow;
+    QDialog quiz(&mainWindow);
+    quiz.setWindowModality(Qt::WindowModal);
+    quiz.show();
+    Help help;
+    help.window.ShowSection(QStringLiteral("quizzes"));
+    QVERIFY(QTest::qWaitForWindowActive(&help.window));
+    QTest::mouseClick(help.Part<QPushButton>("inBrowser"), Qt::LeftButton);
+    QCOMPARE(help.opened.size(), 1);
+}
+
+QTEST_MAIN(HelpWindowTest)
+#include "help_window_test.moc"
