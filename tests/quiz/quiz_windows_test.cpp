@@ -107,6 +107,8 @@ void QuizWindowsTest::buttonsByKeyboard()
     auto *window = FindWindow<CStandardQuiz>();
     QApplication::setActiveWindow(window);
     auto *answer = window->findChild<QLineEdit *>(QStringLiteral("answer"));
+    QTest::keyClick(answer, Qt::Key_F1);
+    QCOMPARE(run.host.calls.last(), QStringLiteral("help quizzes"));
     auto *skip = window->findChild<QPushButton *>(QStringLiteral("skipButton"));
     skip->setFocus();
     QTest::keyClick(skip, Qt::Key_Return); // Not the default button, which would record an empty answer.
@@ -193,8 +195,8 @@ void QuizWindowsTest::lastAnswerIsSeenAndHeard()
     QCOMPARE(spoken->accessibleName(), QStringLiteral("Vad heter \"hund\" på Engelska?"));
     QCOMPARE(feedback->toPlainText(), QString());
     QCOMPARE(give("cat"), QStringLiteral("Fel. Vad heter \"hund\" på Engelska?"));
-    QCOMPARE(feedback->toPlainText(),
-        QStringLiteral("Fel  hund – dog (<i>)\ncat → dog  Svaret hör till \"katt\""));
+    QCOMPARE(
+        feedback->toPlainText(), QStringLiteral("Fel  hund – dog (<i>)\ncat → dog  Svaret hör till \"katt\""));
     run.settings.showAnswer = false; // Then what was right isn't shown beside it either.
     give("x");
     QCOMPARE(feedback->toPlainText(), QStringLiteral("Fel"));

@@ -4,6 +4,7 @@
 #include "editor/pending_entries.h"
 #include "editor/ui/word_list_delegate.h"
 #include "editor/word_list_model.h"
+#include "platform/ui/spoken_text.h"
 
 #include <QAccessible>
 #include <QEvent>
@@ -264,6 +265,18 @@ void CWordListControl::TellCursorChanged()
         QAccessibleStateChangeEvent state(cell, flag);
         QAccessible::updateAccessibility(&state);
     }
+}
+
+void CWordListControl::SpeakCursor()
+{
+    const QString text = currentIndex().data(Qt::AccessibleTextRole).toString();
+    if (!QAccessible::isActive() || text.isEmpty()) {
+        return;
+    }
+    if (m_spoken == nullptr) {
+        m_spoken = new CSpokenText(window());
+    }
+    m_spoken->Say(text);
 }
 
 void CWordListControl::TellCursorFocused()

@@ -13,6 +13,7 @@
 #include <vector>
 
 class CWordListDelegate;
+class CSpokenText;
 class CWordListModel;
 class QAccessibleInterface;
 struct OpenEdit;
@@ -125,6 +126,8 @@ private:
     /// The cell of the cursor as assistive technology knows it; null when there is none of either.
     QAccessibleInterface *CursorCell();
     void TellCursorFocused();
+    /// Has it read out, since screen readers are silent about the flag of a cell.
+    void SpeakCursor();
     /// Moves the cell cursor without the scrolling that follows its keys.
     void PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select);
     int NumberColumnWidth() const;
@@ -136,6 +139,7 @@ private:
     void TellEnded();
 
     CWordListModel *m_model = nullptr;
+    CSpokenText *m_spoken = nullptr; // Once a flag was toggled.
     CWordListDelegate *m_delegate;
     std::function<bool()> m_quickEdit;
     int m_hotRow = -1;

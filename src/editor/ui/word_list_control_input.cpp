@@ -20,6 +20,7 @@ void CWordListControl::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Space:
         if (plain) {
             Q_EMIT FlagKeyPressed();
+            SpeakCursor();
         } else {
             QTableView::keyPressEvent(event); // Adds the row of the cursor to the selection, or takes it out.
         }

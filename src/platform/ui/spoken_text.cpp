@@ -30,6 +30,7 @@ CSpokenText::CSpokenText(QWidget *window) : QWidget(window)
 void CSpokenText::Say(const QString &text)
 {
     setAccessibleName(ShownShort(text));
+    show(); // It may have been made after its window was shown.
     m_waits = !window()->isActiveWindow();
     if (!m_waits) {
         Tell();

@@ -18,10 +18,18 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <utility>
+
+void openHelpOnF1(QWidget &window, const QuizWindowServices &services)
+{
+    auto *const shortcut = new QShortcut(Qt::Key_F1, &window);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, services.showHelp);
+}
 
 CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form, QuizParts parts)
     : m_services(services), m_form(form), m_parts(parts), m_guard(new CInputGuardFilter(services.clock, this)),
@@ -43,6 +51,7 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form, Qu
     layout->addLayout(left, 1);
     layout->addLayout(m_buttonColumn);
     makeButtons();
+    openHelpOnF1(*this, m_services);
 }
 
 QSize CQuizDialog::sizeHint() const
@@ -192,6 +201,7 @@ void CQuizDialog::changeEntry()
     if (m_services.font) {
         dialog->setFont(*m_services.font);
     }
+    openHelpOnF1(*dialog, m_services);
     connect(dialog, &QDialog::finished, this, [this] {
         m_form.entriesChanged();
         showCurrentWord();

@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 class CInputGuardFilter;
@@ -39,9 +40,14 @@ struct QuizWindowServices
     QStringList dataFolders = {};
     /// The user's own font, for all quiz windows.
     std::optional<QFont> font = {};
+    /// Opens the help on quizzes.
+    std::function<void()> showHelp = [] {};
     /// By which it is told what was not meant for a window that opened by itself.
     Clock clock = SteadyClock;
 };
+
+/// F1 in a window opens the help on quizzes.
+void openHelpOnF1(QWidget &window, const QuizWindowServices &services);
 
 /// The parts of a quiz window that not every form has. Cancel and the line of rounds are always there.
 enum class QuizPart {
@@ -68,6 +74,8 @@ public:
     /// Asks first; only Yes closes the window, and the result is then Rejected.
     void reject() override;
     QSize sizeHint() const override;
+    /// The verdict on the last answer while it has not been read out: no question followed.
+    const QString &unspokenVerdict() const { return m_verdict; }
 
 protected:
     /// `form` must live as long as the window.

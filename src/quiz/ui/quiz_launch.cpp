@@ -3,6 +3,7 @@
 
 #include "document/win32_doc.h"
 #include "platform/ui/input_guard_filter.h"
+#include "platform/ui/spoken_text.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/duplicate_question.h"
 #include "quiz/quiz_host.h"
@@ -13,6 +14,7 @@
 CQuizLaunch::CQuizLaunch(QuizLaunchServices services, QWidget &mainWindow)
     : QObject(&mainWindow), m_services(std::move(services)), m_mainWindow(mainWindow)
 {
+    m_services.windows.showHelp = [&host = m_services.host] { host.ShowHelp(QStringLiteral("quizzes")); };
 }
 
 CQuizLaunch::~CQuizLaunch() = default;
@@ -83,22 +85,26 @@ void CQuizLaunch::quizClosed()
     const QRect normal = m_dialog->normalGeometry();
     rememberSize(m_services.windowSizes, m_kind, normal.isValid() ? normal.size() : m_dialog->size());
     m_services.host.ShowMainWindow(true);
+    const QString unspoken = m_dialog->unspokenVerdict();
     // The window is in the middle of closing itself.
     m_dialog.release()->deleteLater();
     if (m_services.settings.showResult && m_session->totalRight() + m_session->totalWrong() > 0) {
-        showResult();
+        showResult(unspoken);
     } else {
         finish();
     }
 }
 
-void CQuizLaunch::showResult()
+void CQuizLaunch::showResult(const QString &unspoken)
 {
     auto *result = new CQuizResultDialog(m_session, m_services.windows, ResultMode::AfterQuiz, &m_mainWindow);
     result->setAttribute(Qt::WA_DeleteOnClose);
     connect(result, &QDialog::finished, this, [this, result] { resultClosed(*result); });
     (new CInputGuardFilter(m_services.windows.clock, result))->WindowOpens(*result);
     result->open();
+    if (!unspoken.isEmpty()) {
+        (new CSpokenText(result))->Say(unspoken);
+    }
 }
 
 void CQuizLaunch::resultClosed(const CQuizResultDialog &result)

@@ -52,7 +52,8 @@ private:
     void runSession();
     void openWindow();
     void quizClosed();
-    void showResult();
+    /// What was not read out yet is read out there.
+    void showResult(const QString &unspoken);
     void resultClosed(const CQuizResultDialog &result);
     void finish();
 

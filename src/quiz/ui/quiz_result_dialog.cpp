@@ -31,8 +31,7 @@
 
 CQuizResultDialog::CQuizResultDialog(
     std::shared_ptr<CQuizSession> session, const QuizWindowServices &services, ResultMode mode, QWidget *parent)
-    : QDialog(parent), m_session(std::move(session)), m_prompt(services.prompt),
-      m_settings(services.resultSettings),
+    : QDialog(parent), m_session(std::move(session)), m_services(services),
       m_result(*m_session, {services.texts, services.prompt, services.chooser, services.resultSettings}, mode),
       m_order(m_result.model(), *m_session), m_wrongAnswers(*m_session, services.texts),
       m_list(new QTableView(this)), m_summary(MakeLabel({}, this)), m_share(new QProgressBar(this))
@@ -88,6 +87,7 @@ CQuizResultDialog::CQuizResultDialog(
     setMinimumSize(narrowest, layout->minimumHeightForWidth(narrowest));
     m_list->setFocus();
     IgnoreHeldEnter(*this);
+    openHelpOnF1(*this, m_services);
 }
 
 void CQuizResultDialog::makeList()
@@ -347,8 +347,10 @@ void CQuizResultDialog::copyTable()
 
 void CQuizResultDialog::openFlagSettings()
 {
-    auto *dialog = new CFlagSettingsDialog(m_settings, m_result.texts(), m_prompt, this);
+    auto *dialog =
+        new CFlagSettingsDialog(m_services.resultSettings, m_services.texts, m_services.prompt, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    openHelpOnF1(*dialog, m_services);
     connect(dialog, &QDialog::accepted, this, [this] {
         m_result.flagSettingsConfirmed();
         updateTotals();

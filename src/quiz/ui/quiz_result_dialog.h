@@ -51,8 +51,7 @@ private:
     void openFlagSettings();
 
     std::shared_ptr<CQuizSession> m_session;
-    IUserPrompt &m_prompt;
-    ResultSettings &m_settings;
+    QuizWindowServices m_services;
     CQuizResult m_result;
     CResultOrder m_order;
     CWrongAnswersModel m_wrongAnswers;
