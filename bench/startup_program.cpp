@@ -8,7 +8,7 @@
 int main(int argc, char *argv[])
 {
     COrdelinApp app(argc, argv);
-    if (!app.InitInstance(QFile::decodeName(argv[argc - 1]))) {
+    if (!app.InitInstance(QFile::decodeName(argv[argc - 1]), false)) {
         return 1;
     }
     const CFirstPaint firstPaint(&app.MainFrame());

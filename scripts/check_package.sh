@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Checks the files in packaging/, installs the release build into a folder, and makes the Debian package. As root the
-# package is installed, tried and removed again; otherwise it is only looked into.
+# Checks the files in packaging/, installs the release build into a folder and removes it again, makes the Debian
+# package and looks into it. As root it is also tried in a bare root folder.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 work=$(mktemp -d)
-chmod 755 "$work" # The package manager reads the package as a user of its own.
-installed=
+kept=build/release/installed_files.txt # What the user installed from this build is not ours to forget.
 cleanup() {
-    if [ -n "$installed" ]; then
-        apt-get purge -y -qq ordelin >/dev/null || true
+    rm -f "$kept"
+    if [ -f "$work/installed_files.txt" ]; then
+        cp "$work/installed_files.txt" "$kept"
     fi
     rm -rf "$work"
 }
@@ -31,29 +31,35 @@ check_type() {
 
 # check_files FOLDER: a folder holds just what is to be installed below a prefix.
 check_files() {
-    local documents=share/doc/ordelin icons=share/icons/hicolor/scalable
+    local icons=share/icons/hicolor id=workshops.ornbury.ordelin
     {
         cat <<END
 bin/ordelin
-share/applications/ordelin.desktop
-$documents/copyright
-$icons/apps/ordelin.svg
-$icons/mimetypes/application-x-ordelin.svg
+share/applications/$id.desktop
+share/doc/ordelin/copyright
+$icons/16x16/apps/$id.svg
+$icons/scalable/apps/$id.svg
+$icons/scalable/mimetypes/application-x-ordelin.svg
 share/man/man1/ordelin.1
-share/metainfo/workshops.ornbury.ordelin.metainfo.xml
+share/man/sv/man1/ordelin.1
+share/metainfo/$id.metainfo.xml
 share/mime/packages/ordelin.xml
 END
-        find help sounds -type f -printf 'share/ordelin/%p\n'
+        find help samples sounds -type f -printf 'share/ordelin/%p\n'
         find modules -type f -printf 'share/ordelin/ordmod/%P\n'
-        find samples -type f -printf "$documents/examples/%P\n"
     } | sort >"$work/expected"
-    (cd "$1" && find . -not -type d -printf '%P\n') | sort | diff "$work/expected" - || fail "$1 has other files"
+    # The databases that the desktop makes of them, and what Debian adds to every package.
+    (cd "$1" && find . -not -type d -printf '%P\n') \
+        | grep -Ev '^share/(applications/mimeinfo.cache|mime/[^p]|doc/ordelin/changelog.gz)' \
+        | sed 's/\.1\.gz$/.1/' | sort | diff "$work/expected" - || fail "$1 has other files"
 }
 
-desktop-file-validate packaging/ordelin.desktop
-appstreamcli validate --no-net packaging/*.metainfo.xml
-warnings=$(groff -man -Tutf8 -ww -z packaging/ordelin.1 2>&1)
-[ -z "$warnings" ] || fail "$warnings"
+version=$(sed -n 's/^project(ordelin VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+[ "$(dpkg-parsechangelog -S Version)" = "$version" ] || fail "The package's changelog is of another version"
+for page in packaging/*.1; do
+    warnings=$(groff -man -Kutf8 -Tutf8 -ww -z "$page" 2>&1)
+    [ -z "$warnings" ] || fail "$page: $warnings"
+done
 
 mkdir -p "$work/data/mime/packages"
 cp packaging/ordelin-mime.xml "$work/data/mime/packages"
@@ -68,15 +74,42 @@ check_type text/x-latex-glossary latex.gls '\\glossarysection\n'
 
 cmake --preset release >/dev/null
 cmake --build --preset release
-cmake --install build/release --prefix "$work/prefix" >/dev/null
-check_files "$work/prefix"
+if [ -f "$kept" ]; then
+    cp "$kept" "$work"
+fi
+prefix=$work/prefix
+cmake --install build/release --prefix "$prefix" >/dev/null
+check_files "$prefix"
+desktop-file-validate "$prefix"/share/applications/*.desktop
+# The project has no domain, so the check of names, which is only information, has something to say.
+description=$(echo "$prefix"/share/metainfo/*.xml)
+appstreamcli validate --pedantic --no-net "$description"
+grep -q "<release version=\"$version\"" "$description" || fail "The description doesn't know version $version"
+cmake -S . -B build/release -D ORDELIN_WEB_PAGE=https://www.example.org/ordelin >/dev/null
+appstreamcli validate --pedantic --no-net build/release/packaging/*.xml
+cmake -S . -B build/release -U ORDELIN_WEB_PAGE >/dev/null
+grep -qx application/x-ordelin "$prefix/share/mime/types" || fail "The type of file is not known after the installation"
+grep -q '^application/x-ordelin=' "$prefix/share/applications/mimeinfo.cache" \
+    || fail "The program is not known for its files after the installation"
 
-cpack --config build/release/CPackConfig.cmake -B "$work/package" >"$work/cpack.log" || fail "$(cat "$work/cpack.log")"
+scripts/make_package.sh "$work/package"
 package=$(echo "$work"/package/*.deb)
 dpkg --info "$package"
-dpkg-deb --field "$package" Depends | grep -q libqt6svg6 || fail "The package doesn't depend on the plug-in for pictures"
+allow_root=()
+if [ "$(id -u)" -eq 0 ]; then
+    allow_root=(--allow-root)
+fi
+lintian "${allow_root[@]}" --fail-on error,warning "$package"
 dpkg-deb --extract "$package" "$work/extracted"
 check_files "$work/extracted/usr"
+
+# The package was made after it.
+cmake --build build/release --target uninstall >/dev/null
+left=$(cd "$prefix" && find . -path ./share/mime -prune -o -not -type d -not -name mimeinfo.cache -print)
+[ -z "$left" ] || fail "Left after uninstalling: $left"
+if grep -qsx application/x-ordelin "$prefix/share/mime/types"; then
+    fail "The type of file is still known after uninstalling"
+fi
 
 # has_hardening WHAT PATTERN READELF-OPTION: the program in the package was built with it.
 has_hardening() {
@@ -87,16 +120,4 @@ has_hardening "stack protector" '__stack_chk_fail' --dyn-syms
 has_hardening "read-only relocations" 'GNU_RELRO' --program-headers
 has_hardening "binding at the start" 'FLAGS.*NOW' --dynamic
 
-if [ "$(id -u)" -ne 0 ] || dpkg-query --show ordelin >/dev/null 2>&1; then
-    echo "The package was not tried: that takes root, on a system where it is not installed."
-    exit
-fi
-installed=yes
-DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "$package" >/dev/null
-version=$(cd "$work" && env HOME="$work" QT_QPA_PLATFORM=offscreen /usr/bin/ordelin --version)
-[[ $version == *"$(dpkg-deb --field "$package" Version)"* ]] || fail "The installed program says that it is $version"
-grep -qx application/x-ordelin /usr/share/mime/types || fail "The installed type of file is not known"
-apt-get purge -y -qq ordelin >/dev/null
-installed=
-[ ! -e /usr/bin/ordelin ] || fail "The program is still there"
-echo "The package was installed and removed."
+scripts/try_in_bare_root.sh "$package"

@@ -1,16 +1,18 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Installs what building and running need: "program" for build and tests, "display" for pictures of windows,
-# "checks" for formatting, static analysis, fuzzing and packaging. Does nothing when all of it is there.
+# "package" for the Debian package, "checks" for formatting, static analysis, fuzzing and what is installed. Does
+# nothing when all of it is there.
 set -euo pipefail
 
 program=(g++ cmake ninja-build ccache python3 pkg-config qt6-base-dev libqt6svg6 qt6-wayland libicu-dev libgl-dev
     libx11-dev libxtst-dev libcanberra-dev fonts-dejavu-core)
 display=(xvfb openbox imagemagick xdotool)
+package=(debhelper dpkg-dev)
 checks=(clang clang-format clang-tidy libclang-rt-dev git
-    desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base dpkg-dev file)
+    desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base lintian mmdebstrap)
 
-declare -n packages=${1:?"usage: setup.sh program|display|checks"}
+declare -n packages=${1:?"usage: setup.sh program|display|package|checks"}
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     cat >&2 <<EOF
@@ -18,8 +20,8 @@ This system has no Debian packages, so nothing was installed. Needed are: a C++2
 Python 3, Qt 6.4 (base and SVG), ICU and libcanberra, with their development files; for pictures of windows without a
 display Xvfb, openbox, xdotool and ImageMagick; for the checks clang, clang-format and clang-tidy.
 EOF
-    # What is needed may have come another way.
-    command -v cmake >/dev/null && command -v ninja >/dev/null
+    # What is needed may have come another way; a package takes Debian.
+    [ "$1" != package ] && command -v cmake >/dev/null && command -v ninja >/dev/null
     exit
 fi
 

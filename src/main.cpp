@@ -38,5 +38,5 @@ int main(int argc, char *argv[])
         return Answer(commandLine);
     }
     COrdelinApp app(argc, argv);
-    return app.Run(commandLine.file);
+    return app.Run(commandLine.file, commandLine.newList);
 }

@@ -88,6 +88,11 @@ bool CFileCommands::OpenRecent(const QString &path)
     return OpenFile(path);
 }
 
+bool CFileCommands::OpenCopy(const QString &path)
+{
+    return MayDiscard() && m_document.OpenCopy(path);
+}
+
 bool CFileCommands::OpenNow(const QString &path)
 {
     m_lastFolder = QFileInfo(AbsoluteFilePath(path)).path();

@@ -29,6 +29,8 @@ public:
     bool OpenFile(const QString &path);
     /// Opens one of the recent files; one that is gone leaves their list.
     bool OpenRecent(const QString &path);
+    /// Opens a file as a list without a file of its own.
+    bool OpenCopy(const QString &path);
     /// Saves to the list's own file, and asks for a name where it has none.
     bool Save();
     bool SaveAs();

@@ -186,7 +186,17 @@ void CWin32Doc::OnNewDocument()
     ReplaceList(std::move(list));
 }
 
-bool CWin32Doc::OpenDocument(const QString &file)
+bool CWin32Doc::OpenDocument(const QString &path)
+{
+    return Open(path, false);
+}
+
+bool CWin32Doc::OpenCopy(const QString &path)
+{
+    return Open(path, true);
+}
+
+bool CWin32Doc::Open(const QString &file, bool asCopy)
 {
     // Absolute, since the path outlives the folder that the program was started in.
     const QString path = AbsoluteFilePath(file);
@@ -197,7 +207,8 @@ bool CWin32Doc::OpenDocument(const QString &file)
     const bool own = result == ReadResult::Read || result == ReadResult::ReadLossy;
     // Without a path, saving asks for a name: a newer file is not overwritten by an older layout, nor a text
     // file.
-    Replace(std::move(list), own ? path : QString(), own ? stamp : FileStamp());
+    const bool hasFile = own && !asCopy;
+    Replace(std::move(list), hasFile ? path : QString(), hasFile ? stamp : FileStamp());
     if (own) {
         return true;
     }

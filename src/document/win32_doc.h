@@ -81,6 +81,8 @@ public:
     /// Reads a file of any kind in place of the list. On failure, which the user is told, an empty list is left
     /// and the result is false.
     bool OpenDocument(const QString &path);
+    /// The same, as a list that has no file: saving it asks for a name.
+    bool OpenCopy(const QString &path);
     /// Takes a list kept for recovery as the changed content of the file `path`, which may be empty and which
     /// had `stamp` when the list was kept.
     void OpenRecovered(CWordList list, const QString &path, const FileStamp &stamp);
@@ -113,6 +115,7 @@ Q_SIGNALS:
 
 private:
     void DeleteContents();
+    bool Open(const QString &file, bool asCopy);
     /// Tells TitleChanged() when the title is another than at the call before.
     void UpdateTitleMark();
     /// Goes to another state of the history, and tells what that changed.

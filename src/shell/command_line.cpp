@@ -28,6 +28,8 @@ CommandLine ParseCommandLine(const QStringList &arguments)
             ++i;
         } else if (switches && actions.contains(argument)) {
             result.action = actions.value(argument);
+        } else if (switches && argument == QStringLiteral("--new")) {
+            result.newList = true;
         } else if (switches && argument.startsWith(u'-') && argument.size() > 1) {
             return {.error = Text::UnknownSwitch, .wrongArgument = argument};
         } else if (!result.file.isEmpty()) {

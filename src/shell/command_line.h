@@ -13,8 +13,10 @@ struct CommandLine
     enum class Action { Run, ShowHelp, ShowVersion, ExportStrings };
 
     Action action = Action::Run;
-    /// The file to open; empty for a new list.
+    /// The file to open; empty for none.
     QString file = {};
+    /// To begin with a new list, whatever was open last.
+    bool newList = false;
     /// The number of the text that says what is wrong with the command line, 0 when nothing is.
     int error = 0;
     /// The argument that is wrong.

@@ -59,8 +59,8 @@ const QList<CommandMenu> &CommandMenus()
 {
     static const QList<CommandMenu> menus = {
         {Text::FileMenu,
-            {NewFile, OpenFile, SaveFile, SaveFileAs, Separator, Properties, SendMail, Separator, RecentFiles,
-                Separator, Exit}},
+            {NewFile, OpenFile, Text::SamplesMenu, SaveFile, SaveFileAs, Separator, Properties, SendMail,
+                Separator, RecentFiles, Separator, Exit}},
         {Text::EditMenu,
             {Undo, Redo, Separator, Cut, Copy, Text::CopySpecialMenu, Paste, Delete, SelectAll, Separator,
                 Text::FlagsMenu, Separator, InsertSynonym, InsertComment, PlaceInsertionPoint, Separator,
@@ -83,6 +83,7 @@ const QList<CommandMenu> &CommandMenus()
 const QList<CommandMenu> &CommandSubmenus()
 {
     static const QList<CommandMenu> menus = {
+        {Text::SamplesMenu, {}}, // What is installed; see CSamplesMenu.
         {Text::CopySpecialMenu, {CopyLanguage1, CopyLanguage2, CopyNotes}},
         {Text::FlagsMenu, {SetFlag, ClearFlag, InvertFlag}},
         {Text::SortMenu,

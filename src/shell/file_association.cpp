@@ -13,6 +13,12 @@
 
 namespace {
 
+/// The desktop entry, named as the program's description and its icon are.
+QString DesktopFile()
+{
+    return QStringLiteral("workshops.ornbury.ordelin.desktop");
+}
+
 /// What the packages install as well.
 QByteArray Packaged(const QString &name)
 {
@@ -47,7 +53,7 @@ QString ExecProgram(const QString &path)
 /// out.
 QByteArray DesktopEntry(const QString &programPath)
 {
-    QString entry = QString::fromUtf8(Packaged(QStringLiteral("ordelin.desktop")));
+    QString entry = QString::fromUtf8(Packaged(DesktopFile()));
     entry.replace(
         QStringLiteral("\nExec=ordelin "), QStringLiteral("\nExec=") + ExecProgram(programPath) + u' ');
     return entry.toUtf8();
@@ -85,21 +91,23 @@ bool AssociateGlossaryFiles(const QString &programPath, const QString &dataFolde
     const auto write = [&dataFolder](const QString &path, const QByteArray &content) {
         return Write(dataFolder + u'/' + path, content);
     };
-    if (!write(QStringLiteral("applications/ordelin.desktop"), DesktopEntry(programPath))) {
+    if (!write(QStringLiteral("applications/") + DesktopFile(), DesktopEntry(programPath))) {
         prompt.Tell(texts.Prompt(Text::CannotAssociate), PromptIcon::Warning);
         return false;
     }
     // Kept: the user is told of no failure from here on. Without type or icon the program can still be chosen
     // by hand, and desktops differ in which of the tools they have.
     write(QStringLiteral("mime/packages/ordelin.xml"), FileType(texts.Get(Text::GlossaryFileType)));
-    const QByteArray icon = Packaged(QStringLiteral("ordelin.svg"));
-    write(QStringLiteral("icons/hicolor/scalable/apps/ordelin.svg"), icon);
-    write(QStringLiteral("icons/hicolor/scalable/mimetypes/application-x-ordelin.svg"), icon);
+    write(QStringLiteral("icons/hicolor/16x16/apps/workshops.ornbury.ordelin.svg"),
+        Packaged(QStringLiteral("workshops.ornbury.ordelin-16.svg")));
+    write(QStringLiteral("icons/hicolor/scalable/apps/workshops.ornbury.ordelin.svg"),
+        Packaged(QStringLiteral("workshops.ornbury.ordelin.svg")));
+    write(QStringLiteral("icons/hicolor/scalable/mimetypes/application-x-ordelin.svg"),
+        Packaged(QStringLiteral("application-x-ordelin.svg")));
     run(QStringLiteral("update-mime-database"), {dataFolder + QStringLiteral("/mime")});
     run(QStringLiteral("update-desktop-database"), {dataFolder + QStringLiteral("/applications")});
     run(QStringLiteral("xdg-mime"),
-        {QStringLiteral("default"), QStringLiteral("ordelin.desktop"),
-            QStringLiteral("application/x-ordelin")});
+        {QStringLiteral("default"), DesktopFile(), QStringLiteral("application/x-ordelin")});
     prompt.Tell(texts.Prompt(Text::Associated), PromptIcon::Information);
     return true;
 }

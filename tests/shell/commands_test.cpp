@@ -101,6 +101,7 @@ void CommandsTest::commandLines_data()
     QTest::newRow("a file URL") << list("file:///lists/a%20b.gls") << "/lists/a b.gls" << 0;
     QTest::newRow("a file that looks like a switch") << list("-- --x") << "--x" << 0;
     QTest::newRow("a switch of the toolkit") << list("-platform offscreen a.gls") << "a.gls" << 0;
+    QTest::newRow("a new list") << list("--new -- --new") << "--new" << 0;
     QTest::newRow("unknown switch") << list("--x") << "" << int(Text::UnknownSwitch);
     QTest::newRow("two files") << list("a b") << "" << int(Text::OneFileOnly);
 }
@@ -113,6 +114,7 @@ void CommandsTest::commandLines()
     const CommandLine result = ParseCommandLine(arguments);
     QCOMPARE(result.file, file);
     QCOMPARE(result.error, error);
+    QCOMPARE(result.newList, arguments.startsWith(QStringLiteral("--new")));
 }
 
 void CommandsTest::answers()

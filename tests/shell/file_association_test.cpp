@@ -88,20 +88,23 @@ void FileAssociationTest::programWithUnusualPath()
     QVERIFY(Associate(PromptAnswer::Yes, QStringLiteral(R"(/opt/my "own" $HOME/100% å\b`c/ordelin)")));
 
     QCOMPARE(Files(),
-        QStringList({QStringLiteral("applications/ordelin.desktop"),
-            QStringLiteral("icons/hicolor/scalable/apps/ordelin.svg"),
+        QStringList({QStringLiteral("applications/workshops.ornbury.ordelin.desktop"),
+            QStringLiteral("icons/hicolor/16x16/apps/workshops.ornbury.ordelin.svg"),
+            QStringLiteral("icons/hicolor/scalable/apps/workshops.ornbury.ordelin.svg"),
             QStringLiteral("icons/hicolor/scalable/mimetypes/application-x-ordelin.svg"),
             QStringLiteral("mime/packages/ordelin.xml")}));
-    const QList<QByteArray> entry = Content(Path(QStringLiteral("applications/ordelin.desktop"))).split('\n');
+    const QList<QByteArray> entry =
+        Content(Path(QStringLiteral("applications/workshops.ornbury.ordelin.desktop"))).split('\n');
     QVERIFY(entry.contains(R"(Exec=env "/opt/my \\"own\\" \\$HOME/100%% å\\\\b\\`c/ordelin" %f)"));
     QVERIFY(entry.contains("MimeType=application/x-ordelin;"));
-    QVERIFY(Content(Path(QStringLiteral("icons/hicolor/scalable/apps/ordelin.svg"))).startsWith("<svg "));
+    QVERIFY(Content(Path(QStringLiteral("icons/hicolor/scalable/apps/workshops.ornbury.ordelin.svg")))
+                .startsWith("<svg "));
 
     const QString folder = m_folder->path();
     QCOMPARE(m_tools,
         QStringList({QStringLiteral("update-mime-database ") + folder + QStringLiteral("/mime"),
             QStringLiteral("update-desktop-database ") + folder + QStringLiteral("/applications"),
-            QStringLiteral("xdg-mime default ordelin.desktop application/x-ordelin")}));
+            QStringLiteral("xdg-mime default workshops.ornbury.ordelin.desktop application/x-ordelin")}));
     QCOMPARE(m_prompt.numbers, QList<int>({Text::ReallyAssociate, Text::Associated}));
 }
 

@@ -22,6 +22,7 @@
 #include "shell/ui/help_commands.h"
 #include "shell/ui/quiz_commands.h"
 #include "shell/ui/recent_files_menu.h"
+#include "shell/ui/samples_menu.h"
 #include "shell/ui/settings_commands.h"
 #include "shell/ui/special_character_keys.h"
 #include "shell/ui/user_fonts.h"
@@ -160,6 +161,11 @@ void CMainFrame::MakeMenus()
         QMenu *const shown = AddNamedMenu(*menuBar(), texts.Get(menu.title));
         FillMenu(*shown, menu.commands, *m_actions, texts);
         connect(shown, &QMenu::aboutToShow, m_actions, &CCommandActions::LoadIcons);
+        const qsizetype samples = menu.commands.indexOf(Text::SamplesMenu);
+        if (samples >= 0) {
+            new CSamplesMenu(
+                *shown->actions().at(samples)->menu(), m_services.files, m_services.dataFolders, texts);
+        }
         const qsizetype recent = menu.commands.indexOf(CommandId::RecentFiles);
         if (recent >= 0) {
             // The list's place is in front of the separator that follows it.

@@ -46,8 +46,11 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
     setApplicationName(QStringLiteral("Ordelin"));
     setApplicationVersion(QStringLiteral(ORDELIN_VERSION));
     setApplicationDisplayName(m_texts.Get(Text::ApplicationTitle));
-    setDesktopFileName(QStringLiteral("ordelin"));
-    setWindowIcon(QIcon(QStringLiteral(":/pictures/ordelin.svg")));
+    setDesktopFileName(QStringLiteral("workshops.ornbury.ordelin"));
+    // The small one is drawn with fewer lines.
+    QIcon icon(QStringLiteral(":/pictures/workshops.ornbury.ordelin.svg"));
+    icon.addFile(QStringLiteral(":/pictures/workshops.ornbury.ordelin-16.svg"), QSize(16, 16));
+    setWindowIcon(icon);
     setQuitOnLastWindowClosed(false); // A quiz hides the main window.
     installTranslator(&m_qtTexts);
     connect(&m_exitSignals, &CExitSignals::ExitRequested, this, [this] {
@@ -64,9 +67,9 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
 
 COrdelinApp::~COrdelinApp() = default;
 
-int COrdelinApp::Run(const QString &file)
+int COrdelinApp::Run(const QString &file, bool newList)
 {
-    if (!InitInstance(file)) {
+    if (!InitInstance(file, newList)) {
         return 1; // What the settings say of the last run stays.
     }
     // The end may have been asked for while a question of the start was open.
@@ -75,14 +78,14 @@ int COrdelinApp::Run(const QString &file)
     return result;
 }
 
-bool COrdelinApp::InitInstance(const QString &file)
+bool COrdelinApp::InitInstance(const QString &file, bool newList)
 {
     m_startUp.Prepare();
     m_document.ApplyUndoSize();
     m_recent = std::make_unique<CRecentFiles>(m_store, CAppSettings::RootPath());
     m_files = std::make_unique<CFileCommands>(m_document, m_texts, m_prompt, m_chooser, *m_recent);
     MakeMainWindow();
-    const QString reopened = m_startUp.FileToReopen(file, *m_recent);
+    const QString reopened = newList ? QString() : m_startUp.FileToReopen(file, *m_recent);
     m_document.OnNewDocument();
     if (!file.isEmpty() && !m_files->OpenFile(file)) {
         return false;

@@ -37,12 +37,12 @@ public:
     COrdelinApp(int &argc, char **argv);
     ~COrdelinApp() override;
 
-    /// The whole run of the program, from its start to its exit code. `file` is the command line's; empty for
-    /// none.
-    int Run(const QString &file);
+    /// The whole run of the program, from its start to its exit code. `file` is the command line's, empty for
+    /// none; without one `newList` keeps the list of the last time from being opened again.
+    int Run(const QString &file, bool newList);
     /// Its beginning: loads settings and language, opens what is to be opened and shows the main window.
     /// Returns false when the file named can't be opened, which ends the program.
-    bool InitInstance(const QString &file);
+    bool InitInstance(const QString &file, bool newList);
     /// Its end: saves the settings, after the event loop ended.
     void ExitInstance();
     CMainFrame &MainFrame() const { return *m_frame; }
