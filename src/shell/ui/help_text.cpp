@@ -134,7 +134,7 @@ QVariant CHelpText::loadResource(int type, const QUrl &name)
     if (picture.isNull()) {
         return {};
     }
-    m_pictures.insert(name, picture);
+    m_pictures.insert(file, picture);
     return picture;
 }
 
@@ -147,13 +147,15 @@ void CHelpText::FitPictures()
                 continue;
             }
             QTextImageFormat format = part.fragment().charFormat().toImageFormat();
-            const QSize natural = m_pictures.value(QUrl(format.name())).size();
+            const QUrl name(format.name());
+            document()->resource(QTextDocument::ImageResource, name); // Read when it wasn't yet.
+            const QSize natural = m_pictures.value(FileOfHelp(m_file, name)).size();
             const int width = std::min(std::max(most, 1), natural.width());
             if (natural.isEmpty() || int(format.width()) == width) {
                 continue;
             }
             const QSize size(width, natural.height() * width / natural.width());
-            ScalePicture(format.name(), size);
+            ScalePicture(name, size);
             format.setWidth(size.width());
             format.setHeight(size.height());
             QTextCursor cursor(block);
@@ -165,14 +167,14 @@ void CHelpText::FitPictures()
     }
 }
 
-void CHelpText::ScalePicture(const QString &name, const QSize &size)
+void CHelpText::ScalePicture(const QUrl &name, const QSize &size)
 {
     // The toolkit itself scales without smoothing.
     const qreal ratio = devicePixelRatioF();
-    QImage scaled =
-        m_pictures.value(QUrl(name)).scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage scaled = m_pictures.value(FileOfHelp(m_file, name))
+                        .scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(ratio);
-    document()->addResource(QTextDocument::ImageResource, QUrl(name), scaled);
+    document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name), scaled);
 }
 
 void CHelpText::resizeEvent(QResizeEvent *event)

@@ -36,11 +36,11 @@ private:
     QString Style() const;
     /// Pictures are no wider than the text.
     void FitPictures();
-    /// The picture of that width, in the toolkit's units, in place of the one before.
-    void ScalePicture(const QString &name, const QSize &size);
+    /// The picture of that size, in the toolkit's units, in place of the one before.
+    void ScalePicture(const QUrl &name, const QSize &size);
 
     QString m_file;
     QString m_html;
     QString m_marked;
-    QHash<QUrl, QImage> m_pictures; // As they are in their files.
+    QHash<QString, QImage> m_pictures; // By their files, as they are there.
 };
