@@ -171,6 +171,12 @@ void CEntryEditing::AddRest(const EntryTexts &texts)
     }
 }
 
+void CEntryEditing::ChangeUnasked(int entry, const EntryTexts &texts)
+{
+    m_services.document.Change(
+        [entry, &texts](CWordList &list) { list.ReplaceEntry(entry, texts[0], texts[1], texts[2], false); });
+}
+
 EditStep CEntryEditing::CellEdited(int row, int field, const QString &text)
 {
     const QString trimmed = text.trimmed();

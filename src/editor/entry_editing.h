@@ -97,6 +97,8 @@ public:
     int NextField() const;
     /// Makes an entry of texts of which some may be missing, without a question. See RestAsEntry().
     void AddRest(const EntryTexts &texts);
+    /// Gives an entry other texts without a question.
+    void ChangeUnasked(int entry, const EntryTexts &texts);
     /// A cell was edited and not cancelled.
     EditStep CellEdited(int row, int field, const QString &text);
     /// Asks before it deletes; true when the entries are gone. `entries` is ascending.

@@ -99,6 +99,23 @@ void CPendingEntries::StoreRest()
     m_view.Stored({});
 }
 
+void CPendingEntries::KeepLeft(const FieldTexts &fields)
+{
+    const CWordEntry &entry = m_document.List().Entry(fields.entry);
+    if (HasChanges(fields)) {
+        if (fields.given == EntryTexts{entry.GetText(0), entry.GetText(1), entry.GetNote()}) {
+            m_editing.ChangeUnasked(fields.entry, Changed(fields));
+        }
+    } else if (!RestAsEntry(Added(fields))) {
+        return;
+    } else if (!RestAsEntry(m_rows.pending)) {
+        m_rows.pending = InNormalForm(Added(fields));
+        m_view.PendingKept();
+    } else {
+        m_editing.AddRest(Added(fields));
+    }
+}
+
 CWordList CPendingEntries::ListWithAll() const
 {
     CWordList list = m_document.List();

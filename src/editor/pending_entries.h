@@ -38,6 +38,8 @@ public:
     virtual EditStep StoreEdit() = 0;
     /// Empties the fields for another entry.
     virtual void EmptyFields() = 0;
+    /// The new-entry row holds what the fields held.
+    virtual void PendingKept() = 0;
     /// Shows what came of it all.
     virtual void Stored(const EditStep &step) = 0;
 };
@@ -55,6 +57,9 @@ public:
     bool HasRest() const override;
     void StoreRest() override;
     CWordList ListWithAll() const override;
+    /// Keeps what the fields held when another entry took their place: a change changes its entry, if that is
+    /// still what the fields were given, without a question; what was to be added goes to the new-entry row.
+    void KeepLeft(const FieldTexts &fields);
 
 private:
     const CWin32Doc &m_document;

@@ -33,6 +33,7 @@ struct Editor : IEntryView, IPendingView
         return ended ? editing.CellEdited(ended->row, ended->field, ended->text) : EditStep();
     }
     void EmptyFields() override { fields = {}; }
+    void PendingKept() override { }
     void Stored(const EditStep &step) override { stored = step; }
 
     QStringList List() const { return Describe(test.document.List()); }
@@ -62,6 +63,7 @@ private Q_SLOTS:
     void wholePairs();
     void changedFields();
     void halves();
+    void leftFields();
     void nothing();
 };
 
@@ -124,6 +126,25 @@ void PendingEntriesTest::halves()
     QCOMPARE(editor.List(), all);
     QVERIFY(!editor.pending.HasRest());
     QVERIFY(editor.test.prompt.numbers.isEmpty());
+}
+
+void PendingEntriesTest::leftFields()
+{
+    Editor editor({T("a|b"), T("c|d|n")});
+    FieldTexts fields = {.typed = {T("c2"), {}, T("n")}, .given = {T("c"), T("d"), T("n")}, .entry = 1};
+    editor.pending.KeepLeft(fields);
+    QCOMPARE(editor.List(), QStringList({T("a|b"), T("c2|d|n")}));
+    fields.typed[0] = T("c3");
+    editor.pending.KeepLeft(fields); // The entry is another meanwhile.
+    QCOMPARE(editor.List(), QStringList({T("a|b"), T("c2|d|n")}));
+
+    fields = {.typed = {T(" x "), {}, {}}, .given = {}, .entry = CRowModel::NoEntry};
+    editor.pending.KeepLeft(fields);
+    QCOMPARE(editor.rows.pending[0], T("x"));
+    fields.typed = {T("y"), {}, {}};
+    editor.pending.KeepLeft(fields); // The row is taken.
+    QCOMPARE(editor.rows.pending[0], T("x"));
+    QCOMPARE(editor.List(), QStringList({T("a|b"), T("c2|d|n"), T("y")}));
 }
 
 void PendingEntriesTest::nothing()

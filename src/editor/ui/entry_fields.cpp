@@ -2,9 +2,9 @@
 #include "editor/ui/entry_fields.h"
 
 #include "editor/text_numbers.h"
-#include "platform/ui/long_line_edit.h"
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
+#include "platform/ui/long_line_edit.h"
 #include "resources/texts.h"
 
 #include <QGridLayout>

@@ -76,7 +76,9 @@ void CWin32View::ConnectList()
 {
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_suppressSelectionSync) {
-            m_fieldsStandAlone = false;
+            if (!std::exchange(m_fieldsStandAlone, false)) {
+                KeepFields();
+            }
             ReadSelection();
         }
     });
@@ -133,10 +135,10 @@ void CWin32View::FollowSettings()
 void CWin32View::ForgetDocument()
 {
     m_list->EndEditing(false);
+    EmptyFields(); // Before the selection goes, which would keep what they hold.
     m_list->clearSelection();
     m_list->setCurrentIndex({});
     m_list->scrollToTop();
-    EmptyFields();
 }
 
 void CWin32View::RefreshAll()

@@ -80,6 +80,8 @@ public:
     /// Stores what is being typed without asking anything.
     void EndEditingQuietly();
     /// What is typed and no entry yet.
+    /// A change in the fields that is not confirmed changes its entry before a command acts on the list.
+    void KeepChangedFields();
     IPendingWork &PendingWork() { return m_pending; }
 
     void DeleteSelection() override;
@@ -112,6 +114,8 @@ private:
     /// Selects no row and puts the cell cursor in a cell that there is.
     void PlaceCursor(int row, int field);
     void ReadSelection();
+    /// Keeps what stands in the fields before the selection puts another entry in its place.
+    void KeepFields();
     void LoadFields(int entry);
 
     void CellEdited(const CellEdit &edit);
@@ -131,6 +135,7 @@ private:
     FieldTexts Fields() const override;
     EditStep StoreEdit() override;
     void EmptyFields() override;
+    void PendingKept() override { PendingChanged(); }
     void Stored(const EditStep &step) override;
 
     ViewServices m_services;

@@ -46,7 +46,11 @@ void CWin32View::FieldsEntered()
 {
     EndEditing(true);
     const int entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : CRowModel::NoEntry;
-    Follow(m_editing.FromFields(m_fields->Texts(), entry), true);
+    const EditStep step = m_editing.FromFields(m_fields->Texts(), entry);
+    if (entry == CRowModel::NoEntry && step.Selects()) {
+        EmptyFields(); // They were added.
+    }
+    Follow(step, true);
 }
 
 void CWin32View::Follow(const EditStep &step, bool byEnter)

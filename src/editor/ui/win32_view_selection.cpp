@@ -143,6 +143,23 @@ void CWin32View::ReadSelection()
     Q_EMIT SelectionChanged();
 }
 
+void CWin32View::KeepFields()
+{
+    const FieldTexts left = {.typed = m_fields->Texts(), .given = m_loadedTexts, .entry = m_loadedEntry};
+    if (left.typed != left.given && FirstSelectedEntry() != m_loadedEntry) {
+        // From the event loop: rows may not come while a click selects some.
+        QMetaObject::invokeMethod(
+            this, [this, left] { m_pending.KeepLeft(left); }, Qt::QueuedConnection);
+    }
+}
+
+void CWin32View::KeepChangedFields()
+{
+    if (m_fields->IsChangeMode()) {
+        m_pending.KeepLeft(Fields());
+    }
+}
+
 void CWin32View::LoadFields(int entry)
 {
     if (m_fieldsStandAlone) {

@@ -3,10 +3,10 @@
 
 #include "editor/pending_entries.h"
 #include "editor/ui/cell_colours.h"
-#include "platform/ui/long_line_edit.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
 #include "platform/plain_text.h"
+#include "platform/ui/long_line_edit.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>

@@ -231,6 +231,7 @@ void CMainFrame::PrepareCommand(const Command &command)
         || (command.openEdit == OpenEditRule::LeftInEditBox && inEditBox);
     if (!left) {
         m_view->EndEditing(command.openEdit != OpenEditRule::Cancelled);
+        m_view->KeepChangedFields();
     }
 }
 
