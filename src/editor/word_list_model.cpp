@@ -17,6 +17,29 @@ bool IsLanguage(int field)
     return field == 0 || field == 1;
 }
 
+/// The stretches of entries that went, first and last, from the end to the start; none when they are too many
+/// to go one by one.
+std::optional<std::vector<std::pair<int, int>>> RemovedStretches(
+    const CWordList &before, const CWordList &after, const ListDifference &difference)
+{
+    constexpr size_t Most = 100;
+    std::vector<std::pair<int, int>> stretches;
+    int left = difference.inserted;
+    for (int i = difference.first + difference.removed - 1; i >= difference.first; --i) {
+        // States share the entries that stayed.
+        if (left > 0 && &before.Entry(i) == &after.Entry(difference.first + left - 1)) {
+            --left;
+        } else if (!stretches.empty() && stretches.back().first == i + 1) {
+            stretches.back().first = i;
+        } else if (stretches.size() < Most) {
+            stretches.emplace_back(i, i);
+        } else {
+            return std::nullopt;
+        }
+    }
+    return stretches;
+}
+
 }
 
 CWordListModel::CWordListModel(
@@ -47,9 +70,11 @@ bool CWordListModel::Apply(const ListChange &change)
 {
     using Entries = ListDifference::Entries;
     const ListDifference &difference = change.difference;
-    const bool block = difference.entries == Entries::Removed && difference.inserted == 0;
+    const auto removed = difference.entries == Entries::Removed
+        ? RemovedStretches(m_list, m_document.List(), difference)
+        : std::nullopt;
     const bool inPlace = difference.removed == difference.inserted;
-    if (change.replaced || !(block || inPlace || difference.entries == Entries::Inserted)) {
+    if (change.replaced || !(removed || inPlace || difference.entries == Entries::Inserted)) {
         if (change.replaced) {
             m_rows.pending = {};
         }
@@ -58,8 +83,10 @@ bool CWordListModel::Apply(const ListChange &change)
     }
     if (difference.entries == Entries::Inserted) {
         InsertRows(difference);
-    } else if (block) {
-        RemoveRows(difference);
+    } else if (removed) {
+        for (const auto &[first, last] : *removed) {
+            RemoveRows(first, last);
+        }
     }
     m_list = m_document.List();
     if (inPlace && difference.inserted > 0) {
@@ -86,16 +113,16 @@ void CWordListModel::InsertRows(const ListDifference &difference)
     endInsertRows();
 }
 
-void CWordListModel::RemoveRows(const ListDifference &difference)
+void CWordListModel::RemoveRows(int first, int last)
 {
     // The new-entry row may stand among them and stays.
-    const int end = difference.first + difference.removed;
-    const int middle = std::clamp(m_rows.InsertionPoint(), difference.first, end);
+    const int end = last + 1;
+    const int middle = std::clamp(m_rows.InsertionPoint(), first, end);
     if (middle < end) {
-        RemoveStretch(middle, end - 1);
+        RemoveStretch(middle, last);
     }
-    if (difference.first < middle) {
-        RemoveStretch(difference.first, middle - 1);
+    if (first < middle) {
+        RemoveStretch(first, middle - 1);
     }
 }
 

@@ -64,7 +64,7 @@ private:
     QVariant EntryData(int entry, int field, int role) const;
     QVariant NewEntryData(int field, int role) const;
     void InsertRows(const ListDifference &difference);
-    void RemoveRows(const ListDifference &difference);
+    void RemoveRows(int first, int last);
     /// Entries that stand in one stretch of rows.
     void RemoveStretch(int first, int last);
     void TakeInsertionPoint();

@@ -4,6 +4,7 @@
 #include "support/test_document.h"
 
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QTest>
 
 class WordListModelTest : public QObject
@@ -71,7 +72,9 @@ void WordListModelTest::tellsOfChangedRows()
     const auto remove = [&](const std::vector<int> &gone) {
         test.document.Change([&gone](CWordList &list) { list.DeleteEntries(gone); });
     };
+    const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     remove({0, 2, 3, 39});
+    QCOMPARE(resets.count(), 0);
     QCOMPARE(shown(), QStringLiteral("1 << Ny >> 4 5 6 7"));
     test.document.Change(
         [](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("x|y")), {.position = 1}); });
