@@ -110,7 +110,10 @@ private:
         shown->setAutoFillBackground(false);
         m_bar = area->verticalScrollBar();
         const QSize screenSize = screen()->availableSize();
-        const int width = std::min(shown->sizeHint().width(), screenSize.width() * 2 / 3);
+        // The toolkit bounds the window's width; beside the text it has room for its icon.
+        const int widest =
+            screenSize.width() <= 1024 ? screenSize.width() : std::min(screenSize.width() - 480, 1000);
+        const int width = std::min(shown->sizeHint().width(), widest * 3 / 4);
         const int height = shown->heightForWidth(width);
         const int highest = screenSize.height() * 3 / 5; // The rest is for the buttons and the frame.
         // Told, since the area itself would count on less width once the bar was there.

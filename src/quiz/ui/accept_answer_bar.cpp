@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/accept_answer_bar.h"
 
+#include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
 #include "quiz/text_numbers.h"
 #include "resources/texts.h"
@@ -26,6 +27,7 @@ CAcceptAnswerBar::CAcceptAnswerBar(const CTexts &texts, QWidget *window)
     m_button->setObjectName(QStringLiteral("acceptAnswerButton"));
     m_button->setFocusPolicy(Qt::TabFocus); // A click leaves the focus where the next answer is typed.
     m_button->setAutoDefault(false);
+    m_button->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     const QString hint = texts.Fill(Text::AcceptAnswerHint, {keyName()});
     m_button->setToolTip(hint);
     m_button->setAccessibleDescription(hint);
@@ -50,7 +52,21 @@ QString CAcceptAnswerBar::shownLine() const
 
 void CAcceptAnswerBar::showOffer(const AcceptOffer &offer)
 {
-    m_button->setText(acceptCaption(offer, m_texts));
+    m_caption = acceptCaption(offer, m_texts);
+    m_button->setAccessibleName(CaptionReadOut(m_caption));
+    showCaption();
     m_button->setEnabled(offer.kind != AcceptOffer::Kind::Nothing);
     m_line->setText(acceptedLine(offer, keyName(), m_texts));
+}
+
+void CAcceptAnswerBar::showCaption()
+{
+    const int room = width() - fontMetrics().averageCharWidth() * 4; // The rest is for the button's frame.
+    m_button->setText(fontMetrics().elidedText(m_caption, Qt::ElideRight, room, Qt::TextShowMnemonic));
+}
+
+void CAcceptAnswerBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    showCaption();
 }

@@ -26,8 +26,15 @@ public:
 Q_SIGNALS:
     void pressed();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    /// The caption as far as there is room for it.
+    void showCaption();
+
     const CTexts &m_texts;
+    QString m_caption;
     QPushButton *m_button;
     CElidedLabel *m_line;
 };

@@ -17,6 +17,7 @@ constexpr double Smallest = 1.5;
 constexpr double Largest = 2.5;
 constexpr double Step = 0.25;
 
+constexpr int LeastLines = 2; // Of the question, in view at any size.
 constexpr int Gap = 8; // Between the question and the fields.
 constexpr int Slack = 4; // Rounded heights must not bring a scroll bar.
 
@@ -70,7 +71,7 @@ QSize CQuestionArea::sizeHint() const
 
 QSize CQuestionArea::minimumSizeHint() const
 {
-    return sizeFor(2, m_fields->minimumSizeHint());
+    return sizeFor(LeastLines, m_fields->minimumSizeHint());
 }
 
 int CQuestionArea::margins() const
@@ -80,7 +81,10 @@ int CQuestionArea::margins() const
 
 void CQuestionArea::placeAll()
 {
-    const int fieldsHeight = std::min(m_fields->sizeHint().height(), height());
+    // Where there is little room, the fields give some of theirs first.
+    const int least = QFontMetrics(smallestFont()).lineSpacing() * LeastLines + margins() + Gap;
+    const int wanted = std::max(m_fields->minimumSizeHint().height(), height() - least);
+    const int fieldsHeight = std::min({m_fields->sizeHint().height(), wanted, height()});
     const int room = std::max(height() - fieldsHeight - Gap, 0);
     const QString question = m_question->toPlainText();
     // Sixty letters by fourteen lines are a small room.
