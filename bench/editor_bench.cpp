@@ -9,6 +9,7 @@
 #include "platform/user_prompt.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 
 #include <QApplication>
 #include <QLineEdit>

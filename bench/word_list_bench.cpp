@@ -190,7 +190,7 @@ private:
     {
         CRandom random(3);
         CWordList shuffled = m_list;
-        shuffled.Sort(-1, {}, random);
+        shuffled.Sort(ShuffleKey, {}, random);
         CWordList list;
         Reference::Entries entries = PlainEntries(m_list);
         std::shuffle(entries.begin(), entries.end(), std::mt19937(3));
@@ -223,8 +223,8 @@ private:
         constexpr int Calls = 10;
         Print({"check for a similar entry", Take([&] {
                    for (int i = 0; i < Calls; ++i) {
-                       int similar = -1;
-                       g_sink = int(m_list.FindSimilar(candidate, similar, -1, -1));
+                       int similar = NoEntry;
+                       g_sink = int(m_list.FindSimilar(candidate, similar, NoEntry, AnyLanguage));
                    }
                }),
                   Calls},

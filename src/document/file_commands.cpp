@@ -127,11 +127,12 @@ bool CFileCommands::DoSave(const QString &path, bool replace)
     if (target.isEmpty()) {
         const QString name = m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls")
                                                          : m_document.Name();
-        target =
-            m_chooser.ChooseFileToSave({.title = m_texts.Get(replace ? Text::SaveAsTitle : Text::SaveCopyTitle),
-                .filters = FileFilters(m_texts.Get(Text::OpenFilters)).mid(0, 1),
-                .start = QDir(StartFolder()).filePath(name),
-                .defaultSuffix = QStringLiteral("gls")});
+        target = m_chooser
+                     .ChooseFileToSave({.title = m_texts.Get(replace ? Text::SaveAsTitle : Text::SaveCopyTitle),
+                         .filters = FileFilters(m_texts.Get(Text::OpenFilters)).mid(0, 1),
+                         .start = QDir(StartFolder()).filePath(name),
+                         .defaultSuffix = QStringLiteral("gls")})
+                     .path;
         if (target.isEmpty()) {
             return false;
         }

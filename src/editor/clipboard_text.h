@@ -5,10 +5,7 @@
 
 /// The texts in which entries are copied and from which they are pasted. Reading takes any text.
 
-/// As a column; any other is a field of the entries.
-inline constexpr int AllColumns = -1;
-
-/// A line per entry, the columns separated by tabs.
+/// A line per entry, with AllColumns the columns separated by tabs.
 QString EntriesAsText(const CWordList &list, CWordList::Selection entries, int column);
 /// A document in Rich Text Format with a paragraph per entry, flagged terms in bold.
 QByteArray EntriesAsRichText(const CWordList &list, CWordList::Selection entries, int column);

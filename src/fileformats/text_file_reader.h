@@ -33,7 +33,6 @@ public:
     /// Back to the first line.
     void Rewind();
 
-    TextEncoding Encoding() const { return m_encoding; }
     /// True once a read has run past the end of the file.
     bool AtEnd() const { return m_atEnd; }
     /// True when the end was not the end of the file but an error of its device.

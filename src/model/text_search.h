@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/word_entry.h"
+
 #include <QString>
 
 #include <optional>
@@ -13,8 +15,6 @@ enum class FlagFilter { Any = -1, Flagged = 0, NotFlagged = 1 };
 /// character.
 struct TextSearch
 {
-    static constexpr int AllColumns = -1;
-
     QString text = {};
     /// A text field, or AllColumns: 0, 1, 2 in this order.
     int column = AllColumns;
@@ -30,12 +30,12 @@ struct TextSearch
 /// match (start - 1 for an empty match).
 struct TextMatch
 {
-    int entry = -1;
+    int entry = NoEntry;
     int column = 0;
     int start = 0;
     int end = -1;
 
-    bool IsFound() const { return entry >= 0; }
+    bool IsFound() const { return entry != NoEntry; }
     bool operator==(const TextMatch &) const = default;
 };
 

@@ -7,6 +7,11 @@
 #include <array>
 #include <span>
 
+/// The index of no entry, where one may be missing.
+inline constexpr int NoEntry = -1;
+/// All text fields, where one of them may be meant.
+inline constexpr int AllColumns = -1;
+
 /// One entry of a word list: a term in each of two languages, a note, and a flag per language ("learnt").
 /// Text fields are numbered: 0 and 1 are the terms, 2 is the note. Flags exist for 0 and 1. An index outside
 /// that range gives an empty text or false, and sets nothing.

@@ -136,16 +136,16 @@ void CWordList::DeleteAll()
 int CWordList::Insert(CWordEntry entry, const InsertOptions &options, int *outIndex)
 {
     m_saved = false;
-    int similar = -1;
+    int similar = NoEntry;
     if (options.checkSimilar) {
-        FindSimilar(entry, similar, -1, -1);
+        FindSimilar(entry, similar, NoEntry, AnyLanguage);
     }
     const bool inside = m_entries.IsIndex(options.position);
     m_entries.Insert(options.position, std::move(entry));
     if (inside && options.position <= similar) {
         ++similar;
     }
-    const bool sort = options.sortAfter && similar < 0;
+    const bool sort = options.sortAfter && similar == NoEntry;
     int index = Count() - 1; // Kept: without a sort the last entry, wherever the new one was inserted.
     if (sort) {
         const CWordEntry *const inserted = &Entry(inside ? options.position : index);
@@ -172,14 +172,14 @@ int CWordList::ReplaceEntry(
     int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar)
 {
     if (!m_entries.IsIndex(index)) {
-        return -1;
+        return NoEntry;
     }
     const CWordEntry &stored = Entry(index);
     // Made before anything changes: the texts may be those of the entry itself.
     CWordEntry changed(term1, term2, note, stored.GetFlag(0), stored.GetFlag(1));
-    int similar = -1;
+    int similar = NoEntry;
     if (checkSimilar) {
-        FindSimilar(changed, similar, index, -1);
+        FindSimilar(changed, similar, index, AnyLanguage);
     }
     Store(index, std::move(changed));
     return similar;
@@ -188,10 +188,10 @@ int CWordList::ReplaceEntry(
 int CWordList::SetEntryField(const QString &text, int field, int index, bool checkSimilar)
 {
     if (!m_entries.IsIndex(index) || field < 0) {
-        return -1;
+        return NoEntry;
     }
     const int target = std::min(field, CWordEntry::NoteField);
-    int similar = -1;
+    int similar = NoEntry;
     if (checkSimilar && target != CWordEntry::NoteField) {
         CWordEntry candidate;
         candidate.SetTerm(text, target);
@@ -225,11 +225,11 @@ void CWordList::MoveEntries(Selection selection, bool up, int field)
 {
     const auto exchange = [&](int index) {
         const int other = up ? index - 1 : index + 1;
-        if (!m_entries.IsIndex(other) || field > CWordEntry::NoteField) {
+        if (!m_entries.IsIndex(other) || field < WholeEntry || field > CWordEntry::NoteField) {
             return;
         }
         m_saved = false;
-        if (field < 0) {
+        if (field == WholeEntry) {
             m_entries.Swap(index, other);
         } else {
             m_entries.Mutable(index).SwapFieldWith(m_entries.Mutable(other), field);

@@ -48,6 +48,10 @@ struct ListProperties
 
 /// What MoveEntries() moves when it moves whole entries.
 inline constexpr int WholeEntry = -1;
+/// The key by which Sort() shuffles.
+inline constexpr int ShuffleKey = -1;
+/// Any of the two languages, where one may be meant.
+inline constexpr int AnyLanguage = -1;
 
 /// The numbers of SetFlags().
 enum class FlagMode { Clear = 0, Set = 1, Cycle = 2, Toggle = 3 };
@@ -60,8 +64,7 @@ struct ListDifference
         Same,
         Inserted, ///< None of the former entries went.
         Removed, ///< None came, and those that are left stand in their order; they need not be neighbours.
-        Reordered, ///< The same entries in another order.
-        Changed ///< Anything else, the number of entries included.
+        Changed ///< Anything else, the number of entries included: another order too.
     };
     Entries entries = Entries::Same;
     /// The `removed` entries from `first` on became `inserted` ones; what stands before and after is the same.
@@ -120,13 +123,13 @@ public:
     /// Makes room for entries to come; a negative count is 0.
     void Reserve(int count) { m_entries.Reserve(count); }
 
-    /// Returns the index of a similar entry, as it is after the insertion, or -1. `outIndex`, when given,
+    /// Returns the index of a similar entry, as it is after the insertion, or NoEntry. `outIndex`, when given,
     /// receives the new entry's index after a sort, and the index of the last entry otherwise.
     int Insert(CWordEntry entry, const InsertOptions &options = {}, int *outIndex = nullptr);
     /// Inserts the entries of another list before this one's `position`, as InsertOptions has it.
     void InsertAll(const CWordList &other, int position);
-    /// The texts may be those of the entry itself. Both return the index of another, similar entry or -1; it is
-    /// reported also when nothing changed.
+    /// The texts may be those of the entry itself. Both return the index of another, similar entry or NoEntry;
+    /// it is reported also when nothing changed.
     int ReplaceEntry(
         int index, const QString &term1, const QString &term2, const QString &note, bool checkSimilar);
     int SetEntryField(const QString &text, int field, int index, bool checkSimilar);
@@ -144,24 +147,24 @@ public:
     /// Entries with neither term, which a file of the program does not keep.
     int CountWithoutTerms() const;
 
-    /// A similar entry has exactly the same note and, in the language asked for (any other number: in one of
-    /// the two), an alternative in common, case and comments counting.
+    /// A similar entry has exactly the same note and, in the language asked for or in AnyLanguage, an
+    /// alternative in common, case and comments counting.
     bool FindSimilar(const CWordEntry &candidate, int &outIndex, int excludeIndex, int language) const;
 
     // Order (word_list_sort.cpp)
-    /// `key` is a text field; a negative one shuffles. Entries equal in all fields come in any order.
+    /// `key` is a text field or ShuffleKey. Entries equal in all fields come in any order.
     void Sort(int key, const SortOptions &options, CRandom &random);
     /// Whether the entries from `first` to `last` stand in the order that Sort() by a text field gives.
     bool IsSorted(int key, const SortOptions &options, int first, int last) const;
 
     // Text search (word_list_search.cpp)
     /// The next matching entry after (`downward`) or before `start`, wrapping, `start` itself tried last; a
-    /// start of -1 means from the first or the last entry.
+    /// start of NoEntry means from the first or the last entry.
     TextMatch FindNext(const TextSearch &search, int start, bool downward) const;
     /// All matching entries, ascending.
     std::vector<int> FindAll(const TextSearch &search) const;
     /// The first entry from `start` on, wrapping, with a term that begins with `prefix`, case ignored; `column`
-    /// 0 or 1 looks at that term alone. -1 when there is none.
+    /// 0 or 1 looks at that term alone. NoEntry when there is none.
     int FindPrefix(const QString &prefix, int column, int start) const;
 
     // Duplicates (word_list_merge.cpp); see CDuplicateSearch for finding them

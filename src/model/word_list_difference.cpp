@@ -18,25 +18,10 @@ bool IsPartOf(const CWordList &before, const CWordList &after, const ListDiffere
     return left == difference.inserted;
 }
 
-/// Whether the stretch holds the same entries before and after: by sums of their addresses, since sorting a
-/// million of them takes longer than what is told of.
-bool HoldsTheSame(const CWordList &before, const CWordList &after, const ListDifference &difference)
-{
-    quintptr sum = 0;
-    quintptr squares = 0;
-    for (int i = difference.first; i < difference.first + difference.removed; ++i) {
-        const auto was = reinterpret_cast<quintptr>(&before.Entry(i));
-        const auto is = reinterpret_cast<quintptr>(&after.Entry(i));
-        sum += was - is;
-        squares += was * was - is * is;
-    }
-    return sum == 0 && squares == 0;
-}
-
 Entries KindOf(const CWordList &before, const CWordList &after, const ListDifference &difference)
 {
     if (difference.removed == difference.inserted) {
-        return HoldsTheSame(before, after, difference) ? Entries::Reordered : Entries::Changed;
+        return Entries::Changed;
     }
     if (difference.removed == 0) {
         return Entries::Inserted;

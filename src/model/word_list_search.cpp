@@ -10,7 +10,7 @@ bool Passes(FlagFilter filter, bool flag)
     return filter == FlagFilter::Any || (filter == FlagFilter::Flagged) == flag;
 }
 
-/// The match of `search` in one entry; its entry number is -1 when there is none.
+/// The match of `search` in one entry; it is not found when there is none.
 TextMatch MatchEntry(const CTextMatcher &matcher, const TextSearch &search, const CWordEntry &entry, int index)
 {
     if (!Passes(search.flag1, entry.GetFlag(0)) || !Passes(search.flag2, entry.GetFlag(1))) {
@@ -68,5 +68,5 @@ int CWordList::FindPrefix(const QString &prefix, int column, int start) const
             return index;
         }
     }
-    return -1;
+    return NoEntry;
 }

@@ -16,6 +16,13 @@ struct FileChoice
     QString defaultSuffix = {};
 };
 
+/// The file that was chosen for saving.
+struct ChosenFile
+{
+    QString path; ///< Empty when none was.
+    qsizetype filter = 0; ///< Which of the choice's filters was in force.
+};
+
 /// Asks the user for a file. The one in tests answers by script. An empty path means that nothing was chosen.
 class IFileChooser
 {
@@ -26,6 +33,6 @@ public:
     IFileChooser &operator=(const IFileChooser &) = delete;
 
     virtual QString ChooseFileToOpen(const FileChoice &choice) = 0;
-    /// Asks before an existing file is chosen. `filter`, when given, receives the index of the filter in force.
-    virtual QString ChooseFileToSave(const FileChoice &choice, qsizetype *filter = nullptr) = 0;
+    /// Asks before an existing file is chosen.
+    virtual ChosenFile ChooseFileToSave(const FileChoice &choice) = 0;
 };

@@ -115,13 +115,10 @@ void CQuizResult::saveTable()
 {
     const CTexts &texts = m_services.texts;
     const QString suffix = texts.Get(Text::ResultSuffix);
-    qsizetype filter = 0;
-    const QString path =
-        m_services.chooser.ChooseFileToSave({.title = texts.Get(Text::SaveResultTitle),
-                                                .filters = FileFilters(texts.Get(Text::ResultFilters)),
-                                                .start = proposedFile(Text::ResultFileName, suffix),
-                                                .defaultSuffix = suffix},
-            &filter);
+    const auto [path, filter] = m_services.chooser.ChooseFileToSave({.title = texts.Get(Text::SaveResultTitle),
+        .filters = FileFilters(texts.Get(Text::ResultFilters)),
+        .start = proposedFile(Text::ResultFileName, suffix),
+        .defaultSuffix = suffix});
     if (path.isEmpty() || isListsOwnFile(path)) {
         return;
     }
@@ -147,10 +144,12 @@ void CQuizResult::saveMistakes()
 {
     const CTexts &texts = m_services.texts;
     const QString suffix = QStringLiteral("gls");
-    const QString path = m_services.chooser.ChooseFileToSave({.title = texts.Get(Text::SaveMistakesTitle),
-        .filters = FileFilters(texts.Get(Text::OpenFilters)).mid(0, 1),
-        .start = proposedFile(Text::MistakesFileName, suffix),
-        .defaultSuffix = suffix});
+    const QString path = m_services.chooser
+                             .ChooseFileToSave({.title = texts.Get(Text::SaveMistakesTitle),
+                                 .filters = FileFilters(texts.Get(Text::OpenFilters)).mid(0, 1),
+                                 .start = proposedFile(Text::MistakesFileName, suffix),
+                                 .defaultSuffix = suffix})
+                             .path;
     if (!path.isEmpty() && !isListsOwnFile(path)) {
         m_session.document().SaveEntries(path, m_session.mistakes());
     }

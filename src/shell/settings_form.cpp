@@ -2,6 +2,7 @@
 #include "shell/settings_form.h"
 
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 
 CSettingsForm::CSettingsForm(SettingsFormServices services)
     : newLists(services.texts, services.today()), m_services(std::move(services))

@@ -49,7 +49,7 @@ struct View
     CWordListControl *List() { return view.findChild<CWordListControl *>(); }
     QLineEdit *Editor()
     {
-        auto *const box = FocusedEditBox();
+        auto *const box = qobject_cast<QLineEdit *>(QApplication::focusWidget());
         return box != nullptr && box->objectName() == QStringLiteral("cellEditor") ? box : nullptr;
     }
     QLineEdit *Field(int field) { return view.findChild<QLineEdit *>(QStringLiteral("field%1").arg(field)); }

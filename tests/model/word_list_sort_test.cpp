@@ -112,7 +112,7 @@ void WordListSortTest::shortLists()
     CRandom random(1);
     CWordList list = MakeList({QStringLiteral("a")});
     list.Sort(0, {}, random);
-    list.Sort(-1, {}, random);
+    list.Sort(ShuffleKey, {}, random);
     QVERIFY(list.IsSaved());
 }
 
@@ -126,8 +126,8 @@ void WordListSortTest::shuffling()
     CWordList same = list;
     CRandom random(9);
     CRandom sameRandom(9);
-    list.Sort(-1, {}, random);
-    same.Sort(-1, {}, sameRandom);
+    list.Sort(ShuffleKey, {}, random);
+    same.Sort(ShuffleKey, {}, sameRandom);
     QCOMPARE(Describe(list), Describe(same)); // The random source alone decides.
     QVERIFY(Describe(list) != entries);
     QVERIFY(!list.IsSaved());

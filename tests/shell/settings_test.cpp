@@ -3,6 +3,7 @@
 #include "platform/ui/long_line_edit.h"
 #include "platform/ui/number_field.h"
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 #include "shell/ui/list_properties_dialog.h"
 #include "shell/ui/settings_dialog.h"
 #include "support/test_document.h"

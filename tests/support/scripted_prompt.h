@@ -82,13 +82,7 @@ public:
     }
 
     QString ChooseFileToOpen(const FileChoice &choice) override { return Take(choice); }
-    QString ChooseFileToSave(const FileChoice &choice, qsizetype *chosenFilter) override
-    {
-        if (chosenFilter != nullptr) {
-            *chosenFilter = filter;
-        }
-        return Take(choice);
-    }
+    ChosenFile ChooseFileToSave(const FileChoice &choice) override { return {Take(choice), filter}; }
 
     QStringList paths;
     qsizetype filter = 0;

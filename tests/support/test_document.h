@@ -4,6 +4,7 @@
 #include "document/win32_doc.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 #include "support/lists.h"
 #include "support/scripted_prompt.h"
 

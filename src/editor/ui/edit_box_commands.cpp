@@ -3,13 +3,7 @@
 
 #include "platform/ui/long_line_edit.h"
 
-#include <QApplication>
 #include <QLineEdit>
-
-QLineEdit *FocusedEditBox()
-{
-    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
-}
 
 void PasteText(QLineEdit &box)
 {

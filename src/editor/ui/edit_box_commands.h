@@ -5,10 +5,6 @@
 
 class QLineEdit;
 
-/// The edit box that has the keyboard focus, in whichever window; null for none. Commands on text act on it
-/// alone.
-QLineEdit *FocusedEditBox();
-
 /// Pastes the text of the clipboard into an edit box.
 void PasteText(QLineEdit &box);
 

@@ -9,6 +9,7 @@
 #include "platform/ui/elided_label.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 
 #include <QGridLayout>
 

@@ -6,6 +6,7 @@
 #include "editor/word_list_model.h"
 #include "platform/user_prompt.h"
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 
 #include <algorithm>
 #include <optional>

@@ -10,8 +10,7 @@
 
 namespace {
 
-QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode,
-    qsizetype *filter = nullptr)
+ChosenFile Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
 {
     QFileDialog dialog(OwnerWindow(), choice.title);
     dialog.setWindowModality(Qt::WindowModal);
@@ -26,21 +25,21 @@ QString Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDial
         dialog.setDirectory(start.path());
         dialog.selectFile(start.fileName());
     }
-    const bool chosen = dialog.exec() == QDialog::Accepted;
-    if (filter != nullptr) {
-        *filter = std::max<qsizetype>(choice.filters.indexOf(dialog.selectedNameFilter()), 0);
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
     }
-    return chosen ? dialog.selectedFiles().value(0) : QString();
+    return {dialog.selectedFiles().value(0),
+        std::max<qsizetype>(choice.filters.indexOf(dialog.selectedNameFilter()), 0)};
 }
 
 }
 
 QString CFileDialogChooser::ChooseFileToOpen(const FileChoice &choice)
 {
-    return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
+    return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::ExistingFile).path;
 }
 
-QString CFileDialogChooser::ChooseFileToSave(const FileChoice &choice, qsizetype *filter)
+ChosenFile CFileDialogChooser::ChooseFileToSave(const FileChoice &choice)
 {
-    return Choose(choice, QFileDialog::AcceptSave, QFileDialog::AnyFile, filter);
+    return Choose(choice, QFileDialog::AcceptSave, QFileDialog::AnyFile);
 }

@@ -8,5 +8,5 @@ class CFileDialogChooser : public IFileChooser
 {
 public:
     QString ChooseFileToOpen(const FileChoice &choice) override;
-    QString ChooseFileToSave(const FileChoice &choice, qsizetype *filter) override;
+    ChosenFile ChooseFileToSave(const FileChoice &choice) override;
 };

@@ -14,7 +14,8 @@ std::optional<int> NumberIn(const QString &text, const NumberRange &range)
     const QString written = text.trimmed();
     const bool negative = written.startsWith(u'-');
     const QStringView digits = QStringView(written).sliced(negative ? 1 : 0);
-    if (digits.isEmpty() || !std::ranges::all_of(digits, [](QChar unit) { return unit.isDigit(); })) {
+    const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
+    if (digits.isEmpty() || !std::ranges::all_of(digits, isDigit)) {
         return {};
     }
     // Not with the separators of thousands, which a range as ours doesn't need.
@@ -27,6 +28,7 @@ std::optional<int> NumberIn(const QString &text, const NumberRange &range)
 
 CNumberField::CNumberField(const NumberRange &range, int number, QWidget *parent) : QSpinBox(parent)
 {
+    setLocale(QLocale::c()); // Its digits are the ones that are read.
     setRange(range.lowest, range.highest);
     setValue(number);
     const auto tell = [this] { Q_EMIT NumberEntered(Entered()); };
@@ -44,7 +46,7 @@ QValidator::State CNumberField::validate(QString &text, int &cursor) const
     const QValidator::State state = QSpinBox::validate(text, cursor);
     // What is still to be brought into the range may be typed.
     const bool begins = text.isEmpty() || text == u"-" || NumberIn(text, {minimum(), maximum()});
-    return state == QValidator::Invalid && begins ? QValidator::Intermediate : state;
+    return !begins ? QValidator::Invalid : state == QValidator::Invalid ? QValidator::Intermediate : state;
 }
 
 void CNumberField::fixup(QString &text) const

@@ -4,7 +4,8 @@
 #include "editor/arranging.h"
 #include "editor/ui/win32_view.h"
 #include "platform/ui/wait_cursor.h"
-#include "settings/settings.h"
+#include "settings/settings_changes.h"
+#include "settings/shell_settings.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 

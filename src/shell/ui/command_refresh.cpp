@@ -2,7 +2,7 @@
 #include "shell/ui/command_refresh.h"
 
 #include "document/win32_doc.h"
-#include "settings/settings.h"
+#include "settings/settings_changes.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/edit_commands.h"

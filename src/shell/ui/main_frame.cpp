@@ -11,6 +11,7 @@
 #include "quiz/ui/quiz_launch.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 #include "shell/commands.h"
 #include "shell/text_numbers.h"
 #include "shell/ui/arrange_commands.h"

@@ -15,6 +15,7 @@
 #include "resources/texts.h"
 #include "settings/app_settings.h"
 #include "settings/ini_store.h"
+#include "settings/settings_changes.h"
 #include "shell/program_end.h"
 #include "shell/start_up.h"
 

@@ -3,7 +3,8 @@
 
 #include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_launch.h"
-#include "settings/settings.h"
+#include "settings/quiz_settings.h"
+#include "settings/settings_changes.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 

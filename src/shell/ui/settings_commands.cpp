@@ -4,6 +4,7 @@
 #include "document/win32_doc.h"
 #include "quiz/ui/quiz_settings_dialog.h"
 #include "settings/settings.h"
+#include "settings/settings_changes.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/list_properties_dialog.h"

@@ -3,7 +3,8 @@
 
 #include "editor/ui/win32_view.h"
 #include "platform/ui/wait_cursor.h"
-#include "settings/settings.h"
+#include "settings/editor_settings.h"
+#include "settings/settings_changes.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/special_character_keys.h"

@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+#include "settings/settings_changes.h"
