@@ -165,6 +165,7 @@ private:
                 const qint64 size = QFile(path).size();
                 std::printf("  %-34s %.1f MB, %.2f times the file, aim below 6\n", "memory of the list read",
                     double(MemoryInUse() - before) / 1e6, double(MemoryInUse() - before) / double(size));
+                m_list = std::move(list); // What follows is done with lists that were opened.
             }
         }
     }

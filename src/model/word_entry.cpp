@@ -4,6 +4,7 @@
 #include "model/term_syntax.h"
 #include "platform/collation.h"
 
+#include <algorithm>
 #include <utility>
 
 const QString &CWordEntry::EmptyText()
@@ -134,10 +135,23 @@ bool CWordEntry::HasAlternative(const QString &text, int index, bool caseInsensi
     return false;
 }
 
+namespace {
+
+/// Whether a term has so many alternatives that they are better looked up than compared one by one.
+bool IsLongTerm(const CWordEntry &entry, int index)
+{
+    return entry.AlternativeCount(index) >= 32;
+}
+
+}
+
 bool CWordEntry::SharesAlternative(const CWordEntry &other, int index, bool caseInsensitive) const
 {
     if (!IsLanguage(index)) {
         return HasAlternative({}, index, caseInsensitive);
+    }
+    if (!caseInsensitive && IsLongTerm(*this, index) && IsLongTerm(other, index)) {
+        return CAlternativeLookup(*this, index).IsSharedBy(other);
     }
     for (int k = 0; k <= other.AlternativeCount(index); ++k) {
         if (HasAlternative(other.StoredAlternative(index, k), index, caseInsensitive)) {
@@ -175,4 +189,22 @@ void CWordEntry::SwapFieldWith(CWordEntry &other, int field)
         std::swap(m_alternatives[size_t(field)], other.m_alternatives[size_t(field)]);
         std::swap(m_flags[size_t(field)], other.m_flags[size_t(field)]);
     }
+}
+
+CAlternativeLookup::CAlternativeLookup(const CWordEntry &entry, int index) : m_entry(entry), m_index(index)
+{
+    if (IsLongTerm(entry, index)) {
+        const auto alternatives = entry.Alternatives(index);
+        m_many = QSet<QStringView>(alternatives.begin(), alternatives.end());
+    }
+}
+
+bool CAlternativeLookup::IsSharedBy(const CWordEntry &other) const
+{
+    if (m_many.isEmpty()) {
+        return m_entry.SharesAlternative(other, m_index, false);
+    }
+    const auto alternatives = other.Alternatives(m_index);
+    return std::any_of(alternatives.begin(), alternatives.end(),
+        [this](const QString &alternative) { return m_many.contains(alternative); });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -83,4 +84,19 @@ private:
     std::array<QString, FieldCount> m_texts;
     // Left empty when the term has one alternative, which is the term itself: most entries need no list.
     std::array<QStringList, LanguageCount> m_alternatives;
+};
+
+/// The alternatives of one term, for asking many entries whether they share one of them, letter case counting.
+/// Refers to the entry, which must outlive it unchanged.
+class CAlternativeLookup
+{
+public:
+    CAlternativeLookup(const CWordEntry &entry, int index);
+    /// SharesAlternative(), and as quick for a term of many alternatives.
+    bool IsSharedBy(const CWordEntry &other) const;
+
+private:
+    const CWordEntry &m_entry;
+    int m_index;
+    QSet<QStringView> m_many; // Empty for a few, which are compared one by one.
 };

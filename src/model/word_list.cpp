@@ -288,15 +288,15 @@ int CWordList::CountWithoutTerms() const
 bool CWordList::FindSimilar(const CWordEntry &candidate, int &outIndex, int excludeIndex, int language) const
 {
     const bool oneLanguage = IsLanguage(language);
+    const std::array lookups = {CAlternativeLookup(candidate, 0), CAlternativeLookup(candidate, 1)};
     for (int index = 0; index < Count(); ++index) {
         const CWordEntry &entry = Entry(index);
         // Kept: entries with different notes are never similar, whatever words they share.
         if (index == excludeIndex || entry.GetNote() != candidate.GetNote()) {
             continue;
         }
-        if (oneLanguage ? candidate.SharesAlternative(entry, language, false)
-                        : candidate.SharesAlternative(entry, 0, false)
-                    || candidate.SharesAlternative(entry, 1, false)) {
+        if (oneLanguage ? lookups[size_t(language)].IsSharedBy(entry)
+                        : lookups[0].IsSharedBy(entry) || lookups[1].IsSharedBy(entry)) {
             outIndex = index;
             return true;
         }

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 #include <set>
 
 namespace {
@@ -55,6 +57,7 @@ private Q_SLOTS:
     void mergingAgreesWithAllPairs();
     void mergesAnEntryThatStandsTwice();
     void mergesManyNotesQuickly();
+    void longTermsTakeNoQuadraticTime();
     void nothingToMerge();
 };
 
@@ -99,12 +102,9 @@ void DuplicatesTest::whatCountsAsShared()
 
 void DuplicatesTest::mergesIntoTheFirst()
 {
-    CWordList list =
-        MakeList({QStringLiteral("x|y"), QStringLiteral("hus|house|djur|12"), QStringLiteral("hem|||1"),
-            QStringLiteral("hus * bostad|home|djur; tamt|12"), QStringLiteral("z|z|jur|12")});
+    CWordList list = MakeList("x|y,hus|house|djur|12,hem|||1,hus * bostad|home|djur; tamt|12,z|z|jur|12");
     QCOMPARE(list.MergeEntries(std::vector<int>{1, 2, 3, 4, 77}), 3);
-    QCOMPARE(Describe(list).join(u','),
-        QStringLiteral("x|y,hus * hem * bostad * z|house * home * z|djur; djur; tamt|1"));
+    QCOMPARE(Joined(list), u"x|y,hus * hem * bostad * z|house * home * z|djur; djur; tamt|1"_s);
     QVERIFY(!list.IsSaved());
 }
 
@@ -156,11 +156,11 @@ void DuplicatesTest::mergingAgreesWithAllPairs()
 
 void DuplicatesTest::mergesAnEntryThatStandsTwice()
 {
-    CWordList list = MakeList({QStringLiteral("a * b|c|n|1")});
+    CWordList list = MakeList("a * b|c|n|1");
     const CWordList copy = list;
     list.InsertAll(copy, InsertOptions::AtEnd); // Both places share one entry.
     QCOMPARE(list.MergeEntries(std::vector<int>{0, 1}), 1);
-    QCOMPARE(Describe(list).join(u','), QStringLiteral("a * b|c|n|1"));
+    QCOMPARE(Joined(list), u"a * b|c|n|1"_s);
 }
 
 void DuplicatesTest::mergesManyNotesQuickly()
@@ -168,18 +168,40 @@ void DuplicatesTest::mergesManyNotesQuickly()
     constexpr int Count = 30000;
     CWordList list;
     for (int i = 0; i < Count; ++i) {
-        list.Insert(CWordEntry(QStringLiteral("same * w%1").arg(i), {},
-            QStringLiteral("kapitel %1 sidan %2").arg(i / 170).arg(i % 170)));
+        list.Insert(CWordEntry(u"same * w%1"_s.arg(i), {}, u"kapitel %1 sidan %2"_s.arg(i / 170).arg(i % 170)));
     }
-    list.Insert(CWordEntry(QStringLiteral("same"), {}, QStringLiteral("pitel 7 sid")));
+    list.Insert(CWordEntry(u"same"_s, {}, u"pitel 7 sid"_s));
     QCOMPARE(list.MergeAll(), Count);
     QCOMPARE(list.Entry(0).AlternativeCount(0), Count);
-    QCOMPARE(list.Entry(0).GetNote().count(QStringLiteral("; ")), Count - 1);
+    QCOMPARE(list.Entry(0).GetNote().count(u"; "_s), Count - 1);
+}
+
+void DuplicatesTest::longTermsTakeNoQuadraticTime()
+{
+    constexpr int Count = 100000;
+    const auto term = [](int first) {
+        QStringList words;
+        for (int number = first; number < first + Count; ++number) {
+            words.append(QString::number(number));
+        }
+        return words.join(u'*');
+    };
+    const CWordEntry entry(term(0));
+    QVERIFY(!entry.SharesAlternative(CWordEntry(term(Count)), 0, false));
+    QVERIFY(entry.SharesAlternative(CWordEntry(term(Count - 1)), 0, false));
+    CWordList list;
+    for (int number = 0; number < Count; ++number) {
+        list.Insert(CWordEntry(QString::number(-number - 1)));
+    }
+    int similar = NoEntry;
+    QVERIFY(!list.FindSimilar(entry, similar, NoEntry, 0));
+    list.Insert(CWordEntry(QStringLiteral("x * 77")));
+    QVERIFY(list.FindSimilar(entry, similar, NoEntry, 0) && similar == Count);
 }
 
 void DuplicatesTest::nothingToMerge()
 {
-    CWordList list = MakeList({QStringLiteral("a|b"), QStringLiteral("c|")});
+    CWordList list = MakeList("a|b,c|");
     QCOMPARE(list.MergeAll(), 0);
     QCOMPARE(list.MergeEntries(std::vector<int>{1}), 0);
     QCOMPARE(list.MergeEntries({}), 0);

@@ -30,6 +30,12 @@ inline CWordList MakeList(const QStringList &entries)
     return list;
 }
 
+/// Entries with commas between them, as UTF-8.
+inline CWordList MakeList(const char *entries)
+{
+    return MakeList(QString::fromUtf8(entries).split(u','));
+}
+
 /// The entry in the form of MakeEntry(), without empty parts at its end.
 inline QString Describe(const CWordEntry &entry)
 {
@@ -49,6 +55,12 @@ inline QStringList Describe(const CWordList &list)
         entries.append(Describe(list.Entry(index)));
     }
     return entries;
+}
+
+/// All entries with commas between them.
+inline QString Joined(const CWordList &list)
+{
+    return Describe(list).join(u',');
 }
 
 /// A text of up to `length` characters of `alphabet`.
