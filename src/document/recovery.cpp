@@ -11,17 +11,6 @@ namespace {
 
 constexpr int RetryFactor = 10; // Longer than the delay, since a full disk stays full for a while.
 
-/// How many of the entries a file of the list gives back.
-qint64 ReadableCount(const CWordList &list)
-{
-    qint64 count = 0;
-    for (int index = 0; index < list.Count(); ++index) {
-        const CWordEntry &entry = list.Entry(index);
-        count += entry.GetText(0).isEmpty() && entry.GetText(1).isEmpty() ? 0 : 1;
-    }
-    return count;
-}
-
 }
 
 /// Writes one copy; works on a list of its own.
@@ -54,8 +43,8 @@ protected:
         m_written = false;
         QBuffer buffer(&m_copy.content);
         buffer.open(QIODevice::WriteOnly);
-        m_copy.count = ReadableCount(m_list);
-        if (WriteWordList(m_list, buffer, {.forceUnicode = true}) && m_isWanted) {
+        m_copy.count = m_list.Count() - m_list.CountWithoutTerms(); // What a file gives back.
+        if (WriteWordList(m_list, buffer) && m_isWanted) {
             m_written = m_recovery.m_copies.Write(m_id, m_copy);
         }
         m_list = CWordList();

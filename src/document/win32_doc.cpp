@@ -240,6 +240,11 @@ bool CWin32Doc::OnSaveDocument(const QString &file)
     if (!WriteWordListFile(m_history.Current(), path,
             {.forceUnicode = m_services.settings.alwaysSaveInUnicode,
                 .backupFolder = m_services.backupFolder})) {
+        // A file that was overwritten and put back is as it was, but for its times.
+        const FileStamp left = FileStamp::Of(path);
+        if (path == Path() && left.inode == now.inode && left.size == now.size) {
+            m_stamp = left;
+        }
         m_services.prompt.Tell(texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
         UpdateTitleMark();
         return false;

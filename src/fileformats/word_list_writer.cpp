@@ -13,11 +13,10 @@ const GlossaryVersion &SmallestVersion(const CWordList &list)
 {
     bool fitsOld = list.GetQuestionTemplate(0).isEmpty() && list.GetQuestionTemplate(1).isEmpty();
     bool anyFlag = false;
-    for (int index = 0; index < list.Count() && (fitsOld || !anyFlag); ++index) {
-        const CWordEntry &entry = list.Entry(index);
+    list.ForEach([&](int, const CWordEntry &entry) {
         fitsOld = fitsOld && entry.FitsOldFormat();
         anyFlag = anyFlag || entry.GetFlag(0) || entry.GetFlag(1);
-    }
+    });
     if (fitsOld) {
         return Glossary::Version20;
     }
@@ -95,9 +94,11 @@ CLines Encoded(const CWordList &list, TextEncoding encoding)
     const GlossaryVersion &version = SmallestVersion(list);
     CLines lines(encoding, Length(list));
     AppendHeader(list, version, lines);
-    for (int index = 0; index < list.Count() && !lines.Lossy(); ++index) {
-        AppendRecord(list.Entry(index), version, lines);
-    }
+    list.ForEach([&](int, const CWordEntry &entry) {
+        if (!lines.Lossy()) {
+            AppendRecord(entry, version, lines);
+        }
+    });
     return lines;
 }
 

@@ -191,7 +191,7 @@ void RecoveryTest::partOfACopy_data()
         << QByteArray("count=2") << QByteArray("count=3") << QList<int>{Text::RecoverPart};
     QTest::newRow("whole") << QByteArray("count=2") << QByteArray("count=2")
                            << QList<int>{Text::RecoverChanges};
-    QTest::newRow("no list in it") << QByteArray("O\0r\0d\0", 6) << QByteArray("x\0y\0z\0", 6)
+    QTest::newRow("no list in it") << QByteArray("Ordelin 2") << QByteArray("Ordinary ")
                                    << QList<int>{Text::RecoverPart};
     QTest::newRow("damaged head") << QByteArray("count=") << QByteArray("count=x") << QList<int>{};
     QTest::newRow("no head") << QByteArray("Ordelin copy 1") << QByteArray("Ordelin copy 2") << QList<int>{};

@@ -9,9 +9,28 @@
 #include <QTest>
 
 #include <csignal>
+#include <fcntl.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+namespace {
+
+/// Runs `save` while no file can grow beyond some bytes.
+bool WithFullDisk(rlim_t bytes, const std::function<bool()> &save)
+{
+    rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit low = {bytes, limit.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &low);
+    const bool saved = save();
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, handler);
+    return saved;
+}
+
+}
 
 class Win32DocTest : public QObject
 {
@@ -25,6 +44,7 @@ private Q_SLOTS:
     void refusedFiles();
     void saving();
     void foreignChangesAreNotOverwritten();
+    void fileThatWasPutBack();
     void entriesWithoutTerms();
     void undoAcrossSaving();
     void tellsWhatChanged();
@@ -150,19 +170,9 @@ void Win32DocTest::saving()
 
     // A disk that is full after some bytes: told, and nothing else happened.
     const QString full = m_folder.filePath(QStringLiteral("full.gls"));
-    const pid_t child = fork();
-    if (child == 0) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit = {10, 10};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        const bool saved = test.document.OnSaveDocument(full);
-        const bool told =
-            test.prompt.numbers.last() == Text::CannotSave && test.prompt.texts.last().contains(full);
-        _exit(!saved && told && test.document.IsModified() && test.document.Path().isEmpty() ? 0 : 1);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    QCOMPARE(status, 0);
+    QVERIFY(!WithFullDisk(10, [&] { return test.document.OnSaveDocument(full); }));
+    QVERIFY(test.prompt.numbers.last() == Text::CannotSave && test.prompt.texts.last().contains(full));
+    QVERIFY(test.document.IsModified() && test.document.Path().isEmpty());
     QVERIFY(!QFile::exists(full));
 
     const QString good = m_folder.filePath(QStringLiteral("min lista.gls"));
@@ -178,14 +188,19 @@ void Win32DocTest::saving()
 void Win32DocTest::foreignChangesAreNotOverwritten()
 {
     TestDocument test;
-    const QByteArray foreign = "Ordelin 2.0\n\n\nA\nB\n1\n\n1\nforeign\nchange\n";
+    const QByteArray foreign = "Ordelin 2.0\n\n\nA\nB\n1\n\n1\nx\ny\n";
     const QString path = Write("Ordelin 2.0\n\n\nA\nB\n1\n\n1\na\nb\n");
     QDir::setCurrent(m_folder.path());
     QVERIFY(test.document.OpenDocument(QFileInfo(path).fileName()));
     QDir::setCurrent(QDir::rootPath());
     QCOMPARE(test.document.Path(), path); // Whatever folder the program is in later.
     test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Clear); });
+    // Of the same size, and with the time put back.
+    struct stat before = {};
+    QCOMPARE(::stat(path.toUtf8().constData(), &before), 0);
     Write(foreign);
+    const std::array times = {before.st_atim, before.st_mtim};
+    QCOMPARE(::utimensat(AT_FDCWD, path.toUtf8().constData(), times.data(), 0), 0);
     test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
     QVERIFY(!test.document.OnSaveDocument(path));
     QCOMPARE(test.prompt.numbers, QList<int>{Text::OverwriteForeignChange});
@@ -199,6 +214,21 @@ void Win32DocTest::foreignChangesAreNotOverwritten()
     QVERIFY(QFile::remove(path));
     QVERIFY(test.document.OnSaveDocument(path)); // A file that is gone is made again.
     QCOMPARE(test.prompt.numbers.size(), 2);
+}
+
+void Win32DocTest::fileThatWasPutBack()
+{
+    TestDocument test;
+    CWin32Doc document({test.texts, test.settings, test.prompt, [] { return QDate(); }, {},
+        m_folder.filePath(QStringLiteral("state"))});
+    const QString path = Write("Ordelin 2.0\n\n\nA\nB\n1\n\n1\na\nb\n");
+    const QString secondName = m_folder.filePath(QStringLiteral("name 2"));
+    QCOMPARE(::link(path.toUtf8().constData(), secondName.toUtf8().constData()), 0); // Overwritten, therefore.
+    QVERIFY(document.OpenDocument(path));
+    document.Change([](CWordList &list) { list.SetComments(QString(5000, u'x')); });
+    QVERIFY(!WithFullDisk(2000, [&] { return document.OnSaveDocument(path); }));
+    QVERIFY(document.OnSaveDocument(path));
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotSave}); // Nobody else changed the file.
 }
 
 void Win32DocTest::entriesWithoutTerms()
