@@ -50,8 +50,7 @@ void Run(int count)
     constexpr int Steps = 100;
     settings.undoSize = Steps;
     CNoPrompt prompt;
-    CWin32Doc document({texts, settings, prompt, [] { return QDate(2004, 5, 6); },
-        [](const QString &, const QStringList &) { return false; }});
+    CWin32Doc document({texts, settings, prompt, [] { return QDate(2004, 5, 6); }, {}});
 
     std::printf("%d entries\n", count);
     const int repeats = count >= 1000000 ? 2 : 10;

@@ -48,8 +48,7 @@ struct Editor
     CSettingsChanges settingsChanges;
     CYesPrompt prompt;
     CRandom random{1};
-    CWin32Doc document{{texts, settings.editor, prompt, [] { return QDate(2004, 5, 6); },
-        [](const QString &, const QStringList &) { return false; }}};
+    CWin32Doc document{{texts, settings.editor, prompt, [] { return QDate(2004, 5, 6); }, {}}};
     CWin32View view{{document, settings, settingsChanges, texts, prompt}};
     CArranging arranging{view, document, settings.arrange, random};
 };

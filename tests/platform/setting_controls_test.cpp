@@ -20,6 +20,9 @@ public:
     CSheet() : CSettingsSheet(QStringLiteral("sheet"), nullptr) { AddPage(page, QStringLiteral("page")); }
 
     QWidget *page = new QWidget;
+
+protected:
+    void Store() override { }
 };
 
 }
