@@ -5,7 +5,8 @@
 import pathlib
 import re
 import sys
-import tempfile
+
+import source_check
 
 # What a folder may include besides itself. A folder stands for its window-free part only.
 DOCUMENT = {"document", "fileformats", "model", "settings", "resources", "platform"}
@@ -72,43 +73,20 @@ def faults_of(root):
     return faults
 
 
-def self_test():
-    """Every kind of wrong include is found, and a right one is not."""
-    cases = {
-        "model/a.h": ('#include "platform/random.h"\n#include <QString>\n', 0),
-        "model/b.h": ('#include "document/win32_doc.h"\n', 1),
-        "editor/c.cpp": ('#include "quiz/quiz_form.h"\n', 1),
-        "quiz/d.cpp": ("#include <QtWidgets/QWidget>\n", 1),
-        "quiz/e.cpp": ('#include "quiz/ui/quiz_dialog.h"\n', 1),
-        "quiz/ui/f.cpp": ('#include "quiz/quiz_form.h"\n#include <QWidget>\n#include "platform/ui/x.h"\n', 0),
-        "quiz/ui/g.cpp": ('#include "editor/ui/win32_view.h"\n', 1),
-        "other/h.cpp": ("", 1),
-        "model/i.h": ('#include "text.h"\n', 1),
-        "model/j.h": ("#include <document/win32_doc.h>\n", 1),
-    }
-    with tempfile.TemporaryDirectory() as folder:
-        root = pathlib.Path(folder)
-        for name, (text, _) in cases.items():
-            (root / name).parent.mkdir(parents=True, exist_ok=True)
-            (root / name).write_text(text, encoding="utf-8")
-        faults = faults_of(root)
-    wrong = [name for name, (_, count) in cases.items() if sum(name in fault for fault in faults) != count]
-    for name in wrong:
-        print(f"self-test: {name} is judged wrongly")
-    return 1 if wrong else 0
-
-
-def main():
-    if sys.argv[1:] == ["--self-test"]:
-        return self_test()
-    if len(sys.argv) != 2:
-        print("usage: check_layers.py SOURCE-FOLDER | --self-test", file=sys.stderr)
-        return 2
-    faults = faults_of(pathlib.Path(sys.argv[1]))
-    for fault in faults:
-        print(fault)
-    return 1 if faults else 0
+# Every kind of wrong include is found, and a right one is not.
+CASES = {
+    "model/a.h": ('#include "platform/random.h"\n#include <QString>\n', 0),
+    "model/b.h": ('#include "document/win32_doc.h"\n', 1),
+    "editor/c.cpp": ('#include "quiz/quiz_form.h"\n', 1),
+    "quiz/d.cpp": ("#include <QtWidgets/QWidget>\n", 1),
+    "quiz/e.cpp": ('#include "quiz/ui/quiz_dialog.h"\n', 1),
+    "quiz/ui/f.cpp": ('#include "quiz/quiz_form.h"\n#include <QWidget>\n#include "platform/ui/x.h"\n', 0),
+    "quiz/ui/g.cpp": ('#include "editor/ui/win32_view.h"\n', 1),
+    "other/h.cpp": ("", 1),
+    "model/i.h": ('#include "text.h"\n', 1),
+    "model/j.h": ("#include <document/win32_doc.h>\n", 1),
+}
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(source_check.main(faults_of, CASES))

@@ -3,10 +3,10 @@
 """Finds what may take a text from outside for markup: labels made without the factory, and the toolkit's windows
 that make labels of their own."""
 
-import pathlib
 import re
 import sys
-import tempfile
+
+import source_check
 
 # Where labels are made, and the one message box.
 FACTORIES = {"platform/ui/label.cpp", "platform/ui/elided_label.h", "platform/ui/elided_label.cpp",
@@ -73,58 +73,35 @@ def faults_of(root):
         if name not in FACTORIES:
             for match in ADD_ROW.finditer(text):
                 given = arguments(text, match.end())
-                if len(given) == 2 and not re.fullmatch(r"\w*[lL]abel\w*|MakeLabel\(.*\)", given[0], re.DOTALL):
+                if len(given) == 2 and not re.fullmatch(r"\w*[lL]abel\w*|MakeLabel\(.*\)|QString\(\)", given[0], re.DOTALL):
                     fault(match.start(), "a row whose label the form makes; use AddLabelledRow()")
     return faults
 
 
-def self_test():
-    """Every way around the factory is found once, and right ones are not."""
-    cases = {
-        "a/new.cpp": ("auto *x = new QLabel(\n    text, this);\n", 1),
-        "a/unique.cpp": ("auto x = std::make_unique<QLabel>(text);\n", 1),
-        "a/derived.h": ("class CMine : public QLabel\n{\n};\n", 1),
-        "a/constructor.cpp": ("CMine::CMine(QWidget *parent) : QLabel(parent)\n{\n}\n", 1),
-        "a/member.h": ("    QLabel m_label;\n", 1),
-        "a/local.cpp": ("    QLabel label(text);\n", 1),
-        "a/several.h": ("    std::array<QLabel, 3> m_labels;\n", 1),
-        "a/row.cpp": ('    form.addRow(texts.Get(Text::A), f(1, 2));\n', 1),
-        "a/format.cpp": ("    label->setTextFormat(Qt::RichText);\n", 1),
-        "a/box.cpp": ("    QMessageBox::warning(this, title, text);\n", 1),
-        "a/made.cpp": ("    QMessageBox box(icon, title, text);\n", 1),
-        "a/progress.cpp": ("    QProgressDialog dialog(text, cancel, 0, 1);\n", 1),
-        "a/whats.cpp": ("    button->setWhatsThis(text);\n", 1),
-        "platform/ui/label.cpp": ("auto *x = new QLabel(parent);\nform.addRow(text, control);\n", 0),
-        "platform/ui/message_box_prompt.cpp": ("QMessageBox box(icon, title, text);\n", 0),
-        "a/right.cpp": ("class QLabel;\nQLabel *const x = MakeLabel(text, this);\nform.addRow(label, field);\n"
-                        "rows->addRow(MakeLabel(a, b));\nstd::array<QLabel *, 3> labels;\n"
-                        "for (QLabel *label : {a, b}) {}\nfindChild<QLabel *>(name);\n"
-                        "qobject_cast<QMessageBox *>(window);\nvoid f(QMessageBox &box);\n"
-                        "label->setTextFormat(Qt::PlainText); // never new QLabel(text)\n", 0),
-    }
-    with tempfile.TemporaryDirectory() as folder:
-        root = pathlib.Path(folder)
-        for name, (text, _) in cases.items():
-            (root / name).parent.mkdir(parents=True, exist_ok=True)
-            (root / name).write_text(text, encoding="utf-8")
-        faults = faults_of(root)
-    wrong = [name for name, (_, count) in cases.items() if sum(f"/{name}:" in fault for fault in faults) != count]
-    for name in wrong:
-        print(f"self-test: {name} is judged wrongly")
-    return 1 if wrong else 0
-
-
-def main():
-    if sys.argv[1:] == ["--self-test"]:
-        return self_test()
-    if len(sys.argv) != 2:
-        print("usage: check_plain_text.py SOURCE-FOLDER | --self-test", file=sys.stderr)
-        return 2
-    faults = faults_of(pathlib.Path(sys.argv[1]))
-    for fault in faults:
-        print(fault)
-    return 1 if faults else 0
+# Every way around the factory is found once, and right ones are not.
+CASES = {
+    "a/new.cpp": ("auto *x = new QLabel(\n    text, this);\n", 1),
+    "a/unique.cpp": ("auto x = std::make_unique<QLabel>(text);\n", 1),
+    "a/derived.h": ("class CMine : public QLabel\n{\n};\n", 1),
+    "a/constructor.cpp": ("CMine::CMine(QWidget *parent) : QLabel(parent)\n{\n}\n", 1),
+    "a/member.h": ("    QLabel m_label;\n", 1),
+    "a/local.cpp": ("    QLabel label(text);\n", 1),
+    "a/several.h": ("    std::array<QLabel, 3> m_labels;\n", 1),
+    "a/row.cpp": ('    form.addRow(texts.Get(Text::A), f(1, 2));\n', 1),
+    "a/format.cpp": ("    label->setTextFormat(Qt::RichText);\n", 1),
+    "a/box.cpp": ("    QMessageBox::warning(this, title, text);\n", 1),
+    "a/made.cpp": ("    QMessageBox box(icon, title, text);\n", 1),
+    "a/progress.cpp": ("    QProgressDialog dialog(text, cancel, 0, 1);\n", 1),
+    "a/whats.cpp": ("    button->setWhatsThis(text);\n", 1),
+    "platform/ui/label.cpp": ("auto *x = new QLabel(parent);\nform.addRow(text, control);\n", 0),
+    "platform/ui/message_box_prompt.cpp": ("QMessageBox box(icon, title, text);\n", 0),
+    "a/right.cpp": ("class QLabel;\nQLabel *const x = MakeLabel(text, this);\nform.addRow(label, field);\n"
+                    "rows->addRow(MakeLabel(a, b));\nstd::array<QLabel *, 3> labels;\n"
+                    "for (QLabel *label : {a, b}) {}\nfindChild<QLabel *>(name);\n"
+                    "qobject_cast<QMessageBox *>(window);\nvoid f(QMessageBox &box);\n"
+                    "label->setTextFormat(Qt::PlainText); // never new QLabel(text)\n", 0),
+}
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(source_check.main(faults_of, CASES))
