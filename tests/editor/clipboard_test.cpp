@@ -8,6 +8,8 @@
 
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString Unicode = QStringLiteral("application/x-ornbury-workshops-ordelin-2.3-unicode");
@@ -21,7 +23,7 @@ std::vector<int> All(const CWordList &list)
 }
 
 /// The entries in the form of MakeEntry(), one behind the other.
-QString Joined(const CWordList &list)
+QString InOneLine(const CWordList &list)
 {
     return Describe(list).join(QStringLiteral(" / "));
 }
@@ -33,113 +35,93 @@ class ClipboardTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void writes_data();
     void writes();
-    void readsRecords_data();
     void readsRecords();
-    void readsText_data();
     void readsText();
     void formatsOfData();
     void recordsKeepEverything();
 };
 
-void ClipboardTest::writes_data()
-{
-    QTest::addColumn<QString>("entries");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("richText");
-    QTest::newRow("all columns, flagged terms bold")
-        << "hund * jycke|dog|[n]|1/katt|cat||2" << AllColumns << "hund * jycke\tdog\t[n]\r\nkatt\tcat\t\r\n"
-        << QByteArray("{\\rtf1\\ansi\\ansicpg1252"
-                      "{\\b hund * jycke}{\\tab}{dog}{\\tab}{[n]}{\\par }"
-                      "{katt}{\\tab}{\\b cat}{\\tab}{}{\\par }}");
-    QTest::newRow("one language") << "a|b|c|12/d|e|f" << 1 << "b\r\ne\r\n"
-                                  << QByteArray("{\\rtf1\\ansi\\ansicpg1252{\\b b}{\\par }{e}{\\par }}");
-    QTest::newRow("notes are never bold") << "a|b|c|12" << 2 << "c\r\n"
-                                          << QByteArray("{\\rtf1\\ansi\\ansicpg1252{c}{\\par }}");
-    QTest::newRow("letters of all ranges")
-        << QString::fromUtf8("å|α|\uFB01 𝄞") << AllColumns << QString::fromUtf8("å\tα\t\uFB01 𝄞\r\n")
-        << QByteArray("{\\rtf1\\ansi\\ansicpg1252"
-                      "{\\u229?}{\\tab}{\\u945?}{\\tab}{\\u64257? \\u55348?\\u56606?}{\\par }}");
-    QTest::newRow("what is markup in rich text")
-        << "\\par {x}|}|~" << AllColumns << "\\par {x}\t}\t~\r\n"
-        << QByteArray("{\\rtf1\\ansi\\ansicpg1252{\\\\par \\{x\\}}{\\tab}{\\}}{\\tab}{~}{\\par }}");
-}
-
 void ClipboardTest::writes()
 {
-    QFETCH(QString, entries);
-    QFETCH(int, column);
-    QFETCH(QString, text);
-    QFETCH(QByteArray, richText);
-    const CWordList list = MakeList(entries.split(u'/'));
-    QCOMPARE(EntriesAsText(list, All(list), column), text);
-    QCOMPARE(EntriesAsRichText(list, All(list), column), richText);
-}
-
-void ClipboardTest::readsRecords_data()
-{
-    QTest::addColumn<QString>("records");
-    QTest::addColumn<QString>("entries");
-    QTest::newRow("nothing") << ""
-                             << "";
-    QTest::newRow("flags, empty note") << "0\r\na\r\n1\r\nb\r\n\r\n"
-                                       << "a|b||2";
-    QTest::newRow("anything but 0 is a flag") << "\r\na\r\n00\r\nb\r\nc\r\n"
-                                              << "a|b|c|12";
-    QTest::newRow("the last line has no end") << "0\r\na\r\n0\r\nb\r\nc\r\n0\r\nd\r\n0\r\ne\r\nf"
-                                              << "a|b|c";
-    QTest::newRow("a record of four lines") << "0\r\na\r\n0\r\nb\r\n"
-                                            << "";
-    QTest::newRow("other line ends end no line") << "0\na\n0\nb\nc\n"
-                                                 << "";
-    QTest::newRow("a byte-order mark") << QStringLiteral("\uFEFF0\r\na\r\n0\r\nb\r\n\r\n") << "a|b";
-    QTest::newRow("not in normal form") << "0\r\n a*b\tc \r\n0\r\n[]d\r\n\ne\r\n"
-                                        << "a * b c|d|e";
+    const struct
+    {
+        QString entries;
+        int column;
+        QString text;
+        QByteArray richText;
+    } rows[] = {
+        {u"hund * jycke|dog|[n]|1/katt|cat||2"_s, AllColumns, u"hund * jycke\tdog\t[n]\r\nkatt\tcat\t\r\n"_s,
+            QByteArray("{\\rtf1\\ansi\\ansicpg1252"
+                       "{\\b hund * jycke}{\\tab}{dog}{\\tab}{[n]}{\\par }"
+                       "{katt}{\\tab}{\\b cat}{\\tab}{}{\\par }}")}, // all columns, flagged terms bold
+        {u"a|b|c|12/d|e|f"_s, 1, u"b\r\ne\r\n"_s,
+            "{\\rtf1\\ansi\\ansicpg1252{\\b b}{\\par }{e}{\\par }}"}, // one language
+        {u"a|b|c|12"_s, 2, u"c\r\n"_s, "{\\rtf1\\ansi\\ansicpg1252{c}{\\par }}"}, // notes are never bold
+        {QString::fromUtf8("å|α|\uFB01 𝄞"), AllColumns, QString::fromUtf8("å\tα\t\uFB01 𝄞\r\n"),
+            QByteArray(
+                "{\\rtf1\\ansi\\ansicpg1252"
+                "{\\u229?}{\\tab}{\\u945?}{\\tab}{\\u64257? \\u55348?\\u56606?}{\\par }}")}, // letters of all
+                                                                                             // ranges
+        {u"\\par {x}|}|~"_s, AllColumns, u"\\par {x}\t}\t~\r\n"_s,
+            "{\\rtf1\\ansi\\ansicpg1252{\\\\par \\{x\\}}{\\tab}{\\}}{\\tab}{~}{\\par }}"}, // what is markup in
+                                                                                           // rich text
+    };
+    for (const auto &row : rows) {
+        const CWordList list = MakeList(row.entries.split(u'/'));
+        QCOMPARE(EntriesAsText(list, All(list), row.column), row.text);
+        QCOMPARE(EntriesAsRichText(list, All(list), row.column), row.richText);
+    }
 }
 
 void ClipboardTest::readsRecords()
 {
-    QFETCH(QString, records);
-    QTEST(Joined(EntriesFromRecords(records)), "entries");
-}
-
-void ClipboardTest::readsText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("entries");
-    QTest::newRow("nothing") << ""
-                             << "";
-    QTest::newRow("tabs, a note, CR LF and LF") << "a\tb\r\nc\td\te f\ng\th"
-                                                << "a|b / c|d|e f / g|h";
-    QTest::newRow("every separator") << "a\tb\na;b\na:b\na|b\na,b\na=b\na-b"
-                                     << "a|b / a|b / a|b / a|b / a|b / a|b / a|b";
-    QTest::newRow("their order decides, not the place") << "a,b;c\na-b=c\nd=e,f-g"
-                                                        << "a,b|c / a-b|c / d=e|f-g";
-    QTest::newRow("blanks beside the separator") << "hund - dog - the note"
-                                                 << "hund|dog|the note";
-    QTest::newRow("stars and blanks outside") << "\t* hus = house *\n**a*b;c"
-                                              << "hus|house / a * b|c";
-    QTest::newRow("a separator outside goes with them") << "\ta;b\t\n"
-                                                        << "a|b";
-    QTest::newRow("lines that make no sense between others")
-        << "a-b-c-d\na;b\nno separator\n\n=house\nx==y\nc;d\n-"
-        << "a|b / c|d";
-    QTest::newRow("terms of blanks or comments without words") << "a-  -c\n[];b"
-                                                               << "";
-    QTest::newRow("letters outside Latin 1")
-        << QString::fromUtf8("ёж – hedgehog; igelkott") << QString::fromUtf8("ёж – hedgehog|igelkott");
-    QTest::newRow("CR alone") << "a;b\rc;d\r\re;f\r"
-                              << "a|b / c|d / e|f";
-    QTest::newRow("a byte-order mark") << QStringLiteral("\uFEFF* a;\uFEFFb") << QStringLiteral("a|\uFEFFb");
-    QTest::newRow("control characters") << QStringLiteral("a\u0002b;c\u0001d") << "a b|c d";
+    const struct
+    {
+        QString records;
+        QString entries;
+    } rows[] = {
+        {{}, {}}, // nothing
+        {u"0\r\na\r\n1\r\nb\r\n\r\n"_s, u"a|b||2"_s}, // flags, empty note
+        {u"\r\na\r\n00\r\nb\r\nc\r\n"_s, u"a|b|c|12"_s}, // anything but 0 is a flag
+        {u"0\r\na\r\n0\r\nb\r\nc\r\n0\r\nd\r\n0\r\ne\r\nf"_s, u"a|b|c"_s}, // the last line has no end
+        {u"0\r\na\r\n0\r\nb\r\n"_s, {}}, // a record of four lines
+        {u"0\na\n0\nb\nc\n"_s, {}}, // other line ends end no line
+        {u"\uFEFF0\r\na\r\n0\r\nb\r\n\r\n"_s, u"a|b"_s}, // a byte-order mark
+        {u"0\r\n a*b\tc \r\n0\r\n[]d\r\n\ne\r\n"_s, u"a * b c|d|e"_s}, // not in normal form
+    };
+    for (const auto &row : rows) {
+        QCOMPARE(InOneLine(EntriesFromRecords(row.records)), row.entries);
+    }
 }
 
 void ClipboardTest::readsText()
 {
-    QFETCH(QString, text);
-    QTEST(Joined(EntriesFromText(text)), "entries");
+    const struct
+    {
+        QString text;
+        QString entries;
+    } rows[] = {
+        {{}, {}}, // nothing
+        {u"a\tb\r\nc\td\te f\ng\th"_s, u"a|b / c|d|e f / g|h"_s}, // tabs, a note, CR LF and LF
+        {u"a\tb\na;b\na:b\na|b\na,b\na=b\na-b"_s,
+            u"a|b / a|b / a|b / a|b / a|b / a|b / a|b"_s}, // every separator
+        {u"a,b;c\na-b=c\nd=e,f-g"_s, u"a,b|c / a-b|c / d=e|f-g"_s}, // their order decides, not the place
+        {u"hund - dog - the note"_s, u"hund|dog|the note"_s}, // blanks beside the separator
+        {u"\t* hus = house *\n**a*b;c"_s, u"hus|house / a * b|c"_s}, // stars and blanks outside
+        {u"\ta;b\t\n"_s, u"a|b"_s}, // a separator outside goes with them
+        {u"a-b-c-d\na;b\nno separator\n\n=house\nx==y\nc;d\n-"_s,
+            u"a|b / c|d"_s}, // lines that make no sense between others
+        {u"a-  -c\n[];b"_s, {}}, // terms of blanks or comments without words
+        {QString::fromUtf8("ёж – hedgehog; igelkott"),
+            QString::fromUtf8("ёж – hedgehog|igelkott")}, // letters outside Latin 1
+        {u"a;b\rc;d\r\re;f\r"_s, u"a|b / c|d / e|f"_s}, // CR alone
+        {u"\uFEFF* a;\uFEFFb"_s, u"a|\uFEFFb"_s}, // a byte-order mark
+        {u"a\u0002b;c\u0001d"_s, u"a b|c d"_s}, // control characters
+    };
+    for (const auto &row : rows) {
+        QCOMPARE(InOneLine(EntriesFromText(row.text)), row.entries);
+    }
 }
 
 void ClipboardTest::formatsOfData()
@@ -158,15 +140,15 @@ void ClipboardTest::formatsOfData()
 
     // The best form is read first, and alone.
     QVERIFY(MayHoldEntries(*data));
-    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|α|€|1"));
+    QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|α|€|1"));
     data->removeFormat(Unicode);
-    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|?|€|1"));
+    QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|?|€|1"));
     data->setData(EightBit, "cut off");
-    QCOMPARE(Joined(EntriesFromData(*data)), QString());
+    QCOMPARE(InOneLine(EntriesFromData(*data)), QString());
     data->removeFormat(EightBit);
-    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|α|€"));
+    QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|α|€"));
     data->removeFormat(QStringLiteral("text/plain"));
-    QCOMPARE(Joined(EntriesFromData(*data)), QString::fromUtf8("é|?|€"));
+    QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|?|€"));
     data->removeFormat(QStringLiteral("text/plain;charset=windows-1252"));
     QVERIFY(!MayHoldEntries(*data));
     QCOMPARE(EntriesFromData(*data).Count(), 0);

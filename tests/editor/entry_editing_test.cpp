@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Action = EditStep::Action;
@@ -63,15 +65,12 @@ private Q_SLOTS:
     void emptyFields();
     void addingFromFields();
     void changingFromFields();
-    void corrections_data();
     void corrections();
     void similarEntries();
-    void chainedEntry_data();
     void chainedEntry();
     void cells();
     void sortedEntries();
     void deleting();
-    void textBoxes_data();
     void textBoxes();
 };
 
@@ -118,42 +117,36 @@ void EntryEditingTest::changingFromFields()
     QCOMPARE(editor.List().size(), 3);
 }
 
-void EntryEditingTest::corrections_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("proposal");
-    QTest::newRow("commas") << "a, b"
-                            << "a * b";
-    QTest::newRow("comma in a comment") << "a (b, c)"
-                                        << "a [b, c]";
-    QTest::newRow("both") << "hus, hem (plural)"
-                          << "hus * hem [plural]";
-    QTest::newRow("asterisks alone") << "a * b"
-                                     << "";
-    QTest::newRow("brackets alone") << "()"
-                                    << "";
-}
-
 void EntryEditingTest::corrections()
 {
-    QFETCH(QString, typed);
-    QFETCH(QString, proposal);
-    for (const bool accept : {true, false}) {
-        Editor editor;
-        if (!proposal.isEmpty()) {
-            editor.test.prompt.answers = {accept ? PromptAnswer::Yes : PromptAnswer::No};
+    const struct
+    {
+        QString typed;
+        QString proposal;
+    } rows[] = {
+        {u"a, b"_s, u"a * b"_s}, // commas
+        {u"a * b"_s, {}}, // asterisks alone
+        {u"()"_s, {}}, // brackets alone
+    };
+    for (const auto &row : rows) {
+        for (const bool accept : {true, false}) {
+            Editor editor;
+            if (!row.proposal.isEmpty()) {
+                editor.test.prompt.answers = {accept ? PromptAnswer::Yes : PromptAnswer::No};
+            }
+            editor.editing.FromFields({row.typed, T("x"), {}}, CRowModel::NoEntry);
+            QCOMPARE(editor.test.prompt.numbers,
+                row.proposal.isEmpty() ? QList<int>() : QList<int>{Text::ProposeCorrection});
+            QVERIFY(row.proposal.isEmpty()
+                || editor.test.prompt.texts.first().contains(u'"' + row.proposal + u'"'));
+            QCOMPARE(editor.test.document.List().Entry(0).GetText(0),
+                accept && !row.proposal.isEmpty() ? row.proposal : row.typed);
         }
-        editor.editing.FromFields({typed, T("x"), {}}, CRowModel::NoEntry);
-        QCOMPARE(editor.test.prompt.numbers,
-            proposal.isEmpty() ? QList<int>() : QList<int>{Text::ProposeCorrection});
-        QVERIFY(proposal.isEmpty() || editor.test.prompt.texts.first().contains(u'"' + proposal + u'"'));
-        QCOMPARE(
-            editor.test.document.List().Entry(0).GetText(0), accept && !proposal.isEmpty() ? proposal : typed);
+        Editor silent;
+        silent.test.settings.synonymWarning = false;
+        silent.editing.FromFields({row.typed, T("x"), {}}, CRowModel::NoEntry);
+        QVERIFY(silent.test.prompt.numbers.isEmpty());
     }
-    Editor silent;
-    silent.test.settings.synonymWarning = false;
-    silent.editing.FromFields({typed, T("x"), {}}, CRowModel::NoEntry);
-    QVERIFY(silent.test.prompt.numbers.isEmpty());
 }
 
 void EntryEditingTest::similarEntries()
@@ -176,37 +169,36 @@ void EntryEditingTest::similarEntries()
     QCOMPARE(editor.test.prompt.numbers, QList<int>(3, Text::SelectSimilar));
 }
 
-void EntryEditingTest::chainedEntry_data()
-{
-    QTest::addColumn<bool>("lang1first");
-    QTest::addColumn<bool>("notes");
-    QTest::addColumn<QList<int>>("edited"); // The field after each step.
-    QTest::newRow("notes shown") << true << true << QList<int>{0, 1, 2, 0};
-    QTest::newRow("notes hidden") << true << false << QList<int>{0, 1, 0};
-    QTest::newRow("language 2 first") << false << true << QList<int>{1, 0, 2, 1};
-    QTest::newRow("language 2 first, notes hidden") << false << false << QList<int>{1, 0, 1};
-}
-
 void EntryEditingTest::chainedEntry()
 {
-    QFETCH(bool, lang1first);
-    QFETCH(bool, notes);
-    QFETCH(QList<int>, edited);
-    Editor editor({T("x|y"), T("z|w")});
-    editor.SetInsertionPoint(1);
-    editor.test.settings.lang1first = lang1first;
-    editor.test.settings.showNotes = notes;
-    const QStringList words = {T(" hund "), T("dog"), T("n")};
-    for (qsizetype step = 0; step + 1 < edited.size(); ++step) {
-        QCOMPARE(editor.List().size(), 2);
-        QCOMPARE(
-            editor.editing.CellEdited(editor.rows.InsertionPoint(), edited.at(step), words.at(edited.at(step))),
-            (EditStep{Action::EditNewEntry, edited.at(step + 1)}));
+    const struct
+    {
+        bool lang1first;
+        bool notes;
+        QList<int> edited; // The field after each step.
+    } rows[] = {
+        {true, true, QList<int>{0, 1, 2, 0}}, // notes shown
+        {true, false, QList<int>{0, 1, 0}}, // notes hidden
+        {false, true, QList<int>{1, 0, 2, 1}}, // language 2 first
+        {false, false, QList<int>{1, 0, 1}}, // language 2 first, notes hidden
+    };
+    for (const auto &row : rows) {
+        Editor editor({T("x|y"), T("z|w")});
+        editor.SetInsertionPoint(1);
+        editor.test.settings.lang1first = row.lang1first;
+        editor.test.settings.showNotes = row.notes;
+        const QStringList words = {T(" hund "), T("dog"), T("n")};
+        for (qsizetype step = 0; step + 1 < row.edited.size(); ++step) {
+            QCOMPARE(editor.List().size(), 2);
+            QCOMPARE(editor.editing.CellEdited(
+                         editor.rows.InsertionPoint(), row.edited.at(step), words.at(row.edited.at(step))),
+                (EditStep{Action::EditNewEntry, row.edited.at(step + 1)}));
+        }
+        QCOMPARE(editor.List(), (QStringList{T("x|y"), row.notes ? T("hund|dog|n") : T("hund|dog"), T("z|w")}));
+        QCOMPARE(editor.rows.InsertionPoint(), 2);
+        QCOMPARE(editor.rows.pending, EntryTexts());
+        QCOMPARE(editor.test.document.UndoCount(), 1);
     }
-    QCOMPARE(editor.List(), (QStringList{T("x|y"), notes ? T("hund|dog|n") : T("hund|dog"), T("z|w")}));
-    QCOMPARE(editor.rows.InsertionPoint(), 2);
-    QCOMPARE(editor.rows.pending, EntryTexts());
-    QCOMPARE(editor.test.document.UndoCount(), 1);
 }
 
 void EntryEditingTest::cells()
@@ -254,41 +246,33 @@ void EntryEditingTest::deleting()
     QCOMPARE(editor.test.prompt.texts, QStringList(3, T("2 glosor är markerade. Vill du ta bort dessa?")));
 }
 
-void EntryEditingTest::textBoxes_data()
-{
-    QTest::addColumn<bool>("comment");
-    QTest::addColumn<QString>("before"); // "<" and ">" around the selection, "|" for a caret alone.
-    QTest::addColumn<QString>("after");
-    QTest::newRow("synonym") << false << "hus|"
-                             << "hus * |";
-    QTest::newRow("synonym in the middle") << false << "a*|  b"
-                                           << "a * b * |";
-    QTest::newRow("synonym in an empty box") << false << " |"
-                                             << "|";
-    QTest::newRow("comment at the caret") << true << "ett| hus"
-                                          << "ett[|] hus";
-    QTest::newRow("comment around a selection") << true << "ett <hus> här"
-                                                << "ett [hus] |här";
-    QTest::newRow("comment around everything") << true << "<hus>"
-                                               << "[hus]|";
-    QTest::newRow("comment in an empty box") << true << "|"
-                                             << "[|]";
-}
-
 void EntryEditingTest::textBoxes()
 {
-    QFETCH(bool, comment);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    TextBox box = {before, int(before.indexOf(u'|')), int(before.indexOf(u'|'))};
-    if (before.contains(u'<')) {
-        box.selectionStart = int(before.indexOf(u'<'));
-        box.selectionEnd = int(before.indexOf(u'>')) - 1;
+    const struct
+    {
+        bool comment;
+        QString before; // "<" and ">" around the selection, "|" for a caret alone.
+        QString after;
+    } rows[] = {
+        {false, u"hus|"_s, u"hus * |"_s}, // synonym
+        {false, u"a*|  b"_s, u"a * b * |"_s}, // synonym in the middle
+        {false, u" |"_s, u"|"_s}, // synonym in an empty box
+        {true, u"ett| hus"_s, u"ett[|] hus"_s}, // comment at the caret
+        {true, u"ett <hus> här"_s, u"ett [hus] |här"_s}, // comment around a selection
+        {true, u"<hus>"_s, u"[hus]|"_s}, // comment around everything
+        {true, u"|"_s, u"[|]"_s}, // comment in an empty box
+    };
+    for (const auto &row : rows) {
+        TextBox box = {row.before, int(row.before.indexOf(u'|')), int(row.before.indexOf(u'|'))};
+        if (row.before.contains(u'<')) {
+            box.selectionStart = int(row.before.indexOf(u'<'));
+            box.selectionEnd = int(row.before.indexOf(u'>')) - 1;
+        }
+        box.text.remove(u'|').remove(u'<').remove(u'>');
+        TextBox changed = row.comment ? WithComment(box) : WithSynonym(box);
+        QCOMPARE(changed.selectionStart, changed.selectionEnd);
+        QCOMPARE(changed.text.insert(changed.selectionEnd, u'|'), row.after);
     }
-    box.text.remove(u'|').remove(u'<').remove(u'>');
-    TextBox changed = comment ? WithComment(box) : WithSynonym(box);
-    QCOMPARE(changed.selectionStart, changed.selectionEnd);
-    QCOMPARE(changed.text.insert(changed.selectionEnd, u'|'), after);
 }
 
 QTEST_GUILESS_MAIN(EntryEditingTest)

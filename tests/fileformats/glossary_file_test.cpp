@@ -95,11 +95,8 @@ class GlossaryFileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void versions_data();
     void versions();
-    void readOnlyVersions_data();
     void readOnlyVersions();
-    void smallestVersion_data();
     void smallestVersion();
     void recordsAtTheEnd();
     void oneOddCharacterMakesUnicode_data();
@@ -112,10 +109,8 @@ private Q_SLOTS:
     void stopsBetweenRecords();
 };
 
-void GlossaryFileTest::versions_data()
+void GlossaryFileTest::versions()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("content");
     const char *const full = "Ordelin 2.3\nÅsa €\n“Djur” …\nSvenska\nEngelska\n2\n1\nVad är %word?\n0\n\n\n"
                              "1 0\nhund * vovve\ndog\n\n0 1\nkatt [tam]\ncat\nšelma – djur\n";
     const QString fullContent = QStringLiteral("Åsa €\n“Djur” …\nSvenska\nEngelska\n1Vad är %word?\n0\n"
@@ -123,103 +118,92 @@ void GlossaryFileTest::versions_data()
     const char *const greek =
         "Ordelin 2.3\nΆννα\nζώα\nSvenska\nΕλληνικά\n1\n0\n\n1\n%word;\n\n1 1\nhund\nσκύλος\n犬\n";
     const QString greekContent = QStringLiteral("Άννα\nζώα\nSvenska\nΕλληνικά\n0\n1%word;\nhund|σκύλος|犬|12");
-    QTest::newRow("2.3 ANSI") << Ansi(full) << fullContent;
-    QTest::newRow("2.3 UTF-16") << Utf16(greek, false) << greekContent;
-    QTest::newRow("2.3-mini ANSI") << Ansi("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nŽ\n€\n")
-                                   << QStringLiteral("\n\nA\nB\n0\n0\nå|Ž|€");
-    QTest::newRow("2.3-mini UTF-16") << Utf16("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nя\nω\n", false)
-                                     << QStringLiteral("\n\nA\nB\n0\n0\nå|я|ω");
-    QTest::newRow("2.3-micro ANSI") << Ansi("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nœ?\n0\n\n\nå\nŽ\n")
-                                    << QStringLiteral("\n\nA\nB\n0œ?\n0\nå|Ž");
-    QTest::newRow("2.3-micro UTF-16") << Utf16("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nω?\n0\n\n\nå\nя\n", false)
-                                      << QStringLiteral("\n\nA\nB\n0ω?\n0\nå|я");
-    QTest::newRow("2.0 ANSI") << Ansi("Ordelin 2.0\nŒ\n\nA\nB\n2\n\n1\nå\nŽ\n0\nb\nc\n")
-                              << QStringLiteral("Œ\n\nA\nB\n0\n0\nå|Ž||1\nb|c");
-    QTest::newRow("2.0 UTF-16") << Utf16("Ordelin 2.0\n\n\nA\nB\n1\n\n0\nå\nя\n", false)
-                                << QStringLiteral("\n\nA\nB\n0\n0\nå|я");
-    QTest::newRow("2.0 empty") << Ansi("Ordelin 2.0\n\n\nA\nB\n0\n\n") << QStringLiteral("\n\nA\nB\n0\n0");
-}
-
-void GlossaryFileTest::versions()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, content);
-    CWordList list;
-    QCOMPARE(Read(list, bytes), ReadResult::Read);
-    QVERIFY(list.IsSaved());
-    QCOMPARE(DescribeAll(list), content);
-    list.SetSaved(false);
-    QCOMPARE(Write(list), bytes);
-    QVERIFY(list.IsSaved());
-}
-
-void GlossaryFileTest::readOnlyVersions_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("content");
-    QTest::addColumn<ReadResult>("result");
-    const char *const old = "Ordelin 1\nŽ\nC\nA\nB\n2\n\n!hund\ndog\nå\n!Œ\n";
-    const QString oldContent = QStringLiteral("Ž\nC\nA\nB\n0\n0\nhund|dog||1\nå|Œ||1");
-    QTest::newRow("1 ANSI") << Ansi(old) << oldContent << ReadResult::Read;
-    QTest::newRow("1 UTF-16 big endian") << Utf16(old, true) << oldContent << ReadResult::Read;
-    QTest::newRow("1.2 UTF-8") << Utf8(old).replace("Ordelin 1", "Ordelin 1.2") << oldContent
-                               << ReadResult::Read;
-    const char *const full =
-        "Ordelin 2.3\nŽ\n\nA\nB\n-5\n\nT1\nx\nT2\nignored\n1\nя\nb\n\nx y\nc*d\ne\nn\n 1\n*\n\n\n";
-    const QString fullContent = QStringLiteral("Ž\n\nA\nB\n0T1\n1T2\nя|b||1\nc * d|e|n|12\n|||2");
-    QTest::newRow("2.3 UTF-8") << Utf8(full) << fullContent << ReadResult::Read;
-    QTest::newRow("2.3 UTF-16 big endian") << Utf16(full, true) << fullContent << ReadResult::Read;
-    QTest::newRow("newer version") << Utf8(full).replace("2.3", "9.9") << fullContent
-                                   << ReadResult::NewerVersion;
-    QTest::newRow("program's name alone")
-        << QByteArray("Ordelinista\na\nb\n") << QStringLiteral("a\nb\n\n\n0\n0") << ReadResult::NewerVersion;
-    QTest::newRow("adapt mark without a template") << QByteArray("Ordelin 2.3-micro\n\n\nA\nB\n0\n1\n\n1\n")
-                                                   << QStringLiteral("\n\nA\nB\n0\n0") << ReadResult::Read;
-    QTest::newRow("header cut off") << QByteArray("Ordelin 2.0\nauthor\ncomm")
-                                    << QStringLiteral("author\ncomm\n\n\n0\n0") << ReadResult::Read;
-    QTest::newRow("both terms empty") << QByteArray("Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n\n\na\n\n\nb\n")
-                                      << QStringLiteral("\n\n\n\n0\n0\na\n|b") << ReadResult::Read;
+    const struct
+    {
+        QByteArray bytes;
+        QString content;
+    } rows[] = {
+        {Ansi(full), fullContent}, // 2.3 ANSI
+        {Utf16(greek, false), greekContent}, // 2.3 UTF-16
+        {Ansi("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nŽ\n€\n"),
+            u"\n\nA\nB\n0\n0\nå|Ž|€"_s}, // 2.3-mini ANSI
+        {Utf16("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nя\nω\n", false),
+            u"\n\nA\nB\n0\n0\nå|я|ω"_s}, // 2.3-mini UTF-16
+        {Ansi("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nœ?\n0\n\n\nå\nŽ\n"),
+            u"\n\nA\nB\n0œ?\n0\nå|Ž"_s}, // 2.3-micro ANSI
+        {Utf16("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nω?\n0\n\n\nå\nя\n", false),
+            u"\n\nA\nB\n0ω?\n0\nå|я"_s}, // 2.3-micro UTF-16
+        {Ansi("Ordelin 2.0\nŒ\n\nA\nB\n2\n\n1\nå\nŽ\n0\nb\nc\n"),
+            u"Œ\n\nA\nB\n0\n0\nå|Ž||1\nb|c"_s}, // 2.0 ANSI
+        {Utf16("Ordelin 2.0\n\n\nA\nB\n1\n\n0\nå\nя\n", false), u"\n\nA\nB\n0\n0\nå|я"_s}, // 2.0 UTF-16
+        {Ansi("Ordelin 2.0\n\n\nA\nB\n0\n\n"), u"\n\nA\nB\n0\n0"_s}, // 2.0 empty
+    };
+    for (const auto &row : rows) {
+        CWordList list;
+        QCOMPARE(Read(list, row.bytes), ReadResult::Read);
+        QVERIFY(list.IsSaved());
+        QCOMPARE(DescribeAll(list), row.content);
+        list.SetSaved(false);
+        QCOMPARE(Write(list), row.bytes);
+        QVERIFY(list.IsSaved());
+    }
 }
 
 void GlossaryFileTest::readOnlyVersions()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, content);
-    QFETCH(ReadResult, result);
-    CWordList list = MakeList({QStringLiteral("old|content")});
-    QCOMPARE(Read(list, bytes), result);
-    QCOMPARE(DescribeAll(list), content);
-    QVERIFY(list.IsSaved());
-}
-
-void GlossaryFileTest::smallestVersion_data()
-{
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("questionTemplate");
-    QTest::addColumn<QByteArray>("header");
-    QTest::newRow("flag 1 only") << "a|b||1"
-                                 << "" << QByteArray("Ordelin 2.0");
-    QTest::newRow("flag 2") << "a|b||2"
-                            << "" << QByteArray("Ordelin 2.3");
-    QTest::newRow("note") << "a|b|n"
-                          << "" << QByteArray("Ordelin 2.3-mini");
-    QTest::newRow("note and flag 1") << "a|b|n|1"
-                                     << "" << QByteArray("Ordelin 2.3");
-    QTest::newRow("template") << "a|b"
-                              << "t" << QByteArray("Ordelin 2.3-micro");
-    QTest::newRow("template and flag 1") << "a|b||1"
-                                         << "t" << QByteArray("Ordelin 2.3");
+    const char *const old = "Ordelin 1\nŽ\nC\nA\nB\n2\n\n!hund\ndog\nå\n!Œ\n";
+    const QString oldContent = QStringLiteral("Ž\nC\nA\nB\n0\n0\nhund|dog||1\nå|Œ||1");
+    const char *const full =
+        "Ordelin 2.3\nŽ\n\nA\nB\n-5\n\nT1\nx\nT2\nignored\n1\nя\nb\n\nx y\nc*d\ne\nn\n 1\n*\n\n\n";
+    const QString fullContent = QStringLiteral("Ž\n\nA\nB\n0T1\n1T2\nя|b||1\nc * d|e|n|12\n|||2");
+    const struct
+    {
+        QByteArray bytes;
+        QString content;
+        ReadResult result;
+    } rows[] = {
+        {Ansi(old), oldContent, ReadResult::Read}, // 1 ANSI
+        {Utf16(old, true), oldContent, ReadResult::Read}, // 1 UTF-16 big endian
+        {Utf8(old).replace("Ordelin 1", "Ordelin 1.2"), oldContent, ReadResult::Read}, // 1.2 UTF-8
+        {Utf8(full), fullContent, ReadResult::Read}, // 2.3 UTF-8
+        {Utf16(full, true), fullContent, ReadResult::Read}, // 2.3 UTF-16 big endian
+        {Utf8(full).replace("2.3", "9.9"), fullContent, ReadResult::NewerVersion}, // newer version
+        {"Ordelinista\na\nb\n", u"a\nb\n\n\n0\n0"_s, ReadResult::NewerVersion}, // program's name alone
+        {"Ordelin 2.3-micro\n\n\nA\nB\n0\n1\n\n1\n", u"\n\nA\nB\n0\n0"_s,
+            ReadResult::Read}, // adapt mark without a template
+        {"Ordelin 2.0\nauthor\ncomm", u"author\ncomm\n\n\n0\n0"_s, ReadResult::Read}, // header cut off
+        {"Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n\n\na\n\n\nb\n", u"\n\n\n\n0\n0\na\n|b"_s,
+            ReadResult::Read}, // both terms empty
+    };
+    for (const auto &row : rows) {
+        CWordList list = MakeList({QStringLiteral("old|content")});
+        QCOMPARE(Read(list, row.bytes), row.result);
+        QCOMPARE(DescribeAll(list), row.content);
+        QVERIFY(list.IsSaved());
+    }
 }
 
 void GlossaryFileTest::smallestVersion()
 {
-    QFETCH(QString, entry);
-    QFETCH(QString, questionTemplate);
-    QFETCH(QByteArray, header);
-    CWordList list = MakeList({QStringLiteral("x|y"), entry});
-    list.SetQuestionTemplate(1, questionTemplate);
-    const QByteArray bytes = Write(list);
-    QCOMPARE(bytes.left(bytes.indexOf('\r')), header);
+    const struct
+    {
+        QString entry;
+        QString questionTemplate;
+        QByteArray header;
+    } rows[] = {
+        {u"a|b||1"_s, {}, "Ordelin 2.0"}, // flag 1 only
+        {u"a|b||2"_s, {}, "Ordelin 2.3"}, // flag 2
+        {u"a|b|n"_s, {}, "Ordelin 2.3-mini"}, // note
+        {u"a|b|n|1"_s, {}, "Ordelin 2.3"}, // note and flag 1
+        {u"a|b"_s, u"t"_s, "Ordelin 2.3-micro"}, // template
+        {u"a|b||1"_s, u"t"_s, "Ordelin 2.3"}, // template and flag 1
+    };
+    for (const auto &row : rows) {
+        CWordList list = MakeList({QStringLiteral("x|y"), row.entry});
+        list.SetQuestionTemplate(1, row.questionTemplate);
+        const QByteArray bytes = Write(list);
+        QCOMPARE(bytes.left(bytes.indexOf('\r')), row.header);
+    }
 }
 
 void GlossaryFileTest::recordsAtTheEnd()

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The rules word by word and as slow as they read, to compare with.
@@ -46,84 +48,55 @@ class TermSyntaxTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void normalForm_data();
     void normalForm();
-    void comments_data();
     void comments();
     void agreesWithTheSlowRules();
     void hugeTermsTakeNoQuadraticTime();
     void tokens();
-    void corrections_data();
     void corrections();
 };
 
-void TermSyntaxTest::normalForm_data()
+namespace {
+
+/// A text and what is to become of it.
+struct Row
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("normal");
-    QTest::newRow("separator without blanks") << "hund*vovve"
-                                              << "hund * vovve";
-    QTest::newRow("empty alternative between") << "a * * b"
-                                               << "a * b";
-    QTest::newRow("empty alternative at the end") << "a *"
-                                                  << "a";
-    QTest::newRow("empty comment as an alternative") << "a * [] * b"
-                                                     << "a * b";
-    QTest::newRow("comment of blanks") << "x [  ]"
-                                       << "x";
-    QTest::newRow("comments emptied from within") << "x [[ ] [] ]"
-                                                  << "x";
-    QTest::newRow("comment is kept") << "dog  [animal]"
-                                     << "dog [animal]";
-    QTest::newRow("runs of blanks") << "  a   b  "
-                                    << "a b";
-    QTest::newRow("only separators") << "** *"
-                                     << "";
-    QTest::newRow("only a blank") << " "
-                                  << "";
-    QTest::newRow("tab and line break") << "a\t\r\nb"
-                                        << "a b";
-    QTest::newRow("delete character") << "a\u007F"
-                                      << "a";
-    QTest::newRow("no-break space is no blank") << "\u00A0a"
-                                                << "\u00A0a";
-    QTest::newRow("control above 127 stays") << "a\u0085b"
-                                             << "a\u0085b";
-    QTest::newRow("separator inside a comment splits") << "a [b*c] d"
-                                                       << "a [b * c] d";
+    QString text;
+    QString expected;
+};
+
 }
 
 void TermSyntaxTest::normalForm()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, normal);
-    QCOMPARE(NormalizeTerm(text), normal);
-    QCOMPARE(NormalizeTerm(normal), normal);
-}
-
-void TermSyntaxTest::comments_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("stripped");
-    QTest::newRow("in the middle") << "a [x] b"
-                                   << "a b";
-    QTest::newRow("several alternatives") << "a [x] * [y] b"
-                                          << "a * b";
-    QTest::newRow("unmatched opener keeps those before it") << "a [x] b [y"
-                                                            << "a [x] b [y";
-    QTest::newRow("comments do not nest") << "[a [b] c] d"
-                                          << "d";
-    QTest::newRow("closer alone stays") << "a ] b"
-                                        << "a ] b";
-    QTest::newRow("alternative that was all comment") << "a * [b]"
-                                                      << "a";
+    const Row rows[] = {
+        {u"hund*vovve"_s, u"hund * vovve"_s}, // separator without blanks
+        {u"a * * b"_s, u"a * b"_s}, // empty alternatives
+        {u"a *"_s, u"a"_s}, {u"** *"_s, {}}, {u" "_s, {}}, {u"a * [] * b"_s, u"a * b"_s}, // empty comments
+        {u"x [  ]"_s, u"x"_s}, {u"x [[ ] [] ]"_s, u"x"_s},
+        {u"dog  [animal]"_s, u"dog [animal]"_s}, // a comment is kept
+        {u"  a   b  "_s, u"a b"_s}, {u"a\t\r\nb"_s, u"a b"_s}, // control characters
+        {u"a\u007F"_s, u"a"_s}, {u"\u00A0a"_s, u"\u00A0a"_s}, // other white space stays
+        {u"a\u0085b"_s, u"a\u0085b"_s},
+        {u"a [b*c] d"_s, u"a [b * c] d"_s}, // a separator inside a comment splits
+    };
+    for (const auto &[text, expected] : rows) {
+        QCOMPARE(NormalizeTerm(text), expected);
+        QCOMPARE(NormalizeTerm(expected), expected);
+    }
 }
 
 void TermSyntaxTest::comments()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, stripped);
-    QCOMPARE(StripComments(text), stripped);
+    const Row rows[] = {
+        {u"a [x] b"_s, u"a b"_s}, {u"a [x] * [y] b"_s, u"a * b"_s},
+        {u"a [x] b [y"_s, u"a [x] b [y"_s}, // an unmatched opener keeps those before it
+        {u"[a [b] c] d"_s, u"d"_s}, // comments do not nest
+        {u"a ] b"_s, u"a ] b"_s}, {u"a * [b]"_s, u"a"_s}, // an alternative that was all comment
+    };
+    for (const auto &[text, expected] : rows) {
+        QCOMPARE(StripComments(text), expected);
+    }
 }
 
 void TermSyntaxTest::agreesWithTheSlowRules()
@@ -163,29 +136,20 @@ void TermSyntaxTest::tokens()
     QVERIFY(source.isEmpty());
 }
 
-void TermSyntaxTest::corrections_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("suggestion"); // Empty: nothing to correct.
-    QTest::newRow("comma outside brackets") << "hus, hem (plural)"
-                                            << "hus * hem [plural]";
-    QTest::newRow("comma inside brackets stays") << "a (b, c)"
-                                                 << "a [b, c]";
-    QTest::newRow("separator closes the brackets") << "a (b * c, d"
-                                                   << "a [b * c * d";
-    QTest::newRow("stray closer lowers nothing") << "a), b"
-                                                 << "a] * b";
-    QTest::newRow("right syntax") << "a * b [c, d]"
-                                  << "";
-}
-
 void TermSyntaxTest::corrections()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, suggestion);
-    const std::optional<QString> result = SuggestTermCorrection(text);
-    QCOMPARE(result.has_value(), !suggestion.isEmpty());
-    QCOMPARE(result.value_or(QString()), suggestion);
+    const Row rows[] = {
+        {u"hus, hem (plural)"_s, u"hus * hem [plural]"_s},
+        {u"a (b, c)"_s, u"a [b, c]"_s}, // a comma inside brackets stays
+        {u"a (b * c, d"_s, u"a [b * c * d"_s}, // a separator closes the brackets
+        {u"a), b"_s, u"a] * b"_s}, // a stray closer lowers nothing
+        {u"a * b [c, d]"_s, {}}, // nothing to correct
+    };
+    for (const auto &[text, expected] : rows) {
+        const std::optional<QString> result = SuggestTermCorrection(text);
+        QCOMPARE(result.has_value(), !expected.isEmpty());
+        QCOMPARE(result.value_or(QString()), expected);
+    }
 }
 
 QTEST_APPLESS_MAIN(TermSyntaxTest)

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The rules of a search in one field, by trying every start and every end. Of the places with the lowest start
@@ -50,7 +52,6 @@ class TextSearchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void places_data();
     void places();
     void agreesWithTheSlowSearch();
     void columnsAndFilters();
@@ -59,80 +60,41 @@ private Q_SLOTS:
     void prefixes();
 };
 
-void TextSearchTest::places_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("options"); // c match case, w whole word, * wildcards
-    QTest::addColumn<int>("start"); // -1: not found
-    QTest::addColumn<int>("length");
-    QTest::newRow("case ignored") << "En ÅL"
-                                  << "ål"
-                                  << "" << 3 << 2;
-    QTest::newRow("case counts") << "En ÅL ål"
-                                 << "ål"
-                                 << "c" << 6 << 2;
-    QTest::newRow("accents count") << "idé al"
-                                   << "ide"
-                                   << "" << -1 << 0;
-    QTest::newRow("whole word tries later places") << "hus hustak * hus"
-                                                   << "hus"
-                                                   << "w" << 0 << 3;
-    QTest::newRow("whole word later in the field") << "hustak [hus]"
-                                                   << "hus"
-                                                   << "w" << 8 << 3;
-    QTest::newRow("digit beside") << "a1 a"
-                                  << "a"
-                                  << "w" << 3 << 1;
-    QTest::newRow("combining mark beside") << "e\u0301 e"
-                                           << "e"
-                                           << "w" << 3 << 1;
-    QTest::newRow("letter outside the basic plane beside") << "\U00010400a a"
-                                                           << "a"
-                                                           << "w" << 4 << 1;
-    QTest::newRow("separator is text") << "a * b"
-                                       << "a * b"
-                                       << "" << 0 << 5;
-    QTest::newRow("wildcards off") << "a*b"
-                                   << "a?b"
-                                   << "" << -1 << 0;
-    QTest::newRow("shortest run") << "xabcbc"
-                                  << "a*c"
-                                  << "*" << 1 << 3;
-    QTest::newRow("whole word lengthens the run") << "abcd c"
-                                                  << "a*c"
-                                                  << "*w" << 0 << 6;
-    QTest::newRow("one character is a surrogate pair") << "a\U0001F600b"
-                                                       << "a?b"
-                                                       << "*" << 0 << 4;
-    QTest::newRow("only a star") << "abc"
-                                 << "*"
-                                 << "*" << 0 << 0;
-    QTest::newRow("star as a whole word") << "abc d"
-                                          << "*"
-                                          << "*w" << 0 << 3;
-    QTest::newRow("backslash is no escape") << "a\\b"
-                                            << "\\?"
-                                            << "*" << 1 << 2;
-    QTest::newRow("sharp s keeps positions") << "STRASSE straße x"
-                                             << "x"
-                                             << "" << 15 << 1;
-}
-
 void TextSearchTest::places()
 {
-    QFETCH(QString, field);
-    QFETCH(QString, text);
-    QFETCH(QString, options);
-    QFETCH(int, start);
-    QFETCH(int, length);
-    const CTextMatcher matcher({.text = text,
-        .matchCase = options.contains(u'c'),
-        .wholeWord = options.contains(u'w'),
-        .wildcard = options.contains(u'*')});
-    const auto range = matcher.Find(field);
-    QCOMPARE(range ? int(range->start) : -1, start);
-    QCOMPARE(range ? int(range->length) : 0, length);
+    const struct
+    {
+        QString field;
+        QString text;
+        QString options; // c match case, w whole word, * wildcards
+        int start; // -1: not found
+        int length;
+    } rows[] = {
+        {u"En ÅL"_s, u"ål"_s, {}, 3, 2}, {u"En ÅL ål"_s, u"ål"_s, u"c"_s, 6, 2},
+        {u"idé al"_s, u"ide"_s, {}, -1, 0}, // accents count
+        {u"hus hustak * hus"_s, u"hus"_s, u"w"_s, 0, 3},
+        {u"hustak [hus]"_s, u"hus"_s, u"w"_s, 8, 3}, // a whole word, later in the field
+        {u"a1 a"_s, u"a"_s, u"w"_s, 3, 1}, {u"e\u0301 e"_s, u"e"_s, u"w"_s, 3, 1}, // a combining mark beside
+        {u"\U00010400a a"_s, u"a"_s, u"w"_s, 4, 1}, // a letter outside the basic plane beside
+        {u"a * b"_s, u"a * b"_s, {}, 0, 5}, // the separator is text
+        {u"a*b"_s, u"a?b"_s, {}, -1, 0}, // wildcards off
+        {u"xabcbc"_s, u"a*c"_s, u"*"_s, 1, 3}, // the shortest run
+        {u"abcd c"_s, u"a*c"_s, u"*w"_s, 0, 6}, // made longer for a whole word
+        {u"a\U0001F600b"_s, u"a?b"_s, u"*"_s, 0, 4}, // a surrogate pair is one character
+        {u"abc"_s, u"*"_s, u"*"_s, 0, 0}, {u"abc d"_s, u"*"_s, u"*w"_s, 0, 3},
+        {u"a\\b"_s, u"\\?"_s, u"*"_s, 1, 2}, // a backslash is no escape
+        {u"STRASSE straße x"_s, u"x"_s, {}, 15, 1}, // positions are kept
+        {u"a\u212Ax"_s, u"kx"_s, {}, 1, 2}, // three units fold to one
+    };
+    for (const auto &row : rows) {
+        const CTextMatcher matcher({.text = row.text,
+            .matchCase = row.options.contains(u'c'),
+            .wholeWord = row.options.contains(u'w'),
+            .wildcard = row.options.contains(u'*')});
+        const auto range = matcher.Find(row.field);
+        QCOMPARE(range ? int(range->start) : -1, row.start);
+        QCOMPARE(range ? int(range->length) : 0, row.length);
+    }
 }
 
 void TextSearchTest::agreesWithTheSlowSearch()
@@ -145,41 +107,40 @@ void TextSearchTest::agreesWithTheSlowSearch()
             .wholeWord = random.Next() % 2 == 0,
             .wildcard = i % 2 == 0};
         QVERIFY2(CTextMatcher(search).Find(field) == SlowFind(field, search),
-            qPrintable(QStringLiteral("'%1' in '%2' %3").arg(search.text, field).arg(search.wholeWord)));
+            qPrintable(u"'%1' in '%2' %3"_s.arg(search.text, field).arg(search.wholeWord)));
     }
 }
 
 void TextSearchTest::columnsAndFilters()
 {
-    const CWordList list =
-        MakeList({QStringLiteral("x|ab|ab|1"), QStringLiteral("ab|y||2"), QStringLiteral("z|z|cab")});
+    const CWordList list = MakeList("x|ab|ab|1,ab|y||2,z|z|cab");
     using Entries = std::vector<int>;
-    QCOMPARE(list.FindAll({.text = QStringLiteral("ab")}), (Entries{0, 1, 2}));
-    QCOMPARE(list.FindAll({.text = QStringLiteral("ab"), .column = 2}), (Entries{0, 2}));
+    QCOMPARE(list.FindAll({.text = u"ab"_s}), (Entries{0, 1, 2}));
+    QCOMPARE(list.FindAll({.text = u"ab"_s, .column = 2}), (Entries{0, 2}));
     QCOMPARE(list.FindAll({.flag1 = FlagFilter::NotFlagged, .flag2 = FlagFilter::NotFlagged}), (Entries{2}));
-    QCOMPARE(list.FindAll({.text = QStringLiteral("ab"), .flag1 = FlagFilter::Flagged}), (Entries{0}));
+    QCOMPARE(list.FindAll({.text = u"ab"_s, .flag1 = FlagFilter::Flagged}), (Entries{0}));
     // The first matching field in the order of the columns, and the place in it.
-    QCOMPARE(list.FindNext({.text = QStringLiteral("ab")}, -1, true), (TextMatch{0, 1, 0, 1}));
-    QCOMPARE(list.FindNext({.text = QStringLiteral("ab"), .column = 2}, 0, true), (TextMatch{2, 2, 1, 2}));
-    QCOMPARE(list.FindNext({.column = 1, .flag2 = FlagFilter::Flagged}, -1, true), (TextMatch{1, 1, 0, -1}));
+    QCOMPARE(list.FindNext({.text = u"ab"_s}, NoEntry, true), (TextMatch{0, 1, 0, 1}));
+    QCOMPARE(list.FindNext({.text = u"ab"_s, .column = 2}, 0, true), (TextMatch{2, 2, 1, 2}));
+    QCOMPARE(
+        list.FindNext({.column = 1, .flag2 = FlagFilter::Flagged}, NoEntry, true), (TextMatch{1, 1, 0, -1}));
 }
 
 void TextSearchTest::nextWrapsAndTriesTheStartLast()
 {
-    const CWordList list =
-        MakeList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("b")});
-    const TextSearch a = {.text = QStringLiteral("a")};
-    const TextSearch b = {.text = QStringLiteral("b")};
-    QCOMPARE(list.FindNext(a, -1, true).entry, 0);
+    const CWordList list = MakeList("a,b,a,b");
+    const TextSearch a = {.text = u"a"_s};
+    const TextSearch b = {.text = u"b"_s};
+    QCOMPARE(list.FindNext(a, NoEntry, true).entry, 0);
     QCOMPARE(list.FindNext(a, 0, true).entry, 2);
     QCOMPARE(list.FindNext(a, 2, true).entry, 0);
-    QCOMPARE(list.FindNext(b, -1, false).entry, 3);
+    QCOMPARE(list.FindNext(b, NoEntry, false).entry, 3);
     QCOMPARE(list.FindNext(b, 1, false).entry, 3);
-    QCOMPARE(list.FindNext({.text = QStringLiteral("c")}, 2, true).entry, -1);
-    const CWordList one = MakeList({QStringLiteral("x"), QStringLiteral("a"), QStringLiteral("x")});
+    QCOMPARE(list.FindNext({.text = u"c"_s}, 2, true).entry, NoEntry);
+    const CWordList one = MakeList("x,a,x");
     QCOMPARE(one.FindNext(a, 1, true).entry, 1);
     QCOMPARE(one.FindNext(a, 1, false).entry, 1);
-    QCOMPARE(CWordList().FindNext(a, -1, true).entry, -1);
+    QCOMPARE(CWordList().FindNext(a, NoEntry, true).entry, NoEntry);
 }
 
 void TextSearchTest::randomListsAgainstFindAll()
@@ -211,15 +172,14 @@ void TextSearchTest::randomListsAgainstFindAll()
 
 void TextSearchTest::prefixes()
 {
-    const CWordList list =
-        MakeList({QStringLiteral("hund|dog"), QStringLiteral("Dag|day"), QStringLiteral("[d] e|x")});
-    const QString d = QStringLiteral("d");
+    const CWordList list = MakeList("hund|dog,Dag|day,[d] e|x");
+    const QString d = u"d"_s;
     QCOMPARE(list.FindPrefix(d, -1, 0), 0);
     QCOMPARE(list.FindPrefix(d, 0, 0), 1);
     QCOMPARE(list.FindPrefix(d, 0, 2), 1);
-    QCOMPARE(list.FindPrefix(QStringLiteral("DO"), 1, 1), 0);
-    QCOMPARE(list.FindPrefix(QStringLiteral("[D"), 0, 0), 2);
-    QCOMPARE(list.FindPrefix(QStringLiteral("og"), -1, 0), -1);
+    QCOMPARE(list.FindPrefix(u"DO"_s, 1, 1), 0);
+    QCOMPARE(list.FindPrefix(u"[D"_s, 0, 0), 2);
+    QCOMPARE(list.FindPrefix(u"og"_s, -1, 0), -1);
 }
 
 QTEST_APPLESS_MAIN(TextSearchTest)

@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class PlainTextTest : public QObject
 {
     Q_OBJECT
@@ -10,7 +12,6 @@ class PlainTextTest : public QObject
 private Q_SLOTS:
     void bounded();
     void captions();
-    void isolated_data();
     void isolated();
 };
 
@@ -30,40 +31,31 @@ void PlainTextTest::captions()
     QCOMPARE(CaptionReadOut(QStringLiteral("&Namn på A&&B:")), QStringLiteral("Namn på A&B"));
 }
 
-void PlainTextTest::isolated_data()
-{
-    QTest::addColumn<QString>("text");
-    // The marks as letters: "(" begins an isolate from left to right and ")" ends one, "[" is the one that we
-    // put in front, "<" an override from right to left, "א" a letter that runs so.
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("left to right stays as it is") << "vad? 1 + 2 åäö Ж"
-                                                  << "vad? 1 + 2 åäö Ж";
-    QTest::newRow("right to left") << "aאb"
-                                   << "[aאb)";
-    QTest::newRow("outside the basic plane") << QStringLiteral("\U00010840") << QStringLiteral("[\U00010840)");
-    QTest::newRow("open override") << "a<b"
-                                   << "[a<b)";
-    QTest::newRow("open isolate") << "a(b(("
-                                  << "[a(b(())))";
-    QTest::newRow("closes nothing of ours") << "a))<b"
-                                            << "[a<b)";
-    QTest::newRow("balanced") << "(a)b"
-                              << "[(a)b)";
-    QTest::newRow("several lines") << "א(\nb"
-                                   << "[א())\n[b)";
-}
-
 void PlainTextTest::isolated()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, shown);
-    const auto withMarks = [](QString letters) {
-        return letters.replace(u'(', u'\u2066')
-            .replace(u')', u'\u2069')
-            .replace(u'[', u'\u2068')
-            .replace(u'<', u'\u202E');
+    const struct
+    {
+        QString text;
+        QString shown;
+    } rows[] = {
+        {u"vad? 1 + 2 åäö Ж"_s, u"vad? 1 + 2 åäö Ж"_s}, // left to right stays as it is
+        {u"aאb"_s, u"[aאb)"_s}, // right to left
+        {u"\U00010840"_s, u"[\U00010840)"_s}, // outside the basic plane
+        {u"a<b"_s, u"[a<b)"_s}, // open override
+        {u"a(b(("_s, u"[a(b(())))"_s}, // open isolate
+        {u"a))<b"_s, u"[a<b)"_s}, // closes nothing of ours
+        {u"(a)b"_s, u"[(a)b)"_s}, // balanced
+        {u"א(\nb"_s, u"[א())\n[b)"_s}, // several lines
     };
-    QCOMPARE(Isolated(withMarks(text)), withMarks(shown));
+    for (const auto &row : rows) {
+        const auto withMarks = [](QString letters) {
+            return letters.replace(u'(', u'\u2066')
+                .replace(u')', u'\u2069')
+                .replace(u'[', u'\u2068')
+                .replace(u'<', u'\u202E');
+        };
+        QCOMPARE(Isolated(withMarks(row.text)), withMarks(row.shown));
+    }
 }
 
 QTEST_APPLESS_MAIN(PlainTextTest)

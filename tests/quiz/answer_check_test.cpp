@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 Q_DECLARE_METATYPE(AnswerVerdict)
 
 class AnswerCheckTest : public QObject
@@ -13,115 +15,57 @@ class AnswerCheckTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void verdicts_data();
     void verdicts();
     void answerColumns();
     void variables();
-    void feedback_data();
     void feedback();
 };
 
-void AnswerCheckTest::verdicts_data()
-{
-    QTest::addColumn<QString>("term");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("options"); // i ignore case, 1 or 2 character check
-    QTest::addColumn<AnswerVerdict>("verdict");
-    using enum AnswerVerdict;
-    QTest::newRow("empty answer, empty term") << ""
-                                              << ""
-                                              << "" << Wrong;
-    QTest::newRow("equal") << "a"
-                           << "a"
-                           << "" << Right;
-    QTest::newRow("the last of several") << "a*b*c"
-                                         << "c"
-                                         << "" << RightOneOfSeveral;
-    QTest::newRow("none of several") << "a*b"
-                                     << "c"
-                                     << "" << Wrong;
-    QTest::newRow("the whole stored term") << "a*b"
-                                           << "a * b"
-                                           << "" << Right;
-    QTest::newRow("comment left out") << "hus [n]"
-                                      << "hus"
-                                      << "" << Right;
-    QTest::newRow("comment without brackets") << "hus [n]"
-                                              << "hus n"
-                                              << "" << Right;
-    QTest::newRow("comment in full") << "hus [n]"
-                                     << "hus [n]"
-                                     << "" << Right;
-    QTest::newRow("comment with brackets, case ignored") << "hus [n]"
-                                                         << "HUS [N]"
-                                                         << "i" << Right;
-    QTest::newRow("comment in one of several") << "hus [n] * hem"
-                                               << "hus"
-                                               << "" << RightOneOfSeveral;
-    QTest::newRow("whole term without comments") << "hus [n] * hem"
-                                                 << "hus * hem"
-                                                 << "" << Right;
-    QTest::newRow("another comment") << "hus [n]"
-                                     << "hus [m]"
-                                     << "" << Wrong;
-    QTest::newRow("reversed brackets") << "a ] b [ c"
-                                       << "a  b  c"
-                                       << "" << Right;
-    QTest::newRow("reversed brackets as stored") << "a ] b [ c"
-                                                 << "a b c"
-                                                 << "" << Wrong;
-    QTest::newRow("case counts") << "Hus"
-                                 << "hus"
-                                 << "" << Wrong;
-    QTest::newRow("case ignored") << "ÅÄÖ É"
-                                  << "åäö é"
-                                  << "i" << Right;
-    QTest::newRow("case ignored, accents count") << "É"
-                                                 << "e"
-                                                 << "i" << Wrong;
-    QTest::newRow("letters only") << "to-be!"
-                                  << "to be"
-                                  << "1" << Right;
-    QTest::newRow("letters only keep case") << "To be"
-                                            << "tobe"
-                                            << "1" << Wrong;
-    QTest::newRow("letters and spaces: hyphen joins") << "to-be"
-                                                      << "to be"
-                                                      << "2" << Wrong;
-    QTest::newRow("letters and spaces: tab goes") << "to be"
-                                                  << "to\t be1"
-                                                  << "2" << Right;
-    QTest::newRow("letters and spaces: no trimming") << "be"
-                                                     << "be "
-                                                     << "2" << Wrong;
-    QTest::newRow("digits match an empty term") << ""
-                                                << "12"
-                                                << "1" << Right;
-    QTest::newRow("digits match digits") << "1984"
-                                         << "42"
-                                         << "1" << Right;
-    QTest::newRow("letters only and case ignored") << "L'Été [m]"
-                                                   << "lété"
-                                                   << "1i" << Right;
-    QTest::newRow("comment must match when typed") << "hus [n]"
-                                                   << "husN"
-                                                   << "1" << Wrong;
-    QTest::newRow("no Unicode normalisation") << "é"
-                                              << "e\u0301"
-                                              << "" << Wrong;
-}
-
 void AnswerCheckTest::verdicts()
 {
-    QFETCH(QString, term);
-    QFETCH(QString, typed);
-    QFETCH(QString, options);
-    QFETCH(AnswerVerdict, verdict);
-    const CheckingOptions checking = {options.contains(u'i'),
-        options.contains(u'1')       ? CharacterCheck::OnlyLetters
-            : options.contains(u'2') ? CharacterCheck::LettersAndSpaces
-                                     : CharacterCheck::AllCharacters};
-    QCOMPARE(checkAnswer(CWordEntry(term), 0, typed, checking), verdict);
+    using enum AnswerVerdict;
+    const struct
+    {
+        QString term;
+        QString typed;
+        QString options; // i ignore case, 1 or 2 character check
+        AnswerVerdict verdict;
+    } rows[] = {
+        {{}, {}, {}, Wrong}, // empty answer, empty term
+        {u"a"_s, u"a"_s, {}, Right}, // equal
+        {u"a*b*c"_s, u"c"_s, {}, RightOneOfSeveral}, // the last of several
+        {u"a*b"_s, u"c"_s, {}, Wrong}, // none of several
+        {u"a*b"_s, u"a * b"_s, {}, Right}, // the whole stored term
+        {u"hus [n]"_s, u"hus"_s, {}, Right}, // comment left out
+        {u"hus [n]"_s, u"hus n"_s, {}, Right}, // comment without brackets
+        {u"hus [n]"_s, u"hus [n]"_s, {}, Right}, // comment in full
+        {u"hus [n]"_s, u"HUS [N]"_s, u"i"_s, Right}, // comment with brackets, case ignored
+        {u"hus [n] * hem"_s, u"hus"_s, {}, RightOneOfSeveral}, // comment in one of several
+        {u"hus [n] * hem"_s, u"hus * hem"_s, {}, Right}, // whole term without comments
+        {u"hus [n]"_s, u"hus [m]"_s, {}, Wrong}, // another comment
+        {u"a ] b [ c"_s, u"a  b  c"_s, {}, Right}, // reversed brackets
+        {u"a ] b [ c"_s, u"a b c"_s, {}, Wrong}, // reversed brackets as stored
+        {u"Hus"_s, u"hus"_s, {}, Wrong}, // case counts
+        {u"ÅÄÖ É"_s, u"åäö é"_s, u"i"_s, Right}, // case ignored
+        {u"É"_s, u"e"_s, u"i"_s, Wrong}, // case ignored, accents count
+        {u"to-be!"_s, u"to be"_s, u"1"_s, Right}, // letters only
+        {u"To be"_s, u"tobe"_s, u"1"_s, Wrong}, // letters only keep case
+        {u"to-be"_s, u"to be"_s, u"2"_s, Wrong}, // letters and spaces: hyphen joins
+        {u"to be"_s, u"to\t be1"_s, u"2"_s, Right}, // letters and spaces: tab goes
+        {u"be"_s, u"be "_s, u"2"_s, Wrong}, // letters and spaces: no trimming
+        {{}, u"12"_s, u"1"_s, Right}, // digits match an empty term
+        {u"1984"_s, u"42"_s, u"1"_s, Right}, // digits match digits
+        {u"L'Été [m]"_s, u"lété"_s, u"1i"_s, Right}, // letters only and case ignored
+        {u"hus [n]"_s, u"husN"_s, u"1"_s, Wrong}, // comment must match when typed
+        {u"é"_s, u"e\u0301"_s, {}, Wrong}, // no Unicode normalisation
+    };
+    for (const auto &row : rows) {
+        const CheckingOptions checking = {row.options.contains(u'i'),
+            row.options.contains(u'1')       ? CharacterCheck::OnlyLetters
+                : row.options.contains(u'2') ? CharacterCheck::LettersAndSpaces
+                                             : CharacterCheck::AllCharacters};
+        QCOMPARE(checkAnswer(CWordEntry(row.term), 0, row.typed, checking), row.verdict);
+    }
 }
 
 void AnswerCheckTest::answerColumns()
@@ -140,38 +84,35 @@ void AnswerCheckTest::variables()
         QStringLiteral("dog * n|hund [djur]|n|Engelska|Svenska|%useranswer"));
 }
 
-void AnswerCheckTest::feedback_data()
-{
-    QTest::addColumn<AnswerVerdict>("verdict");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("showAnswer");
-    QTest::addColumn<bool>("showIfOneCorrect");
-    QTest::addColumn<QString>("text"); // Empty: none.
-    using enum AnswerVerdict;
-    QTest::newRow("right") << Right << "a" << true << true << "";
-    QTest::newRow("one of several, shown")
-        << RightOneOfSeveral << "a" << false << true << "Rätt svar! Alla rätta svar är:\r\n\r\na * b";
-    QTest::newRow("one of several, not shown") << RightOneOfSeveral << "a" << true << false << "";
-    QTest::newRow("wrong") << Wrong << "%word" << true << false
-                           << "Fel. Rätt svar är:\r\n\r\na * b\r\n\r\nDu svarade:\r\n\r\n%word";
-    QTest::newRow("wrong and empty") << Wrong << "" << true << false << "Rätt svar är:\r\n\r\na * b";
-    QTest::newRow("wrong, not shown") << Wrong << "x" << false << true << "";
-}
-
 void AnswerCheckTest::feedback()
 {
-    QFETCH(AnswerVerdict, verdict);
-    QFETCH(QString, typed);
-    QFETCH(bool, showAnswer);
-    QFETCH(bool, showIfOneCorrect);
-    QFETCH(QString, text);
-    QuizSettings settings;
-    settings.showAnswer = showAnswer;
-    settings.showAnswerIfOneCorrect = showIfOneCorrect;
-    const CTexts texts;
-    const CWordEntry entry = MakeEntry(QStringLiteral("q|a*b"));
-    const auto result = feedbackText(texts, settings, verdict, {entry, 0, {}}, typed);
-    QCOMPARE(result ? result->text : QString(), text);
+    using enum AnswerVerdict;
+    const struct
+    {
+        AnswerVerdict verdict;
+        QString typed;
+        bool showAnswer;
+        bool showIfOneCorrect;
+        QString text; // Empty: none.
+    } rows[] = {
+        {Right, u"a"_s, true, true, {}}, // right
+        {RightOneOfSeveral, u"a"_s, false, true,
+            u"Rätt svar! Alla rätta svar är:\r\n\r\na * b"_s}, // one of several, shown
+        {RightOneOfSeveral, u"a"_s, true, false, {}}, // one of several, not shown
+        {Wrong, u"%word"_s, true, false,
+            u"Fel. Rätt svar är:\r\n\r\na * b\r\n\r\nDu svarade:\r\n\r\n%word"_s}, // wrong
+        {Wrong, {}, true, false, u"Rätt svar är:\r\n\r\na * b"_s}, // wrong and empty
+        {Wrong, u"x"_s, false, true, {}}, // wrong, not shown
+    };
+    for (const auto &row : rows) {
+        QuizSettings settings;
+        settings.showAnswer = row.showAnswer;
+        settings.showAnswerIfOneCorrect = row.showIfOneCorrect;
+        const CTexts texts;
+        const CWordEntry entry = MakeEntry(QStringLiteral("q|a*b"));
+        const auto result = feedbackText(texts, settings, row.verdict, {entry, 0, {}}, row.typed);
+        QCOMPARE(result ? result->text : QString(), row.text);
+    }
 }
 
 QTEST_APPLESS_MAIN(AnswerCheckTest)

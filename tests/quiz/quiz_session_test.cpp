@@ -8,6 +8,8 @@
 #include <array>
 #include <set>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Settings under which every word is asked once in list order.
@@ -53,7 +55,6 @@ class QuizSessionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void selection_data();
     void selection();
     void evenChoice();
     void flaggedWords();
@@ -61,10 +62,8 @@ private Q_SLOTS:
     void randomRounds();
     void recheckAfterAChange();
     void percentages();
-    void flagDecisions_data();
     void flagDecisions();
     void applyingFlags();
-    void acceptedAnswers_data();
     void acceptedAnswers();
     void oneStepForUndo();
     void selectedAfterwards();
@@ -72,46 +71,44 @@ private Q_SLOTS:
     void emptySessions();
 };
 
-void QuizSessionTest::selection_data()
-{
-    QTest::addColumn<int>("wordsToQuiz");
-    QTest::addColumn<int>("amount");
-    QTest::addColumn<int>("available");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("all") << 0 << 3 << 10 << 10;
-    QTest::newRow("fixed number") << 1 << 3 << 10 << 3;
-    QTest::newRow("more than there are") << 1 << 20 << 5 << 5;
-    QTest::newRow("no words") << 1 << 0 << 5 << 0;
-    QTest::newRow("less than none") << 1 << -4 << 5 << 0;
-    QTest::newRow("share rounds half up") << 2 << 25 << 10 << 3;
-    QTest::newRow("share is at least one") << 2 << 1 << 10 << 1;
-    QTest::newRow("share of nothing is one") << 2 << 0 << 10 << 1;
-    QTest::newRow("share out of range is all") << 2 << 101 << 10 << 10;
-    QTest::newRow("share of an empty list") << 2 << 50 << 0 << 0;
-    QTest::newRow("selected without a selection is all") << 3 << 3 << 10 << 10;
-}
-
 void QuizSessionTest::selection()
 {
-    QFETCH(int, wordsToQuiz);
-    QFETCH(int, amount);
-    QFETCH(int, available);
-    QFETCH(int, expected);
-    TestDocument test(Words(available));
-    QuizSettings settings = PlainSettings();
-    settings.wordsToQuiz = WordsToQuiz(wordsToQuiz);
-    settings.numberOfWords = amount;
-    settings.partOfWords = amount;
-    std::set<int> chosen;
-    for (quint32 seed = 0; seed < 100; ++seed) {
-        CRandom random(seed);
-        const CQuizSession session(test.document, settings, random, {});
-        QCOMPARE(session.wordCount(), expected);
-        // Ascending, each once.
-        QVERIFY(std::ranges::is_sorted(session.candidates(), std::ranges::less_equal()));
-        chosen.insert(session.candidates().begin(), session.candidates().end());
+    const struct
+    {
+        int wordsToQuiz;
+        int amount;
+        int available;
+        int expected;
+    } rows[] = {
+        {0, 3, 10, 10}, // all
+        {1, 3, 10, 3}, // fixed number
+        {1, 20, 5, 5}, // more than there are
+        {1, 0, 5, 0}, // no words
+        {1, -4, 5, 0}, // less than none
+        {2, 25, 10, 3}, // share rounds half up
+        {2, 1, 10, 1}, // share is at least one
+        {2, 0, 10, 1}, // share of nothing is one
+        {2, 101, 10, 10}, // share out of range is all
+        {2, 50, 0, 0}, // share of an empty list
+        {3, 3, 10, 10}, // selected without a selection is all
+    };
+    for (const auto &row : rows) {
+        TestDocument test(Words(row.available));
+        QuizSettings settings = PlainSettings();
+        settings.wordsToQuiz = WordsToQuiz(row.wordsToQuiz);
+        settings.numberOfWords = row.amount;
+        settings.partOfWords = row.amount;
+        std::set<int> chosen;
+        for (quint32 seed = 0; seed < 100; ++seed) {
+            CRandom random(seed);
+            const CQuizSession session(test.document, settings, random, {});
+            QCOMPARE(session.wordCount(), row.expected);
+            // Ascending, each once.
+            QVERIFY(std::ranges::is_sorted(session.candidates(), std::ranges::less_equal()));
+            chosen.insert(session.candidates().begin(), session.candidates().end());
+        }
+        QCOMPARE(int(chosen.size()), row.expected == 0 ? 0 : row.available); // Every word at some time.
     }
-    QCOMPARE(int(chosen.size()), expected == 0 ? 0 : available); // Every word at some time.
 }
 
 void QuizSessionTest::evenChoice()
@@ -264,46 +261,43 @@ void QuizSessionTest::percentages()
     QCOMPARE(session.totalPercent(), 100.0 / 3);
 }
 
-void QuizSessionTest::flagDecisions_data()
-{
-    QTest::addColumn<bool>("flagged");
-    QTest::addColumn<int>("right");
-    QTest::addColumn<int>("wrong");
-    QTest::addColumn<QList<int>>("limits"); // flag, unflag, unasked
-    QTest::addColumn<int>("decision");
-    QTest::newRow("always right") << false << 3 << 0 << QList{100, 0, -1} << 3;
-    QTest::newRow("always right, flagged already") << true << 3 << 0 << QList{100, 0, -1} << 1;
-    QTest::newRow("never right") << true << 0 << 2 << QList{100, 0, -1} << 2;
-    QTest::newRow("never right, not flagged") << false << 0 << 2 << QList{100, 0, -1} << 0;
-    QTest::newRow("between the limits") << true << 1 << 1 << QList{100, 0, -1} << 1;
-    QTest::newRow("two of three are 67 percent") << false << 2 << 1 << QList{67, -1, -1} << 3;
-    QTest::newRow("two of three are not 68 percent") << false << 2 << 1 << QList{68, -1, -1} << 0;
-    QTest::newRow("flagging wins where both apply") << false << 1 << 1 << QList{50, 50, -1} << 3;
-    QTest::newRow("limits off") << true << 0 << 3 << QList{-1, -1, -1} << 1;
-    QTest::newRow("not asked becomes flagged") << false << 0 << 0 << QList{100, 0, 1} << 3;
-    QTest::newRow("not asked becomes not flagged") << true << 0 << 0 << QList{100, 0, 0} << 2;
-    QTest::newRow("not asked stays") << true << 0 << 0 << QList{100, 0, -1} << 1;
-}
-
 void QuizSessionTest::flagDecisions()
 {
-    QFETCH(bool, flagged);
-    QFETCH(int, right);
-    QFETCH(int, wrong);
-    QFETCH(QList<int>, limits);
-    QFETCH(int, decision);
-    TestDocument test(Words(1, flagged ? QStringLiteral("1") : QString()));
-    CRandom random(1);
-    const QuizSettings settings = PlainSettings();
-    CQuizSession session(test.document, settings, random, {});
-    for (int i = 0; i < right; ++i) {
-        session.recordAnswer(0, QStringLiteral("a0"));
+    const struct
+    {
+        bool flagged;
+        int right;
+        int wrong;
+        QList<int> limits; // flag, unflag, unasked
+        int decision;
+    } rows[] = {
+        {false, 3, 0, QList{100, 0, -1}, 3}, // always right
+        {true, 3, 0, QList{100, 0, -1}, 1}, // always right, flagged already
+        {true, 0, 2, QList{100, 0, -1}, 2}, // never right
+        {false, 0, 2, QList{100, 0, -1}, 0}, // never right, not flagged
+        {true, 1, 1, QList{100, 0, -1}, 1}, // between the limits
+        {false, 2, 1, QList{67, -1, -1}, 3}, // two of three are 67 percent
+        {false, 2, 1, QList{68, -1, -1}, 0}, // two of three are not 68 percent
+        {false, 1, 1, QList{50, 50, -1}, 3}, // flagging wins where both apply
+        {true, 0, 3, QList{-1, -1, -1}, 1}, // limits off
+        {false, 0, 0, QList{100, 0, 1}, 3}, // not asked becomes flagged
+        {true, 0, 0, QList{100, 0, 0}, 2}, // not asked becomes not flagged
+        {true, 0, 0, QList{100, 0, -1}, 1}, // not asked stays
+    };
+    for (const auto &row : rows) {
+        TestDocument test(Words(1, row.flagged ? QStringLiteral("1") : QString()));
+        CRandom random(1);
+        const QuizSettings settings = PlainSettings();
+        CQuizSession session(test.document, settings, random, {});
+        for (int i = 0; i < row.right; ++i) {
+            session.recordAnswer(0, QStringLiteral("a0"));
+        }
+        for (int i = 0; i < row.wrong; ++i) {
+            session.recordAnswer(0, QStringLiteral("x"));
+        }
+        const auto unasked = row.limits[2] < 0 ? std::nullopt : std::optional(FlagState(row.limits[2]));
+        QCOMPARE(int(session.flagDecision(0, {row.limits[0], row.limits[1], unasked})), row.decision);
     }
-    for (int i = 0; i < wrong; ++i) {
-        session.recordAnswer(0, QStringLiteral("x"));
-    }
-    const auto unasked = limits[2] < 0 ? std::nullopt : std::optional(FlagState(limits[2]));
-    QCOMPARE(int(session.flagDecision(0, {limits[0], limits[1], unasked})), decision);
 }
 
 void QuizSessionTest::applyingFlags()
@@ -322,59 +316,45 @@ void QuizSessionTest::applyingFlags()
     QVERIFY(test.document.IsModified());
 }
 
-void QuizSessionTest::acceptedAnswers_data()
-{
-    QTest::addColumn<QString>("term");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QString>("changed"); // Empty when it is refused.
-    QTest::newRow("another word") << "dog"
-                                  << "hound"
-                                  << "dog * hound";
-    QTest::newRow("behind several") << "dog [x] * cur"
-                                    << "hound [y]"
-                                    << "dog [x] * cur * hound [y]";
-    QTest::newRow("the first of an empty term") << ""
-                                                << "hound"
-                                                << "hound";
-    QTest::newRow("an open bracket stays in its alternative") << "dog [x"
-                                                              << "hound"
-                                                              << "dog [x * hound";
-    QTest::newRow("right already") << "dog * cur"
-                                   << "cur"
-                                   << "";
-    QTest::newRow("nothing typed") << "dog"
-                                   << ""
-                                   << "";
-    QTest::newRow("several at once would still be wrong") << "dog"
-                                                          << "hound * cur"
-                                                          << "";
-}
-
 void QuizSessionTest::acceptedAnswers()
 {
-    QFETCH(QString, term);
-    QFETCH(QString, answer);
-    QFETCH(QString, changed);
-    TestDocument test(QStringList{QStringLiteral("hund|%1|n|12").arg(term), QStringLiteral("katt|cat")});
-    CRandom random(1);
-    QuizSettings settings = PlainSettings();
-    CQuizSession session(test.document, settings, random, {});
-    session.recordAnswer(0, answer);
-    session.recordAnswer(1, QStringLiteral("x"));
-    QCOMPARE(session.acceptAnswer(0, answer), !changed.isEmpty());
-    QCOMPARE(test.document.UndoCount(), changed.isEmpty() ? 0 : 1);
-    if (!changed.isEmpty()) {
-        QCOMPARE(Describe(test.document.List().Entry(0)), QStringLiteral("hund|%1|n|12").arg(changed));
-        QCOMPARE(session.mistakes(), std::vector<int>{1});
-        session.takeBackAcceptedAnswer();
-        QCOMPARE(Describe(test.document.List().Entry(0)), QStringLiteral("hund|%1|n|12").arg(term));
-        QCOMPARE(session.mistakes(), (std::vector<int>{0, 1}));
-        QVERIFY(session.acceptAnswer(0, answer));
-        session.recordAnswer(1, answer);
-        QVERIFY(!session.acceptedAnswer()); // The next answer: it stays.
+    const struct
+    {
+        QString term;
+        QString answer;
+        QString changed; // Empty when it is refused.
+    } rows[] = {
+        {u"dog"_s, u"hound"_s, u"dog * hound"_s}, // another word
+        {u"dog [x] * cur"_s, u"hound [y]"_s, u"dog [x] * cur * hound [y]"_s}, // behind several
+        {{}, u"hound"_s, u"hound"_s}, // the first of an empty term
+        {u"dog [x"_s, u"hound"_s, u"dog [x * hound"_s}, // an open bracket stays in its alternative
+        {u"dog * cur"_s, u"cur"_s, {}}, // right already
+        {u"dog"_s, {}, {}}, // nothing typed
+        {u"dog"_s, u"hound * cur"_s, {}}, // several at once would still be wrong
+    };
+    for (const auto &row : rows) {
+        TestDocument test(
+            QStringList{QStringLiteral("hund|%1|n|12").arg(row.term), QStringLiteral("katt|cat")});
+        CRandom random(1);
+        QuizSettings settings = PlainSettings();
+        CQuizSession session(test.document, settings, random, {});
+        session.recordAnswer(0, row.answer);
+        session.recordAnswer(1, QStringLiteral("x"));
+        QCOMPARE(session.acceptAnswer(0, row.answer), !row.changed.isEmpty());
+        QCOMPARE(test.document.UndoCount(), row.changed.isEmpty() ? 0 : 1);
+        if (!row.changed.isEmpty()) {
+            QCOMPARE(Describe(test.document.List().Entry(0)), QStringLiteral("hund|%1|n|12").arg(row.changed));
+            QCOMPARE(session.mistakes(), std::vector<int>{1});
+            session.takeBackAcceptedAnswer();
+            QCOMPARE(Describe(test.document.List().Entry(0)), QStringLiteral("hund|%1|n|12").arg(row.term));
+            QCOMPARE(session.mistakes(), (std::vector<int>{0, 1}));
+            QVERIFY(session.acceptAnswer(0, row.answer));
+            session.recordAnswer(1, row.answer);
+            QVERIFY(!session.acceptedAnswer()); // The next answer: it stays.
+        }
+        settings.allowChanges = false;
+        QVERIFY(!session.mayAccept(1, QStringLiteral("x")));
     }
-    settings.allowChanges = false;
-    QVERIFY(!session.mayAccept(1, QStringLiteral("x")));
 }
 
 void QuizSessionTest::oneStepForUndo()

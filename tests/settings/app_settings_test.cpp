@@ -53,9 +53,7 @@ class AppSettingsTest : public QObject
 private Q_SLOTS:
     void firstRun();
     void namesAndFactoryValues();
-    void bounds_data();
     void bounds();
-    void lists_data();
     void lists();
     void savingAndLoadingReproducesEverything();
     void resettingKeepsTheLanguage();
@@ -112,112 +110,62 @@ void AppSettingsTest::namesAndFactoryValues()
     QCOMPARE(stored, expected);
 }
 
-void AppSettingsTest::bounds_data()
-{
-    QTest::addColumn<QString>("section");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("loaded");
-    QTest::newRow("below") << "quiz"
-                           << "requizNumber"
-                           << "0"
-                           << "3";
-    QTest::newRow("above") << "quiz"
-                           << "requizNumber"
-                           << "101"
-                           << "3";
-    QTest::newRow("at the bound") << "quiz"
-                                  << "requizNumber"
-                                  << "100"
-                                  << "100";
-    QTest::newRow("never accepted") << "editor"
-                                    << "duplilcateCheckBeforeQuizMax"
-                                    << "500"
-                                    << "1000";
-    QTest::newRow("negative bound") << "find"
-                                    << "language"
-                                    << "-1"
-                                    << "-1";
-    QTest::newRow("below a negative bound") << "find"
-                                            << "language"
-                                            << "-2"
-                                            << "-1";
-    QTest::newRow("probability up to 99") << "quiz"
-                                          << "includeFlaggedProbability"
-                                          << "100"
-                                          << "20";
-    QTest::newRow("no bounds") << "quiz"
-                               << "numberOfWords"
-                               << "-7"
-                               << "-7";
-    QTest::newRow("no number") << "quiz"
-                               << "requizNumber"
-                               << "7x"
-                               << "3";
-    QTest::newRow("blanks around a number") << "quiz"
-                                            << "requizNumber"
-                                            << " 7 "
-                                            << "7";
-    QTest::newRow("more than a number can be") << "quiz"
-                                               << "requizNumber"
-                                               << "99999999999999999999"
-                                               << "3";
-    QTest::newRow("flag that is no 1") << "misc"
-                                       << "autoOpen"
-                                       << "-5"
-                                       << "1";
-    QTest::newRow("flag that is no number") << "misc"
-                                            << "autoOpen"
-                                            << "no"
-                                            << "1";
-    QTest::newRow("colour") << "createTable"
-                            << "colorText"
-                            << "4294967295"
-                            << "4294967295";
-    QTest::newRow("colour that is none") << "createTable"
-                                         << "colorBackground"
-                                         << "-1"
-                                         << "16777215";
-    QTest::newRow("sound with the word contest") << "quiz\\quizchallenge"
-                                                 << "rightSoundFile"
-                                                 << "x.wav"
-                                                 << "x.wav";
-}
-
 void AppSettingsTest::bounds()
 {
-    QFETCH(QString, section);
-    QFETCH(QString, name);
-    QFETCH(QString, stored);
-    QFETCH(QString, loaded);
-    CMemoryStore store;
-    const QString path = CAppSettings::RootPath() + u'\\' + section;
-    store.Write(path, name, stored);
-    CAppSettings settings(store, m_texts);
-    settings.Exchange(true);
-    settings.Exchange(false);
-    QCOMPARE(store.Read(path, name).value_or(QString()), loaded);
-}
-
-void AppSettingsTest::lists_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QStringList>("items");
-    QTest::newRow("blanks around items") << " å \n\tß" << QStringList{u"å"_s, u"ß"_s};
-    QTest::newRow("empty text") << "" << QStringList{};
-    QTest::newRow("final line break") << "a\nb\n" << QStringList{u"a"_s, u"b"_s};
-    QTest::newRow("empty item between") << "a\n\nb" << QStringList{u"a"_s, QString(), u"b"_s};
+    const struct
+    {
+        QString section;
+        QString name;
+        QString stored;
+        QString loaded;
+    } rows[] = {
+        {u"quiz"_s, u"requizNumber"_s, u"0"_s, u"3"_s}, // below
+        {u"quiz"_s, u"requizNumber"_s, u"101"_s, u"3"_s}, // above
+        {u"quiz"_s, u"requizNumber"_s, u"100"_s, u"100"_s}, // at the bound
+        {u"editor"_s, u"duplilcateCheckBeforeQuizMax"_s, u"500"_s, u"1000"_s}, // never accepted
+        {u"find"_s, u"language"_s, u"-1"_s, u"-1"_s}, // negative bound
+        {u"find"_s, u"language"_s, u"-2"_s, u"-1"_s}, // below a negative bound
+        {u"quiz"_s, u"includeFlaggedProbability"_s, u"100"_s, u"20"_s}, // probability up to 99
+        {u"quiz"_s, u"numberOfWords"_s, u"-7"_s, u"-7"_s}, // no bounds
+        {u"quiz"_s, u"requizNumber"_s, u"7x"_s, u"3"_s}, // no number
+        {u"quiz"_s, u"requizNumber"_s, u" 7 "_s, u"7"_s}, // blanks around a number
+        {u"quiz"_s, u"requizNumber"_s, u"99999999999999999999"_s, u"3"_s}, // more than a number can be
+        {u"misc"_s, u"autoOpen"_s, u"-5"_s, u"1"_s}, // flag that is no 1
+        {u"misc"_s, u"autoOpen"_s, u"no"_s, u"1"_s}, // flag that is no number
+        {u"createTable"_s, u"colorText"_s, u"4294967295"_s, u"4294967295"_s}, // colour
+        {u"createTable"_s, u"colorBackground"_s, u"-1"_s, u"16777215"_s}, // colour that is none
+        {u"quiz\\quizchallenge"_s, u"rightSoundFile"_s, u"x.wav"_s, u"x.wav"_s}, // sound with the word contest
+    };
+    for (const auto &row : rows) {
+        CMemoryStore store;
+        const QString path = CAppSettings::RootPath() + u'\\' + row.section;
+        store.Write(path, row.name, row.stored);
+        CAppSettings settings(store, m_texts);
+        settings.Exchange(true);
+        settings.Exchange(false);
+        QCOMPARE(store.Read(path, row.name).value_or(QString()), row.loaded);
+    }
 }
 
 void AppSettingsTest::lists()
 {
-    QFETCH(QString, stored);
-    QFETCH(QStringList, items);
-    CMemoryStore store;
-    store.Write(Section("easykey"), u"keys"_s, stored);
-    CAppSettings settings(store, m_texts);
-    settings.Exchange(true);
-    QCOMPARE(settings.easykey.keys, items);
+    const struct
+    {
+        QString stored;
+        QStringList items;
+    } rows[] = {
+        {u" å \n\tß"_s, QStringList{u"å"_s, u"ß"_s}}, // blanks around items
+        {{}, QStringList{}}, // empty text
+        {u"a\nb\n"_s, QStringList{u"a"_s, u"b"_s}}, // final line break
+        {u"a\n\nb"_s, QStringList{u"a"_s, QString(), u"b"_s}}, // empty item between
+    };
+    for (const auto &row : rows) {
+        CMemoryStore store;
+        store.Write(Section("easykey"), u"keys"_s, row.stored);
+        CAppSettings settings(store, m_texts);
+        settings.Exchange(true);
+        QCOMPARE(settings.easykey.keys, row.items);
+    }
 }
 
 void AppSettingsTest::savingAndLoadingReproducesEverything()
