@@ -9,21 +9,32 @@
 
 namespace {
 
-const GlossaryVersion &SmallestVersion(const CWordList &list)
+/// What a list needs of its file; found in one walk, since a long list is more than the processor's caches
+/// hold.
+struct Needs
 {
+    const GlossaryVersion &version; ///< The smallest one that holds the list.
+    qsizetype units; ///< The most code units that the records can take.
+};
+
+Needs NeedsOf(const CWordList &list)
+{
+    constexpr qsizetype LineEndsAndFlags = 11;
     bool fitsOld = list.GetQuestionTemplate(0).isEmpty() && list.GetQuestionTemplate(1).isEmpty();
     bool anyFlag = false;
+    qsizetype units = 0;
     list.ForEach([&](int, const CWordEntry &entry) {
         fitsOld = fitsOld && entry.FitsOldFormat();
         anyFlag = anyFlag || entry.GetFlag(0) || entry.GetFlag(1);
+        units += entry.GetText(0).size() + entry.GetText(1).size() + entry.GetNote().size() + LineEndsAndFlags;
     });
     if (fitsOld) {
-        return Glossary::Version20;
+        return {Glossary::Version20, units};
     }
     if (anyFlag) {
-        return Glossary::Version23;
+        return {Glossary::Version23, units};
     }
-    return list.AnyNote() ? Glossary::Version23Mini : Glossary::Version23Micro;
+    return {list.AnyNote() ? Glossary::Version23Mini : Glossary::Version23Micro, units};
 }
 
 /// The content of a file, which is made line by line.
@@ -77,26 +88,14 @@ void AppendRecord(const CWordEntry &entry, const GlossaryVersion &version, CLine
     }
 }
 
-/// The most code units that the records can take.
-qsizetype Length(const CWordList &list)
-{
-    constexpr qsizetype LineEndsAndFlags = 11;
-    qsizetype length = 0;
-    list.ForEach([&](int, const CWordEntry &entry) {
-        length += entry.GetText(0).size() + entry.GetText(1).size() + entry.GetNote().size() + LineEndsAndFlags;
-    });
-    return length;
-}
-
 /// The content of the file; what the encoding lacks ends it.
-CLines Encoded(const CWordList &list, TextEncoding encoding)
+CLines Encoded(const CWordList &list, const Needs &needs, TextEncoding encoding)
 {
-    const GlossaryVersion &version = SmallestVersion(list);
-    CLines lines(encoding, Length(list));
-    AppendHeader(list, version, lines);
+    CLines lines(encoding, needs.units);
+    AppendHeader(list, needs.version, lines);
     list.ForEach([&](int, const CWordEntry &entry) {
         if (!lines.Lossy()) {
-            AppendRecord(entry, version, lines);
+            AppendRecord(entry, needs.version, lines);
         }
     });
     return lines;
@@ -104,13 +103,14 @@ CLines Encoded(const CWordList &list, TextEncoding encoding)
 
 CLines Encoded(const CWordList &list, const WriteOptions &options)
 {
+    const Needs needs = NeedsOf(list);
     if (!options.forceUnicode) {
-        CLines lines = Encoded(list, TextEncoding::Ansi);
+        CLines lines = Encoded(list, needs, TextEncoding::Ansi);
         if (!lines.Lossy()) {
             return lines;
         }
     }
-    return Encoded(list, TextEncoding::Utf16LittleEndian);
+    return Encoded(list, needs, TextEncoding::Utf16LittleEndian);
 }
 
 /// False for a file that would be refused when it is opened again.
