@@ -26,6 +26,19 @@ QStringList acceptedForms(const QString &expected)
     return {StripComments(expected), withoutBrackets, expected};
 }
 
+QStringList acceptedTexts(const CWordEntry &entry, int answerColumn)
+{
+    QStringList texts;
+    const int last = entry.AlternativeCount(answerColumn);
+    for (int k = 0; k <= last; ++k) {
+        texts += acceptedForms(entry.GetAlternative(answerColumn, k, false));
+    }
+    if (last > 0) {
+        texts += acceptedForms(entry.GetText(answerColumn));
+    }
+    return texts;
+}
+
 bool answersMatch(const QString &typed, const QString &expected, const CheckingOptions &options)
 {
     if (typed == expected) {

@@ -41,6 +41,9 @@ QString normalizeForCheck(const QString &text, const CheckingOptions &options);
 /// What may be typed for an expected text: it without its comments, without their brackets, and in full.
 QStringList acceptedForms(const QString &expected);
 
+/// What may be typed for a term: for its alternatives in their order, then for the whole of it.
+QStringList acceptedTexts(const CWordEntry &entry, int answerColumn);
+
 /// Whether a typed text stands for the expected one. Comments of the expected text may be left out, typed
 /// without their brackets, or typed in full.
 bool answersMatch(const QString &typed, const QString &expected, const CheckingOptions &options);

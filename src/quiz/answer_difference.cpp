@@ -372,20 +372,6 @@ Slips slipsOf(const Pair &pair, const QList<DifferencePart> &parts)
     return isOneLetter(parts) ? Slips(Slip::OneLetter) : Slips();
 }
 
-/// The alternatives in their order, then the whole term, each as it may be typed.
-QStringList acceptedTexts(const CWordEntry &entry, int answerColumn)
-{
-    QStringList texts;
-    const int last = entry.AlternativeCount(answerColumn);
-    for (int k = 0; k <= last; ++k) {
-        texts += acceptedForms(entry.GetAlternative(answerColumn, k, false));
-    }
-    if (last > 0) {
-        texts += acceptedForms(entry.GetText(answerColumn));
-    }
-    return texts;
-}
-
 }
 
 AnswerDifference answerDifference(

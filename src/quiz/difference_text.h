@@ -15,8 +15,7 @@ QString differenceInWords(const AnswerDifference &difference, const CTexts &text
 QString slipNames(Slips slips, const CTexts &texts);
 
 /// What was wrong with an answer to the word at a position, and by what slip or for which word it would have
-/// been right: as markup in which texts of the user are escaped, or in sentences. Looks through all words of
-/// the session, so it is asked once per answer.
+/// been right: as markup in which texts of the user are escaped, or in sentences.
 QString wrongAnswerAsHtml(
     const CQuizSession &session, const CTexts &texts, int position, const QString &answer);
 QString wrongAnswerInWords(

@@ -153,14 +153,31 @@ AnswerVerdict CQuizSession::judge(int position, const QString &answer) const
     return checkAnswer(entry, 1 - m_questionColumn, answer, m_options);
 }
 
-std::optional<int> CQuizSession::otherWordOf(int position, const QString &answer) const
+void CQuizSession::indexAnswers() const
 {
-    for (int other = 0; other < wordCount(); ++other) {
-        if (other != position && judge(other, answer) != AnswerVerdict::Wrong) {
-            return other;
+    for (int position = 0; position < wordCount(); ++position) {
+        for (const QString &text : acceptedTexts(questionAt(position).entry, answerColumn())) {
+            const QString key = normalizeForCheck(text, m_options);
+            const auto known = m_wordsByAnswer.find(key);
+            if (known == m_wordsByAnswer.end()) {
+                m_wordsByAnswer.insert(key, {position});
+            } else if (known->first != position && !known->second) {
+                known->second = position;
+            }
         }
     }
-    return std::nullopt;
+}
+
+std::optional<int> CQuizSession::otherWordOf(int position, const QString &answer) const
+{
+    if (m_wordsByAnswer.isEmpty()) {
+        indexAnswers();
+    }
+    const auto known = m_wordsByAnswer.constFind(normalizeForCheck(answer, m_options));
+    if (known == m_wordsByAnswer.constEnd()) {
+        return std::nullopt;
+    }
+    return known->first != position ? std::optional(known->first) : known->second;
 }
 
 void CQuizSession::count(int position, AnswerVerdict verdict)
@@ -194,6 +211,7 @@ void CQuizSession::recheckAll()
     m_totalRight = 0;
     m_totalWrong = 0;
     m_wrongList.clear();
+    m_wordsByAnswer.clear();
     for (int position = 0; position < wordCount(); ++position) {
         QuizWordRecord &record = m_records[size_t(position)];
         record.rightCount = 0;

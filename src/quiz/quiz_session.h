@@ -5,6 +5,7 @@
 #include "quiz/flag_limits.h"
 #include "quiz/quiz_kinds.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <memory>
@@ -127,6 +128,13 @@ private:
     void shuffleAvoiding(std::optional<int> last);
     CWordEntry entryAccepting(int position, const QString &answer) const;
     void count(int position, AnswerVerdict verdict);
+    /// The first words that a text would be right for.
+    struct WordsOfAnswer
+    {
+        int first;
+        std::optional<int> second = {};
+    };
+    void indexAnswers() const;
 
     CWin32Doc &m_document;
     const QuizSettings &m_settings;
@@ -146,5 +154,7 @@ private:
     std::optional<int> m_lastAnswered;
     std::optional<AcceptedAnswer> m_accepted;
     bool m_selectMistakes = false;
+    /// By what counts of the texts that are right; filled when it is needed, until an entry is another.
+    mutable QHash<QString, WordsOfAnswer> m_wordsByAnswer;
     std::optional<quint64> m_ownChange; // The document's change counter after the session's last change.
 };

@@ -19,6 +19,7 @@ void CQuizSession::changeList(const std::function<void(CWordList &)> &change)
     if (m_document.Change(change, m_ownChange)) {
         m_ownChange = m_document.ChangeCounter();
         m_accepted.reset();
+        m_wordsByAnswer.clear();
     }
 }
 

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void selectedAfterwards();
     void questions();
     void emptySessions();
+    void answersOfOtherWords();
 };
 
 void QuizSessionTest::selection()
@@ -428,6 +429,24 @@ void QuizSessionTest::emptySessions()
     CQuizSession session(test.document, settings, random, {});
     QCOMPARE(session.roundSize(), 0);
     QVERIFY(!session.startRound());
+}
+
+void QuizSessionTest::answersOfOtherWords()
+{
+    TestDocument test(QStringList{QStringLiteral("a|x * y"), QStringLiteral("b|y [z]"), QStringLiteral("c|z")});
+    CRandom random(1);
+    const QuizSettings settings = PlainSettings();
+    CQuizSession session(test.document, settings, random, {});
+    const auto other = [&](int position, const char *answer) {
+        return session.otherWordOf(position, QString::fromLatin1(answer)).value_or(-1);
+    };
+    QCOMPARE(other(2, "y"), 0);
+    QCOMPARE(other(0, "y"), 1); // Without its comment.
+    QCOMPARE(other(1, "y"), 0);
+    QCOMPARE(other(2, "z"), -1);
+    session.changeEntry(0, QStringLiteral("a"), QStringLiteral("x"), {});
+    session.recheckAll();
+    QCOMPARE(other(1, "y"), -1);
 }
 
 QTEST_APPLESS_MAIN(QuizSessionTest)
