@@ -25,9 +25,10 @@ namespace {
 bool Save(const QString &path, const QByteArray &content, const QString &backupFolder = {})
 {
     CSafeFile file;
-    if (!file.Open(path, backupFolder) || file.Device().write(content) != content.size()) {
+    if (!file.Open(path, backupFolder)) {
         return false;
     }
+    file.Device().write(content); // Commit() knows whether it failed.
     return file.Commit();
 }
 
@@ -77,6 +78,7 @@ class SafeFileTest : public QObject
 
 private Q_SLOTS:
     void init();
+    void fullDisk();
     void closedFolder();
     void linksAndDevices();
     void accessStays();
@@ -99,6 +101,19 @@ void SafeFileTest::init()
     // Whoever the tests run as, others may reach the folder.
     QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777));
     QFile::setPermissions(m_path, QFile::Permissions(0x6666));
+}
+
+void SafeFileTest::fullDisk()
+{
+    for (const int room : {0, 4096, 19999}) {
+        QCOMPARE(InProcess([&] {
+            LimitFiles(rlim_t(room));
+            return Save(m_path, New) ? 1 : 0;
+        }),
+            0);
+        QCOMPARE(Content(m_path), Old);
+    }
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
 void SafeFileTest::closedFolder()
