@@ -19,12 +19,13 @@ namespace {
 constexpr qint64 LargestSample = 1 << 18;
 constexpr int MostSamples = 100;
 
-QString TitleOf(const CWordList &list, const QString &name)
+SampleList Described(const CWordList &list, const QString &path, const QString &name)
 {
     static const QRegularExpression end(QStringLiteral("[:.]"));
     const QString comments = list.GetComments().section(end, 0, 0).trimmed();
-    return QStringLiteral("%1 – %2: %3")
-        .arg(list.GetLanguage(0), list.GetLanguage(1), comments.isEmpty() ? name : comments);
+    return {.path = path,
+        .title = comments.isEmpty() ? name : comments,
+        .languages = QStringLiteral("%1 – %2").arg(list.GetLanguage(0), list.GetLanguage(1))};
 }
 
 }
@@ -45,7 +46,7 @@ QList<SampleList> FindSamples(const QStringList &dataFolders)
             QBuffer buffer(&*content);
             CWordList list;
             if (buffer.open(QIODevice::ReadOnly) && ReadWordList(list, buffer) == ReadResult::Read) {
-                samples.append({path, TitleOf(list, name)});
+                samples.append(Described(list, path, name));
             }
         }
     }

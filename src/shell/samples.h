@@ -9,8 +9,9 @@
 struct SampleList
 {
     QString path;
-    /// Its languages, and what its comments begin with, up to a colon or full stop. As it stands in the file.
+    /// What its comments begin with, up to a colon or full stop. As it stands in the file.
     QString title;
+    QString languages = {};
 };
 
 /// The glossary files in the folder "samples" of each data folder, in the order of their titles. Of files of

@@ -19,7 +19,8 @@ void CSamplesMenu::Fill()
 {
     m_menu.clear();
     for (const SampleList &sample : FindSamples(m_dataFolders)) {
-        QAction *const action = m_menu.addAction(ShownInCaption(sample.title));
+        QAction *const action = m_menu.addAction(
+            QStringLiteral("%1 (%2)").arg(ShownInCaption(sample.title), ShownInCaption(sample.languages)));
         action->setStatusTip(sample.path);
         // From the event loop, when the menu is closed.
         connect(
