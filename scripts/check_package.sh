@@ -73,7 +73,7 @@ check_type application/x-ordelin newer.gls 'Ordelin 3.0\r\n'
 check_type text/x-latex-glossary latex.gls '\\glossarysection\n'
 
 cmake --preset release >/dev/null
-cmake --build --preset release
+cmake --build --preset release --target ordelin
 if [ -f "$kept" ]; then
     cp "$kept" "$work"
 fi

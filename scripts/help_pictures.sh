@@ -44,11 +44,11 @@ language() {
     shot "$1-main" "vardagsord"
     xdotool key F9
     shot "$1-special" "$special"
-    xdotool key F9 sleep 0.5 key F9 sleep 0.5 key ctrl+alt+1
-    shot "$1-quiz" "$quiz"
-    for _ in 1 2 3; do
-        xdotool type "x"
-        xdotool key Return sleep 0.5 key Return sleep 0.5
+    xdotool key F9 sleep 0.5 key F9 sleep 0.5 key ctrl+alt+1 sleep 1
+    for answer in 1 2 3; do
+        [ "$answer" -ne 2 ] || shot "$1-quiz" "$quiz" # The first one is in its panel.
+        xdotool type --delay 50 "x"
+        xdotool key Return sleep 0.7 key Return sleep 0.7
     done
     xdotool key Escape sleep 0.5 key "alt+$yes"
     shot "$1-result" "$result"

@@ -18,4 +18,5 @@ PACKAGE_FOLDER=$folder debian/rules clean binary >"$folder/log" 2>&1 || {
     echo "make_package.sh: no package was made; the whole log is in $folder/log" >&2
     exit 1
 }
+debian/rules clean >>"$folder/log" 2>&1 # What it left in debian/; the build stays.
 echo "The package is $(echo "$folder"/*.deb)"
