@@ -5,6 +5,7 @@
 #include "editor/editor_view.h"
 #include "settings/shell_settings.h"
 
+#include <algorithm>
 #include <array>
 
 SortOptions SortOptionsOf(const ArrangeSettings &settings)
@@ -60,4 +61,34 @@ void CArranging::SetFlags(FlagMode mode)
 void CArranging::ToggleFlag(int entry, int language)
 {
     m_document.Change([=](CWordList &list) { list.SetFlags(language, std::array{entry}, FlagMode::Toggle); });
+}
+
+void CArranging::MoveRows(bool up, MovedPart part, bool goesOn)
+{
+    std::vector<int> entries = m_view.SelectedEntries();
+    const int field = part == MovedPart::Entry ? WholeEntry : m_view.CursorField();
+    const bool atEnd =
+        entries.empty() || (up ? entries.front() == 0 : entries.back() + 1 == m_document.List().Count());
+    if (atEnd || (part == MovedPart::Field && field < 0)) {
+        return;
+    }
+    m_document.Change(
+        [&](CWordList &list) { list.MoveEntries(entries, up, field); }, goesOn ? m_moved : std::nullopt);
+    m_moved = m_document.ChangeCounter();
+    for (int &entry : entries) {
+        entry += up ? -1 : 1;
+    }
+    m_view.SelectEntries(entries);
+}
+
+void CArranging::MoveFields(int step)
+{
+    const int from = m_view.CursorField();
+    const int to = from + step;
+    const std::vector<int> entries = m_view.SelectedEntries();
+    if (entries.empty() || from < 0 || to < 0 || std::max(from, to) > m_view.LastField()) {
+        return;
+    }
+    m_document.Change([&](CWordList &list) { list.SwapInEntries(entries, true, true, from, to); });
+    m_view.SetCursorField(to);
 }

@@ -3,6 +3,8 @@
 
 #include "editor/list_order.h"
 
+#include <optional>
+
 class CRandom;
 class CWin32Doc;
 class IEditorView;
@@ -10,6 +12,8 @@ struct ArrangeSettings;
 
 /// The sort options as the list takes them: stored is whether the order descends.
 SortOptions SortOptionsOf(const ArrangeSettings &settings);
+
+enum class MovedPart { Entry, Field };
 
 /// Puts the list in order and sets the flags of its entries. Each call takes one step for undo at most.
 class CArranging
@@ -28,10 +32,19 @@ public:
     void SetFlags(FlagMode mode);
     void ToggleFlag(int entry, int language);
 
+    /// Moves the selected entries one row, or of each the field of the cell cursor with its flag. They stay
+    /// selected. Nothing leaves the list. With `goesOn` it is one step for undo with the move before, as far as
+    /// nothing else changed the list in between.
+    void MoveRows(bool up, MovedPart part, bool goesOn);
+    /// Exchanges the field of the cell cursor, in the selected entries, with the one to its left (step -1) or
+    /// right (step 1), as far as that is shown. The cell cursor follows.
+    void MoveFields(int step);
+
 private:
     IEditorView &m_view;
     CWin32Doc &m_document;
     ArrangeSettings &m_settings;
     CRandom &m_random;
     CListOrder m_order;
+    std::optional<quint64> m_moved; // The document's change counter after the last move.
 };

@@ -24,12 +24,18 @@ public:
     virtual int CursorRow() const = 0;
     /// The field of the cell cursor: 0 and 1 are the languages, 2 the note.
     virtual int CursorField() const = 0;
+    /// The last field that is shown.
+    virtual int LastField() const = 0;
     virtual int InsertionPoint() const = 0;
 
     /// Selects one row alone; none for -1.
     virtual void SelectRow(int row, bool ensureVisible) = 0;
     /// Selects these entries alone, and scrolls to the first when none of them is in sight.
     virtual void SelectEntryRange(int first, int last) = 0;
+    virtual void SelectEntries(const std::vector<int> &entries) = 0;
+    /// Scrolls until the whole row of an entry is in sight.
+    virtual void ShowEntry(int entry) = 0;
+    virtual void SetCursorField(int field) = 0;
     virtual void SetInsertionPoint(int row) = 0;
     /// Shows a text in the status line until something else is to be told.
     virtual void UpdateStatusText(const QString &text) = 0;

@@ -6,6 +6,7 @@
 namespace Text {
 
 inline constexpr int ProposeCorrection = 61023;
+inline constexpr int EntriesMerged = 61031;
 inline constexpr int Note = 61041;
 inline constexpr int ListSummary = 61106;
 inline constexpr int NumberColumn = 62609;
@@ -17,6 +18,10 @@ inline constexpr int SelectSimilar = 70005;
 inline constexpr int ReallyDelete = 70006;
 inline constexpr int NothingPasted = 70007;
 inline constexpr int EntriesPasted = 70008;
+inline constexpr int NoDuplicates = 70011;
+inline constexpr int AllDuplicatesSeen = 70012;
+inline constexpr int SelectDuplicates = 70013;
+inline constexpr int ReallyMergeAll = 70014;
 inline constexpr int Flagged = 70150;
 inline constexpr int NotFlagged = 70151;
 inline constexpr int ViewList = 301000;

@@ -169,8 +169,8 @@ public:
 
     // Duplicates (word_list_merge.cpp); see CDuplicateSearch for finding them
     /// Joins the others into the entry that the selection names first and removes them: alternatives that it
-    /// does not have, notes that its note does not contain, and a flag only where all have it. Returns how many
-    /// entries disappeared.
+    /// does not have, the pieces of notes that its note lacks, and a flag only where all have it. Returns how
+    /// many entries disappeared.
     int MergeEntries(Selection selection);
     /// Merges all entries that share an alternative, in either language, directly or through others. Returns
     /// how many entries disappeared.

@@ -7,91 +7,37 @@
 #include <QSet>
 
 #include <algorithm>
-#include <bit>
-#include <map>
 #include <numeric>
 
 namespace {
 
-/// The runs of one length that occur in a growing text, by their rolling hashes.
-class CRunIndex
-{
-public:
-    explicit CRunIndex(qsizetype length) : m_length(length)
-    {
-        for (qsizetype i = 1; i < length; ++i) {
-            m_leading *= Base;
-        }
-    }
-
-    /// Takes in what was added to `text` since the last call.
-    void Update(QStringView text)
-    {
-        for (; m_position < text.size(); ++m_position) {
-            if (m_position >= m_length) {
-                m_hash -= m_leading * text[m_position - m_length].unicode();
-            }
-            m_hash = m_hash * Base + text[m_position].unicode();
-            if (m_position + 1 >= m_length) {
-                m_runs.insert(m_hash);
-            }
-        }
-    }
-    bool Contains(QStringView run) const
-    {
-        quint64 hash = 0;
-        for (const QChar unit : run) {
-            hash = hash * Base + unit.unicode();
-        }
-        return m_runs.contains(hash);
-    }
-
-private:
-    static constexpr quint64 Base = 0x9E3779B97F4A7C15; // Odd and without a pattern.
-
-    qsizetype m_length;
-    quint64 m_leading = 1; // What the first unit of a run is multiplied by.
-    quint64 m_hash = 0;
-    qsizetype m_position = 0;
-    QSet<quint64> m_runs;
-};
-
-/// Collects notes into one, leaving out what it already contains.
+/// Collects notes into one, leaving out the pieces that it already has.
 class CNoteCollector
 {
 public:
     void Add(const QString &note)
     {
-        if (note.isEmpty() || Contains(note)) {
-            return;
+        const bool isFirst = m_joined.isEmpty();
+        for (const QString &piece : note.split(QLatin1StringView(Joint))) {
+            if (m_known.contains(piece)) {
+                continue;
+            }
+            m_known.insert(piece);
+            if (!isFirst) {
+                m_joined += QLatin1StringView(Joint) + piece;
+            }
         }
-        if (!m_joined.isEmpty()) {
-            m_joined += u"; ";
+        if (isFirst) {
+            m_joined = note; // As it is, with what it repeats.
         }
-        m_joined += note;
     }
     const QString &Joined() const { return m_joined; }
 
 private:
-    /// A long collection is looked through only for notes whose beginning and end, which together are all of
-    /// it, both occur in it. So joining the notes of a hundred thousand entries doesn't read the collection as
-    /// many times.
-    bool Contains(const QString &note)
-    {
-        if (m_joined.size() >= 4096) {
-            const qsizetype length = qsizetype(std::bit_floor(size_t(note.size())));
-            CRunIndex &index = m_runs.try_emplace(length, length).first->second;
-            index.Update(m_joined);
-            if (!index.Contains(QStringView(note).first(length))
-                || !index.Contains(QStringView(note).last(length))) {
-                return false;
-            }
-        }
-        return m_joined.contains(note);
-    }
+    static constexpr auto Joint = "; ";
 
     QString m_joined;
-    std::map<qsizetype, CRunIndex> m_runs;
+    QSet<QString> m_known = {QString()};
 };
 
 /// Disjoint groups of entries; the lowest entry of a group is its root.

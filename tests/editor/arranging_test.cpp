@@ -35,6 +35,8 @@ private Q_SLOTS:
     void sorting();
     void turningTheOrder();
     void flags();
+    void movingRows();
+    void movingFields();
     void steps();
 };
 
@@ -115,6 +117,57 @@ void ArrangingTest::flags()
     QCOMPARE(run.test.document.UndoCount(), 2);
     run.arranging.ToggleFlag(2, 1);
     QCOMPARE(run.Entries(), QStringLiteral("a|1||2 b|2||12 c|3||2"));
+}
+
+void ArrangingTest::movingRows()
+{
+    Editor run(List("a|1||1 b|2||2 c|3 d|4"));
+    const auto move = [&](std::vector<int> selected, bool up, MovedPart part, bool goesOn = false) {
+        run.view.selected = std::move(selected);
+        run.arranging.MoveRows(up, part, goesOn);
+        return run.Entries();
+    };
+    using enum MovedPart;
+    QCOMPARE(move({}, true, Entry), run.Entries());
+    // The whole block stays where it is when a part of it can't go on.
+    QCOMPARE(move({0, 2}, true, Entry), QStringLiteral("a|1||1 b|2||2 c|3 d|4"));
+    QCOMPARE(move({1, 3}, false, Entry), QStringLiteral("a|1||1 b|2||2 c|3 d|4"));
+    QCOMPARE(run.test.document.UndoCount(), 0);
+    QCOMPARE(move({1, 2}, false, Entry), QStringLiteral("a|1||1 d|4 b|2||2 c|3"));
+    QCOMPARE(run.view.selected, (std::vector<int>{2, 3}));
+    // One column takes its flag along; the others stay.
+    run.view.cursorField = 1;
+    QCOMPARE(move({2}, true, Field), QStringLiteral("a|1||1 d|2||2 b|4 c|3"));
+    QCOMPARE(run.view.selected, std::vector<int>{1});
+    QCOMPARE(run.test.document.UndoCount(), 2);
+    // A held key makes one step, but none with what another command did.
+    QCOMPARE(move({3}, true, Entry, true), QStringLiteral("a|1||1 d|2||2 c|3 b|4"));
+    QCOMPARE(move({2}, true, Entry, true), QStringLiteral("a|1||1 c|3 d|2||2 b|4"));
+    QCOMPARE(run.test.document.UndoCount(), 2);
+    run.test.document.Change([](CWordList &list) { list.SetAuthor(QStringLiteral("x")); });
+    QCOMPARE(move({1}, true, Entry, true), QStringLiteral("c|3 a|1||1 d|2||2 b|4"));
+    QCOMPARE(run.test.document.UndoCount(), 4);
+}
+
+void ArrangingTest::movingFields()
+{
+    Editor run(List("a|1|n|1 b|2|m|12"));
+    run.view.selected = {0, 1};
+    run.arranging.MoveFields(1);
+    QCOMPARE(run.Entries(), QStringLiteral("1|a|n|2 2|b|m|12"));
+    QCOMPARE(run.view.cursorField, 1);
+    run.view.lastField = 1; // Notes are hidden.
+    run.arranging.MoveFields(1);
+    QCOMPARE(run.test.document.UndoCount(), 1);
+    run.view.lastField = 2;
+    run.view.selected = {0};
+    run.arranging.MoveFields(1);
+    QCOMPARE(run.Entries(), QStringLiteral("1|n|a|2 2|b|m|12")); // The flag stays with the language.
+    QCOMPARE(run.view.cursorField, 2);
+    run.arranging.MoveFields(1);
+    run.view.cursorField = 0;
+    run.arranging.MoveFields(-1);
+    QCOMPARE(run.test.document.UndoCount(), 2);
 }
 
 void ArrangingTest::steps()

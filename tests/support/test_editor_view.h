@@ -19,6 +19,7 @@ public:
     int RowCount() const override { return m_document.List().Count() + 1; }
     int CursorRow() const override { return cursorRow; }
     int CursorField() const override { return cursorField; }
+    int LastField() const override { return lastField; }
     int InsertionPoint() const override { return m_document.InsertionPoint(); }
     void SelectRow(int row, bool /*ensureVisible*/) override
     {
@@ -32,6 +33,9 @@ public:
             selected.push_back(entry);
         }
     }
+    void SelectEntries(const std::vector<int> &entries) override { selected = entries; }
+    void ShowEntry(int entry) override { shown = entry; }
+    void SetCursorField(int field) override { cursorField = field; }
     void SetInsertionPoint(int row) override { m_document.SetInsertionPoint(row); }
     void UpdateStatusText(const QString &text) override { status = text; }
     void DeleteSelection() override { ++deletions; }
@@ -40,6 +44,8 @@ public:
     int selectedRow = -1;
     int cursorRow = -1;
     int cursorField = 0;
+    int lastField = 2;
+    int shown = -1;
     QString status;
     int deletions = 0;
 

@@ -180,10 +180,9 @@ void CWin32View::KeepSelection(const std::function<void()> &show)
 void CWin32View::PlaceCursor(int row, int field)
 {
     // Without a cursor no key would have a cell to go to.
-    const int lastField = m_model->ColumnOf(CWordEntry::NoteField) < m_model->columnCount() ? 2 : 1;
     const int wanted = row < 0 ? int(!m_services.settings.editor.lang1first) : std::max(field, 0);
     m_list->SetCursor(row < 0 ? m_model->Rows().InsertionPoint() : std::min(row, m_model->rowCount() - 1),
-        std::min(wanted, lastField));
+        std::min(wanted, LastField()));
 }
 
 void CWin32View::UpdateStatusText(const QString &text)

@@ -52,12 +52,13 @@ public:
     int RowCount() const override;
     int CursorRow() const override;
     int CursorField() const override;
-    void SetCursorField(int field);
+    int LastField() const override;
+    void SetCursorField(int field) override;
     void SelectRow(int row, bool ensureVisible) override;
     /// A negative entry selects nothing.
     void SelectEntry(int entry);
-    /// Selects exactly these entries, and scrolls to the first when none of them is in sight.
-    void SelectEntries(const std::vector<int> &entries);
+    void SelectEntries(const std::vector<int> &entries) override;
+    void ShowEntry(int entry) override;
     void SelectEntryRange(int first, int last) override;
     void SelectAll();
 

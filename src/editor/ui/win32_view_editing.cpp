@@ -138,11 +138,10 @@ void CWin32View::ShowNotes()
 
 void CWin32View::MarkEntry(int entry)
 {
-    const int row = entry < 0 ? -1 : m_model->Rows().RowOfEntry(entry);
-    if (row >= 0) {
-        m_list->scrollTo(m_model->index(row, m_model->ColumnOf(0)));
+    if (entry >= 0) {
+        ShowEntry(entry);
     }
-    m_list->SetHotRow(row);
+    m_list->SetHotRow(entry < 0 ? -1 : m_model->Rows().RowOfEntry(entry));
 }
 
 std::optional<OpenEdit> CWin32View::EditedCell() const

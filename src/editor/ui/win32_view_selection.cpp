@@ -74,6 +74,11 @@ void CWin32View::SelectRow(int row, bool ensureVisible)
     m_list->SelectRow(row, ensureVisible);
 }
 
+int CWin32View::LastField() const
+{
+    return m_model->ColumnOf(CWordEntry::NoteField) < m_model->columnCount() ? CWordEntry::NoteField : 1;
+}
+
 int CWin32View::CursorField() const
 {
     return m_list->CursorField();
@@ -111,6 +116,11 @@ void CWin32View::SelectEntries(const std::vector<int> &entries)
     }
     m_suppressSelectionSync = false;
     ReadSelection();
+}
+
+void CWin32View::ShowEntry(int entry)
+{
+    m_list->scrollTo(m_model->index(m_model->Rows().RowOfEntry(entry), m_model->ColumnOf(0)));
 }
 
 void CWin32View::SelectEntryRange(int first, int last)

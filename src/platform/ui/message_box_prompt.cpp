@@ -5,6 +5,7 @@
 #include "platform/ui/held_enter.h"
 #include "platform/ui/owner_window.h"
 #include "platform/ui/type_ahead_filter.h"
+#include "platform/ui/wait_cursor.h"
 #include "platform/ui/wrapped_text.h"
 
 #include <QApplication>
@@ -155,6 +156,7 @@ int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons b
     box.setDefaultButton(defaultButton);
     box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     IgnoreHeldEnter(box);
+    const CUsualCursor usual;
     return typeAhead != nullptr && box.parentWidget() != nullptr ? typeAhead->Ask(box) : box.exec();
 }
 

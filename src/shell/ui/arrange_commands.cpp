@@ -9,6 +9,9 @@
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 
+#include <QApplication>
+#include <QKeyEvent>
+
 using namespace CommandId;
 
 CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, CArranging &arranging,
@@ -45,4 +48,29 @@ CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, C
             },
             [&value] { return value; });
     }
+    for (const auto &[command, up, part] :
+        {std::tuple(MoveUp, true, MovedPart::Entry), {MoveDown, false, MovedPart::Entry},
+            {MoveColumnUp, true, MovedPart::Field}, {MoveColumnDown, false, MovedPart::Field}}) {
+        actions.SetHandler(
+            command, [this, &arranging, up = up, part = part] { arranging.MoveRows(up, part, m_keyRepeats); });
+    }
+    actions.SetHandler(MoveLeft, [&arranging] { arranging.MoveFields(-1); });
+    actions.SetHandler(MoveRight, [&arranging] { arranging.MoveFields(1); });
+    qApp->installEventFilter(this);
+}
+
+bool CArrangeCommands::eventFilter(QObject *watched, QEvent *event)
+{
+    // Each key is announced before it is taken for a shortcut.
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        m_keyRepeats = static_cast<QKeyEvent *>(event)->isAutoRepeat();
+        break;
+    case QEvent::MouseButtonPress:
+        m_keyRepeats = false;
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
 }

@@ -12,8 +12,16 @@ struct ArrangeSettings;
 /// The commands of the menu that puts the list in order, and the clicks on headings that do the same.
 class CArrangeCommands : public QObject
 {
+    Q_OBJECT
+
 public:
     /// Nothing is owned.
     CArrangeCommands(CCommandActions &actions, CWin32View &view, CArranging &arranging,
         ArrangeSettings &settings, CSettingsChanges &settingsChanges, QObject *parent);
+
+    /// Notes of each key whether it is held.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool m_keyRepeats = false;
 };

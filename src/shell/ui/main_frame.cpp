@@ -26,6 +26,7 @@
 #include "shell/ui/samples_menu.h"
 #include "shell/ui/settings_commands.h"
 #include "shell/ui/special_character_keys.h"
+#include "shell/ui/tools_commands.h"
 #include "shell/ui/user_fonts.h"
 #include "shell/ui/view_commands.h"
 
@@ -219,6 +220,8 @@ void CMainFrame::ConnectCommands()
             m_services.chooser, m_services.sounds, m_services.dataFolders},
         *this);
     new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
+    new CToolsCommands(*m_actions, *m_view, m_services.document, m_services.settings.editor, m_services.texts,
+        m_services.prompt, this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
     new CCommandRefresh({*m_actions, *m_editCommands, m_services.document, m_services.settingsChanges,
                             m_services.specialCharacters, *this},
