@@ -123,6 +123,26 @@ void Run(int count)
         editor.arranging.Sort(0);
         Settle();
     }));
+    const int block = std::min(count / 4, 10000);
+    view.SelectEntryRange(count / 2, count / 2 + block - 1);
+    Settle();
+    for (const auto &[name, part] : {std::pair("move 10,000 selected entries one row", MovedPart::Entry),
+             {"move one field of them one row", MovedPart::Field}}) {
+        Print(name, Measure(10, nothing, [&, part = part] {
+            editor.arranging.MoveRows(false, part, false);
+            Settle();
+        }));
+    }
+    std::vector<int> scattered;
+    for (int entry = 0; entry < 2 * block; entry += 2) {
+        scattered.push_back(count / 4 + entry);
+    }
+    view.SelectEntries(scattered);
+    Settle();
+    Print("move 10,000 entries between others one row", Measure(10, nothing, [&] {
+        editor.arranging.MoveRows(false, MovedPart::Entry, false);
+        Settle();
+    }));
     std::vector<int> half;
     for (int entry = 0; entry < count; entry += 2) {
         half.push_back(entry);

@@ -92,3 +92,22 @@ void CArranging::MoveFields(int step)
     m_document.Change([&](CWordList &list) { list.SwapInEntries(entries, true, true, from, to); });
     m_view.SetCursorField(to);
 }
+
+void CArranging::MoveTo(int row)
+{
+    const std::vector<int> entries = m_view.SelectedEntries();
+    if (entries.empty()) {
+        return;
+    }
+    const int point = m_view.InsertionPoint();
+    const bool abovePoint = row <= point;
+    const int position = abovePoint ? row : row - 1;
+    const auto countBefore = [&entries](int entry) {
+        return int(std::ranges::lower_bound(entries, entry) - entries.begin());
+    };
+    const int count = int(entries.size());
+    const int first = position - countBefore(position);
+    m_document.Change([&](CWordList &list) { list.MoveEntriesTo(entries, position); });
+    m_view.SetInsertionPoint(point - countBefore(point) + (abovePoint ? count : 0));
+    m_view.SelectEntryRange(first, first + count - 1);
+}

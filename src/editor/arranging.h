@@ -39,6 +39,9 @@ public:
     /// Exchanges the field of the cell cursor, in the selected entries, with the one to its left (step -1) or
     /// right (step 1), as far as that is shown. The cell cursor follows.
     void MoveFields(int step);
+    /// Moves the selected entries to where they stand above a row, one after the other; below the last for the
+    /// number of rows. They stay selected.
+    void MoveTo(int row);
 
 private:
     IEditorView &m_view;

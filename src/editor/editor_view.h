@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/text_search.h"
+
 #include <QString>
 
 #include <vector>
@@ -17,6 +19,8 @@ public:
 
     /// Ascending.
     virtual std::vector<int> SelectedEntries() const = 0;
+    /// -1 when no entry is selected.
+    virtual int FirstSelectedEntry() const = 0;
     /// -1 when no row is selected.
     virtual int FirstSelectedRow() const = 0;
     virtual int RowCount() const = 0;
@@ -35,6 +39,9 @@ public:
     virtual void SelectEntries(const std::vector<int> &entries) = 0;
     /// Scrolls until the whole row of an entry is in sight.
     virtual void ShowEntry(int entry) = 0;
+    /// Selects the entry of a match alone and lets the text that was found stand out. With `takeFocus` typing
+    /// goes on there.
+    virtual void ShowMatch(const TextMatch &match, bool takeFocus) = 0;
     virtual void SetCursorField(int field) = 0;
     virtual void SetInsertionPoint(int row) = 0;
     /// Shows a text in the status line until something else is to be told.

@@ -45,15 +45,22 @@ void CListClipboard::Paste()
         m_openFile(files.first());
         return;
     }
+    Insert(*data, m_view.InsertionPoint());
+}
+
+void CListClipboard::Insert(const QMimeData &data, int row)
+{
     // Of several files nothing is read: their names are no terms.
-    const CWordList pasted = files.isEmpty() ? EntriesFromData(*data) : CWordList();
+    const CWordList pasted = FilesFromData(data).isEmpty() ? EntriesFromData(data) : CWordList();
     const int count = pasted.Count();
     if (count == 0) {
         m_view.UpdateStatusText(m_texts.Get(Text::NothingPasted));
         return;
     }
-    const int first = m_view.InsertionPoint();
+    const int point = m_view.InsertionPoint();
+    const int first = row <= point ? row : row - 1;
     m_document.Change([&pasted, first](CWordList &list) { list.InsertAll(pasted, first); });
+    m_view.SetInsertionPoint(row <= point ? point + count : point);
     m_view.SelectEntryRange(first, first + count - 1);
     m_view.UpdateStatusText(m_texts.Fill(Text::EntriesPasted, {QString::number(count)}));
 }

@@ -9,6 +9,7 @@ class CTexts;
 class CWin32Doc;
 class IClipboard;
 class IEditorView;
+class QMimeData;
 
 /// Copies, cuts and pastes entries by the clipboard.
 class CListClipboard
@@ -28,6 +29,8 @@ public:
     /// Inserts entries at the insertion point, as one step for undo, selects them and tells how many they are.
     /// A file that was copied is opened.
     void Paste();
+    /// Inserts the entries of data above a row, as Paste() does.
+    void Insert(const QMimeData &data, int row);
 
     /// Whether the clipboard may hold entries.
     bool CanPaste() const;

@@ -244,6 +244,31 @@ void CWordList::MoveEntries(Selection selection, bool up, int field)
     }
 }
 
+void CWordList::MoveEntriesTo(Selection selection, int position)
+{
+    const std::vector<int> moved = Existing(selection);
+    std::vector<int> order;
+    order.reserve(size_t(Count()));
+    auto next = moved.begin();
+    const auto appendOthers = [&](int from, int end) {
+        for (int index = from; index < end; ++index) {
+            if (next != moved.end() && *next == index) {
+                ++next;
+            } else {
+                order.push_back(index);
+            }
+        }
+    };
+    const int middle = std::clamp(position, 0, Count());
+    appendOthers(0, middle);
+    order.insert(order.end(), moved.begin(), moved.end());
+    appendOthers(middle, Count());
+    if (!std::ranges::is_sorted(order)) {
+        m_saved = false;
+        m_entries.Reorder(order);
+    }
+}
+
 void CWordList::SetFlags(int language, Selection selection, FlagMode mode)
 {
     for (const int index : Existing(selection)) {

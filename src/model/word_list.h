@@ -139,6 +139,9 @@ public:
     /// Moves entries, or one text field of them with its flag, one place. One that would leave the list is
     /// skipped; the next then changes places with it.
     void MoveEntries(Selection selection, bool up, int field = WholeEntry);
+    /// Moves entries, in their order, to where they stand before the one that is at `position` now; at the end
+    /// for a position beyond the last.
+    void MoveEntriesTo(Selection selection, int position);
     void SetFlags(int language, Selection selection, FlagMode mode);
 
     /// Entries flagged in language `which`; 2 counts both, an entry flagged twice counting twice.
@@ -163,6 +166,8 @@ public:
     TextMatch FindNext(const TextSearch &search, int start, bool downward) const;
     /// All matching entries, ascending.
     std::vector<int> FindAll(const TextSearch &search) const;
+    /// Those from `first` up to but not including `last`, for a search in pieces.
+    std::vector<int> FindAll(const TextSearch &search, int first, int last) const;
     /// The first entry from `start` on, wrapping, with a term that begins with `prefix`, case ignored; `column`
     /// 0 or 1 looks at that term alone. NoEntry when there is none.
     int FindPrefix(const QString &prefix, int column, int start) const;

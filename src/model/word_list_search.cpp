@@ -55,6 +55,18 @@ std::vector<int> CWordList::FindAll(const TextSearch &search) const
     return found;
 }
 
+std::vector<int> CWordList::FindAll(const TextSearch &search, int first, int last) const
+{
+    const CTextMatcher matcher(search);
+    std::vector<int> found;
+    for (int index = std::max(first, 0); index < std::min(last, Count()); ++index) {
+        if (MatchEntry(matcher, search, Entry(index), index).IsFound()) {
+            found.push_back(index);
+        }
+    }
+    return found;
+}
+
 int CWordList::FindPrefix(const QString &prefix, int column, int start) const
 {
     const CTextMatcher matcher(TextSearch{.text = prefix});

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void flags();
     void movingRows();
     void movingFields();
+    void draggingRows_data();
+    void draggingRows();
     void steps();
 };
 
@@ -168,6 +170,45 @@ void ArrangingTest::movingFields()
     run.view.cursorField = 0;
     run.arranging.MoveFields(-1);
     QCOMPARE(run.test.document.UndoCount(), 2);
+}
+
+void ArrangingTest::draggingRows_data()
+{
+    QTest::addColumn<QString>("selected");
+    QTest::addColumn<int>("row"); // Of a b [new] c d.
+    QTest::addColumn<QString>("entries");
+    QTest::addColumn<int>("point");
+    QTest::addColumn<int>("first"); // Selected afterwards.
+    QTest::newRow("down") << "0" << 4 << "b c a d" << 1 << 2;
+    QTest::newRow("up to the start") << "1 3" << 0 << "b d a c" << 3 << 0;
+    QTest::newRow("behind the last") << "0 2" << 5 << "b d a c" << 1 << 2;
+    QTest::newRow("above the new row") << "3" << 2 << "a b d c" << 3 << 2;
+    QTest::newRow("below the new row") << "3" << 3 << "a b d c" << 2 << 2;
+    QTest::newRow("past the new row alone") << "1" << 3 << "a b c d" << 1 << 1;
+    QTest::newRow("into itself") << "2 3" << 4 << "a b c d" << 2 << 2;
+    QTest::newRow("together") << "0 3" << 1 << "a d b c" << 3 << 0;
+    QTest::newRow("nothing") << "" << 1 << "a b c d" << 2 << -1;
+}
+
+void ArrangingTest::draggingRows()
+{
+    QFETCH(QString, selected);
+    QFETCH(int, row);
+    QFETCH(QString, entries);
+    QFETCH(int, point);
+    QFETCH(int, first);
+    Editor run(List("a b c d"));
+    run.view.SetInsertionPoint(2);
+    for (const QString &entry : selected.split(u' ', Qt::SkipEmptyParts)) {
+        run.view.selected.push_back(entry.toInt());
+    }
+    const size_t count = run.view.selected.size();
+    run.arranging.MoveTo(row);
+    QCOMPARE(run.Entries(), entries);
+    QCOMPARE(run.view.InsertionPoint(), point);
+    QCOMPARE(run.view.selected.size(), count);
+    QCOMPARE(run.view.FirstSelectedEntry(), first);
+    QCOMPARE(run.test.document.UndoCount(), entries == QStringLiteral("a b c d") ? 0 : 1);
 }
 
 void ArrangingTest::steps()

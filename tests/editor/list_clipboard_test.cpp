@@ -125,6 +125,13 @@ void ListClipboardTest::cutAndColumns()
     run.clipboard.Cut();
     QCOMPARE(run.system.Data()->text(), QStringLiteral("a\t1\tx\r\nb\t2\ty\r\n"));
     QCOMPARE(run.view.deletions, 1);
+    // What is dropped on either side of the new-entry row stays there.
+    run.view.SetInsertionPoint(1);
+    run.clipboard.Insert(*run.system.Data(), 2);
+    QCOMPARE(run.view.InsertionPoint(), 1);
+    QCOMPARE(run.Entries(), List("a|1|x a|1|x b|2|y b|2|y c|3"));
+    QCOMPARE(run.view.selected, (std::vector<int>{1, 2}));
+    run.test.document.Undo();
     // With nothing selected the clipboard keeps what it has.
     run.view.selected.clear();
     run.clipboard.Copy(AllColumns);

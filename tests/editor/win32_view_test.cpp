@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "editor/arranging.h"
 #include "editor/ui/edit_box_commands.h"
-#include "platform/ui/long_line_edit.h"
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
+#include "platform/ui/long_line_edit.h"
 #include "settings/shell_settings.h"
 #include "support/test_document.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -113,6 +115,7 @@ private Q_SLOTS:
     void undoKeepsTheRows();
     void newDocumentForgets();
     void manyRows();
+    void droppingText();
     void editBoxes();
     void typingOnBesideTheFoundEntry();
     void longTexts();
@@ -453,6 +456,32 @@ void Win32ViewTest::manyRows()
     QCOMPARE(run.List()->verticalScrollBar()->value(), 9000);
     run.view.SelectEntries({7, 9});
     QVERIFY(run.List()->IsRowVisible(8));
+}
+
+void Win32ViewTest::droppingText()
+{
+    View run(Numbered(2));
+    QList<int> rows;
+    QObject::connect(
+        &run.view, &CWin32View::DataDropped, &run.view, [&](const QMimeData &, int row) { rows.append(row); });
+    const auto drop = [&](const QMimeData &data, const QPoint &place) {
+        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(run.List()->viewport(), &enter);
+        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(run.List()->viewport(), &event);
+        return event.isAccepted();
+    };
+    QMimeData text;
+    text.setText(QStringLiteral("x - y"));
+    const QRect cell = run.List()->visualRect(run.List()->model()->index(1, 1));
+    QVERIFY(drop(text, cell.topLeft() + QPoint(40, 1)));
+    QVERIFY(drop(text, cell.bottomLeft() + QPoint(40, -1)));
+    QVERIFY(drop(text, run.List()->viewport()->rect().bottomLeft() - QPoint(0, 2)));
+    QCOMPARE(rows, (QList<int>{1, 2, 3}));
+    // Files and addresses are no words: the window may take them.
+    QMimeData address;
+    address.setUrls({QUrl(QStringLiteral("https://a.example/b-c"))});
+    QVERIFY(!drop(address, cell.topLeft()));
 }
 
 void Win32ViewTest::editBoxes()

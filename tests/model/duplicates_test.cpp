@@ -170,8 +170,7 @@ void DuplicatesTest::mergesManyNotesQuickly()
     for (int i = 0; i < Count; ++i) {
         list.Insert(CWordEntry(u"same * w%1"_s.arg(i), {}, u"kapitel %1 sidan %2"_s.arg(i / 170).arg(i % 170)));
     }
-    list.Insert(CWordEntry(u"same"_s, {}, u"pitel 7 sid"_s));
-    QCOMPARE(list.MergeAll(), Count);
+    QCOMPARE(list.MergeAll(), Count - 1);
     QCOMPARE(list.Entry(0).AlternativeCount(0), Count);
     QCOMPARE(list.Entry(0).GetNote().count(u"; "_s), Count - 1);
 }

@@ -46,6 +46,7 @@ inline const QList<PromptForm> &PromptForms()
         {Text::CannotAssociate, Warning},
         {Text::LanguageFromNextStart, Information},
         {Text::EntriesMerged, Information},
+        {Text::NothingFound, Information},
         {Text::NoDuplicates, Information},
         {Text::AllDuplicatesSeen, Information},
         {Text::SelectDuplicates, Question, YesNoCancel, Yes},

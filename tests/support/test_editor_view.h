@@ -15,6 +15,7 @@ public:
     explicit CTestEditorView(CWin32Doc &document) : m_document(document) { }
 
     std::vector<int> SelectedEntries() const override { return selected; }
+    int FirstSelectedEntry() const override { return selected.empty() ? -1 : selected.front(); }
     int FirstSelectedRow() const override { return selectedRow; }
     int RowCount() const override { return m_document.List().Count() + 1; }
     int CursorRow() const override { return cursorRow; }
@@ -35,6 +36,11 @@ public:
     }
     void SelectEntries(const std::vector<int> &entries) override { selected = entries; }
     void ShowEntry(int entry) override { shown = entry; }
+    void ShowMatch(const TextMatch &found, bool /*takeFocus*/) override
+    {
+        match = found;
+        selected = {found.entry};
+    }
     void SetCursorField(int field) override { cursorField = field; }
     void SetInsertionPoint(int row) override { m_document.SetInsertionPoint(row); }
     void UpdateStatusText(const QString &text) override { status = text; }
@@ -46,6 +52,7 @@ public:
     int cursorField = 0;
     int lastField = 2;
     int shown = -1;
+    TextMatch match;
     QString status;
     int deletions = 0;
 

@@ -91,7 +91,18 @@ void CEntryFields::SetChangeMode(bool change)
 
 void CEntryFields::FocusField(int field)
 {
-    CLongLineEdit *const line = m_fields[size_t(field)];
-    line->setFocus(Qt::OtherFocusReason);
-    line->selectAll();
+    FocusText(field);
+    m_fields[size_t(field)]->selectAll();
+}
+
+void CEntryFields::FocusText(int field)
+{
+    m_fields[size_t(field)]->setFocus(Qt::OtherFocusReason);
+}
+
+void CEntryFields::SelectText(int field, int start, int length)
+{
+    if (length > 0) {
+        m_fields[size_t(field)]->setSelection(start, length);
+    }
 }

@@ -27,6 +27,10 @@ public:
     void SetChangeMode(bool change);
     bool IsChangeMode() const { return m_changeMode; }
     void FocusField(int field);
+    /// The same, but what is selected there stays so.
+    void FocusText(int field);
+    /// Selects a stretch of what stands in a field, in code units, and scrolls there.
+    void SelectText(int field, int start, int length);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -2,6 +2,8 @@
 #include "editor/ui/win32_view.h"
 
 #include "document/win32_doc.h"
+#include "editor/clipboard_data.h"
+#include "editor/clipboard_text.h"
 #include "editor/text_numbers.h"
 #include "editor/ui/entry_fields.h"
 #include "editor/ui/word_list_control.h"
@@ -12,6 +14,7 @@
 #include "settings/settings_changes.h"
 
 #include <QGridLayout>
+#include <QMimeData>
 
 namespace {
 
@@ -90,6 +93,12 @@ void CWin32View::ConnectList()
     connect(m_list, &CWordListControl::FlagKeyPressed, this, &CWin32View::InvertFlagsRequested);
     connect(m_list, &CWordListControl::CellDoubleClicked, this, &CWin32View::CellDoubleClicked);
     connect(m_list, &CWordListControl::SearchTyped, this, &CWin32View::SearchTyped);
+    m_list->SetDragData([this] {
+        const std::vector<int> entries = SelectedEntries();
+        return entries.empty() ? nullptr : ClipboardDataOf(m_services.document.List(), entries, AllColumns);
+    });
+    connect(m_list, &CWordListControl::RowsDropped, this, &CWin32View::RowsDropped);
+    connect(m_list, &CWordListControl::DataDropped, this, &CWin32View::DataDropped);
     connect(m_list, &CWordListControl::RowMenuRequested, this, &CWin32View::RowMenuRequested);
     connect(m_list, &CWordListControl::HeaderMenuRequested, this, &CWin32View::ColumnMenuRequested);
     connect(m_list, &CWordListControl::HeaderClicked, this, [this](int field) {

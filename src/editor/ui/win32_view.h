@@ -19,6 +19,7 @@ class CEntryFields;
 class CSettingsChanges;
 class CWordListControl;
 class CWordListModel;
+class QMimeData;
 struct CellEdit;
 struct ListChange;
 struct Settings;
@@ -47,7 +48,7 @@ public:
     int SelectedEntryCount() const;
     int SelectedRowCount() const;
     /// CRowModel::NoEntry when no entry is selected.
-    int FirstSelectedEntry() const;
+    int FirstSelectedEntry() const override;
     int FirstSelectedRow() const override;
     int RowCount() const override;
     int CursorRow() const override;
@@ -59,6 +60,7 @@ public:
     void SelectEntry(int entry);
     void SelectEntries(const std::vector<int> &entries) override;
     void ShowEntry(int entry) override;
+    void ShowMatch(const TextMatch &match, bool takeFocus) override;
     void SelectEntryRange(int first, int last) override;
     void SelectAll();
 
@@ -99,6 +101,10 @@ Q_SIGNALS:
     void FlagClicked(const QPersistentModelIndex &cell);
     /// The flags of the selected entries are to be turned round.
     void InvertFlagsRequested();
+    /// The selected rows were dragged above a row.
+    void RowsDropped(int row);
+    /// Something that may hold entries was dropped above a row.
+    void DataDropped(const QMimeData &data, int row);
     /// Menus for the selected rows and for the columns, at places on the screen.
     void RowMenuRequested(const QPoint &place);
     void ColumnMenuRequested(const QPoint &place);

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "document/win32_doc.h"
+#include "editor/text_numbers.h"
 #include "editor/ui/entry_fields.h"
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
+#include "platform/plain_text.h"
+#include "resources/texts.h"
+#include "settings/settings.h"
 
 std::vector<int> CWin32View::SelectedEntries() const
 {
@@ -121,6 +125,31 @@ void CWin32View::SelectEntries(const std::vector<int> &entries)
 void CWin32View::ShowEntry(int entry)
 {
     m_list->scrollTo(m_model->index(m_model->Rows().RowOfEntry(entry), m_model->ColumnOf(0)));
+}
+
+void CWin32View::ShowMatch(const TextMatch &match, bool takeFocus)
+{
+    SelectEntry(match.entry);
+    const int row = m_model->Rows().RowOfEntry(match.entry);
+    const int length = match.end + 1 - match.start;
+    const bool inList = match.column <= LastField();
+    const bool inFields = m_services.settings.editor.showEditFields;
+    if (inList) {
+        m_list->SetCursor(row, match.column);
+        m_list->scrollTo(m_list->currentIndex());
+        m_list->MarkText(match.start, length);
+    } else if (!inFields) {
+        UpdateStatusText(m_services.texts.Fill(
+            Text::FoundInNote, {ShownShort(m_services.document.List().Entry(match.entry).GetNote())}));
+    }
+    if (inFields) {
+        m_fields->SelectText(match.column, match.start, length);
+    }
+    if (takeFocus && inFields) {
+        m_fields->FocusText(match.column);
+    } else if (takeFocus) {
+        m_list->setFocus();
+    }
 }
 
 void CWin32View::SelectEntryRange(int first, int last)

@@ -9,10 +9,17 @@
 #include <QAccessible>
 #include <QEvent>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
+
+namespace {
+
+constexpr int ManyRanges = 50;
+
+}
 
 CWordListControl::CWordListControl(QWidget *parent)
     : QTableView(parent), m_delegate(new CWordListDelegate(*this)), m_quickEdit([] { return false; })
@@ -49,6 +56,7 @@ CWordListControl::CWordListControl(QWidget *parent)
     for (const QScrollBar *const bar : {verticalScrollBar(), horizontalScrollBar()}) {
         connect(bar, &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
     }
+    viewport()->setAcceptDrops(true);
     LayoutRows();
 }
 
@@ -63,6 +71,18 @@ void CWordListControl::SetListModel(CWordListModel *model)
     connect(model, &QAbstractItemModel::headerDataChanged, this, &CWordListControl::ShowOrder);
     connect(model, &QAbstractItemModel::rowsInserted, this, forget);
     connect(model, &QAbstractItemModel::rowsRemoved, this, forget);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        // Told also when other rows come or go.
+        if (m_mark && !selectionModel()->isSelected(m_mark->cell)) {
+            ForgetMark();
+        }
+    });
+    connect(model, &QAbstractItemModel::dataChanged, this,
+        [this](const QModelIndex &first, const QModelIndex &last) {
+            if (m_mark && first.row() <= m_mark->cell.row() && m_mark->cell.row() <= last.row()) {
+                ForgetMark();
+            }
+        });
 }
 
 void CWordListControl::LayoutRows()
@@ -90,9 +110,8 @@ void CWordListControl::resizeEvent(QResizeEvent *event)
 QRegion CWordListControl::visualRegionForSelection(const QItemSelection &selection) const
 {
     // Joining the rows of thousands of ranges takes longer than painting what can be seen.
-    constexpr int Many = 50;
-    return selection.size() > Many ? QRegion(viewport()->rect())
-                                   : QTableView::visualRegionForSelection(selection);
+    return selection.size() > ManyRanges ? QRegion(viewport()->rect())
+                                         : QTableView::visualRegionForSelection(selection);
 }
 
 int CWordListControl::NumberColumnWidth() const
@@ -216,6 +235,9 @@ void CWordListControl::SelectRanges(const std::vector<std::pair<int, int>> &rang
     for (const auto &[first, last] : ranges) {
         selection.append(QItemSelectionRange(m_model->index(first, 0), m_model->index(last, lastColumn)));
     }
+    if (selection.size() > ManyRanges && selectionModel()->selection().size() > ManyRanges) {
+        clearSelection(); // Else each former range is compared with each new one.
+    }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
@@ -237,6 +259,23 @@ bool CWordListControl::IsRowVisible(int row) const
 {
     const int top = rowViewportPosition(row);
     return top + rowHeight(row) > 0 && top < viewport()->height();
+}
+
+void CWordListControl::MarkText(int start, int length)
+{
+    m_mark = TextMark{currentIndex(), start, length};
+    viewport()->update();
+}
+
+void CWordListControl::ForgetMark()
+{
+    m_mark.reset();
+    viewport()->update();
+}
+
+const TextMark *CWordListControl::MarkIn(const QModelIndex &index) const
+{
+    return m_mark && m_mark->length > 0 && m_mark->cell == index ? &*m_mark : nullptr;
 }
 
 void CWordListControl::SetHotRow(int row)

@@ -7,6 +7,7 @@
 #include <QTableView>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <set>
 #include <utility>
@@ -16,6 +17,7 @@ class CWordListDelegate;
 class CSpokenText;
 class CWordListModel;
 class QAccessibleInterface;
+class QMimeData;
 struct OpenEdit;
 
 /// How editing a cell in place ended, when it was not cancelled.
@@ -28,6 +30,14 @@ struct CellEdit
     int field = 0;
     QString text;
     Key key = Key::None;
+};
+
+/// A stretch of the text in a cell, in code units.
+struct TextMark
+{
+    QPersistentModelIndex cell;
+    int start = 0;
+    int length = 0;
 };
 
 /// The table of the word list: whole rows are selected, the current column is the cell cursor, rows have one
@@ -68,11 +78,19 @@ public:
     /// Tells assistive technology that the cell of the cursor has another name or flag.
     void TellCursorChanged();
 
+    /// Lets a stretch of the text in the cell of the cursor stand out, until the selection or the text changes.
+    void MarkText(int start, int length);
+    /// The stretch that stands out in a cell; null for none.
+    const TextMark *MarkIn(const QModelIndex &index) const;
+
     /// A row that stands out; -1 for none.
     void SetHotRow(int row);
     int HotRow() const { return m_hotRow; }
     /// The list or the edit in one of its cells has the keyboard.
     bool HasKeyboard() const { return hasFocus() || IsEditing(); }
+
+    /// Asked when the selected rows are dragged: what is dragged, or null for nothing.
+    void SetDragData(std::function<std::unique_ptr<QMimeData>()> dragData) { m_dragData = std::move(dragData); }
 
     bool IsEditing() const { return state() == EditingState; }
     void EditCell(int row, int field);
@@ -97,6 +115,10 @@ Q_SIGNALS:
     void HeaderMenuRequested(const QPoint &place);
     /// The cell cursor may be in another column.
     void CursorMoved();
+    /// The selected rows were dragged above a row.
+    void RowsDropped(int row);
+    /// Something that may hold entries was dropped above a row.
+    void DataDropped(const QMimeData &data, int row);
     /// Text was typed that begins a term; `row` is where to look first.
     void SearchTyped(const QString &start, int row);
 
@@ -106,8 +128,14 @@ protected:
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -128,11 +156,17 @@ private:
     void TellCursorFocused();
     /// Has it read out, since screen readers are silent about the flag of a cell.
     void SpeakCursor();
+    void ForgetMark();
     /// Moves the cell cursor without the scrolling that follows its keys.
     void PlaceCursor(const QModelIndex &index, QItemSelectionModel::SelectionFlags select);
     int NumberColumnWidth() const;
     /// The cell whose flag is drawn at a place; none where there is no flag.
     QModelIndex FlagAt(const QPoint &place) const;
+    void DragSelection();
+    /// The row above which something that is dropped at a place goes.
+    int DropRowAt(const QPoint &place) const;
+    /// Shows where something would be dropped; -1 for nowhere.
+    void SetDropRow(int row);
     void MoveCursorField(int step);
     void ScrollToCursorField();
     QItemSelectionModel::SelectionFlags SelectionForEdit(int row) const;
@@ -150,6 +184,10 @@ private:
     mutable std::optional<std::vector<std::pair<int, int>>> m_ranges; // Until the selection changes.
     QPersistentModelIndex m_pressedFlag;
     QPoint m_pressedCell; // Where it stood; the list may have moved until the button is released.
+    std::function<std::unique_ptr<QMimeData>()> m_dragData;
+    std::optional<QPoint> m_dragFrom; // A selected row was pressed there.
+    int m_dropRow = -1;
+    std::optional<TextMark> m_mark;
     std::optional<CellEdit> m_ended;
     QString m_typed;
     QElapsedTimer m_sinceTyped;

@@ -148,11 +148,15 @@ void CWordListControl::mousePressEvent(QMouseEvent *event)
 {
     m_pressedFlag = event->button() == Qt::LeftButton ? FlagAt(event->pos()) : QModelIndex();
     m_pressedCell = visualRect(m_pressedFlag).topLeft();
+    const bool mayDrag = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier
+        && selectionModel()->isSelected(indexAt(event->pos()));
+    m_dragFrom = mayDrag ? std::optional(event->pos()) : std::nullopt;
     QTableView::mousePressEvent(event);
 }
 
 void CWordListControl::mouseReleaseEvent(QMouseEvent *event)
 {
+    m_dragFrom.reset();
     QTableView::mouseReleaseEvent(event);
     const QPersistentModelIndex pressed = std::exchange(m_pressedFlag, {});
     const QModelIndex released = FlagAt(event->pos());

@@ -3,6 +3,7 @@
 
 #include "editor/pending_entries.h"
 #include "editor/ui/cell_colours.h"
+#include "editor/ui/marked_line.h"
 #include "editor/ui/word_list_control.h"
 #include "editor/word_list_model.h"
 #include "platform/plain_text.h"
@@ -11,6 +12,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTextCharFormat>
 #include <QToolTip>
 
 CWordListDelegate::CWordListDelegate(CWordListControl &list)
@@ -62,6 +64,14 @@ void CWordListDelegate::paint(
     const QVariant alignment = index.data(Qt::TextAlignmentRole);
     painter->setPen(colours.text);
     painter->setFont(option.font);
+    if (const TextMark *const found = m_list.MarkIn(index)) {
+        QTextCharFormat turnedRound;
+        turnedRound.setForeground(colours.background);
+        turnedRound.setBackground(colours.text);
+        DrawMarkedLine(
+            *painter, room, {index.data(Qt::DisplayRole).toString(), found->start, found->length}, turnedRound);
+        return;
+    }
     painter->drawText(room,
         (alignment.isValid() ? Qt::Alignment(alignment.toInt()) : Qt::AlignVCenter | Qt::AlignLeft)
             | Qt::Alignment(Qt::TextSingleLine),

@@ -56,6 +56,8 @@ CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, C
     }
     actions.SetHandler(MoveLeft, [&arranging] { arranging.MoveFields(-1); });
     actions.SetHandler(MoveRight, [&arranging] { arranging.MoveFields(1); });
+    connect(&view, &CWin32View::RowsDropped, this,
+        [&actions, &arranging](int row) { actions.Run(MoveUp, [&arranging, row] { arranging.MoveTo(row); }); });
     qApp->installEventFilter(this);
 }
 
@@ -63,9 +65,20 @@ bool CArrangeCommands::eventFilter(QObject *watched, QEvent *event)
 {
     // Each key is announced before it is taken for a shortcut.
     switch (event->type()) {
-    case QEvent::ShortcutOverride:
-        m_keyRepeats = static_cast<QKeyEvent *>(event)->isAutoRepeat();
+    case QEvent::ShortcutOverride: {
+        // A held key may also be told as one that is released and pressed again at the same moment.
+        constexpr quint64 Moment = 10; // In milliseconds.
+        const auto *const key = static_cast<QKeyEvent *>(event);
+        const bool atOnce = key->key() == m_releasedKey && key->timestamp() - m_releasedAt < Moment;
+        m_keyRepeats = key->isAutoRepeat() || atOnce;
         break;
+    }
+    case QEvent::KeyRelease: {
+        const auto *const key = static_cast<QKeyEvent *>(event);
+        m_releasedKey = key->key();
+        m_releasedAt = key->timestamp();
+        break;
+    }
     case QEvent::MouseButtonPress:
         m_keyRepeats = false;
         break;

@@ -24,4 +24,6 @@ public:
 
 private:
     bool m_keyRepeats = false;
+    int m_releasedKey = 0;
+    quint64 m_releasedAt = 0; // In milliseconds, as events have it.
 };

@@ -61,7 +61,9 @@ void CEditCommands::FocusChanged(QWidget *focus)
         if (m_editBox) {
             m_editBox->disconnect(this);
         }
-        m_editBox = qobject_cast<QLineEdit *>(focus);
+        // Those of other windows edit their text themselves.
+        const bool isOurs = focus != nullptr && focus->window() == m_view.window();
+        m_editBox = isOurs ? qobject_cast<QLineEdit *>(focus) : nullptr;
         if (m_editBox) {
             connect(m_editBox, &QLineEdit::textChanged, this, &CEditCommands::StateChanged);
             connect(m_editBox, &QLineEdit::selectionChanged, this, &CEditCommands::NoteSelection);
@@ -133,6 +135,10 @@ void CEditCommands::ConnectList()
         });
     }
     m_actions.SetHandler(CommandId::PlaceInsertionPoint, [this] { ::PlaceInsertionPoint(m_view); });
+    connect(&m_view, &CWin32View::DataDropped, this, [this](const QMimeData &data, int row) {
+        const CWaitCursor wait;
+        m_clipboard.Insert(data, row);
+    });
     m_actions.SetHandler(Previous, [this] { StepSelection(m_view, -1); });
     m_actions.SetHandler(Next, [this] { StepSelection(m_view, 1); });
     for (const auto &[command, mode] :

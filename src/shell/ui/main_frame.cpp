@@ -20,6 +20,7 @@
 #include "shell/ui/command_refresh.h"
 #include "shell/ui/edit_commands.h"
 #include "shell/ui/file_menu_commands.h"
+#include "shell/ui/find_commands.h"
 #include "shell/ui/help_commands.h"
 #include "shell/ui/quiz_commands.h"
 #include "shell/ui/recent_files_menu.h"
@@ -222,6 +223,8 @@ void CMainFrame::ConnectCommands()
     new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
     new CToolsCommands(*m_actions, *m_view, m_services.document, m_services.settings.editor, m_services.texts,
         m_services.prompt, this);
+    new CFindCommands(*m_actions, *m_view, m_services.document, m_services.settings.find, m_services.texts,
+        m_services.prompt, *this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
     new CCommandRefresh({*m_actions, *m_editCommands, m_services.document, m_services.settingsChanges,
                             m_services.specialCharacters, *this},

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "editor/clipboard_data.h"
+#include "editor/ui/word_list_control.h"
+#include "editor/word_list_model.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPainter>
+
+namespace {
+
+/// A file is opened by the window, and no address is taken for words.
+bool MayBeDropped(const QMimeData &data)
+{
+    return MayHoldEntries(data) && !data.hasUrls() && QApplication::activeModalWidget() == nullptr;
+}
+
+}
+
+void CWordListControl::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_dragFrom) {
+        QTableView::mouseMoveEvent(event);
+    } else if ((event->pos() - *m_dragFrom).manhattanLength() >= QApplication::startDragDistance()) {
+        DragSelection();
+    }
+}
+
+void CWordListControl::DragSelection()
+{
+    m_dragFrom.reset();
+    m_pressedFlag = QPersistentModelIndex();
+    std::unique_ptr<QMimeData> dragged = m_dragData();
+    if (!dragged) {
+        return;
+    }
+    auto *const drag = new QDrag(this); // The toolkit deletes it.
+    drag->setMimeData(dragged.release());
+    // Other programs get a copy: what they do with it removes nothing here.
+    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    SetDropRow(-1);
+}
+
+int CWordListControl::DropRowAt(const QPoint &place) const
+{
+    const int row = rowAt(place.y());
+    if (row < 0) {
+        return m_model->rowCount();
+    }
+    return place.y() < rowViewportPosition(row) + rowHeight(row) / 2 ? row : row + 1;
+}
+
+void CWordListControl::SetDropRow(int row)
+{
+    if (row != m_dropRow) {
+        m_dropRow = row;
+        viewport()->update();
+    }
+}
+
+void CWordListControl::dragEnterEvent(QDragEnterEvent *event)
+{
+    dragMoveEvent(event);
+}
+
+void CWordListControl::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (!MayBeDropped(*event->mimeData())) {
+        event->ignore();
+        return;
+    }
+    const QPoint place = event->position().toPoint();
+    SetDropRow(DropRowAt(place));
+    if (!viewport()->rect().adjusted(0, autoScrollMargin(), 0, -autoScrollMargin()).contains(place)) {
+        startAutoScroll();
+    }
+    const bool moves = event->source() == this && !event->modifiers().testFlag(Qt::ControlModifier);
+    event->setDropAction(moves ? Qt::MoveAction : Qt::CopyAction);
+    event->accept();
+}
+
+void CWordListControl::dragLeaveEvent(QDragLeaveEvent * /*event*/)
+{
+    stopAutoScroll();
+    SetDropRow(-1);
+}
+
+void CWordListControl::dropEvent(QDropEvent *event)
+{
+    stopAutoScroll();
+    SetDropRow(-1);
+    if (!MayBeDropped(*event->mimeData())) {
+        event->ignore();
+        return;
+    }
+    const bool moves = event->source() == this && !event->modifiers().testFlag(Qt::ControlModifier);
+    event->setDropAction(moves ? Qt::MoveAction : Qt::CopyAction);
+    event->accept();
+    EndEditing(true);
+    const int row = DropRowAt(event->position().toPoint());
+    if (moves) {
+        Q_EMIT RowsDropped(row);
+    } else {
+        Q_EMIT DataDropped(*event->mimeData(), row);
+    }
+}
+
+void CWordListControl::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (m_dropRow >= 0) {
+        constexpr int Thickness = 3;
+        const int last = m_model->rowCount() - 1;
+        const int y =
+            m_dropRow <= last ? rowViewportPosition(m_dropRow) : rowViewportPosition(last) + rowHeight(last);
+        QPainter painter(viewport());
+        painter.fillRect(0, std::max(y - Thickness / 2, 0), viewport()->width(), Thickness,
+            palette().color(QPalette::Active, QPalette::Highlight));
+    }
+}
