@@ -6,8 +6,8 @@
 class CWordList;
 class QDate;
 
-/// Replaces %language1, %language2, %comments, %author, %nwords and %date, in this order; an invalid date leaves
-/// %date.
+/// Replaces %language1, %language2, %comments, %author, %nwords and %date, in this order; an invalid date
+/// leaves %date.
 QString ExpandListPlaceholders(const QString &text, const CWordList &list, QDate today);
 
 /// The text without what no file name may hold on any system.
