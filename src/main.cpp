@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/data_folders.h"
 #include "platform/file_name.h"
 #include "resources/texts.h"
 #include "settings/app_settings.h"
@@ -12,11 +13,14 @@
 namespace {
 
 /// Answers without a window, which needs no display. Returns the exit code.
-int Answer(const CommandLine &commandLine)
+int Answer(int &argc, char **argv, const CommandLine &commandLine)
 {
+    const QCoreApplication app(argc, argv);
     CTexts texts;
     const CIniStore store(CIniStore::UserPath(), CAppSettings::RootPath());
-    LoadLanguage(LoadLanguageSettings(store, CAppSettings::RootPath()), texts);
+    LoadLanguage(LoadLanguageSettings(store, CAppSettings::RootPath(), texts,
+                     DataFolders(QCoreApplication::applicationDirPath()), QLocale::system()),
+        texts);
     const CommandLineAnswer answer = AnswerCommandLine(commandLine, texts, QStringLiteral(ORDELIN_VERSION));
     std::FILE *const stream = answer.isError ? stderr : stdout;
     const bool written = std::fwrite(answer.text.constData(), 1, size_t(answer.text.size()), stream)
@@ -35,7 +39,7 @@ int main(int argc, char *argv[])
     }
     const CommandLine commandLine = ParseCommandLine(arguments);
     if (commandLine.error != 0 || commandLine.action != CommandLine::Action::Run) {
-        return Answer(commandLine);
+        return Answer(argc, argv, commandLine);
     }
     COrdelinApp app(argc, argv);
     return app.Run(commandLine.file, commandLine.newList);

@@ -8,12 +8,28 @@
 #include "document/win32_doc.h"
 #include "platform/file_chooser.h"
 #include "platform/file_name.h"
+#include "platform/plain_text.h"
 #include "platform/user_prompt.h"
 #include "resources/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QUrl>
+
+namespace {
+
+/// How much of a web address a message shows, in code units.
+constexpr qsizetype MaxAddressShown = 300;
+
+bool IsWebAddress(const QString &path)
+{
+    const QUrl url(path);
+    return !url.scheme().isEmpty() && !url.isLocalFile() && path.contains(QStringLiteral("://"))
+        && !FileExists(path);
+}
+
+}
 
 CFileCommands::CFileCommands(
     CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser, CRecentFiles &recent)
@@ -75,6 +91,10 @@ bool CFileCommands::Open()
 
 bool CFileCommands::OpenFile(const QString &path)
 {
+    if (IsWebAddress(path)) {
+        m_prompt.Tell(m_texts.Prompt(Text::OnlyFiles, {ShownShort(path, MaxAddressShown)}), PromptIcon::Error);
+        return false;
+    }
     return MayDiscard() && OpenNow(path);
 }
 
@@ -91,6 +111,17 @@ bool CFileCommands::OpenRecent(const QString &path)
 bool CFileCommands::OpenCopy(const QString &path)
 {
     return MayDiscard() && m_document.OpenCopy(path);
+}
+
+bool CFileCommands::Reload()
+{
+    return OpenNow(m_document.Path());
+}
+
+bool CFileCommands::HasUnsaved() const
+{
+    return m_document.IsModified()
+        || (m_pending != nullptr && !m_document.List().DifferenceTo(m_pending->ListWithAll()).IsNone());
 }
 
 bool CFileCommands::OpenNow(const QString &path)
@@ -140,6 +171,17 @@ bool CFileCommands::DoSave(const QString &path, bool replace)
     }
     if (!replace) {
         return m_document.SaveCopy(target);
+    }
+    if (AbsoluteFilePath(target) == m_document.Path() && m_document.IsChangedOutside()) {
+        switch (m_prompt.Ask(m_texts.Prompt(Text::OverwriteForeignChange, {m_document.Path()}),
+            PromptIcon::Warning, PromptButtons::YesNoCancel, PromptAnswer::No)) {
+        case PromptAnswer::Yes:
+            break;
+        case PromptAnswer::No:
+            return SaveAs();
+        case PromptAnswer::Cancel:
+            return false;
+        }
     }
     if (!m_document.OnSaveDocument(target)) {
         return false;

@@ -25,18 +25,23 @@ public:
     bool New();
     /// Asks for a file and opens it.
     bool Open();
-    /// Opens a file that is known already.
+    /// Opens a file that is known already. A web address is none, which the user is told.
     bool OpenFile(const QString &path);
     /// Opens one of the recent files; one that is gone leaves their list.
     bool OpenRecent(const QString &path);
     /// Opens a file as a list without a file of its own.
     bool OpenCopy(const QString &path);
+    /// Reads the list's own file again, without a question.
+    bool Reload();
+    /// Whether the list, or what is typed and not yet in it, differs from its file.
+    bool HasUnsaved() const;
     /// Saves to the list's own file, and asks for a name where it has none.
     bool Save();
     bool SaveAs();
     /// Hands a copy to the e-mail program.
     void Send();
-    /// Saves to `path`, and asks for a name where it is empty. With `replace` the file becomes the list's own;
+    /// Saves to `path`, and asks for a name where it is empty. Asks before it overwrites what another program
+    /// wrote to the list's own file. With `replace` the file becomes the list's own;
     /// without it a copy is saved.
     bool DoSave(const QString &path, bool replace);
     /// Asks what to do with unsaved changes. True when the list may be given up.

@@ -4,6 +4,10 @@
 #include "platform/file_name.h"
 #include "settings/settings_store.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace {
 
 QString ValueName(int index)
@@ -37,6 +41,34 @@ void CRecentFiles::Remove(const QString &path)
 {
     m_paths.removeAll(path);
     Save();
+}
+
+QStringList CRecentFiles::Names() const
+{
+    // The last folders of a path, `depth` of them.
+    const auto folders = [](const QString &path, int depth) {
+        return path.section(u'/', -1 - depth, -2, QString::SectionSkipEmpty);
+    };
+    QStringList names;
+    for (const QString &path : m_paths) {
+        QString name = QFileInfo(path).fileName();
+        QStringList others = m_paths;
+        others.removeAll(path);
+        const auto isOfThatName = [&](const QString &other) { return QFileInfo(other).fileName() == name; };
+        if (std::ranges::any_of(others, isOfThatName)) {
+            int depth = 1;
+            const auto isTold = [&](const QString &other) {
+                return !isOfThatName(other) || folders(other, depth) != folders(path, depth);
+            };
+            while (depth < path.count(u'/') && !std::ranges::all_of(others, isTold)) {
+                ++depth;
+            }
+            const QString told = folders(path, depth);
+            name = QStringLiteral("%1 (%2)").arg(name, told.isEmpty() ? QStringLiteral("/") : told);
+        }
+        names.append(name);
+    }
+    return names;
 }
 
 void CRecentFiles::Save()

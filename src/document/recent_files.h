@@ -18,6 +18,9 @@ public:
     /// Puts a file first, by its absolute path.
     void Add(const QString &path);
     void Remove(const QString &path);
+    /// The names of the files, for people: with as much of its folder as it takes to tell a file from others of
+    /// the same name.
+    QStringList Names() const;
 
 private:
     void Save();

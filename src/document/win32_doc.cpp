@@ -226,16 +226,16 @@ void CWin32Doc::OpenRecovered(CWordList list, const QString &path, const FileSta
     Replace(std::move(list), path, stamp);
 }
 
+bool CWin32Doc::IsChangedOutside() const
+{
+    const FileStamp now = FileStamp::Of(Path());
+    return now.size >= 0 && now != m_stamp;
+}
+
 bool CWin32Doc::OnSaveDocument(const QString &file)
 {
     const QString path = AbsoluteFilePath(file);
-    const CTexts &texts = m_services.texts;
     const FileStamp now = FileStamp::Of(path);
-    if (path == Path() && now.size >= 0 && now != m_stamp
-        && !m_services.prompt.Confirm(texts.Prompt(Text::OverwriteForeignChange, {path}), PromptIcon::Warning,
-            PromptButtons::YesNo, PromptAnswer::No)) {
-        return false;
-    }
     m_history.MarkOthersChanged();
     if (!WriteWordListFile(m_history.Current(), path,
             {.forceUnicode = m_services.settings.alwaysSaveInUnicode,
@@ -245,7 +245,7 @@ bool CWin32Doc::OnSaveDocument(const QString &file)
         if (path == Path() && left.inode == now.inode && left.size == now.size) {
             m_stamp = left;
         }
-        m_services.prompt.Tell(texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
         UpdateTitleMark();
         return false;
     }

@@ -66,6 +66,8 @@ public:
     const QString &Path() const { return m_history.FilePath(); }
     /// What its file was when it was last read or written.
     const FileStamp &Stamp() const { return m_stamp; }
+    /// Whether its file is there and another program wrote it since.
+    bool IsChangedOutside() const;
     /// The name of the list without a mark: its file's name.
     QString Name() const;
     /// The name shown for the list, with "* " in front while it has unsaved changes.
@@ -86,8 +88,8 @@ public:
     /// Takes a list kept for recovery as the changed content of the file `path`, which may be empty and which
     /// had `stamp` when the list was kept.
     void OpenRecovered(CWordList list, const QString &path, const FileStamp &stamp);
-    /// Writes the list and makes `path` its file. Asks before it overwrites what another program wrote since.
-    /// On failure, which the user is told, list, path and file stay as they were and the result is false.
+    /// Writes the list and makes `path` its file, whatever another program wrote there. On failure, which the
+    /// user is told, list, path and file stay as they were and the result is false.
     bool OnSaveDocument(const QString &path);
     /// Writes the list to another file without taking it for its own. On failure, which the user is told, the
     /// result is false.

@@ -11,13 +11,33 @@
 
 namespace {
 
-// The names by which the forms are known to other programs. Data on the clipboard has a length, so none of them
-// ends with a zero.
-constexpr QLatin1StringView Records("application/x-ornbury-workshops-ordelin-2.3-unicode"); // UTF-16LE
-constexpr QLatin1StringView Records8Bit("application/x-ornbury-workshops-ordelin-2.3");
+// Each form of the data has a name as a kind of content, and the three that have one of their own have that one
+// as well, by which other programs ask for it. By that one the data ends with a zero, as it did where a block
+// of memory has no length.
+struct FormNames
+{
+    QLatin1StringView kind;
+    QLatin1StringView name;
+};
+constexpr FormNames Records = {QLatin1StringView("application/x-ornbury-workshops-ordelin-2.3-unicode"),
+    QLatin1StringView("Ornbury Workshops Ordelin 2.3 Unicode")}; // UTF-16LE
+constexpr FormNames Records8Bit = {QLatin1StringView("application/x-ornbury-workshops-ordelin-2.3"),
+    QLatin1StringView("Ornbury Workshops Ordelin 2.3")};
+constexpr FormNames RichText = {QLatin1StringView("text/rtf"), QLatin1StringView("Rich Text Format")};
+constexpr QLatin1StringView RichTextOlderKind("application/rtf");
 constexpr QLatin1StringView Text8Bit("text/plain;charset=windows-1252");
-constexpr QLatin1StringView RichText("text/rtf");
-constexpr QLatin1StringView RichTextOlderName("application/rtf");
+
+/// `zero` is as long as a character.
+void SetForm(QMimeData &data, const FormNames &names, const QByteArray &bytes, const QByteArray &zero)
+{
+    data.setData(names.kind, bytes);
+    data.setData(names.name, bytes + zero);
+}
+
+bool HasForm(const QMimeData &data, const FormNames &names)
+{
+    return data.hasFormat(names.kind) || data.hasFormat(names.name);
+}
 
 QByteArray To8Bit(QStringView text)
 {
@@ -42,6 +62,23 @@ QString FromUtf16(const QByteArray &bytes)
     return text;
 }
 
+QString From8Bit(const QByteArray &bytes)
+{
+    return DecodeWindows1252(bytes);
+}
+
+/// The text of a form, without a zero at its end.
+template<class Decode>
+QString FormText(const QMimeData &data, const FormNames &names, Decode decode)
+{
+    if (data.hasFormat(names.kind)) {
+        return decode(data.data(names.kind));
+    }
+    const QString text = decode(data.data(names.name));
+    const qsizetype end = text.indexOf(QChar(u'\0'));
+    return end < 0 ? text : text.first(end);
+}
+
 }
 
 std::unique_ptr<QMimeData> ClipboardDataOf(const CWordList &list, CWordList::Selection entries, int column)
@@ -50,13 +87,14 @@ std::unique_ptr<QMimeData> ClipboardDataOf(const CWordList &list, CWordList::Sel
     const QString text = EntriesAsText(list, entries, column);
     data->setData(Text8Bit, To8Bit(text));
     data->setText(text);
+    const QByteArray zero(1, '\0');
     const QByteArray richText = EntriesAsRichText(list, entries, column);
-    data->setData(RichText, richText);
-    data->setData(RichTextOlderName, richText);
+    SetForm(*data, RichText, richText, zero);
+    data->setData(RichTextOlderKind, richText);
     if (column < 0) {
         const QString records = EntriesAsRecords(list, entries);
-        data->setData(Records, ToUtf16(records));
-        data->setData(Records8Bit, To8Bit(records));
+        SetForm(*data, Records, ToUtf16(records), zero + zero);
+        SetForm(*data, Records8Bit, To8Bit(records), zero);
     }
     return data;
 }
@@ -74,16 +112,16 @@ QStringList FilesFromData(const QMimeData &data)
 
 bool MayHoldEntries(const QMimeData &data)
 {
-    return data.hasText() || data.hasFormat(Records) || data.hasFormat(Records8Bit) || data.hasFormat(Text8Bit);
+    return data.hasText() || HasForm(data, Records) || HasForm(data, Records8Bit) || data.hasFormat(Text8Bit);
 }
 
 CWordList EntriesFromData(const QMimeData &data)
 {
-    if (data.hasFormat(Records)) {
-        return EntriesFromRecords(FromUtf16(data.data(Records)));
+    if (HasForm(data, Records)) {
+        return EntriesFromRecords(FormText(data, Records, FromUtf16));
     }
-    if (data.hasFormat(Records8Bit)) {
-        return EntriesFromRecords(DecodeWindows1252(data.data(Records8Bit)));
+    if (HasForm(data, Records8Bit)) {
+        return EntriesFromRecords(FormText(data, Records8Bit, From8Bit));
     }
     return EntriesFromText(data.hasText() ? data.text() : DecodeWindows1252(data.data(Text8Bit)));
 }

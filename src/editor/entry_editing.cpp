@@ -152,6 +152,12 @@ EditStep CEntryEditing::StoreFields(const EntryTexts &texts, int entry)
     return similar >= 0 ? SelectSimilar(similar) : EditStep{};
 }
 
+void CEntryEditing::ClearPending(int field)
+{
+    m_services.rows.pending[size_t(field)].clear();
+    m_view.PendingChanged();
+}
+
 EditStep CEntryEditing::StorePending()
 {
     if (!HasBothTerms(m_services.rows.pending)) {
@@ -182,6 +188,9 @@ EditStep CEntryEditing::CellEdited(int row, int field, const QString &text)
     const QString trimmed = text.trimmed();
     const bool isTerm = field != CWordEntry::NoteField;
     if (isTerm && trimmed.isEmpty()) {
+        if (m_services.rows.IsNewEntryRow(row)) {
+            ClearPending(field);
+        }
         return {};
     }
     if (m_services.rows.IsNewEntryRow(row)) {

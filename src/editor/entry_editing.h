@@ -91,6 +91,8 @@ public:
     /// The same without going on to another entry: the step is SelectEntry or None. Does nothing without two
     /// terms.
     EditStep StoreFields(const EntryTexts &texts, int entry);
+    /// Takes back what was typed for a field of the new entry.
+    void ClearPending(int field);
     /// Makes an entry of the texts of the new-entry row when both terms are there.
     EditStep StorePending();
     /// The field of the new-entry row that is typed next.

@@ -62,6 +62,7 @@ void CListClipboard::Insert(const QMimeData &data, int row)
     m_document.Change([&pasted, first](CWordList &list) { list.InsertAll(pasted, first); });
     m_view.SetInsertionPoint(row <= point ? point + count : point);
     m_view.SelectEntryRange(first, first + count - 1);
+    m_view.ShowEntry(first + count - 1);
     m_view.UpdateStatusText(m_texts.Fill(Text::EntriesPasted, {QString::number(count)}));
 }
 

@@ -26,7 +26,8 @@ public:
     void Copy(int column);
     /// Copies the selected entries and asks whether to delete them.
     void Cut();
-    /// Inserts entries at the insertion point, as one step for undo, selects them and tells how many they are.
+    /// Inserts entries at the insertion point, as one step for undo, selects them, shows the last of
+    /// them and tells how many they are.
     /// A file that was copied is opened.
     void Paste();
     /// Inserts the entries of data above a row, as Paste() does.

@@ -58,8 +58,8 @@ QList<Command> MakeTable()
         {CopyNotes, {}, {}, EntriesSelected},
         {Paste, Keys("Ctrl+V"), Icon("edit-paste"), CanPaste, Plain, LeftInEditBox},
         // Not the toolkit's standard key for deleting, which includes Ctrl+D.
-        {Delete, Keys("Del"), Icon("edit-delete"), TextOrEntriesSelected, Plain, LeftInEditBox},
-        {SelectAll, Keys("Ctrl+A"), Icon("edit-select-all"), Always, Plain, LeftInEditBox},
+        {Delete, Keys("Del"), Icon("edit-delete"), CanDelete, Plain, LeftInEditBox},
+        {SelectAll, Keys("Ctrl+A"), Icon("edit-select-all"), TextOrEntries, Plain, LeftInEditBox},
         {SetFlag, {}, Icon("ordelin-flag"), FlagsSelected},
         {ClearFlag, {}, Icon("ordelin-flag-clear"), FlagsSelected},
         {InvertFlag, {}, Icon("ordelin-flag-invert"), FlagsSelected},

@@ -27,6 +27,10 @@ bool Holds(EnabledRule rule, const CommandState &state)
         return state.selectedRows == 1;
     case EnabledRule::TextOrEntriesSelected:
         return state.inEditBox ? state.textSelected : state.selectedEntries > 0;
+    case EnabledRule::CanDelete:
+        return state.inEditBox ? state.textSelected : state.selectedEntries > 0 || state.onPendingText;
+    case EnabledRule::TextOrEntries:
+        return state.inEditBox || state.entries > 0;
     case EnabledRule::InEditBox:
         return state.inEditBox;
     case EnabledRule::CanPaste:

@@ -84,6 +84,10 @@ enum class EnabledRule {
     OneRowSelected,
     /// Text in the edit box that has the focus, where one has; else entries.
     TextOrEntriesSelected,
+    /// The same, or a text of the entry to come that the cell cursor stands on.
+    CanDelete,
+    /// An edit box has the focus, or there are entries.
+    TextOrEntries,
     InEditBox,
     CanPaste,
     CanUndo,
@@ -99,6 +103,8 @@ struct CommandState
     int selectedRows = 0;
     /// 0 and 1 are the languages, 2 the note.
     int cursorColumn = 0;
+    /// The cell cursor stands on a text that is no entry yet.
+    bool onPendingText = false;
     bool inEditBox = false;
     bool textSelected = false;
     bool canPaste = false;
@@ -125,7 +131,7 @@ struct Command
     int id = 0;
     /// In the toolkit's portable form; the caption shows the first one in the words of its language.
     QStringList shortcuts = {};
-    /// The icon's name in desktop themes; empty for none.
+    /// The file name of the icon without its suffix; empty for none.
     QString icon = {};
     EnabledRule enabled = EnabledRule::Always;
     CommandKind kind = CommandKind::Plain;

@@ -33,6 +33,7 @@ LanguageEntry MakeEntry(const CStringTable &module, const CTexts &texts, const Q
         .abbreviation = module.Text(Text::LanguageAbbreviation),
         .caption = get(Text::LanguageTitle),
         .question = get(Text::LanguageQuestion),
+        .list = get(Text::LanguageList),
         .confirmation = get(Text::LanguageChosen),
         .cancel = get(Text::Cancel),
         .ok = get(Text::Ok),

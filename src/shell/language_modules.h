@@ -20,6 +20,7 @@ struct LanguageEntry
     QString abbreviation = {};
     QString caption = {};
     QString question = {};
+    QString list = {};
     QString confirmation = {};
     QString cancel = {};
     QString ok = {};

@@ -5,12 +5,18 @@
 #include "platform/file_name.h"
 #include "resources/texts.h"
 #include "settings/app_settings.h"
-#include "shell/language_modules.h"
+#include "shell/language_choice.h"
 
-MiscSettings LoadLanguageSettings(const ISettingsStore &store, const QString &root)
+MiscSettings LoadLanguageSettings(const ISettingsStore &store, const QString &root, const CTexts &texts,
+    const QStringList &folders, const QLocale &locale)
 {
     const QString section = root + QStringLiteral("\\misc");
     MiscSettings settings;
+    if (!store.Read(section, QStringLiteral("autoOpen"))) {
+        const CLanguageChoice choice(FindLanguages(texts, folders), {}, true, LanguageAbbreviation(locale));
+        settings.languageFile = choice.Entries().at(choice.Selected()).path;
+        return settings;
+    }
     settings.languageFile = store.Read(section, QStringLiteral("languageFile")).value_or(QString());
     bool isNumber = false;
     const int use = store.Read(section, QStringLiteral("plugInUse")).value_or(QString()).toInt(&isNumber);

@@ -9,6 +9,7 @@ class CAppSettings;
 class CRecentFiles;
 class CTexts;
 class ISettingsStore;
+class QLocale;
 struct MiscSettings;
 
 /// What happens at the start before there is a window: settings and language, and which file is opened.
@@ -33,8 +34,10 @@ private:
     QString m_modulePath;
 };
 
-/// The language settings alone, without storing anything: for runs that only answer the command line.
-MiscSettings LoadLanguageSettings(const ISettingsStore &store, const QString &root);
+/// The language settings alone, without storing anything: for runs that only answer the command line. Before a
+/// language was chosen they name that of `locale`, if a module for it is in the `folders`.
+MiscSettings LoadLanguageSettings(const ISettingsStore &store, const QString &root, const CTexts &texts,
+    const QStringList &folders, const QLocale &locale);
 /// Lets `texts` speak the language that the settings name. Returns the module's file, empty when it is the
 /// program's own language or the module can't be used.
 QString LoadLanguage(const MiscSettings &settings, CTexts &texts);

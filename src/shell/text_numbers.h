@@ -33,6 +33,7 @@ inline constexpr int CopiedToClipboard = 70036;
 inline constexpr int CopyFailed = 70054;
 inline constexpr int SettingsNotSaved = 70055;
 inline constexpr int QuizToolBar = 70060;
+inline constexpr int AboutMaker = 70062;
 inline constexpr int Usage = 70152;
 inline constexpr int UnknownSwitch = 70153;
 inline constexpr int OneFileOnly = 70154;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/file_commands.h"
 #include "document/file_filters.h"
+#include "document/file_watch.h"
 #include "document/pending_work.h"
 #include "document/recent_files.h"
 #include "document/text_numbers.h"
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void unsavedChanges();
     void pendingWork();
     void savingWithAndWithoutAName();
+    void changesOutside();
     void openingByDialog();
     void recentFiles();
     void namesThatAreNoText();
@@ -134,6 +136,66 @@ void FileCommandsTest::savingWithAndWithoutAName()
     QCOMPARE(test.document.Path(), path);
 }
 
+void FileCommandsTest::changesOutside()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("x.gls"));
+    const auto writeOutside = [&](const char *term) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray("Ordelin 2.0\n\n\nA\nB\n1\n\n0\n") + term + "\nx\n");
+    };
+    TestDocument test(QStringList{QStringLiteral("a|b")});
+    CScriptedChooser chooser;
+    CMemoryStore store;
+    CRecentFiles recent(store, QStringLiteral("root"));
+    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
+    CFileWatch watch(test.document, files, test.texts, test.prompt);
+    QString notice;
+    QObject::connect(&watch, &CFileWatch::NoticeChanged, [&](const QString &told) { notice = told; });
+    watch.Look(); // Without a file.
+    QVERIFY(files.DoSave(path, true));
+    watch.Look();
+    QVERIFY(test.prompt.numbers.isEmpty() && notice.isEmpty());
+
+    // While nothing is unsaved it is asked once for each change; a notice stays.
+    writeOutside("one");
+    test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
+    watch.Look();
+    watch.Look();
+    QCOMPARE(test.prompt.numbers, QList<int>{Text::ReadAgain});
+    QVERIFY(notice.contains(path));
+    writeOutside("eleven");
+    watch.Look();
+    QCOMPARE(Describe(test.document.List()), QStringList{QStringLiteral("eleven|x")});
+    QVERIFY(notice.isEmpty());
+
+    // Unsaved changes are only told of what stands against them, until they are saved.
+    test.document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("c|d"))); });
+    writeOutside("five");
+    watch.Look();
+    QCOMPARE(test.prompt.numbers.size(), 2);
+    QVERIFY(!notice.isEmpty());
+    const QString other = folder.filePath(QStringLiteral("other.gls"));
+    chooser.paths = {QString(), other};
+    test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::No, PromptAnswer::No, PromptAnswer::Yes};
+    QVERIFY(!files.Save());
+    QVERIFY(!files.Save()); // No name was chosen.
+    QVERIFY(test.document.IsModified() && !notice.isEmpty());
+    QVERIFY(files.Save());
+    QCOMPARE(test.document.Path(), other);
+    QVERIFY(notice.isEmpty());
+    QFile own(other);
+    QVERIFY(own.open(QIODevice::Append) && own.write("\n") == 1);
+    own.close();
+    QVERIFY(files.Save());
+    QCOMPARE(test.prompt.numbers.mid(2), QList<int>(4, Text::OverwriteForeignChange));
+    QVERIFY(QFile::remove(other));
+    watch.Look();
+    QVERIFY(notice.contains(other));
+    QVERIFY(files.Save() && notice.isEmpty());
+}
+
 void FileCommandsTest::openingByDialog()
 {
     const QTemporaryDir folder;
@@ -166,6 +228,7 @@ void FileCommandsTest::recentFiles()
         QVERIFY(files.SaveAs());
     }
     QCOMPARE(recent.Paths(), QStringList({path(5), path(4), path(3), path(2)}));
+    QCOMPARE(recent.Names().first(), QStringLiteral("5.gls"));
     QVERIFY(files.OpenRecent(path(3)));
     QCOMPARE(recent.Paths(), QStringList({path(3), path(5), path(4), path(2)}));
     QVERIFY(QFile::remove(path(5)));
@@ -177,6 +240,13 @@ void FileCommandsTest::recentFiles()
     QVERIFY(QFile::remove(path(2)) && QDir().mkpath(path(2))); // Is there, but can't be read.
     QVERIFY(!files.OpenRecent(path(2)));
     QCOMPARE(CRecentFiles(store, QStringLiteral("root")).Paths(), QStringList({path(3), path(4)}));
+
+    for (const char *same : {"/a/x/l.gls", "/b/x/l.gls", "/l.gls", "/x/m.gls"}) {
+        recent.Add(QString::fromLatin1(same));
+    }
+    QCOMPARE(recent.Names(),
+        QStringList({QStringLiteral("m.gls"), QStringLiteral("l.gls (/)"), QStringLiteral("l.gls (b/x)"),
+            QStringLiteral("l.gls (a/x)")}));
 }
 
 void FileCommandsTest::namesThatAreNoText()

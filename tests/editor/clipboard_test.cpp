@@ -136,16 +136,26 @@ void ClipboardTest::formatsOfData()
     QCOMPARE(data->data(Unicode).toHex(' '),
         QByteArray(
             "31 00 0d 00 0a 00 e9 00 0d 00 0a 00 30 00 0d 00 0a 00 b1 03 0d 00 0a 00 ac 20 0d 00 0a 00"));
-    QCOMPARE(ClipboardDataOf(list, All(list), 0)->formats().size(), 4); // One column has no records.
+    // By the older names, with a zero at the end.
+    const QString unicodeName = QStringLiteral("Ornbury Workshops Ordelin 2.3 Unicode");
+    const QString eightBitName = QStringLiteral("Ornbury Workshops Ordelin 2.3");
+    QCOMPARE(data->data(unicodeName), data->data(Unicode) + QByteArray(2, '\0'));
+    QCOMPARE(data->data(eightBitName), data->data(EightBit) + '\0');
+    QCOMPARE(data->data(QStringLiteral("Rich Text Format")), data->data(QStringLiteral("text/rtf")) + '\0');
+    QCOMPARE(ClipboardDataOf(list, All(list), 0)->formats().size(), 5); // One column has no records.
 
     // The best form is read first, and alone.
     QVERIFY(MayHoldEntries(*data));
     QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|α|€|1"));
     data->removeFormat(Unicode);
+    QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|α|€|1"));
+    data->removeFormat(unicodeName);
     QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|?|€|1"));
     data->setData(EightBit, "cut off");
     QCOMPARE(InOneLine(EntriesFromData(*data)), QString());
     data->removeFormat(EightBit);
+    QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|?|€|1"));
+    data->removeFormat(eightBitName);
     QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|α|€"));
     data->removeFormat(QStringLiteral("text/plain"));
     QCOMPARE(InOneLine(EntriesFromData(*data)), QString::fromUtf8("é|?|€"));

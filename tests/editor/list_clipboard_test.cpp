@@ -56,6 +56,7 @@ void ListClipboardTest::copyAndPaste()
     QCOMPARE(run.Entries(), List("a|1|x|1 b|2||2 c|3 a|1|x|1 b|2||2 d|4 d|4"));
     QCOMPARE(run.view.InsertionPoint(), 6);
     QCOMPARE(run.view.selected, (std::vector{3, 4, 5}));
+    QCOMPARE(run.view.shown, 5);
     QCOMPARE(run.view.status, QStringLiteral("3 glosor klistrades in."));
     QVERIFY(run.test.prompt.numbers.isEmpty()); // Nobody asks about similar entries.
     QVERIFY(run.test.document.IsModified());

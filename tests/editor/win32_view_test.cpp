@@ -101,6 +101,7 @@ class Win32ViewTest : public QObject
 private Q_SLOTS:
     void typingAListByKeys();
     void endingAnEdit();
+    void takingBackWhatIsTyped();
     void tabGoesOn();
     void endingWithoutQuestions();
     void undoWhileACellIsEdited();
@@ -159,6 +160,37 @@ void Win32ViewTest::endingAnEdit()
     QApplication::sendEvent(run.List()->viewport(), &wheel);
     QCOMPARE(run.Entries().at(1), QStringLiteral("x|y"));
     QVERIFY(!run.List()->IsEditing());
+}
+
+void Win32ViewTest::takingBackWhatIsTyped()
+{
+    View run;
+    const auto typed = [&] { return run.List()->model()->index(0, 1).data(Qt::EditRole).toString(); };
+    const auto type = [&] {
+        run.List()->SetCursor(0, 0);
+        run.Type(QStringLiteral("hund\n"));
+        QTest::keyClick(run.Editor(), Qt::Key_Escape); // Of the other language, which holds nothing.
+        QCOMPARE(typed(), QStringLiteral("hund"));
+        run.List()->SetCursor(0, 0);
+    };
+    const auto empty = [&] {
+        QTest::keyClick(run.List(), Qt::Key_Return);
+        QTest::keyClick(run.Editor(), Qt::Key_Delete);
+    };
+    type();
+    QVERIFY(run.view.IsOnPendingText());
+    run.view.DeleteSelection();
+    QCOMPARE(typed(), QString());
+    QVERIFY(!run.view.IsOnPendingText());
+    type();
+    empty();
+    QTest::keyClick(run.Editor(), Qt::Key_Escape);
+    QCOMPARE(typed(), QString());
+    type();
+    empty();
+    QTest::keyClick(run.Editor(), Qt::Key_Return);
+    QCOMPARE(typed(), QString());
+    QVERIFY(!run.view.PendingWork().HasRest());
 }
 
 void Win32ViewTest::tabGoesOn()

@@ -118,13 +118,13 @@ void LabelTest::toolTipsReadNoFile()
 void LabelTest::endlessLines()
 {
     CElidedLabel line;
-    line.setText(QString(1000000, u'x'));
+    line.ShowText(QString(1000000, u'x'));
     line.show();
     AskForToolTip(line);
     QVERIFY(ShownToolTip() != nullptr);
     QCOMPARE(ShownToolTip()->text().size(), 1000);
     QCOMPARE(line.minimumSizeHint().width(), 0);
-    line.setText(QStringLiteral("x"));
+    line.ShowText(QStringLiteral("x"));
     QToolTip::hideText();
     delete ShownToolTip();
     line.resize(200, 30);

@@ -71,6 +71,7 @@ void CommandsTest::enabledRules()
     const auto none = enabled({});
     const auto quiz = [](QuizKind kind) { return quizKindRow(kind).command; };
     QVERIFY(!none.contains(quiz(QuizKind::Standard)) && !none.contains(Copy) && !none.contains(Delete));
+    QVERIFY(!none.contains(SelectAll) && enabled({.onPendingText = true}).contains(Delete));
     QVERIFY(none.contains(Find) && none.contains(Descending) && none.contains(Next));
     const auto three = enabled({.entries = 3, .selectedEntries = 1, .selectedRows = 1, .cursorColumn = 2});
     QVERIFY(three.contains(quiz(QuizKind::PairMatching)) && !three.contains(quiz(QuizKind::Alternatives)));
@@ -78,7 +79,8 @@ void CommandsTest::enabledRules()
     QVERIFY(!three.contains(SetFlag) && !three.contains(InsertComment));
     QVERIFY(enabled({.entries = 1, .selectedEntries = 1, .cursorColumn = 1}).contains(InvertFlag));
     const auto box = enabled({.entries = 3, .selectedEntries = 1, .inEditBox = true});
-    QVERIFY(box.contains(InsertSynonym) && !box.contains(Cut) && !box.contains(Delete));
+    QVERIFY(
+        box.contains(InsertSynonym) && box.contains(SelectAll) && !box.contains(Cut) && !box.contains(Delete));
     QVERIFY(enabled({.inEditBox = true, .textSelected = true}).contains(Cut));
 }
 

@@ -339,11 +339,12 @@ void MainFrameTest::droppedFiles()
     const QString path = folder.filePath(QStringLiteral("a.gls"));
     QVERIFY(QFile::copy(QStringLiteral(ORDELIN_SOURCE_DIR "/samples/vardagsord.gls"), path));
     run.frame.show();
-    const auto drop = [&](const QList<QUrl> &urls) {
+    // Over the list and over a field, where files are dropped in fact.
+    QWidget *const rows = run.frame.findChild<QTableView *>(QStringLiteral("wordList"))->viewport();
+    QWidget *const field = run.frame.findChild<QLineEdit *>(QStringLiteral("field0"));
+    const auto drop = [&](const QList<QUrl> &urls, QWidget *target) {
         QMimeData data;
         data.setUrls(urls);
-        // Over the list, where files are dropped in fact.
-        auto *const target = run.frame.findChild<QTableView *>(QStringLiteral("wordList"))->viewport();
         QDragEnterEvent enter({9, 9}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(target, &enter);
         if (enter.isAccepted()) {
@@ -353,16 +354,18 @@ void MainFrameTest::droppedFiles()
         }
         return enter.isAccepted();
     };
-    QVERIFY(!drop({QUrl(QStringLiteral("https://a.example/b.gls"))}));
-    QVERIFY(drop({QUrl::fromLocalFile(path), QUrl::fromLocalFile(path)}));
+    QVERIFY(drop({QUrl(QStringLiteral("https://a.example/b.gls"))}, rows));
+    QCOMPARE(run.test.prompt.numbers, QList<int>{Text::OnlyFiles});
+    run.test.prompt.numbers.clear();
+    QVERIFY(drop({QUrl::fromLocalFile(path), QUrl::fromLocalFile(path)}, rows));
     QCOMPARE(run.test.prompt.numbers, QList<int>{Text::OneFileAtATime});
     QCOMPARE(run.test.document.Path(), QString());
 
     run.test.document.Change([&](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("a|b"))); });
     run.test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::No};
-    QVERIFY(drop({QUrl::fromLocalFile(path)}));
+    QVERIFY(drop({QUrl::fromLocalFile(path)}, rows));
     QCOMPARE(run.test.document.Path(), QString());
-    QVERIFY(drop({QUrl::fromLocalFile(path)}));
+    QVERIFY(drop({QUrl::fromLocalFile(path)}, field));
     QCOMPARE(run.test.document.Path(), path);
 }
 

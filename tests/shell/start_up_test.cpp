@@ -92,6 +92,15 @@ void StartUpTest::firstRunWithModule()
 {
     const QString module = WriteFile(Path("en.ordmod"), English);
     CMemoryStore store;
+    // Who asks on the command line before any language was chosen is answered in that of the locale.
+    const CTexts texts;
+    const auto answersIn = [&](const char *locale) {
+        return LoadLanguageSettings(
+            store, CAppSettings::RootPath(), texts, {m_folder->path()}, QLocale(QString::fromLatin1(locale)))
+            .languageFile;
+    };
+    QCOMPARE(answersIn("en_GB"), module);
+    QCOMPARE(answersIn("sv_SE"), QString());
     Start first(store, module);
     QCOMPARE(first.startUp.ModulePath(), module);
     QCOMPARE(first.texts.Get(63506), QStringLiteral("Choose"));
@@ -103,6 +112,7 @@ void StartUpTest::firstRunWithModule()
     const Start second(store);
     QCOMPARE(second.texts.Get(63506), QStringLiteral("Choose"));
     QCOMPARE(second.settings.editor.language1, QStringLiteral("Latin"));
+    QCOMPARE(answersIn("sv_SE"), module);
 }
 
 void StartUpTest::unusableModules_data()

@@ -23,6 +23,6 @@ struct CellColours
     QColor text;
 };
 
-/// The colours of a cell of the word list. The cell of the cursor differs from the others of a selected row,
-/// and its text can be read on light and on dark palettes.
+/// The colours of a cell of the word list. The cell of the cursor differs from the others of a selected row, a
+/// selected row from others also without the keyboard, and all text can be read on light and dark palettes.
 CellColours CellColoursFor(const QPalette &palette, const CellState &state);

@@ -3,21 +3,29 @@
 
 #include "editor/text_numbers.h"
 #include "platform/plain_text.h"
-#include "platform/ui/label.h"
+#include "platform/ui/drawn_icon.h"
+#include "platform/ui/elided_label.h"
 #include "platform/ui/long_line_edit.h"
 #include "resources/texts.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QShortcutEvent>
+
+namespace {
+
+/// A language's name may be long; the field beside it needs room as well.
+constexpr int MostLabelCharacters = 30;
+
+}
 
 CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(parent), m_texts(texts)
 {
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     for (size_t i = 0; i < m_fields.size(); ++i) {
-        m_labels[i] = MakeLabel({}, this);
+        m_labels[i] = new CElidedLabel(this);
+        m_labels[i]->AskForRoom(MostLabelCharacters);
         m_fields[i] = new CLongLineEdit(texts.Get(Text::LongText), this);
         m_fields[i]->setObjectName(QStringLiteral("field%1").arg(i));
         m_labels[i]->setBuddy(m_fields[i]);
@@ -31,6 +39,9 @@ CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(paren
     layout->addWidget(newEntry, 0, 2);
     layout->addWidget(m_addOrChange, 1, 2);
     layout->setColumnStretch(1, 1);
+    // The keys go on from the note to what is done with it.
+    setTabOrder(m_fields.back(), m_addOrChange);
+    setTabOrder(m_addOrChange, newEntry);
     connect(newEntry, &QPushButton::clicked, this, &CEntryFields::NewEntry);
     connect(m_addOrChange, &QPushButton::clicked, this, &CEntryFields::AddOrChange);
     // Wide enough for both of its texts.
@@ -63,7 +74,7 @@ void CEntryFields::SetLanguages(const QString &language1, const QString &languag
     const std::array names = {language1, language2};
     for (size_t i = 0; i < m_fields.size(); ++i) {
         const QString name = i < names.size() ? ShownInCaption(names[i]) : QString();
-        m_labels[i]->setText(m_texts.Fill(Text::FieldLanguage1 + int(i), {name}));
+        m_labels[i]->ShowText(m_texts.Fill(Text::FieldLanguage1 + int(i), {name}));
         m_fields[i]->setAccessibleName(i < names.size() ? names[i] : m_texts.Get(Text::Note));
     }
 }
@@ -85,8 +96,8 @@ void CEntryFields::SetChangeMode(bool change)
 {
     m_changeMode = change;
     m_addOrChange->setText(m_texts.Get(change ? Text::ChangeEntryButton : Text::AddEntryButton));
-    m_addOrChange->setIcon(
-        QIcon(change ? QStringLiteral(":/icons/document-edit.svg") : QStringLiteral(":/pictures/new-row.svg")));
+    m_addOrChange->setIcon(DrawnIcon(
+        change ? QStringLiteral(":/icons/document-edit.svg") : QStringLiteral(":/pictures/new-row.svg")));
 }
 
 void CEntryFields::FocusField(int field)

@@ -7,9 +7,9 @@
 
 #include <array>
 
+class CElidedLabel;
 class CLongLineEdit;
 class CTexts;
-class QLabel;
 class QPushButton;
 
 /// The three fields below the list in which an entry is typed or changed, with their buttons.
@@ -44,7 +44,7 @@ private:
     QPushButton *MakeButton(int text, const char *name);
 
     const CTexts &m_texts;
-    std::array<QLabel *, CWordEntry::FieldCount> m_labels;
+    std::array<CElidedLabel *, CWordEntry::FieldCount> m_labels;
     std::array<CLongLineEdit *, CWordEntry::FieldCount> m_fields;
     QPushButton *m_addOrChange;
     bool m_changeMode = false;

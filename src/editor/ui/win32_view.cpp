@@ -13,12 +13,13 @@
 #include "settings/settings.h"
 #include "settings/settings_changes.h"
 
+#include <QAccessible>
 #include <QGridLayout>
 #include <QMimeData>
 
 namespace {
 
-CElidedLabel *MakeLabel(QWidget *parent, const char *name)
+CElidedLabel *MakeLine(QWidget *parent, const char *name)
 {
     auto *label = new CElidedLabel(parent);
     label->setObjectName(QLatin1StringView(name));
@@ -41,7 +42,8 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
     : QWidget(parent), m_services(services), m_summary(services.document, services.texts),
       m_model(new CWordListModel(services.document, services.settings.editor, services.texts, this)),
       m_list(new CWordListControl(this)), m_fields(new CEntryFields(services.texts, this)),
-      m_author(MakeLabel(this, "author")), m_comments(MakeLabel(this, "comments")),
+      m_notice(MakeLine(this, "notice")), m_author(MakeLine(this, "author")),
+      m_comments(MakeLine(this, "comments")),
       m_editing({services.document, m_model->Rows(), services.settings.editor, services.settings.arrange,
                     services.texts, services.prompt},
           *this),
@@ -54,11 +56,13 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
     m_fields->setVisible(services.settings.editor.showEditFields);
 
     auto *layout = new QGridLayout(this);
-    layout->addWidget(m_author, 0, 0);
-    layout->addWidget(m_comments, 0, 1);
-    layout->addWidget(m_list, 1, 0, 1, 2);
-    layout->addWidget(m_fields, 2, 0, 1, 2);
-    layout->setRowStretch(1, 1);
+    m_notice->hide();
+    layout->addWidget(m_notice, 0, 0, 1, 2);
+    layout->addWidget(m_author, 1, 0);
+    layout->addWidget(m_comments, 1, 1);
+    layout->addWidget(m_list, 2, 0, 1, 2);
+    layout->addWidget(m_fields, 3, 0, 1, 2);
+    layout->setRowStretch(2, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
     setFocusProxy(m_list);
@@ -89,6 +93,11 @@ void CWin32View::ConnectList()
     connect(m_list, &CWordListControl::CursorMoved, this, &CWin32View::SelectionChanged);
     connect(m_list, &CWordListControl::Typed, this, &CWin32View::TypedChanged);
     connect(m_list, &CWordListControl::CellEdited, this, &CWin32View::CellEdited);
+    connect(m_list, &CWordListControl::LeftEmpty, this, [this](int row, int field) {
+        if (m_model->Rows().IsNewEntryRow(row)) {
+            m_editing.ClearPending(field);
+        }
+    });
     connect(m_list, &CWordListControl::FlagClicked, this, &CWin32View::FlagClicked);
     connect(m_list, &CWordListControl::FlagKeyPressed, this, &CWin32View::InvertFlagsRequested);
     connect(m_list, &CWordListControl::CellDoubleClicked, this, &CWin32View::CellDoubleClicked);
@@ -161,8 +170,8 @@ void CWin32View::RefreshAll()
 void CWin32View::ShowProperties()
 {
     const CWordList &list = m_services.document.List();
-    m_author->setText(m_services.texts.Fill(Text::ViewAuthor, {list.GetAuthor()}));
-    m_comments->setText(m_services.texts.Fill(Text::ViewComments, {list.GetComments()}));
+    m_author->ShowText(m_services.texts.Fill(Text::ViewAuthor, {list.GetAuthor()}));
+    m_comments->ShowText(m_services.texts.Fill(Text::ViewComments, {list.GetComments()}));
     m_fields->SetLanguages(list.GetLanguage(0), list.GetLanguage(1));
 }
 
@@ -192,6 +201,16 @@ void CWin32View::PlaceCursor(int row, int field)
     const int wanted = row < 0 ? int(!m_services.settings.editor.lang1first) : std::max(field, 0);
     m_list->SetCursor(row < 0 ? m_model->Rows().InsertionPoint() : std::min(row, m_model->rowCount() - 1),
         std::min(wanted, LastField()));
+}
+
+void CWin32View::ShowNotice(const QString &notice)
+{
+    m_notice->ShowText(notice);
+    m_notice->setVisible(!notice.isEmpty());
+    if (!notice.isEmpty()) {
+        QAccessibleEvent event(m_notice, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void CWin32View::UpdateStatusText(const QString &text)

@@ -69,6 +69,8 @@ public:
 
     void SetInsertionPoint(int row) override;
     int InsertionPoint() const override;
+    /// A line above the list that stays until it is emptied.
+    void ShowNotice(const QString &notice);
     /// The heading of the field has an arrow; -1 for none.
     void ShowOrder(int field, bool ascending);
 
@@ -87,6 +89,9 @@ public:
     void KeepChangedFields();
     IPendingWork &PendingWork() { return m_pending; }
 
+    /// Whether the cell cursor stands on a text of the new-entry row, and no entry is selected.
+    bool IsOnPendingText() const;
+    /// Takes such a text back; else asks before it deletes the selected entries.
     void DeleteSelection() override;
 
 Q_SIGNALS:
@@ -150,6 +155,7 @@ private:
     CWordListModel *m_model;
     CWordListControl *m_list;
     CEntryFields *m_fields;
+    CElidedLabel *m_notice;
     CElidedLabel *m_author;
     CElidedLabel *m_comments;
     CEntryEditing m_editing;

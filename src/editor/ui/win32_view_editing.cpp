@@ -184,8 +184,18 @@ void CWin32View::Stored(const EditStep &step)
     UpdateStatusText();
 }
 
+bool CWin32View::IsOnPendingText() const
+{
+    return m_list->CursorRow() == InsertionPoint() && SelectedEntryCount() == 0 && CursorField() >= 0
+        && !m_model->Rows().pending[size_t(CursorField())].isEmpty();
+}
+
 void CWin32View::DeleteSelection()
 {
+    if (IsOnPendingText()) {
+        m_editing.ClearPending(CursorField());
+        return;
+    }
     const std::vector<int> entries = SelectedEntries();
     const bool hadKeyboard = m_list->hasFocus();
     const int row = m_list->CursorRow();

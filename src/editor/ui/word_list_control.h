@@ -104,6 +104,8 @@ public:
 
 Q_SIGNALS:
     void CellEdited(const CellEdit &edit);
+    /// The edit of a cell was cancelled when it held no text.
+    void LeftEmpty(int row, int field);
     /// The text of the cell that is being edited is another.
     void Typed();
     void FlagClicked(const QPersistentModelIndex &cell);

@@ -183,9 +183,14 @@ bool CWordListDelegate::eventFilter(QObject *watched, QEvent *event)
             EndEditing(true, key == Qt::Key_Enter ? int(Qt::Key_Return) : key);
             m_list.EndEditing(true);
             return true;
-        case Qt::Key_Escape:
+        case Qt::Key_Escape: {
+            const std::optional<OpenEdit> left = Edited();
             EndEditing(false);
+            if (left && left->text.isEmpty()) {
+                Q_EMIT m_list.LeftEmpty(left->row, left->field);
+            }
             return true;
+        }
         default:
             return false;
         }

@@ -4,6 +4,7 @@
 #include "platform/plain_text.h"
 
 #include <QClipboard>
+#include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 
@@ -42,6 +43,16 @@ void CLongLineEdit::Paste()
     const QString rest = IsAllSelected() ? QString() : m_rest;
     SetWholeText(text().first(start) + pasted + text().sliced(end) + rest);
     Q_EMIT textEdited(text());
+}
+
+void CLongLineEdit::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::ranges::any_of(urls, &QUrl::isLocalFile)) {
+        event->ignore();
+    } else {
+        QLineEdit::dragEnterEvent(event);
+    }
 }
 
 void CLongLineEdit::keyPressEvent(QKeyEvent *event)

@@ -23,6 +23,8 @@ public:
     void Paste();
 
 protected:
+    /// Files are for the window.
+    void dragEnterEvent(QDragEnterEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
 

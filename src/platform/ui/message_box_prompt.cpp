@@ -153,6 +153,8 @@ int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons b
     CPromptBox box(text.text, icon, buttons, OwnerWindow());
     box.setObjectName(QStringLiteral("prompt%1").arg(text.number));
     box.setTextFormat(Qt::PlainText);
+    // A window manager would offer to minimise it as well.
+    box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     box.setDefaultButton(defaultButton);
     box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     IgnoreHeldEnter(box);

@@ -56,7 +56,7 @@ void CAcceptAnswerBar::showOffer(const AcceptOffer &offer)
     m_button->setAccessibleName(CaptionReadOut(m_caption));
     showCaption();
     m_button->setEnabled(offer.kind != AcceptOffer::Kind::Nothing);
-    m_line->setText(acceptedLine(offer, keyName(), m_texts));
+    m_line->ShowText(acceptedLine(offer, keyName(), m_texts));
 }
 
 void CAcceptAnswerBar::showCaption()

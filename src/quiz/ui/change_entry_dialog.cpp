@@ -107,7 +107,7 @@ void CChangeEntryDialog::change()
 {
     if (m_entries.change(m_entry, typed())) {
         showEntry(m_entry);
-        m_stored->setText(m_entries.storedLine(m_entry));
+        m_stored->ShowText(m_entries.storedLine(m_entry));
     } else {
         (m_term1->text().trimmed().isEmpty() ? m_term1 : m_term2)->setFocus();
     }

@@ -19,7 +19,7 @@ CAboutDialog::CAboutDialog(const CTexts &texts, QWidget *parent) : QDialog(paren
     picture->setPixmap(QApplication::windowIcon().pixmap(64));
     picture->setAccessibleName(texts.Get(Text::ApplicationTitle));
     auto *layout = new QGridLayout(this);
-    layout->addWidget(picture, 0, 0, 3, 1, Qt::AlignTop);
+    layout->addWidget(picture, 0, 0, 4, 1, Qt::AlignTop);
     layout->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
     layout->setVerticalSpacing(fontMetrics().lineSpacing() / 2);
 
@@ -36,9 +36,12 @@ CAboutDialog::CAboutDialog(const CTexts &texts, QWidget *parent) : QDialog(paren
     name->setFont(large);
     addText(1, texts.Get(Text::AboutPurpose), "purpose");
     addText(2, texts.Get(Text::AboutLicence), "licence");
+    addText(3,
+        texts.Fill(Text::AboutMaker, {QApplication::organizationName(), QString::fromLatin1(qVersion())}),
+        "maker");
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     buttons->setObjectName(QStringLiteral("buttons"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    layout->addWidget(buttons, 3, 0, 1, 2);
+    layout->addWidget(buttons, 4, 0, 1, 2);
 }

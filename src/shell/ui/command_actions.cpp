@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/command_actions.h"
 
+#include "platform/ui/drawn_icon.h"
 #include "resources/texts.h"
 #include "shell/commands.h"
 #include "shell/text_numbers.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QIcon>
-
-#include <utility>
 
 namespace {
-
-/// The desktop's icon of that name, else the program's own. Without a theme of the desktop's own there is only
-/// the one that holds programs' icons, which is not worth the time of looking through it at every start.
-QIcon CommandIcon(const QString &name)
-{
-    if (name.isEmpty()) {
-        return {};
-    }
-    const QIcon own(QStringLiteral(":/icons/%1.svg").arg(name));
-    const QString theme = QIcon::themeName();
-    return theme.isEmpty() || theme == QStringLiteral("hicolor") ? own : QIcon::fromTheme(name, own);
-}
 
 /// With the shortcut in the words of the caption.
 QString ToolTip(const QString &name, const QString &caption)
@@ -40,8 +26,9 @@ CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject
     auto *radio = new QActionGroup(this);
     for (const Command &command : CommandTable()) {
         auto *action = new QAction(texts.Get(Text::Caption(command.id)), this);
-        if (StandardToolBarCommands().contains(command.id)) {
-            action->setIcon(CommandIcon(command.icon));
+        // Of one family, also where the desktop has some of them.
+        if (!command.icon.isEmpty()) {
+            action->setIcon(DrawnIcon(QStringLiteral(":/icons/%1.svg").arg(command.icon)));
         }
         action->setObjectName(QStringLiteral("command%1").arg(command.id));
         QList<QKeySequence> shortcuts;
@@ -61,18 +48,6 @@ CCommandActions::CCommandActions(const CTexts &texts, QObject *parent) : QObject
         }
         action->setEnabled(false);
         m_actions.insert(command.id, action);
-    }
-}
-
-void CCommandActions::LoadIcons()
-{
-    if (std::exchange(m_iconsLoaded, true)) {
-        return;
-    }
-    for (const Command &command : CommandTable()) {
-        if (!command.icon.isEmpty() && Action(command.id)->icon().isNull()) {
-            Action(command.id)->setIcon(CommandIcon(command.icon));
-        }
     }
 }
 

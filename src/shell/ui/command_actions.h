@@ -22,8 +22,6 @@ public:
     CCommandActions(const CTexts &texts, QObject *parent);
 
     QAction *Action(int id) const { return m_actions.value(id); }
-    /// Loads the icons that are not in sight at the start, before a menu or a bar shows them.
-    void LoadIcons();
     /// `prepare` is called with a command right before its handler.
     void SetPreparation(std::function<void(const Command &command)> prepare) { m_prepare = std::move(prepare); }
     /// Who owns a command sets its handler and, where it has a mark, what is asked for it.
@@ -47,7 +45,6 @@ private:
     QSet<int> m_handled;
     QHash<int, std::function<bool()>> m_checks;
     std::function<void(const Command &command)> m_prepare = [](const Command & /*command*/) {};
-    bool m_iconsLoaded = false;
     QString m_language1;
     QString m_language2;
 };

@@ -27,6 +27,7 @@ CEditCommands::CEditCommands(CCommandActions &actions, CWin32View &view, CWin32D
     ConnectText();
     ConnectList();
     connect(&view, &CWin32View::SelectionChanged, this, &CEditCommands::StateChanged);
+    connect(&view, &CWin32View::TypedChanged, this, &CEditCommands::StateChanged);
     connect(qApp, &QApplication::focusChanged, this,
         [this](QWidget * /*old*/, QWidget *focus) { FocusChanged(focus); });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &CEditCommands::ClipboardChanged);
@@ -48,6 +49,7 @@ CommandState CEditCommands::State() const
         .selectedEntries = m_view.SelectedEntryCount(),
         .selectedRows = m_view.SelectedRowCount(),
         .cursorColumn = m_view.CursorField(),
+        .onPendingText = m_view.IsOnPendingText(),
         .inEditBox = box != nullptr,
         .textSelected = box != nullptr && m_selected.second > 0,
         .canPaste = m_canPaste,

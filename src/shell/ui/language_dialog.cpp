@@ -46,14 +46,13 @@ QLabel *MakeLine(QWidget *parent, const char *name)
 
 }
 
-CLanguageDialog::CLanguageDialog(CLanguageChoice &choice, const QString &listName, QWidget *parent)
+CLanguageDialog::CLanguageDialog(CLanguageChoice &choice, QWidget *parent)
     : QDialog(parent), m_choice(choice), m_question(MakeLine(this, "question")), m_list(new QListWidget(this)),
       m_confirmation(MakeLine(this, "confirmation")), m_ok(new QPushButton(this)),
       m_cancel(new QPushButton(this))
 {
     setWindowModality(Qt::WindowModal);
     m_list->setObjectName(QStringLiteral("languages"));
-    m_list->setAccessibleName(listName);
     m_list->setIconSize({PictureSize, PictureSize});
     m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -109,6 +108,7 @@ void CLanguageDialog::ShowChoice()
     const LanguageEntry &words = m_choice.Words();
     setWindowTitle(words.caption);
     m_question->setText(words.question);
+    m_list->setAccessibleName(words.list);
     m_confirmation->setText(m_choice.Confirmation());
     m_ok->setText(words.ok);
     m_cancel->setText(words.cancel);

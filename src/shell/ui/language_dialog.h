@@ -16,7 +16,7 @@ class CLanguageDialog : public QDialog
 
 public:
     /// `choice` is not owned. `listName` names the list to assistive technology.
-    CLanguageDialog(CLanguageChoice &choice, const QString &listName, QWidget *parent = nullptr);
+    explicit CLanguageDialog(CLanguageChoice &choice, QWidget *parent = nullptr);
 
 private:
     void FillList();

@@ -4,8 +4,8 @@
 #include "document/file_commands.h"
 #include "document/recent_files.h"
 #include "document/win32_doc.h"
+#include "editor/clipboard_data.h"
 #include "editor/ui/win32_view.h"
-#include "platform/file_name.h"
 #include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
 #include "quiz/ui/quiz_launch.h"
@@ -44,15 +44,11 @@
 
 namespace {
 
-QStringList LocalFiles(const QMimeData &data)
+/// Paths of files; of what is no file the address, which opening tells of.
+QStringList DroppedOn(const QMimeData &data)
 {
-    QStringList paths;
-    for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile()) {
-            paths.append(LocalFileOf(url));
-        }
-    }
-    return paths;
+    const QStringList files = FilesFromData(data);
+    return files.isEmpty() && data.hasUrls() ? QUrl::toStringList(data.urls()) : files;
 }
 
 }
@@ -63,6 +59,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
           {services.document, services.settings, services.settingsChanges, services.texts, services.prompt},
           this)),
       m_arranging(*m_view, services.document, services.settings.arrange, services.random),
+      m_fileWatch(services.document, services.files, services.texts, services.prompt),
       m_editCommands(
           new CEditCommands(*m_actions, *m_view, services.document, m_arranging, services.texts, this)),
       m_statusText(new CElidedLabel(this)),
@@ -92,7 +89,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
     m_statusText->setObjectName(QStringLiteral("statusText"));
     statusBar()->addWidget(m_statusText, 1);
 
-    connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::setText);
+    connect(m_view, &CWin32View::StatusTextChanged, m_statusText, &CElidedLabel::ShowText);
     connect(&services.document, &CWin32Doc::TitleChanged, this, &CMainFrame::ShowTitle);
     connect(&services.settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
         if (section == SettingsSection::Misc) {
@@ -108,6 +105,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
         m_editCommands, &CEditCommands::FilePasted, this,
         [this](const QString &path) { m_services.files.OpenFile(path); }, Qt::QueuedConnection);
     connect(m_view, &CWin32View::TypedChanged, this, &CMainFrame::TypedChanged);
+    connect(&m_fileWatch, &CFileWatch::NoticeChanged, m_view, &CWin32View::ShowNotice);
     services.files.SetPendingWork(&m_view->PendingWork());
     setAcceptDrops(true);
     m_view->setFocus();
@@ -163,7 +161,6 @@ void CMainFrame::MakeMenus()
     for (const CommandMenu &menu : CommandMenus()) {
         QMenu *const shown = AddNamedMenu(*menuBar(), texts.Get(menu.title));
         FillMenu(*shown, menu.commands, *m_actions, texts);
-        connect(shown, &QMenu::aboutToShow, m_actions, &CCommandActions::LoadIcons);
         const qsizetype samples = menu.commands.indexOf(Text::SamplesMenu);
         if (samples >= 0) {
             new CSamplesMenu(
@@ -180,7 +177,6 @@ void CMainFrame::MakeMenus()
     addToolBarBreak();
     auto *const quizBar = MakeToolBar(texts.Get(Text::QuizToolBar), "quizToolBar", QuizToolBarCommands());
     quizBar->hide();
-    connect(quizBar, &QToolBar::visibilityChanged, m_actions, &CCommandActions::LoadIcons);
     // The menus have commands for it.
     setContextMenuPolicy(Qt::NoContextMenu);
 }
@@ -251,7 +247,6 @@ void CMainFrame::ShowTitle()
 
 void CMainFrame::ShowMenu(const QList<int> &commands, const QPoint &place)
 {
-    m_actions->LoadIcons();
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     FillMenu(*menu, commands, *m_actions, m_services.texts);
@@ -320,7 +315,7 @@ void CMainFrame::closeEvent(QCloseEvent *event)
 
 void CMainFrame::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (QApplication::activeModalWidget() == nullptr && !LocalFiles(*event->mimeData()).isEmpty()) {
+    if (QApplication::activeModalWidget() == nullptr && !DroppedOn(*event->mimeData()).isEmpty()) {
         event->setDropAction(Qt::CopyAction); // The file stays where it is.
         event->accept();
     }
@@ -332,7 +327,7 @@ void CMainFrame::dropEvent(QDropEvent *event)
     event->accept();
     // From the event loop, so that the program that the files come from need not wait for an answer.
     QMetaObject::invokeMethod(
-        this, [this, paths = LocalFiles(*event->mimeData())] { OpenDropped(paths); }, Qt::QueuedConnection);
+        this, [this, paths = DroppedOn(*event->mimeData())] { OpenDropped(paths); }, Qt::QueuedConnection);
 }
 
 void CMainFrame::moveEvent(QMoveEvent *event)
@@ -352,5 +347,14 @@ void CMainFrame::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_services.specialCharacters.DockBeside(*this);
+        // From the event loop, when what brought the window to the front is done.
+        QMetaObject::invokeMethod(this, &CMainFrame::LookAtFile, Qt::QueuedConnection);
+    }
+}
+
+void CMainFrame::LookAtFile()
+{
+    if (isActiveWindow() && QApplication::activeModalWidget() == nullptr) {
+        m_fileWatch.Look();
     }
 }

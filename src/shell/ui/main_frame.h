@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/file_watch.h"
 #include "editor/arranging.h"
 #include "quiz/quiz_host.h"
 #include "settings/quiz_settings.h"
@@ -109,11 +110,13 @@ private:
     void ShowMenu(const QList<int> &commands, const QPoint &place);
     void OpenDropped(const QStringList &paths);
     void Moved();
+    void LookAtFile();
 
     FrameServices m_services;
     CCommandActions *m_actions;
     CWin32View *m_view;
     CArranging m_arranging;
+    CFileWatch m_fileWatch;
     CEditCommands *m_editCommands;
     CElidedLabel *m_statusText;
     CQuizLaunch *m_quizLaunch;

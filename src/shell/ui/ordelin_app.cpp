@@ -3,6 +3,7 @@
 
 #include "platform/data_folders.h"
 #include "platform/opener.h"
+#include "platform/ui/program_style.h"
 #include "shell/file_association.h"
 #include "shell/language_choice.h"
 #include "shell/text_numbers.h"
@@ -42,6 +43,7 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
       m_recovery(m_document, CRecovery::UserFolder(), RecoveryDelay)
 {
     Q_INIT_RESOURCE(pictures);
+    setStyle(new CProgramStyle);
     setOrganizationName(QStringLiteral("Ornbury Workshops"));
     setApplicationName(QStringLiteral("Ordelin"));
     setApplicationVersion(QStringLiteral(ORDELIN_VERSION));
@@ -138,7 +140,7 @@ void COrdelinApp::ChooseLanguage()
 {
     CLanguageChoice choice(FindLanguages(m_texts, m_dataFolders), m_startUp.ModulePath(), m_settings.isFirstRun,
         LanguageAbbreviation(QLocale::system()));
-    CLanguageDialog dialog(choice, m_texts.Get(Text::LanguageList), activeWindow());
+    CLanguageDialog dialog(choice, activeWindow());
     if (dialog.exec() == QDialog::Accepted) {
         choice.Accept(m_settings.misc, m_prompt);
     }

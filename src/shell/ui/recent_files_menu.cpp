@@ -8,7 +8,6 @@
 #include "shell/commands.h"
 #include "shell/text_numbers.h"
 
-#include <QFileInfo>
 #include <QMenu>
 
 CRecentFilesMenu::CRecentFilesMenu(
@@ -31,8 +30,9 @@ void CRecentFilesMenu::Fill()
 {
     qDeleteAll(m_actions);
     m_actions.clear();
+    const QStringList names = m_recent.Names();
     for (const QString &path : m_recent.Paths()) {
-        const QString name = Isolated(ShownInCaption(QFileInfo(path).fileName()));
+        const QString name = Isolated(ShownInCaption(names.at(m_actions.size())));
         QAction *const action = Add(QStringLiteral("&%1 %2").arg(m_actions.size() + 1).arg(name));
         action->setStatusTip(path);
         // From the event loop: opening fills this menu anew.

@@ -188,7 +188,7 @@ void CSpecialCharacterWindow::ChooseWaiting()
 
 void CSpecialCharacterWindow::ShowMessage(const QString &message)
 {
-    m_message->setText(message);
+    m_message->ShowText(message);
 }
 
 bool CSpecialCharacterWindow::Holds(const QObject *object) const
