@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/special_character_model.h"
 
+#include "platform/character_name.h"
 #include "platform/plain_text.h"
 #include "resources/texts.h"
 #include "shell/special_characters.h"
@@ -18,6 +19,17 @@ QString CodePoints(const QString &text)
         codes.append(QStringLiteral("U+%1").arg(quint32(character), 4, 16, QChar(u'0')).toUpper());
     }
     return codes.join(u' ');
+}
+
+/// The names of the characters of a text, as far as anybody would listen to them.
+QString CharacterNames(const QString &text)
+{
+    constexpr qsizetype MostNames = 4;
+    QStringList names;
+    for (const char32_t character : text.toUcs4().mid(0, MostNames)) {
+        names.append(CharacterName(character));
+    }
+    return names.join(QStringLiteral(", "));
 }
 
 }
@@ -111,8 +123,9 @@ QString CSpecialCharacterModel::Shown(int item) const
 QString CSpecialCharacterModel::Described(int item) const
 {
     const QString text = m_characters.Text(item);
-    return m_characters.IsRowForAdding(item) ? m_texts.Get(Text::AddOwnCharacter)
-                                             : m_texts.Fill(Text::CharacterWithCode, {text, CodePoints(text)});
+    return m_characters.IsRowForAdding(item)
+        ? m_texts.Get(Text::AddOwnCharacter)
+        : m_texts.Fill(Text::CharacterWithName, {text, CharacterNames(text)});
 }
 
 QVariant CSpecialCharacterModel::data(const QModelIndex &index, int role) const
@@ -132,7 +145,9 @@ QVariant CSpecialCharacterModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleTextRole:
         return Described(item);
     case Qt::ToolTipRole:
-        return m_characters.IsRowForAdding(item) ? Described(item) : CodePoints(m_characters.Text(item));
+        return m_characters.IsRowForAdding(item)
+            ? Described(item)
+            : QString(CodePoints(m_characters.Text(item)) + u' ' + CharacterNames(m_characters.Text(item)));
     case Qt::TextAlignmentRole:
         return ShowsOwn() ? QVariant() : QVariant(Qt::AlignCenter);
     default:

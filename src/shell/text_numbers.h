@@ -133,9 +133,10 @@ inline constexpr int SpecialCharacterSet = 346001;
 inline constexpr int SpecialCharacterList = 346002;
 inline constexpr int SpecialCharacterDocking = 346003;
 inline constexpr int SpecialCharacter = 346004;
-inline constexpr int CharacterWithCode = 346005;
+inline constexpr int CharacterWithName = 346005;
 inline constexpr int AddOwnCharacter = 346006;
 inline constexpr int OwnCharacterAdded = 346007;
+inline constexpr int OwnCharactersHelp = 346008;
 
 /// The caption of a command.
 inline constexpr int Caption(int commandId)

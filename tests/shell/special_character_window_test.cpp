@@ -5,6 +5,7 @@
 #include "shell/ui/special_character_list.h"
 #include "shell/ui/special_character_window.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -122,6 +123,9 @@ void SpecialCharacterWindowTest::opensAndCloses()
     desk.Open();
     QVERIFY(desk.keys->IsOpen() && desk.Characters()->isVisible());
     QVERIFY(desk.edit->hasFocus());
+    QVERIFY(
+        desk.Characters()->findChild<QLabel *>(QStringLiteral("help"))->isVisible()); // There are no own ones.
+    QCOMPARE(QAccessible::queryAccessibleInterface(desk.Characters())->role(), QAccessible::Dialog);
     QTest::keyClick(desk.edit, Qt::Key_F9, Qt::ControlModifier);
     QVERIFY(!desk.Characters()->HasFocus());
     QTest::keyClick(desk.edit, Qt::Key_F9);

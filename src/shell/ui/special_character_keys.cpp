@@ -91,7 +91,8 @@ void CSpecialCharacterKeys::Open()
         MakeWindow();
     }
     m_open = true;
-    m_window->Open();
+    const QWidget *const active = QApplication::activeWindow();
+    m_window->Open(active != nullptr ? active->windowHandle() : nullptr);
     Dock();
     // Only once the window manager has the window is it known how wide its frame is.
     constexpr int FrameKnown = 100;

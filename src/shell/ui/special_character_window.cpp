@@ -11,6 +11,7 @@
 #include "shell/text_numbers.h"
 #include "shell/ui/special_character_list.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -20,6 +21,14 @@
 #include <QWindow>
 
 namespace {
+
+/// The window as a dialog for assistive technology.
+QAccessibleInterface *DialogInterface(const QString &className, QObject *object)
+{
+    auto *const widget =
+        className == QStringLiteral("CSpecialCharacterWindow") ? qobject_cast<QWidget *>(object) : nullptr;
+    return widget != nullptr ? new QAccessibleWidget(widget, QAccessible::Dialog) : nullptr;
+}
 
 /// The screen that shows the middle of the rectangle, else the first one.
 QRect WorkArea(const QRect &rect)
@@ -38,8 +47,11 @@ CSpecialCharacterWindow::CSpecialCharacterWindow(CSpecialCharacters &characters,
         Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
             | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus),
       m_characters(characters), m_texts(texts), m_model(new CSpecialCharacterModel(characters, texts, this)),
-      m_list(new CSpecialCharacterList(*m_model, texts, this)), m_message(new CElidedLabel(this))
+      m_list(new CSpecialCharacterList(*m_model, texts, this)),
+      m_help(MakeWrappedLabel(texts.Fill(Text::OwnCharactersHelp, {texts.Get(Text::RowForAdding)}), this)),
+      m_message(new CElidedLabel(this))
 {
+    QAccessible::installFactory(DialogInterface);
     setObjectName(QStringLiteral("specialCharacters"));
     setWindowTitle(texts.Get(Text::SpecialCharactersTitle));
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -50,6 +62,7 @@ CSpecialCharacterWindow::CSpecialCharacterWindow(CSpecialCharacters &characters,
     const EasyKeySettings &settings = characters.Settings();
     m_list->setObjectName(QStringLiteral("characters"));
     m_list->setAccessibleName(texts.Get(Text::SpecialCharacterList));
+    m_help->setObjectName(QStringLiteral("help"));
     m_message->setObjectName(QStringLiteral("message"));
     QComboBox *const sets = MakeCombo(Text::CharacterSets, settings.subset, "characterSet");
     QComboBox *const docking = MakeCombo(Text::DockingSides, settings.dock, "docking");
@@ -58,9 +71,13 @@ CSpecialCharacterWindow::CSpecialCharacterWindow(CSpecialCharacters &characters,
     layout->addWidget(MakeCaption(Text::SpecialCharacterSet, *sets));
     layout->addWidget(sets);
     layout->addWidget(m_list, 1);
+    layout->addWidget(m_help);
     layout->addWidget(m_message);
-    layout->addWidget(MakeCaption(Text::SpecialCharacterDocking, *docking));
+    QLabel *const dockingCaption = MakeCaption(Text::SpecialCharacterDocking, *docking);
+    layout->addWidget(dockingCaption);
     layout->addWidget(docking);
+    dockingCaption->setVisible(CanPlaceWindows());
+    docking->setVisible(CanPlaceWindows());
     setTabOrder(sets, m_list);
     setTabOrder(m_list, docking);
     m_list->setFocus();
@@ -70,6 +87,10 @@ CSpecialCharacterWindow::CSpecialCharacterWindow(CSpecialCharacters &characters,
         m_characters.Settings().dock = dock;
         Q_EMIT DockingChosen();
     });
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        connect(m_model, change, this, &CSpecialCharacterWindow::ShowHelp);
+    }
+    connect(m_model, &QAbstractItemModel::modelReset, this, &CSpecialCharacterWindow::ShowHelp);
     connect(m_list, &CSpecialCharacterList::Chosen, this, &CSpecialCharacterWindow::Choose);
     connect(m_list, &CSpecialCharacterList::EditWanted, this, &CSpecialCharacterWindow::BeginEdit);
     connect(m_list, &CSpecialCharacterList::EditEnded, this, &CSpecialCharacterWindow::EndEdit);
@@ -101,8 +122,17 @@ QLabel *CSpecialCharacterWindow::MakeCaption(int text, QWidget &buddy)
     return label;
 }
 
-void CSpecialCharacterWindow::Open()
+void CSpecialCharacterWindow::ShowHelp()
 {
+    m_help->setVisible(m_characters.ShowsOwn() && m_characters.Count() == 1); // The row for adding alone.
+}
+
+void CSpecialCharacterWindow::Open(QWindow *above)
+{
+    if (!CanPlaceWindows()) {
+        create();
+        windowHandle()->setTransientParent(above);
+    }
     const int selected = m_characters.Settings().selected;
     m_model->Reset(); // The own characters may have changed since.
     m_list->LayOut();

@@ -10,6 +10,7 @@ class CSpecialCharacters;
 class CTexts;
 class QComboBox;
 class QLabel;
+class QWindow;
 
 /// The tool window of special characters. Clicks never give it the keyboard focus, which stays where the user
 /// is typing; it takes the focus only when told to, and while an own character is edited.
@@ -22,8 +23,9 @@ public:
     CSpecialCharacterWindow(CSpecialCharacters &characters, const CTexts &texts);
     ~CSpecialCharacterWindow() override;
 
-    /// Shows the window where the settings say, without the focus.
-    void Open();
+    /// Shows the window where the settings say, without the focus. `above` is the window that it stays above
+    /// where the display system knows no windows that stay above all; may be null.
+    void Open(QWindow *above);
     /// Makes it the active window, to be used by keyboard.
     void TakeFocus();
     bool HasFocus() const;
@@ -58,6 +60,7 @@ private:
     void RestorePlace();
     void StorePlace();
     void ShowSet(int set);
+    void ShowHelp();
     void Choose(int item, Qt::KeyboardModifiers modifiers);
     void BeginEdit(int item);
     void EndEdit();
@@ -67,6 +70,7 @@ private:
     const CTexts &m_texts;
     CSpecialCharacterModel *m_model;
     CSpecialCharacterList *m_list;
+    QLabel *m_help;
     CElidedLabel *m_message;
     bool m_focusForEdit = false;
 };
