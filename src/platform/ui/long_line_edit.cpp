@@ -7,7 +7,10 @@
 #include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
+#include <QUrl>
 
+#include <algorithm>
 #include <limits>
 
 CLongLineEdit::CLongLineEdit(const QString &hint, QWidget *parent) : QLineEdit(parent), m_hint(hint)
