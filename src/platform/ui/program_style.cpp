@@ -6,6 +6,20 @@
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 
+namespace {
+
+/// Whether a style fills the highlighted row of a menu with the highlight, as not all do.
+bool FillsMenuRows(const QStyle *style)
+{
+    while (const auto *const proxy = qobject_cast<const QProxyStyle *>(style)) {
+        style = proxy->baseStyle();
+    }
+    const QString name = style->name().toLower();
+    return name == QStringLiteral("fusion") || name == QStringLiteral("windows");
+}
+
+}
+
 void CProgramStyle::polish(QPalette &palette)
 {
     QProxyStyle::polish(palette);
@@ -22,10 +36,7 @@ void CProgramStyle::drawControl(
 {
     const auto *const item =
         element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem *>(option) : nullptr;
-    // Other styles don't fill such a row with the highlight.
-    const QString base = baseStyle()->name().toLower();
-    const bool fills = base == QStringLiteral("fusion") || base == QStringLiteral("windows");
-    if (item == nullptr || !fills || item->icon.isNull()
+    if (item == nullptr || !FillsMenuRows(baseStyle()) || item->icon.isNull()
         || !item->state.testFlags(State_Selected | State_Enabled)) {
         QProxyStyle::drawControl(element, option, painter, widget);
         return;
