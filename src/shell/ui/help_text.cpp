@@ -5,7 +5,6 @@
 
 #include <QBuffer>
 #include <QImageReader>
-#include <QTextBlock>
 
 #include <algorithm>
 
@@ -55,7 +54,6 @@ void CHelpText::ShowPage(const QString &file, const HelpPage &page)
     m_html = page.html;
     document()->setDefaultStyleSheet(Style());
     setSource(QUrl::fromLocalFile(file), QTextDocument::HtmlResource);
-    FitPictures();
 }
 
 void CHelpText::GoTo(const QString &anchor)
@@ -70,7 +68,9 @@ bool CHelpText::Find(const QString &text, bool forward, bool again)
     QTextDocument::FindFlags flags;
     flags.setFlag(QTextDocument::FindBackward, !forward);
     QTextCursor start = textCursor();
-    if (!again) {
+    if (!start.hasSelection()) {
+        start = cursorForPosition({}); // From what is in view.
+    } else if (!again) {
         start.setPosition(start.selectionStart());
     }
     QTextCursor hit = document()->find(text, start, flags);
@@ -134,47 +134,30 @@ QVariant CHelpText::loadResource(int type, const QUrl &name)
     if (picture.isNull()) {
         return {};
     }
-    m_pictures.insert(file, picture);
-    return picture;
+    m_pictures.insert(name, picture);
+    return Fitted(picture);
+}
+
+QImage CHelpText::Fitted(const QImage &picture) const
+{
+    const int most = std::max(viewport()->width() - 2 * int(document()->documentMargin()), 1);
+    const QSize size =
+        picture.width() <= most ? picture.size() : QSize(most, picture.height() * most / picture.width());
+    // The toolkit itself scales without smoothing.
+    const qreal ratio = devicePixelRatioF();
+    QImage fitted = picture.scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(ratio);
+    return fitted;
 }
 
 void CHelpText::FitPictures()
 {
-    const int most = viewport()->width() - 2 * int(document()->documentMargin());
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            if (!part.fragment().charFormat().isImageFormat()) {
-                continue;
-            }
-            QTextImageFormat format = part.fragment().charFormat().toImageFormat();
-            const QUrl name(format.name());
-            document()->resource(QTextDocument::ImageResource, name); // Read when it wasn't yet.
-            const QSize natural = m_pictures.value(FileOfHelp(m_file, name)).size();
-            const int width = std::min(std::max(most, 1), natural.width());
-            if (natural.isEmpty() || int(format.width()) == width) {
-                continue;
-            }
-            const QSize size(width, natural.height() * width / natural.width());
-            ScalePicture(name, size);
-            format.setWidth(size.width());
-            format.setHeight(size.height());
-            QTextCursor cursor(block);
-            cursor.setPosition(part.fragment().position());
-            cursor.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);
-            cursor.setCharFormat(format);
-            break; // The fragments are others now; a block holds one picture.
-        }
+    for (auto picture = m_pictures.cbegin(); picture != m_pictures.cend(); ++picture) {
+        document()->addResource(QTextDocument::ImageResource, picture.key(), Fitted(picture.value()));
     }
-}
-
-void CHelpText::ScalePicture(const QUrl &name, const QSize &size)
-{
-    // The toolkit itself scales without smoothing.
-    const qreal ratio = devicePixelRatioF();
-    QImage scaled = m_pictures.value(FileOfHelp(m_file, name))
-                        .scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    scaled.setDevicePixelRatio(ratio);
-    document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name), scaled);
+    if (!m_pictures.isEmpty()) {
+        document()->markContentsDirty(0, document()->characterCount());
+    }
 }
 
 void CHelpText::resizeEvent(QResizeEvent *event)
@@ -189,7 +172,6 @@ void CHelpText::changeEvent(QEvent *event)
     if ((event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) && !m_file.isEmpty()) {
         document()->setDefaultStyleSheet(Style());
         reload();
-        FitPictures();
         MarkAll(m_marked);
     }
 }

@@ -34,13 +34,12 @@ protected:
 
 private:
     QString Style() const;
-    /// Pictures are no wider than the text.
+    /// A picture that is no wider than the text.
+    QImage Fitted(const QImage &picture) const;
     void FitPictures();
-    /// The picture of that size, in the toolkit's units, in place of the one before.
-    void ScalePicture(const QUrl &name, const QSize &size);
 
     QString m_file;
     QString m_html;
     QString m_marked;
-    QHash<QString, QImage> m_pictures; // By their files, as they are there.
+    QHash<QUrl, QImage> m_pictures; // As they are in their files.
 };

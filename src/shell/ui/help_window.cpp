@@ -53,7 +53,7 @@ CHelpWindow::CHelpWindow(const CTexts &texts, QStringList dataFolders, IUserProm
         setTabOrder(order[i - 1], order[i]);
     }
     const int letter = fontMetrics().averageCharWidth();
-    halves->setSizes({letter * 38, letter * 90});
+    halves->setSizes({letter * 32, letter * 96});
     resize(QSize(letter * 132, fontMetrics().lineSpacing() * 40).boundedTo(screen()->availableSize() * 0.85));
 }
 
@@ -92,6 +92,7 @@ QWidget *CHelpWindow::MakeSearch()
     m_search->setAccessibleName(CaptionReadOut(m_texts.Get(Text::HelpSearch)));
     m_search->setClearButtonEnabled(true);
     m_search->setMaxLength(200);
+    m_search->setMinimumWidth(fontMetrics().averageCharWidth() * 18);
     QLabel *const caption = MakeLabel(m_texts.Get(Text::HelpSearch), bar);
     caption->setBuddy(m_search);
     m_hits = MakeLabel({}, bar);
