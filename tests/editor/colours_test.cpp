@@ -98,7 +98,7 @@ void ColoursTest::icons()
     }
     QVERIFY(count > 40);
 
-    const QIcon icon = DrawnIcon(QStringLiteral(":/icons/edit-copy.svg"));
+    const QIcon icon = DrawnIcon(QStringLiteral(ORDELIN_SOURCE_DIR "/src/resources/icons/edit-copy.svg"));
     const auto strongest = [&](QIcon::Mode mode, const char *window) {
         QImage picture(32, 32, QImage::Format_RGB32);
         picture.fill(window);
