@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         const QString text = texts.TextOf(module, number);
         Require(!numbers.contains(number) || !text.isEmpty());
         Require(text.size() <= 10000);
-        Require(FillText(text, values).size() <= text.size() + 10);
+        Require(FillText(text, values, FilledFor::Storage).size() <= text.size() + 10);
     }
     return 0;
 }
