@@ -53,7 +53,7 @@ public:
     int RowCount() const override;
     int CursorRow() const override;
     int CursorField() const override;
-    int LastField() const override;
+    int LastField() const final;
     void SetCursorField(int field) override;
     void SelectRow(int row, bool ensureVisible) override;
     /// A negative entry selects nothing.
