@@ -47,6 +47,7 @@ inline constexpr int ResultButton = 63074;
 inline constexpr int CheckButton = 63075;
 inline constexpr int ResultSummary = 70017;
 inline constexpr int HoldsWholeList = 70171;
+inline constexpr int NothingToAnswer = 70180;
 inline constexpr int QuizQuestion = 202001;
 inline constexpr int QuizAnswer = 202002;
 inline constexpr int QuizWordProgress = 202003;

@@ -90,6 +90,11 @@ void QuizLaunchTest::tooFewEntries()
     QVERIFY(!run.launch.isRunning());
     QVERIFY(FindWindow<CStandardQuiz>() == nullptr);
     QVERIFY(run.host.calls.isEmpty());
+
+    TestQuiz withoutAnswers({QStringLiteral("hund|"), QStringLiteral("katt|")});
+    withoutAnswers.launch.startQuiz(QuizKind::Standard);
+    QCOMPARE(withoutAnswers.test.prompt.numbers, QList<int>{Text::NothingToAnswer});
+    QVERIFY(!withoutAnswers.launch.isRunning() && withoutAnswers.host.shown);
 }
 
 void QuizLaunchTest::noRounds()
@@ -133,6 +138,9 @@ void QuizLaunchTest::callsInOrder()
     Answer("cat");
     QVERIFY(FindWindow<CQuizResultDialog>() == nullptr);
     QCOMPARE(run.host.calls.mid(1), (QStringList{QStringLiteral("show"), QStringLiteral("focus")}));
+    // No question follows that it could be said with.
+    QCOMPARE(run.mainWindow.findChild<QWidget *>(QStringLiteral("spokenText"))->accessibleName(),
+        QStringLiteral("Rätt"));
 }
 
 void QuizLaunchTest::sizesAreRemembered()

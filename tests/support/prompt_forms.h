@@ -62,6 +62,7 @@ inline const QList<PromptForm> &PromptForms()
         {Text::RecoverPart, Question, YesNoCancel, Yes},
         {Text::RecoverOverwritten, Question, YesNoCancel, Yes},
         {Text::HoldsWholeList, Warning},
+        {Text::NothingToAnswer, Information},
         {Text::SavedWithoutCharacters, Warning},
         {Text::SaveChangedEntry, Question, YesNoCancel, Yes},
         {Text::FileTooLarge, Error},

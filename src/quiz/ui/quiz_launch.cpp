@@ -5,9 +5,12 @@
 #include "platform/ui/input_guard_filter.h"
 #include "platform/ui/spoken_text.h"
 #include "platform/ui/wait_cursor.h"
+#include "platform/user_prompt.h"
 #include "quiz/duplicate_question.h"
 #include "quiz/quiz_host.h"
+#include "quiz/text_numbers.h"
 #include "quiz/ui/quiz_result_dialog.h"
+#include "resources/texts.h"
 
 #include <QScreen>
 
@@ -32,13 +35,18 @@ void CQuizLaunch::startQuiz(QuizKind kind)
     }
     m_kind = kind;
     m_session = makeSession();
+    if (m_session->wordCount() == 0 && m_session->unanswerableCount() > 0) {
+        const QString &language = document.List().GetLanguage(m_session->answerColumn());
+        windows.prompt.Tell(windows.texts.Prompt(Text::NothingToAnswer, {language}), PromptIcon::Information);
+    }
     runSession();
 }
 
 void CQuizLaunch::runSession()
 {
     const QuizWindowServices &windows = m_services.windows;
-    if (m_session != nullptr) {
+    const bool asks = m_session->roundSize() > 0 && m_session->baseRound() <= m_services.settings.quizNumber;
+    if (asks) {
         m_dialog = m_services.makers[size_t(m_kind)](windows,
             {m_session, m_services.settings, m_services.kindSettings, windows.texts, m_services.random,
                 windows.clock});
@@ -53,10 +61,8 @@ void CQuizLaunch::runSession()
 std::shared_ptr<CQuizSession> CQuizLaunch::makeSession() const
 {
     const CWaitCursor wait;
-    auto session = std::make_shared<CQuizSession>(m_services.document, m_services.settings, m_services.random,
+    return std::make_shared<CQuizSession>(m_services.document, m_services.settings, m_services.random,
         m_services.host.SelectedEntries(), quizKindRow(m_kind).answers);
-    const bool asks = session->roundSize() > 0 && session->baseRound() <= m_services.settings.quizNumber;
-    return asks ? session : nullptr;
 }
 
 void CQuizLaunch::openWindow()
@@ -92,7 +98,19 @@ void CQuizLaunch::quizClosed()
         showResult(unspoken);
     } else {
         finish();
+        say(unspoken);
     }
+}
+
+void CQuizLaunch::say(const QString &text)
+{
+    if (text.isEmpty()) {
+        return;
+    }
+    if (m_spoken == nullptr) {
+        m_spoken = new CSpokenText(&m_mainWindow);
+    }
+    m_spoken->Say(text);
 }
 
 void CQuizLaunch::showResult(const QString &unspoken)
