@@ -90,6 +90,7 @@ private Q_SLOTS:
     void wordsThatAreNoEntryYet();
     void droppedFiles();
     void barsAndPlaceComeBack();
+    void menusByKeyboard();
     void captionsFollowTheLanguages();
     void textsFromOutsideArePlain();
 };
@@ -399,6 +400,22 @@ void MainFrameTest::barsAndPlaceComeBack()
     QCOMPARE(checks(second), QStringLiteral("010"));
     QCOMPARE(second.frame.geometry(), QRect(60, 70, 640, 480));
     QVERIFY(second.frame.findChild<QToolBar *>(QStringLiteral("standardToolBar"))->isHidden());
+}
+
+void MainFrameTest::menusByKeyboard()
+{
+    Frame run;
+    run.frame.show();
+    QApplication::setActiveWindow(&run.frame);
+    QWidget *const before = run.frame.focusWidget();
+    for (const Qt::Key menu : {Qt::Key_A, Qt::Key_R}) {
+        QTest::keyClick(run.frame.focusWidget(), menu, Qt::AltModifier);
+        QVERIFY(QApplication::activePopupWidget() != nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QVERIFY(run.frame.menuBar()->hasFocus());
+    }
+    QTest::keyClick(run.frame.menuBar(), Qt::Key_Escape);
+    QCOMPARE(QApplication::focusWidget(), before);
 }
 
 void MainFrameTest::captionsFollowTheLanguages()

@@ -22,6 +22,7 @@
 #include "shell/ui/file_menu_commands.h"
 #include "shell/ui/find_commands.h"
 #include "shell/ui/help_commands.h"
+#include "shell/ui/menu_bar_focus.h"
 #include "shell/ui/quiz_commands.h"
 #include "shell/ui/recent_files_menu.h"
 #include "shell/ui/samples_menu.h"
@@ -157,6 +158,7 @@ void CMainFrame::MakeMenus()
 {
     const CTexts &texts = m_services.texts;
     menuBar()->setAccessibleName(texts.Get(Text::FrameMenuBar));
+    new CMenuBarFocus(*menuBar());
     statusBar()->setAccessibleName(texts.Get(Text::FrameStatusBar));
     for (const CommandMenu &menu : CommandMenus()) {
         QMenu *const shown = AddNamedMenu(*menuBar(), texts.Get(menu.title));

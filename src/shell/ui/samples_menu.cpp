@@ -19,8 +19,10 @@ void CSamplesMenu::Fill()
 {
     m_menu.clear();
     for (const SampleList &sample : FindSamples(m_dataFolders)) {
-        QAction *const action = m_menu.addAction(
-            QStringLiteral("%1 (%2)").arg(ShownInCaption(sample.title), ShownInCaption(sample.languages)));
+        const qsizetype number = m_menu.actions().size() + 1;
+        const QString key = number < 10 ? QStringLiteral("&%1 ").arg(number) : QString();
+        QAction *const action = m_menu.addAction(key
+            + QStringLiteral("%1 (%2)").arg(ShownInCaption(sample.title), ShownInCaption(sample.languages)));
         action->setStatusTip(sample.path);
         // From the event loop, when the menu is closed.
         connect(
