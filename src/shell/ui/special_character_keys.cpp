@@ -62,6 +62,8 @@ CSpecialCharacterKeys::CSpecialCharacterKeys(EasyKeySettings &settings, const CT
         [this](QWidget * /*old*/, QWidget *now) { RememberTarget(now); });
     connect(
         qApp, &QGuiApplication::applicationStateChanged, this, &CSpecialCharacterKeys::RememberOtherProgram);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &CSpecialCharacterKeys::FollowFocus,
+        Qt::QueuedConnection);
     RememberTarget(QApplication::focusWidget());
 }
 
@@ -125,6 +127,18 @@ void CSpecialCharacterKeys::Closed()
         GiveFocusBack();
     }
     Q_EMIT OpenChanged(false);
+}
+
+void CSpecialCharacterKeys::FollowFocus()
+{
+    QWindow *window = QGuiApplication::focusWindow();
+    if (!m_open || window == nullptr || window == m_window->windowHandle()) {
+        return;
+    }
+    while (window->transientParent() != nullptr) {
+        window = window->transientParent();
+    }
+    m_window->StayAbove(*window);
 }
 
 void CSpecialCharacterKeys::DockBeside(const QWidget &frame)

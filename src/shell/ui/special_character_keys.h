@@ -44,6 +44,7 @@ private:
     void Open();
     void MakeWindow();
     void Closed();
+    void FollowFocus();
     void Dock();
     void ChooseWaiting();
     bool HandleKey(const QKeyEvent &event);

@@ -143,6 +143,16 @@ void CSpecialCharacterWindow::Open(QWindow *above)
     m_list->SetCurrentItem(selected);
 }
 
+void CSpecialCharacterWindow::StayAbove(QWindow &window)
+{
+    const QWindow *const above = windowHandle()->transientParent();
+    if (!CanPlaceWindows() && (above == nullptr || !above->isVisible())) {
+        hide(); // Only a window that is shown anew tells whose child it is.
+        windowHandle()->setTransientParent(&window);
+        show();
+    }
+}
+
 void CSpecialCharacterWindow::TakeFocus()
 {
     if (HasFocus()) {

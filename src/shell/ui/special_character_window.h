@@ -26,6 +26,8 @@ public:
     /// Shows the window where the settings say, without the focus. `above` is the window that it stays above
     /// where the display system knows no windows that stay above all; may be null.
     void Open(QWindow *above);
+    /// Stays above this window from now on, where the one that it stays above has gone.
+    void StayAbove(QWindow &window);
     /// Makes it the active window, to be used by keyboard.
     void TakeFocus();
     bool HasFocus() const;
