@@ -109,6 +109,7 @@ void CQuizResultDialog::makeList()
     m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_list->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     m_list->horizontalHeader()->setHighlightSections(false);
+    m_list->horizontalHeader()->setTextElideMode(Qt::ElideRight);
     m_list->horizontalHeader()->setStretchLastSection(true);
     m_list->setMinimumHeight(fontMetrics().lineSpacing() * 6);
     const int columns = m_result.model().columnCount();
