@@ -112,11 +112,13 @@ bool IsSimpleTerm(QStringView text)
     bool afterSpace = true; // A space at the start counts as a second one.
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar unit = text[i];
+        if (unit > CommentOpener && unit != u'\x7F') { // A letter, or another one without a meaning here.
+            afterSpace = false;
+            continue;
+        }
         const bool space = unit == u' ';
-        const bool letter = unit > CommentOpener && unit != u'\x7F'; // Or another one without a meaning here.
-        if (!letter
-            && ((space && afterSpace) || unit == Separator || IsControl(unit)
-                || (unit == CommentOpener && BeginsWithEmptyComment(text.sliced(i))))) {
+        if ((space && afterSpace) || unit == Separator || IsControl(unit)
+            || (unit == CommentOpener && BeginsWithEmptyComment(text.sliced(i)))) {
             return false;
         }
         afterSpace = space;
@@ -153,6 +155,9 @@ QString StripComments(const QString &text)
 
 std::optional<QString> SuggestTermCorrection(const QString &text)
 {
+    if (!text.contains(u',') && !text.contains(u'(') && !text.contains(u')')) {
+        return std::nullopt;
+    }
     QString corrected = text;
     int depth = 0;
     for (QChar &unit : corrected) {

@@ -31,7 +31,11 @@ void CLongLineEdit::SetWholeText(const QString &text)
 
 QString CLongLineEdit::WholeText() const
 {
-    return m_rest.isEmpty() ? text() : QString(text() + m_rest);
+    const QString shown = text();
+    if (shown == m_givenStart) {
+        return m_given; // Not copied, since it may be long.
+    }
+    return m_rest.isEmpty() ? shown : QString(shown + m_rest);
 }
 
 void CLongLineEdit::Paste()
