@@ -40,10 +40,15 @@ void CSpokenText::Say(const QString &text)
 bool CSpokenText::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::WindowActivate && std::exchange(m_waits, false)) {
-        // After the focus has come back, which is spoken first.
-        QMetaObject::invokeMethod(this, &CSpokenText::Tell, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &CSpokenText::TellBehindFocus, Qt::QueuedConnection);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void CSpokenText::TellBehindFocus()
+{
+    // The focus has come back now; which cell of a list has it is told from the event loop, and spoken first.
+    QMetaObject::invokeMethod(this, &CSpokenText::Tell, Qt::QueuedConnection);
 }
 
 void CSpokenText::Tell()

@@ -20,6 +20,7 @@ public:
 
 private:
     void Tell();
+    void TellBehindFocus();
 
     bool m_waits = false;
 };
