@@ -11,7 +11,7 @@ class CLongLineEdit : public QLineEdit
 
 public:
     /// In code units.
-    static constexpr qsizetype MaxShown = 10000;
+    static constexpr qsizetype MaxShown = 4000;
 
     /// `hint` is the tool tip while a rest is not shown.
     explicit CLongLineEdit(const QString &hint, QWidget *parent = nullptr);
