@@ -16,7 +16,8 @@ public:
         NewWindow, ///< Nothing is meant for it.
         NewQuestion ///< In the same window: what is typed may be its answer already.
     };
-    enum class Input { Key, EnterOnEmptyAnswer, Click, ClickOnButton };
+    /// A key that would answer at once what nobody has read yet is a hasty answer.
+    enum class Input { Key, HastyAnswer, Click, ClickOnButton };
 
     void Appeared(Change change, std::chrono::milliseconds now)
     {
@@ -27,8 +28,7 @@ public:
     bool Drops(Input input, std::chrono::milliseconds now) const
     {
         return !IsOver(now)
-            && (m_change == Change::NewWindow || input == Input::EnterOnEmptyAnswer
-                || input == Input::ClickOnButton);
+            && (m_change == Change::NewWindow || input == Input::HastyAnswer || input == Input::ClickOnButton);
     }
 
 private:

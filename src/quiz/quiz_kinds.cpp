@@ -4,15 +4,15 @@
 const std::array<QuizKindRow, QuizSettings::KindCount> &quizKinds()
 {
     static constexpr std::array<QuizKindRow, QuizSettings::KindCount> Kinds = {{
-        {QuizKind::Standard, 32855, "ordelin-quiz", 1, QuizAnswers::AreTyped},
-        {QuizKind::Table, 32856, "ordelin-quiz-table", 1, QuizAnswers::AreTyped},
-        {QuizKind::SelfTest, 32857, "ordelin-quiz-self-test", 1, QuizAnswers::AreChosen},
-        {QuizKind::Alternatives, 32858, "ordelin-quiz-alternatives", 4, QuizAnswers::AreChosen},
-        {QuizKind::Hangman, 32859, "ordelin-quiz-hangman", 1, QuizAnswers::AreTyped},
-        {QuizKind::PairMatching, 32860, "ordelin-quiz-pairs", 2, QuizAnswers::AreChosen},
-        {QuizKind::WordContest, 32861, "ordelin-quiz-contest", 1, QuizAnswers::AreTyped},
-        {QuizKind::FallingWords, 32862, "ordelin-quiz-falling", 1, QuizAnswers::AreTyped},
-        {QuizKind::Memory, 32863, "ordelin-quiz-memory", 1, QuizAnswers::AreChosen},
+        {QuizKind::Standard, 32855, "ordelin-quiz", 1, QuizAnswers::AreJudged},
+        {QuizKind::Table, 32856, "ordelin-quiz-table", 1, QuizAnswers::AreJudged},
+        {QuizKind::SelfTest, 32857, "ordelin-quiz-self-test", 1, QuizAnswers::AreShown},
+        {QuizKind::Alternatives, 32858, "ordelin-quiz-alternatives", 4, QuizAnswers::AreJudged},
+        {QuizKind::Hangman, 32859, "ordelin-quiz-hangman", 1, QuizAnswers::AreSpelt},
+        {QuizKind::PairMatching, 32860, "ordelin-quiz-pairs", 2, QuizAnswers::AreJudged},
+        {QuizKind::WordContest, 32861, "ordelin-quiz-contest", 1, QuizAnswers::AreJudged},
+        {QuizKind::FallingWords, 32862, "ordelin-quiz-falling", 1, QuizAnswers::AreJudged},
+        {QuizKind::Memory, 32863, "ordelin-quiz-memory", 1, QuizAnswers::AreShown},
     }};
     return Kinds;
 }

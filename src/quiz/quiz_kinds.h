@@ -20,8 +20,12 @@ enum class QuizKind {
     Memory = 8
 };
 
-/// How answers are given. A word whose answer is empty can't be typed, so it is left out.
-enum class QuizAnswers { AreChosen, AreTyped };
+/// What becomes of the answers of a kind, and so which words it can ask.
+enum class QuizAnswers {
+    AreShown, ///< Nothing is judged, so every word will do.
+    AreJudged, ///< An answer of nothing is wrong, so a word whose answer is empty is left out.
+    AreSpelt ///< Comments don't count either.
+};
 
 /// What the program knows of a kind before it runs. Its window stands beside the other windows' makers.
 struct QuizKindRow

@@ -56,9 +56,13 @@ void CQuizSession::selectWords(std::span<const int> selected, CRandom &random, Q
         std::iota(m_candidates.begin(), m_candidates.end(), 0);
     }
 
-    if (answers == QuizAnswers::AreTyped) {
-        m_unanswerable = int(std::erase_if(
-            m_candidates, [&](int index) { return list.Entry(index).GetText(answerColumn()).isEmpty(); }));
+    if (answers != QuizAnswers::AreShown) {
+        const auto unanswerable = [&](int index) {
+            const CWordEntry &entry = list.Entry(index);
+            return entry.GetText(answerColumn()).isEmpty()
+                || (answers == QuizAnswers::AreSpelt && entry.GetCleanTerm(answerColumn()).isEmpty());
+        };
+        m_unanswerable = int(std::erase_if(m_candidates, unanswerable));
     }
 
     const auto flagged = [&](int index) { return list.Entry(index).GetFlag(m_questionColumn); };

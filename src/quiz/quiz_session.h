@@ -37,7 +37,7 @@ public:
     /// Selects the words and starts the first round. `selected` are the entries selected in the view,
     /// ascending. Nothing handed in is owned.
     CQuizSession(CWin32Doc &document, const QuizSettings &settings, CRandom &random,
-        std::span<const int> selected, QuizAnswers answers = QuizAnswers::AreChosen);
+        std::span<const int> selected, QuizAnswers answers = QuizAnswers::AreShown);
     /// Another session over the words answered wrong, with the same direction and judging.
     std::shared_ptr<CQuizSession> overMistakes() const;
 
@@ -45,7 +45,7 @@ public:
     bool startRound();
     int roundSize() const { return int(m_roundOrder.size()); }
     int wordCount() const { return int(m_candidates.size()); }
-    /// How many words were left out since there is nothing to type for them.
+    /// How many words were left out since there is no answer to give for them.
     int unanswerableCount() const { return m_unanswerable; }
     int baseRound() const { return m_baseRound; }
     /// 0 in a base round.
@@ -98,6 +98,8 @@ public:
     /// Replaces the texts of any entry of the list. Does nothing when they are those that it has; call
     /// recheckAll() after one or more changes.
     void changeEntry(int index, const QString &term1, const QString &term2, const QString &note);
+    /// Flags the word at a round position in the language of the question.
+    void flagWord(int roundPosition);
     /// Whether a wrong answer would be right as a further alternative of its entry, and changes are allowed.
     bool mayAccept(int position, const QString &answer) const;
     /// Makes it one and judges again. Returns false when it may not be.

@@ -28,6 +28,12 @@ void CQuizSession::changeEntry(int index, const QString &term1, const QString &t
     changeList([&](CWordList &list) { list.ReplaceEntry(index, term1, term2, note, false); });
 }
 
+void CQuizSession::flagWord(int roundPosition)
+{
+    const int entry = entryOfRound(roundPosition);
+    changeList([&](CWordList &list) { list.SetFlags(m_questionColumn, {&entry, 1}, FlagMode::Set); });
+}
+
 CWordEntry CQuizSession::entryAccepting(int position, const QString &answer) const
 {
     CWordEntry entry = questionAt(position).entry;

@@ -45,6 +45,7 @@ inline constexpr int AnswerButton = 63071;
 inline constexpr int ChangeButton = 63073;
 inline constexpr int ResultButton = 63074;
 inline constexpr int CheckButton = 63075;
+inline constexpr int SelfTestAnswer = 63150;
 inline constexpr int ResultSummary = 70017;
 inline constexpr int HoldsWholeList = 70171;
 inline constexpr int NothingToAnswer = 70180;
@@ -155,5 +156,8 @@ inline constexpr int TakeBackAnswer = 208002;
 inline constexpr int AnswerWasAccepted = 208003;
 inline constexpr int SaveChangedEntry = 208004;
 inline constexpr int EntryWasChanged = 208005;
+inline constexpr int FlagButton = 214001;
+inline constexpr int SelfTestShow = 214002;
+inline constexpr int SelfTestAnswerField = 214003;
 
 }

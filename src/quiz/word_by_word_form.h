@@ -38,6 +38,8 @@ protected:
 
     /// The question about the word on screen.
     QuizQuestion currentQuestion() const { return session()->questionOfRound(m_roundPosition); }
+    /// Whether the word on screen was answered wrong just now, and is asked again at once.
+    bool isAskedAgain() const { return m_askedAgain; }
     /// Judges and records an answer to the word on screen as it is. advance() comes after the feedback was
     /// shown.
     Outcome recordAnswer(const QString &answer);
@@ -48,7 +50,7 @@ private:
     Next takeBackLastAnswer();
 
     int m_roundPosition = 0;
-    bool m_askedAgain = false; // The word on screen, since the last answer was wrong.
+    bool m_askedAgain = false;
     bool m_skipped = false; // After the last answer.
     bool m_leftByAccepting = false; // The word before this one in the round.
 };

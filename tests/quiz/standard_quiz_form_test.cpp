@@ -1,46 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/standard_quiz_form.h"
-#include "settings/quiz_settings.h"
-#include "support/test_document.h"
+#include "support/test_form.h"
 
 #include <QTest>
 
 namespace {
 
-QuizSettings InOrder(int requiz, int rounds)
-{
-    QuizSettings settings;
-    settings.order = QuizOrder::AsInList;
-    settings.requiz = Requiz(requiz);
-    settings.quizNumber = rounds;
-    settings.includeFlaggedWords = IncludeFlagged::Always;
-    settings.showAnswerIfOneCorrect = true;
-    return settings;
-}
-
 using Next = CWordByWordForm::Next;
-
-struct Quiz
-{
-    CRandom random{1};
-    QuizChallengeSettings quizChallenge;
-    FallingWordSettings fallingWord;
-    std::shared_ptr<CQuizSession> session;
-    CStandardQuizForm form;
-
-    Quiz(TestDocument &test, const QuizSettings &settings)
-        : session(std::make_shared<CQuizSession>(test.document, settings, random, std::span<const int>())),
-          form({session, settings, {quizChallenge, fallingWord}, test.texts, random, SteadyClock})
-    {
-    }
-};
 
 /// Plays a quiz by script and returns a line per step: the question, the statistics, and the number of the text
 /// shown after the answer. A step is an answer, "-" to skip, "!" for the button "I was right", or "term 1=term
 /// 2" to change the entry asked.
 QStringList Play(TestDocument &test, const QuizSettings &settings, const QString &script)
 {
-    Quiz quiz(test, settings);
+    TestForm<CStandardQuizForm> quiz(test, settings);
     CStandardQuizForm &form = quiz.form;
     QStringList lines;
     auto next = Next::SameWord;
@@ -91,7 +64,7 @@ void StandardQuizFormTest::wholeQuizzes_data()
     QTest::addColumn<QString>("lines");
 
     const QStringList animals = {QStringLiteral("hund * vovve|dog"), QStringLiteral("katt|cat * puss")};
-    QTest::newRow("two rounds in order") << animals << InOrder(0, 2) << "_dog_ puss _ -"
+    QTest::newRow("two rounds in order") << animals << InOrder(Requiz::None, 2) << "_dog_ puss _ -"
                                          <<
         R"(Vad heter "hund * vovve" på Engelska? Förhör 1 av 2. Glosa 1 av 2. 0 rätt av 0.
 Vad heter "katt" på Engelska? Förhör 1 av 2. Glosa 2 av 2. 1 rätt av 1. 63004
@@ -99,7 +72,7 @@ Vad heter "hund * vovve" på Engelska? Förhör 2 av 2. Glosa 1 av 2. 2 rätt av
 Vad heter "katt" på Engelska? Förhör 2 av 2. Glosa 2 av 2. 2 rätt av 3.
 over)";
 
-    QuizSettings backwards = InOrder(0, 1);
+    QuizSettings backwards = InOrder(Requiz::None, 1);
     backwards.order = QuizOrder::Backwards;
     backwards.showLanguage = QuizDirection::FromLanguage2;
     QTest::newRow("backwards, the other direction") << animals << backwards << "puss vovve"
@@ -109,7 +82,7 @@ Vad heter "dog" på Svenska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 1. 63004
 over)";
 
     const QStringList letters = {QStringLiteral("a|x"), QStringLiteral("b|y")};
-    QTest::newRow("again at once") << letters << InOrder(2, 1) << "- 0 _ y"
+    QTest::newRow("again at once") << letters << InOrder(Requiz::AtOnce, 1) << "- 0 _ y"
                                    <<
         R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0.
 Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 0. 63005
@@ -117,7 +90,7 @@ Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 1. 63003
 Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 0 rätt av 2.
 over)";
 
-    QuizSettings repeated = InOrder(1, 2);
+    QuizSettings repeated = InOrder(Requiz::AfterRound, 2);
     repeated.requizNumber = 2;
     repeated.showAnswer = false;
     QTest::newRow("at most two repeats after each round") << letters << repeated << "0 0 0 y 0 x 0 y"
@@ -150,8 +123,9 @@ Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 1 rätt av 1.
 Vad heter "b" på Engelska? Förhör 1 av 1. Omförhör 1. Glosa 1 av 1. 1 rätt av 2.
 Vad heter "b" på Engelska? Förhör 1 av 1. Omförhör 1. Glosa 1 av 1. 2 rätt av 2.
 over)";
-    QTest::newRow("an entry changes in the middle of a round") << letters << InOrder(2, 1) << "0 aa=0 0 y"
-                                                               <<
+    QTest::newRow("an entry changes in the middle of a round")
+        << letters << InOrder(Requiz::AtOnce, 1) << "0 aa=0 0 y"
+        <<
         R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. 63005
 Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 1.
 Vad heter "aa" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 1 rätt av 1.
@@ -159,7 +133,7 @@ Vad heter "b" på Engelska? Förhör 1 av 1. Glosa 2 av 2. 2 rätt av 2.
 over)";
 
     QTest::newRow("I was right: a word asked again is left, and comes back")
-        << letters << InOrder(2, 1) << "! 0 ! ! 0 - ! y"
+        << letters << InOrder(Requiz::AtOnce, 1) << "! 0 ! ! 0 - ! y"
         <<
         R"(Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. Ja&g hade rätt
 Vad heter "a" på Engelska? Förhör 1 av 1. Glosa 1 av 2. 0 rätt av 0. 63005
@@ -191,8 +165,8 @@ void StandardQuizFormTest::wholeQuizzes()
 void StandardQuizFormTest::learning()
 {
     TestDocument test(QStringList{QStringLiteral("a|b [x] * c")});
-    QuizSettings settings = InOrder(0, 1);
-    Quiz quiz(test, settings);
+    QuizSettings settings = InOrder(Requiz::None, 1);
+    TestForm<CStandardQuizForm> quiz(test, settings);
     CStandardQuizForm &form = quiz.form;
     QCOMPARE(form.prefilledAnswer(), QString());
     settings.learning = true;
@@ -203,8 +177,8 @@ void StandardQuizFormTest::learning()
 void StandardQuizFormTest::nothingToAsk()
 {
     TestDocument test;
-    const QuizSettings settings = InOrder(2, 3);
-    Quiz quiz(test, settings);
+    const QuizSettings settings = InOrder(Requiz::AtOnce, 3);
+    TestForm<CStandardQuizForm> quiz(test, settings);
     CStandardQuizForm &form = quiz.form;
     QVERIFY(form.skip() == Next::Over && form.acceptOffer().kind == AcceptOffer::Kind::Nothing);
 }

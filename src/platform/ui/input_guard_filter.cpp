@@ -26,10 +26,10 @@ void CInputGuardFilter::NextDialogOpens()
     qApp->installEventFilter(this);
 }
 
-void CInputGuardFilter::QuestionAppeared(QWidget &window, std::function<bool()> isAnswerEmpty)
+void CInputGuardFilter::QuestionAppeared(QWidget &window, std::function<bool(const QKeyEvent &)> isHastyAnswer)
 {
     m_window = &window;
-    m_isAnswerEmpty = std::move(isAnswerEmpty);
+    m_isHastyAnswer = std::move(isHastyAnswer);
     Start(Change::NewQuestion);
 }
 
@@ -39,10 +39,9 @@ void CInputGuardFilter::Start(Change change)
     qApp->installEventFilter(this);
 }
 
-Input CInputGuardFilter::KeyInput(int key) const
+Input CInputGuardFilter::KeyInput(const QKeyEvent &key) const
 {
-    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    return enter && m_isAnswerEmpty && m_isAnswerEmpty() ? Input::EnterOnEmptyAnswer : Input::Key;
+    return m_isHastyAnswer && m_isHastyAnswer(key) ? Input::HastyAnswer : Input::Key;
 }
 
 bool CInputGuardFilter::eventFilter(QObject *watched, QEvent *event)
@@ -70,7 +69,7 @@ bool CInputGuardFilter::eventFilter(QObject *watched, QEvent *event)
     case QEvent::ShortcutOverride: // Accepted, it keeps the key from shortcuts; it comes as a press then.
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        input = KeyInput(static_cast<QKeyEvent *>(event)->key());
+        input = KeyInput(*static_cast<QKeyEvent *>(event));
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/question_area.h"
 
-#include "platform/plain_text.h"
-#include "platform/ui/wrapped_text.h"
+#include "quiz/ui/shown_text.h"
 
 #include <QEvent>
-#include <QPlainTextEdit>
 #include <QVBoxLayout>
-
-#include <cmath>
 
 namespace {
 
@@ -19,21 +15,13 @@ constexpr double Step = 0.25;
 
 constexpr int LeastLines = 2; // Of the question, in view at any size.
 constexpr int Gap = 8; // Between the question and the fields.
-constexpr int Slack = 4; // Rounded heights must not bring a scroll bar.
 
 }
 
 CQuestionArea::CQuestionArea(const QString &accessibleName, QWidget *parent)
-    : QWidget(parent), m_question(new QPlainTextEdit(this)), m_fields(new QWidget(this)),
-      m_fieldLayout(new QVBoxLayout(m_fields))
+    : QWidget(parent), m_question(new CShownText("question", accessibleName, this)),
+      m_fields(new QWidget(this)), m_fieldLayout(new QVBoxLayout(m_fields))
 {
-    m_question->setObjectName(QStringLiteral("question"));
-    m_question->setAccessibleName(accessibleName);
-    m_question->setReadOnly(true);
-    m_question->setTabChangesFocus(true);
-    // It is to be read, so it doesn't look like a field to write in.
-    m_question->setFrameShape(QFrame::NoFrame);
-    m_question->viewport()->setBackgroundRole(QPalette::Window);
     m_fieldLayout->setContentsMargins({});
 }
 
@@ -51,9 +39,7 @@ QFont CQuestionArea::smallestFont() const
 
 void CQuestionArea::setQuestion(const QString &question)
 {
-    // A term may be longer than anybody reads.
-    constexpr qsizetype Longest = 1000;
-    m_question->setPlainText(ShownShort(question, Longest));
+    m_question->showText(question);
     placeAll();
 }
 
@@ -61,7 +47,7 @@ QSize CQuestionArea::sizeFor(int questionLines, const QSize &fields) const
 {
     const QFontMetrics metrics(smallestFont());
     return {std::max(fields.width(), metrics.averageCharWidth() * 20),
-        metrics.lineSpacing() * questionLines + margins() + Gap + fields.height()};
+        metrics.lineSpacing() * questionLines + m_question->margins() + Gap + fields.height()};
 }
 
 QSize CQuestionArea::sizeHint() const
@@ -74,26 +60,20 @@ QSize CQuestionArea::minimumSizeHint() const
     return sizeFor(LeastLines, m_fields->minimumSizeHint());
 }
 
-int CQuestionArea::margins() const
-{
-    return 2 * int(std::ceil(m_question->document()->documentMargin())) + Slack;
-}
-
 void CQuestionArea::placeAll()
 {
     // Where there is little room, the fields give some of theirs first.
-    const int least = QFontMetrics(smallestFont()).lineSpacing() * LeastLines + margins() + Gap;
+    const int least = QFontMetrics(smallestFont()).lineSpacing() * LeastLines + m_question->margins() + Gap;
     const int wanted = std::max(m_fields->minimumSizeHint().height(), height() - least);
-    const int fieldsHeight = std::min({m_fields->sizeHint().height(), wanted, height()});
+    const int asked = m_fieldLayout->hasHeightForWidth() ? m_fieldLayout->totalHeightForWidth(width())
+                                                         : m_fields->sizeHint().height();
+    const int fieldsHeight = std::min({asked, wanted, height()});
     const int room = std::max(height() - fieldsHeight - Gap, 0);
-    const QString question = m_question->toPlainText();
     // Sixty letters by fourteen lines are a small room.
     const double wide = width() / (60.0 * fontMetrics().averageCharWidth());
     const double high = height() / (14.0 * fontMetrics().lineSpacing());
     double factor = std::clamp(Smallest * std::min(wide, high), Smallest, Largest);
-    const auto needed = [&] {
-        return WrappedHeight(question, scaledFont(factor), width() - margins()) + margins();
-    };
+    const auto needed = [&] { return m_question->neededHeight(scaledFont(factor), width()); };
     while (factor > Smallest && needed() > room) {
         factor = std::max(factor - Step, Smallest);
     }

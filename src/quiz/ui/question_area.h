@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-class QPlainTextEdit;
+class CShownText;
 class QVBoxLayout;
 
 /// The room of a quiz window in which a question is put and answered. Both stand together in its middle; the
@@ -31,10 +31,9 @@ protected:
 private:
     QFont scaledFont(double factor) const;
     QSize sizeFor(int questionLines, const QSize &fields) const;
-    int margins() const;
     void placeAll();
 
-    QPlainTextEdit *m_question;
+    CShownText *m_question;
     QWidget *m_fields;
     QVBoxLayout *m_fieldLayout;
 };

@@ -15,6 +15,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -23,6 +24,15 @@
 #include <QVBoxLayout>
 
 #include <utility>
+
+namespace {
+
+bool isEnter(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+}
 
 void openHelpOnF1(QWidget &window, const QuizWindowServices &services)
 {
@@ -68,6 +78,7 @@ void CQuizDialog::makeButtons()
         return button(part);
     };
     addPart(QuizPart::Skip, Text::SkipButton, "skipButton");
+    addPart(QuizPart::Flag, Text::FlagButton, "flagButton");
     if (auto *const answer = addPart(QuizPart::Answer, Text::AnswerButton, "answerButton")) {
         answer->setDefault(true);
     }
@@ -137,7 +148,17 @@ void CQuizDialog::showNextWord()
     showCurrentWord();
     updateStatistics();
     speak(spokenQuestion());
-    m_guard->QuestionAppeared(*this, [this] { return isAnswerEmpty(); });
+    m_guard->QuestionAppeared(*this, [this](const QKeyEvent &key) { return isHastyAnswer(key); });
+}
+
+bool CQuizDialog::isHastyAnswer(const QKeyEvent &key) const
+{
+    return isEnter(key) && isAnswerEmpty();
+}
+
+bool CQuizDialog::pressesButton(const QKeyEvent &key)
+{
+    return isEnter(key) || key.key() == Qt::Key_Space || key.modifiers().testFlag(Qt::AltModifier);
 }
 
 void CQuizDialog::speak(const QString &text)

@@ -58,7 +58,10 @@ enum class QuizPart {
     Result = 0x10,
     WordLine = 0x20,
     RightLine = 0x40,
-    AcceptAnswer = 0x80 ///< "I was right"; of windows that ask one word at a time.
+    // Of windows that ask one word at a time:
+    AcceptAnswer = 0x80, ///< "I was right".
+    Flag = 0x100,
+    LastAnswer = 0x200 ///< The panel that shows how the last answer was.
 };
 Q_DECLARE_FLAGS(QuizParts, QuizPart)
 Q_DECLARE_OPERATORS_FOR_FLAGS(QuizParts)
@@ -87,6 +90,10 @@ protected:
     virtual void focusInput() = 0;
     /// Whether Enter would record an answer of nothing.
     virtual bool isAnswerEmpty() const { return false; }
+    /// Whether a key would answer at once: just after a question appeared, it was meant for the one before.
+    virtual bool isHastyAnswer(const QKeyEvent &key) const;
+    /// The same where nothing is typed: whether the key presses a button.
+    static bool pressesButton(const QKeyEvent &key);
     /// What is to be answered now, as it is read out; empty where the focus says it.
     virtual QString spokenQuestion() const { return {}; }
     /// The lines of statistics, and what else follows from the answers so far.

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr QuizParts Parts = QuizPart::Skip | QuizPart::Answer | QuizPart::Change | QuizPart::Result
-    | QuizPart::WordLine | QuizPart::RightLine | QuizPart::AcceptAnswer;
+    | QuizPart::WordLine | QuizPart::RightLine | QuizPart::AcceptAnswer | QuizPart::LastAnswer;
 
 }
 

@@ -14,12 +14,14 @@ using Next = CWordByWordForm::Next;
 
 CWordByWordDialog::CWordByWordDialog(const QuizWindowServices &services, CWordByWordForm &form, QuizParts parts)
     : CQuizDialog(services, form, parts), m_form(form),
-      m_area(new CQuestionArea(texts().Get(Text::QuizQuestion), this)), m_fields(new QVBoxLayout),
-      m_feedback(new CFeedbackPanel(texts(), this))
+      m_area(new CQuestionArea(texts().Get(Text::QuizQuestion), this)), m_fields(new QVBoxLayout)
 {
     content()->addWidget(m_area, 1);
     m_area->fields()->addLayout(m_fields);
-    m_area->fields()->addWidget(m_feedback);
+    if (parts.testFlag(QuizPart::LastAnswer)) {
+        m_feedback = new CFeedbackPanel(texts(), this);
+        m_area->fields()->addWidget(m_feedback);
+    }
     if (parts.testFlag(QuizPart::AcceptAnswer)) {
         m_accept = new CAcceptAnswerBar(texts(), this);
         m_area->fields()->addWidget(m_accept);
@@ -43,7 +45,9 @@ void CWordByWordDialog::showCurrentWord()
 void CWordByWordDialog::updateStatistics()
 {
     CQuizDialog::updateStatistics();
-    m_feedback->showAnswer(lastAnswer(*m_form.session(), texts()));
+    if (m_feedback != nullptr) {
+        m_feedback->showAnswer(lastAnswer(*m_form.session(), texts()));
+    }
     if (m_accept != nullptr) {
         m_accept->showOffer(m_form.acceptOffer());
     }

@@ -37,6 +37,6 @@ private:
     CWordByWordForm &m_form;
     CQuestionArea *m_area;
     QVBoxLayout *m_fields;
-    CFeedbackPanel *m_feedback;
+    CFeedbackPanel *m_feedback = nullptr;
     CAcceptAnswerBar *m_accept = nullptr;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ui/special_character_keys.h"
 
+#include "platform/ui/digit_key.h"
 #include "resources/texts.h"
 #include "shell/text_numbers.h"
 #include "shell/ui/special_character_window.h"
@@ -17,24 +18,6 @@
 #include <utility>
 
 namespace {
-
-/// The digit of a key, whatever character it gives together with Shift or in the keyboard's layout.
-std::optional<int> DigitOfKey(const QKeyEvent &event)
-{
-    // The codes of the row of digits; elsewhere the codes are others.
-    constexpr quint32 CodeOf1 = 10;
-    constexpr quint32 CodeOf0 = 19;
-    const QString platform = QGuiApplication::platformName();
-    const quint32 code = event.nativeScanCode();
-    if ((platform == QStringLiteral("xcb") || platform.startsWith(QStringLiteral("wayland"))) && code >= CodeOf1
-        && code <= CodeOf0) {
-        return int(code - CodeOf1 + 1) % 10;
-    }
-    if (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9) {
-        return event.key() - Qt::Key_0;
-    }
-    return {};
-}
 
 /// Types into a widget that need not have the focus.
 void TypeInto(QWidget &target, const QString &text)

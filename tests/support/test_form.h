@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/random.h"
+#include "quiz/quiz_form.h"
+#include "settings/quiz_settings.h"
+#include "support/test_document.h"
+
+/// Settings of a quiz in the order of the list over all of its entries.
+inline QuizSettings InOrder(Requiz requiz, int rounds)
+{
+    QuizSettings settings;
+    settings.order = QuizOrder::AsInList;
+    settings.requiz = requiz;
+    settings.quizNumber = rounds;
+    settings.includeFlaggedWords = IncludeFlagged::Always;
+    settings.showAnswerIfOneCorrect = true;
+    return settings;
+}
+
+/// A form with all that it needs, without a window. `settings` must live as long.
+template<class Form>
+struct TestForm
+{
+    CRandom random{1};
+    QuizChallengeSettings quizChallenge;
+    FallingWordSettings fallingWord;
+    std::shared_ptr<CQuizSession> session;
+    Form form;
+
+    TestForm(TestDocument &test, const QuizSettings &settings, std::span<const int> selected = {},
+        QuizAnswers answers = QuizAnswers::AreJudged)
+        : session(std::make_shared<CQuizSession>(test.document, settings, random, selected, answers)),
+          form({session, settings, {quizChallenge, fallingWord}, test.texts, random, SteadyClock})
+    {
+    }
+};
