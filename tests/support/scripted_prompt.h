@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QTest>
 
+#include <functional>
+
 /// Fails the running test.
 inline void FailTest(const QString &why)
 {
@@ -35,6 +37,7 @@ public:
             Check({text.number, icon});
         }
         Record(text, icon);
+        duringMessage();
     }
     PromptAnswer Ask(
         const PromptText &text, PromptIcon icon, PromptButtons buttons, PromptAnswer defaultAnswer) override
@@ -53,6 +56,8 @@ public:
     QList<int> numbers;
     QStringList texts;
     QList<PromptIcon> icons;
+    /// Called while a message is on screen.
+    std::function<void()> duringMessage = [] {};
 
 private:
     static void Check(const PromptForm &form)

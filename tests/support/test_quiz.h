@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "games/ui/game_windows.h"
 #include "quiz/quiz_host.h"
 #include "quiz/ui/quiz_launch.h"
 #include "settings/quiz_settings.h"
@@ -87,7 +88,8 @@ struct TestQuiz
                                         .chooser = chooser,
                                         .resultSettings = resultSettings,
                                         .dataFolders = folders,
-                                        .clock = [this] { return clock.Read(); }}},
+                                        .clock = [this] { return clock.Read(); }},
+                                    .makers = quizAndGameWindowMakers()},
                              mainWindow)
     {
         settings.order = QuizOrder::AsInList;

@@ -51,10 +51,15 @@ int NaturalWidth(const QString &text, const QFont &font, int most)
 CWrappedText::CWrappedText(const QString &text, QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    QLabel::setText(QString(text).remove(u'\r'));
+    ShowText(text);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+}
+
+void CWrappedText::ShowText(const QString &text)
+{
+    setText(QString(text).remove(u'\r'));
 }
 
 QSize CWrappedText::sizeHint() const

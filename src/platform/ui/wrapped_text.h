@@ -15,8 +15,9 @@ class CWrappedText : public QLabel
     Q_OBJECT
 
 public:
-    /// The text must not change.
     CWrappedText(const QString &text, QWidget *parent);
+
+    void ShowText(const QString &text);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -25,4 +26,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    using QLabel::setText;
 };

@@ -24,7 +24,7 @@ struct QuizLaunchServices
     CRandom &random;
     IQuizHost &host;
     QuizWindowServices windows;
-    QuizWindowMakers makers = quizWindowMakers();
+    QuizWindowMakers makers;
 };
 
 /// Runs quizzes one after the other: builds the session, shows its window in place of the main window, and the

@@ -21,5 +21,5 @@ std::unique_ptr<CQuizDialog> makeQuizWindow(const QuizWindowServices &services, 
     return std::make_unique<Window>(services, std::make_unique<Form>(start));
 }
 
-/// The windows by kind.
+/// The windows of this folder by kind; those of games stand in theirs.
 QuizWindowMakers quizWindowMakers();

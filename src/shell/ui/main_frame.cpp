@@ -6,6 +6,7 @@
 #include "document/win32_doc.h"
 #include "editor/clipboard_data.h"
 #include "editor/ui/win32_view.h"
+#include "games/ui/game_windows.h"
 #include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
 #include "quiz/ui/quiz_launch.h"
@@ -77,7 +78,8 @@ CMainFrame::CMainFrame(const FrameServices &services)
                                   .sounds = services.sounds,
                                   .chooser = services.chooser,
                                   .resultSettings = services.settings.result,
-                                  .dataFolders = services.dataFolders}},
+                                  .dataFolders = services.dataFolders},
+                              .makers = quizAndGameWindowMakers()},
               *this)),
       m_place(*this, services.store, services.root)
 {

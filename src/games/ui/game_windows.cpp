@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "games/ui/game_windows.h"
+
+#include "games/ui/alternatives_game.h"
+#include "games/ui/hangman_game.h"
+
+QuizWindowMakers quizAndGameWindowMakers()
+{
+    QuizWindowMakers makers = quizWindowMakers();
+    makers[size_t(QuizKind::Alternatives)] = makeQuizWindow<CAlternativesGame, CAlternativesForm>;
+    makers[size_t(QuizKind::Hangman)] = makeQuizWindow<CHangmanGame, CHangmanForm>;
+    return makers;
+}
