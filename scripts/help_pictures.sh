@@ -26,14 +26,22 @@ shot() {
     import -window "$window" -strip -define png:compression-level=9 +dither -colors 128 "$pictures/$1.png"
 }
 
+# mnemonic NUMBER: the underlined letter of a text in the language at hand.
+mnemonic() { sed -n "s/^$1=.*&\\(.\\).*/\\L\\1/p" "$texts"; }
+
 # language NAME MODULE: all pictures in one language; the titles of its windows come from its own texts.
 language() {
-    local texts=$2 list="$work/vardagsord.gls" quiz result special yes
-    yes=$(sed -n 's/^70050=.*&\(.\).*/\L\1/p' "$texts")
+    local texts=$2 list="$work/vardagsord.gls" find properties quiz result settings settings_key special tools yes
+    yes=$(mnemonic 70050)
+    tools=$(mnemonic 99005)
+    settings_key=$(mnemonic 133006)
+    find=$(sed -n 's/^210000=//p' "$texts")
+    settings=$(sed -n 's/^220000=//p' "$texts")
+    properties=$(sed -n 's/^225000=//p' "$texts")
     quiz=$(sed -n 's/^63060=//p' "$texts")
     result=$(sed -n 's/^62122=//p' "$texts")
     special=$(sed -n 's/^346000=//p' "$texts")
-    settings "languageFile=$texts\\nplugInUse=1\\n[editor]\\nduplicateCheckBeforeQuiz=0\\n[quiz]\\nplayRight=0\\nplayWrong=0\\nwordsToQuiz=1\\nnumberOfWords=8\\nrequiz=0\\n[easykey]\\nsubset=2\\ndock=0\\n[Winpos]\\nStatus=1\\nLeft=40\\nTop=40\\nRight=840\\nBottom=600\\n"
+    settings "languageFile=$texts\\nplugInUse=1\\n[editor]\\nduplicateCheckBeforeQuiz=0\\n[quiz]\\nplayRight=0\\nplayWrong=0\\nwordsToQuiz=1\\nnumberOfWords=8\\nrequiz=0\\n[find]\\ndictionary=1\\n[easykey]\\nsubset=2\\ndock=0\\n[Winpos]\\nStatus=1\\nLeft=40\\nTop=40\\nRight=840\\nBottom=600\\n"
     cp samples/vardagsord.gls "$list"
     if [ "$1" = en ]; then # The comments and the names of the languages.
         LC_ALL=C sed -i -e '3s/.*/Everyday words for beginners\r/' -e '4s/.*/Swedish\r/' -e '5s/.*/English\r/' "$list"
@@ -42,7 +50,14 @@ language() {
     local pid=$!
     pids+=("$pid")
     shot "$1-main" "vardagsord"
-    xdotool key F9
+    xdotool key ctrl+f sleep 0.5 type --delay 50 "ar"
+    sleep 1 # Until it has searched.
+    shot "$1-find" "$find"
+    xdotool key Escape sleep 0.5 key alt+Return sleep 1 key ctrl+Tab
+    shot "$1-properties" "$properties"
+    xdotool key Escape sleep 0.5 key "alt+$tools" sleep 0.5 key "$settings_key"
+    shot "$1-settings" "$settings"
+    xdotool key Escape sleep 0.5 key F9
     shot "$1-special" "$special"
     xdotool key F9 sleep 0.5 key F9 sleep 0.5 key ctrl+alt+1 sleep 1
     for answer in 1 2 3; do
