@@ -7,6 +7,11 @@
 
 namespace {
 
+bool Passes(FlagFilter filter, bool flag)
+{
+    return filter == FlagFilter::Any || (filter == FlagFilter::Flagged) == flag;
+}
+
 /// The code point that begins, or that ends, at a position; lone surrogates are themselves.
 char32_t CharacterAt(QStringView field, qsizetype position)
 {
@@ -57,7 +62,8 @@ qsizetype IndexOfFolded(QStringView field, QStringView text, const char16_t *fol
 }
 
 CTextMatcher::CTextMatcher(const TextSearch &search)
-    : m_folding(search.matchCase ? nullptr : CaseFolding()), m_wholeWord(search.wholeWord), m_text(search.text)
+    : m_folding(search.matchCase ? nullptr : CaseFolding()), m_wholeWord(search.wholeWord),
+      m_column(search.column), m_flag1(search.flag1), m_flag2(search.flag2), m_text(search.text)
 {
     if (search.wildcard && (m_text.contains(u'*') || m_text.contains(u'?'))) {
         m_segments.emplace_back();
@@ -74,6 +80,21 @@ CTextMatcher::CTextMatcher(const TextSearch &search)
     for (QChar &unit : m_text) {
         unit = QChar(Fold(unit));
     }
+}
+
+TextMatch CTextMatcher::FindIn(const CWordEntry &entry, int index) const
+{
+    if (!Passes(m_flag1, entry.GetFlag(0)) || !Passes(m_flag2, entry.GetFlag(1))) {
+        return {};
+    }
+    const bool all = m_column < 0;
+    const int last = all ? CWordEntry::NoteField : std::min(m_column, CWordEntry::NoteField);
+    for (int column = all ? 0 : m_column; column <= last; ++column) {
+        if (const auto range = Find(entry.GetField(column))) {
+            return {index, column, int(range->start), int(range->start + range->length) - 1};
+        }
+    }
+    return {};
 }
 
 bool CTextMatcher::IsPrefixOf(QStringView field) const

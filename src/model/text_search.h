@@ -52,6 +52,8 @@ public:
         qsizetype length = 0;
         bool operator==(const Range &) const = default;
     };
+    /// The match in an entry that stands at `index` of its list; it is not found when there is none.
+    TextMatch FindIn(const CWordEntry &entry, int index) const;
     /// The first place in `field` where the text is found.
     std::optional<Range> Find(QStringView field) const;
     /// True when `field` begins with the text; whole words and wildcards are not considered.
@@ -76,6 +78,9 @@ private:
 
     const char16_t *m_folding; // None when case counts.
     bool m_wholeWord;
+    int m_column;
+    FlagFilter m_flag1;
+    FlagFilter m_flag2;
     QString m_text;
     std::vector<Segment> m_segments;
 };
