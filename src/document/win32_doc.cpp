@@ -52,8 +52,16 @@ int FollowedInsertionPoint(
 {
     const int first = difference.first;
     switch (difference.entries) {
-    case ListDifference::Entries::Inserted:
-        return point < first ? point : point + difference.inserted;
+    case ListDifference::Entries::Inserted: {
+        if (point >= first + difference.removed) {
+            return point + difference.inserted - difference.removed;
+        }
+        int moved = point;
+        while (point >= first && &after.Entry(moved) != &before.Entry(point)) {
+            ++moved;
+        }
+        return moved;
+    }
     case ListDifference::Entries::Removed: {
         int left = first;
         for (int entry = first; entry < std::min(point, first + difference.removed); ++entry) {

@@ -27,7 +27,7 @@ void CArranging::Sort(int field)
     }
     const SortOptions options = SortOptionsOf(m_settings);
     m_document.Change([&](CWordList &list) { list.Sort(field, options, m_random); });
-    if (field >= 0) {
+    if (field != ShuffleKey) {
         m_order.Set({field, options});
     }
     m_view.SelectRow(m_view.InsertionPoint(), false);

@@ -22,7 +22,7 @@ public:
     /// Nothing is owned.
     CArranging(IEditorView &view, CWin32Doc &document, ArrangeSettings &settings, CRandom &random);
 
-    /// By a field; a negative one shuffles. The new-entry row becomes the selection.
+    /// By a field, or ShuffleKey. The new-entry row becomes the selection.
     void Sort(int field);
     /// By a field; a list that stands in that order already is turned round, and the option of descending with
     /// it. Returns whether that option is another now.

@@ -19,12 +19,12 @@ public:
 
     /// Ascending.
     virtual std::vector<int> SelectedEntries() const = 0;
-    /// -1 when no entry is selected.
+    /// NoEntry when none is selected.
     virtual int FirstSelectedEntry() const = 0;
-    /// -1 when no row is selected.
+    /// NoRow when none is selected.
     virtual int FirstSelectedRow() const = 0;
     virtual int RowCount() const = 0;
-    /// -1 for none.
+    /// NoRow without a cell cursor.
     virtual int CursorRow() const = 0;
     /// The field of the cell cursor: 0 and 1 are the languages, 2 the note.
     virtual int CursorField() const = 0;
@@ -32,7 +32,7 @@ public:
     virtual int LastField() const = 0;
     virtual int InsertionPoint() const = 0;
 
-    /// Selects one row alone; none for -1.
+    /// Selects one row alone; none for NoRow.
     virtual void SelectRow(int row, bool ensureVisible) = 0;
     /// Selects these entries alone, and scrolls to the first when none of them is in sight.
     virtual void SelectEntryRange(int first, int last) = 0;

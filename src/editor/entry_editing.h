@@ -30,7 +30,8 @@ public:
     /// A text of the new-entry row changed.
     virtual void PendingChanged() = 0;
     virtual void ShowNotes() = 0;
-    /// Brings an entry fully into sight and lets it stand out while a question about it is open; -1 ends that.
+    /// Brings an entry fully into sight and lets it stand out while a question about it is open; NoEntry ends
+    /// that.
     virtual void MarkEntry(int entry) = 0;
 };
 

@@ -10,13 +10,25 @@ CListSummary::CListSummary(const CWin32Doc &document, const CTexts &texts)
 {
 }
 
+void CListSummary::Count()
+{
+    const ListDifference difference = m_counted.DifferenceTo(m_document.List());
+    const auto add = [&](const CWordList &list, int count, int sign) {
+        for (int entry = difference.first; entry < difference.first + count; ++entry) {
+            for (const int language : {0, 1}) {
+                m_flagged[size_t(language)] += sign * int(list.Entry(entry).GetFlag(language));
+            }
+        }
+    };
+    add(m_counted, difference.removed, -1);
+    add(m_document.List(), difference.inserted, 1);
+    m_counted = m_document.List();
+}
+
 QString CListSummary::Describe(int rows, int entries, int first)
 {
+    Count();
     const CWordList &list = m_document.List();
-    if (m_counted != m_document.ChangeCounter()) {
-        m_flagged = {list.CountFlagged(0), list.CountFlagged(1)};
-        m_counted = m_document.ChangeCounter();
-    }
     const int count = list.Count();
     QStringList values = {QString::number(count)};
     for (const int language : {0, 1}) {

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/word_list.h"
+
 #include <QString>
 
 #include <array>
-#include <optional>
 
 class CTexts;
 class CWin32Doc;
 
 /// The sentence of the status line: how many entries there are and how many of them are flagged in each
-/// language, preceded by what is selected. Counts flags only after a change, since the selection changes with
-/// every key.
+/// language, preceded by what is selected. Counts flags only after a change, and only where that was, since the
+/// selection changes with every key and a list may be long.
 class CListSummary
 {
 public:
@@ -23,8 +24,10 @@ public:
     QString Describe(int rows, int entries, int first);
 
 private:
+    void Count();
+
     const CWin32Doc &m_document;
     const CTexts &m_texts;
-    std::optional<quint64> m_counted; // The document's change counter when the flags were counted.
+    CWordList m_counted; // The list as it was when the flags were counted; it shares the entries.
     std::array<int, 2> m_flagged = {};
 };

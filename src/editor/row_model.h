@@ -5,6 +5,9 @@
 
 #include <array>
 
+/// The number of no row, where one may be missing.
+inline constexpr int NoRow = -1;
+
 /// The rows of the editor: N entries are shown as N + 1 rows, since the new-entry row, in which the next entry
 /// is typed, stands among them at the insertion point. Knows what was typed there and is no entry yet.
 class CRowModel

@@ -17,17 +17,18 @@ bool IsLanguage(int field)
     return field == 0 || field == 1;
 }
 
-/// The stretches of entries that went, first and last, from the end to the start; none when they are too many
-/// to go one by one.
-std::optional<std::vector<std::pair<int, int>>> RemovedStretches(
-    const CWordList &before, const CWordList &after, const ListDifference &difference)
+/// The stretches, first and last, of the `wholeCount` entries of a list from `first` on that are not among the
+/// `partCount` ones of the other list, from the end to the start; none when they are too many to be told one by
+/// one.
+std::optional<std::vector<std::pair<int, int>>> StretchesApart(
+    const CWordList &whole, int wholeCount, const CWordList &part, int partCount, int first)
 {
     constexpr size_t Most = 100;
     std::vector<std::pair<int, int>> stretches;
-    int left = difference.inserted;
-    for (int i = difference.first + difference.removed - 1; i >= difference.first; --i) {
+    int left = partCount;
+    for (int i = first + wholeCount - 1; i >= first; --i) {
         // States share the entries that stayed.
-        if (left > 0 && &before.Entry(i) == &after.Entry(difference.first + left - 1)) {
+        if (left > 0 && &whole.Entry(i) == &part.Entry(first + left - 1)) {
             --left;
         } else if (!stretches.empty() && stretches.back().first == i + 1) {
             stretches.back().first = i;
@@ -68,23 +69,30 @@ QString CWordListModel::LongTextHint() const
 
 bool CWordListModel::Apply(const ListChange &change)
 {
-    using Entries = ListDifference::Entries;
     const ListDifference &difference = change.difference;
-    const auto removed = difference.entries == Entries::Removed
-        ? RemovedStretches(m_list, m_document.List(), difference)
-        : std::nullopt;
+    const bool inserts = difference.entries == ListDifference::Entries::Inserted;
+    const bool removes = difference.entries == ListDifference::Entries::Removed;
+    std::optional<std::vector<std::pair<int, int>>> stretches;
+    if (inserts) {
+        stretches = StretchesApart(
+            m_document.List(), difference.inserted, m_list, difference.removed, difference.first);
+    } else if (removes) {
+        stretches = StretchesApart(
+            m_list, difference.removed, m_document.List(), difference.inserted, difference.first);
+    }
     const bool inPlace = difference.removed == difference.inserted;
-    if (change.replaced || !(removed || inPlace || difference.entries == Entries::Inserted)) {
+    if (change.replaced || !(stretches || inPlace)) {
         if (change.replaced) {
             m_rows.pending = {};
         }
         Reset();
         return false;
     }
-    if (difference.entries == Entries::Inserted) {
-        InsertRows(difference);
-    } else if (removed) {
-        for (const auto &[first, last] : *removed) {
+    if (inserts) {
+        std::for_each(stretches->rbegin(), stretches->rend(),
+            [this](const auto &stretch) { InsertRows(stretch.first, stretch.second); });
+    } else if (removes) {
+        for (const auto &[first, last] : *stretches) {
             RemoveRows(first, last);
         }
     }
@@ -100,16 +108,20 @@ bool CWordListModel::Apply(const ListChange &change)
     return true;
 }
 
-void CWordListModel::InsertRows(const ListDifference &difference)
+void CWordListModel::InsertRows(int first, int last)
 {
+    CWordList inserted;
+    for (int entry = first; entry <= last; ++entry) {
+        inserted.Insert(m_document.List().Entry(entry));
+    }
     // At the insertion point they come to stand above the new-entry row.
     const int point = m_rows.InsertionPoint();
-    const bool above = difference.first <= point;
-    const int row = above ? difference.first : difference.first + 1;
-    beginInsertRows({}, row, row + difference.inserted - 1);
-    m_list = m_document.List();
+    const bool above = first <= point;
+    const int row = above ? first : first + 1;
+    beginInsertRows({}, row, row + last - first);
+    m_list.InsertAll(inserted, first);
     m_rows.SetEntryCount(m_list.Count());
-    m_rows.SetInsertionPoint(above ? point + difference.inserted : point);
+    m_rows.SetInsertionPoint(above ? point + inserted.Count() : point);
     endInsertRows();
 }
 
@@ -286,7 +298,7 @@ QString CWordListModel::Heading(int field) const
     }
 }
 
-void CWordListModel::SetOrder(int field, bool ascending)
+void CWordListModel::SetOrder(std::optional<int> field, bool ascending)
 {
     m_orderField = field;
     m_ascending = ascending;

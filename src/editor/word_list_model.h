@@ -6,6 +6,8 @@
 
 #include <QAbstractTableModel>
 
+#include <optional>
+
 class CTexts;
 class CWin32Doc;
 struct EditorSettings;
@@ -31,9 +33,9 @@ public:
 
     CRowModel &Rows() { return m_rows; }
     const CRowModel &Rows() const { return m_rows; }
-    /// The field by which the list is sorted just now, which its heading tells; -1 for none.
-    void SetOrder(int field, bool ascending);
-    int OrderField() const { return m_orderField; }
+    /// The field by which the list is sorted just now, if it is, which its heading tells.
+    void SetOrder(std::optional<int> field, bool ascending);
+    std::optional<int> OrderField() const { return m_orderField; }
     bool IsAscending() const { return m_ascending; }
     /// The field of an entry that a shown column holds, or NumberColumn.
     int FieldOf(int column) const;
@@ -63,7 +65,8 @@ private:
     QString Heading(int field) const;
     QVariant EntryData(int entry, int field, int role) const;
     QVariant NewEntryData(int field, int role) const;
-    void InsertRows(const ListDifference &difference);
+    /// Rows for entries of the document's list that stand in one stretch there.
+    void InsertRows(int first, int last);
     void RemoveRows(int first, int last);
     /// Entries that stand in one stretch of rows.
     void RemoveStretch(int first, int last);
@@ -74,6 +77,6 @@ private:
     const EditorSettings &m_settings;
     const CTexts &m_texts;
     CRowModel m_rows;
-    int m_orderField = -1;
+    std::optional<int> m_orderField;
     bool m_ascending = true;
 };

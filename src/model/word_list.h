@@ -62,7 +62,7 @@ struct ListDifference
 {
     enum class Entries {
         Same,
-        Inserted, ///< None of the former entries went.
+        Inserted, ///< None of the former entries went, and they stand in their order; new ones may be apart.
         Removed, ///< None came, and those that are left stand in their order; they need not be neighbours.
         Changed ///< Anything else, the number of entries included: another order too.
     };

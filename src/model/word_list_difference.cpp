@@ -7,26 +7,27 @@ namespace {
 
 using Entries = ListDifference::Entries;
 
-/// Whether `after` holds entries of `before` alone, in their order. States share the entries that did not
-/// change, so an entry is known by its address.
-bool IsPartOf(const CWordList &before, const CWordList &after, const ListDifference &difference)
+/// Whether the entries of `part` from `first` on stand among those of `whole` from there on, in their order.
+/// States share the entries that did not change, so an entry is known by its address.
+bool IsPartOf(const CWordList &part, int partCount, const CWordList &whole, int wholeCount, int first)
 {
-    int left = 0;
-    for (int i = 0; i < difference.removed && left < difference.inserted; ++i) {
-        left += int(&before.Entry(difference.first + i) == &after.Entry(difference.first + left));
+    int found = 0;
+    for (int i = 0; i < wholeCount && found < partCount; ++i) {
+        found += int(&whole.Entry(first + i) == &part.Entry(first + found));
     }
-    return left == difference.inserted;
+    return found == partCount;
 }
 
 Entries KindOf(const CWordList &before, const CWordList &after, const ListDifference &difference)
 {
-    if (difference.removed == difference.inserted) {
-        return Entries::Changed;
-    }
-    if (difference.removed == 0) {
+    const int first = difference.first;
+    const int removed = difference.removed;
+    const int inserted = difference.inserted;
+    if (removed < inserted && IsPartOf(before, removed, after, inserted, first)) {
         return Entries::Inserted;
     }
-    return IsPartOf(before, after, difference) ? Entries::Removed : Entries::Changed;
+    const bool isRemoval = removed > inserted && IsPartOf(after, inserted, before, removed, first);
+    return isRemoval ? Entries::Removed : Entries::Changed;
 }
 
 }

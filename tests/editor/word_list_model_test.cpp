@@ -74,6 +74,10 @@ void WordListModelTest::tellsOfChangedRows()
     };
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     remove({0, 2, 3, 39});
+    test.document.Undo();
+    QCOMPARE(shown(), QStringLiteral("0 1 2 << Ny >> 3 4"));
+    QCOMPARE(model.index(40, 0).data().toString(), QStringLiteral("39"));
+    test.document.Redo();
     QCOMPARE(resets.count(), 0);
     QCOMPARE(shown(), QStringLiteral("1 << Ny >> 4 5 6 7"));
     test.document.Change(

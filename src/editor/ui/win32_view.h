@@ -71,8 +71,8 @@ public:
     int InsertionPoint() const override;
     /// A line above the list that stays until it is emptied.
     void ShowNotice(const QString &notice);
-    /// The heading of the field has an arrow; -1 for none.
-    void ShowOrder(int field, bool ascending);
+    /// The heading of the field, if there is one, has an arrow.
+    void ShowOrder(std::optional<int> field, bool ascending);
 
     /// Shows everything anew, after columns came or went; the selected rows stay selected.
     void RefreshAll();
@@ -84,9 +84,9 @@ public:
     void EndEditing(bool commit);
     /// Stores what is being typed without asking anything.
     void EndEditingQuietly();
-    /// What is typed and no entry yet.
     /// A change in the fields that is not confirmed changes its entry before a command acts on the list.
     void KeepChangedFields();
+    /// What is typed and no entry yet.
     IPendingWork &PendingWork() { return m_pending; }
 
     /// Whether the cell cursor stands on a text of the new-entry row, and no entry is selected.

@@ -69,7 +69,7 @@ void CWin32View::Follow(const EditStep &step, bool byEnter)
         SelectAndTypeOn(step.index);
         break;
     case EditStep::Action::ClearSelection:
-        m_list->SelectRow(-1, false);
+        m_list->SelectRow(NoRow, false);
         break;
     case EditStep::Action::ClearFields:
         m_list->scrollTo(m_model->index(InsertionPoint(), m_model->ColumnOf(0)));
@@ -113,7 +113,7 @@ bool CWin32View::ShowsFound()
 void CWin32View::ClearFields()
 {
     if (!ShowsFound()) {
-        m_list->SelectRow(-1, false);
+        m_list->SelectRow(NoRow, false);
     }
     EmptyFields();
     if (m_services.settings.editor.showEditFields) {
@@ -141,7 +141,7 @@ void CWin32View::MarkEntry(int entry)
     if (entry >= 0) {
         ShowEntry(entry);
     }
-    m_list->SetHotRow(entry < 0 ? -1 : m_model->Rows().RowOfEntry(entry));
+    m_list->SetHotRow(entry < 0 ? NoRow : m_model->Rows().RowOfEntry(entry));
 }
 
 std::optional<OpenEdit> CWin32View::EditedCell() const
@@ -203,7 +203,7 @@ void CWin32View::DeleteSelection()
     const auto above =
         std::ranges::count_if(entries, [&](int entry) { return m_model->Rows().RowOfEntry(entry) < row; });
     if (m_editing.DeleteEntries(entries)) {
-        m_list->SelectRow(-1, false);
+        m_list->SelectRow(NoRow, false);
         PlaceCursor(std::max(row - int(above), 0), field);
     }
     if (hadKeyboard) {
@@ -228,7 +228,7 @@ void CWin32View::SearchTyped(const QString &start, int row)
 {
     const CRowModel &rows = m_model->Rows();
     const int from = std::max(rows.EntryOfRow(rows.IsNewEntryRow(row) ? row + 1 : row), 0);
-    const int column = CursorField() == 0 || CursorField() == 1 ? CursorField() : -1;
+    const int column = CursorField() == 0 || CursorField() == 1 ? CursorField() : AllColumns;
     const int found = m_services.document.List().FindPrefix(start, column, from);
     if (found >= 0) {
         SelectEntry(found);

@@ -34,9 +34,7 @@ int CWin32View::SelectedRowCount() const
 
 int CWin32View::SelectedEntryCount() const
 {
-    const bool newRow =
-        m_list->selectionModel()->isSelected(m_model->index(InsertionPoint(), m_model->ColumnOf(0)));
-    return SelectedRowCount() - int(newRow);
+    return SelectedRowCount() - int(m_list->IsRowSelected(InsertionPoint()));
 }
 
 int CWin32View::FirstSelectedEntry() const
@@ -55,7 +53,7 @@ int CWin32View::FirstSelectedEntry() const
 int CWin32View::FirstSelectedRow() const
 {
     const auto &ranges = m_list->SelectedRanges();
-    return ranges.empty() ? -1 : ranges.front().first;
+    return ranges.empty() ? NoRow : ranges.front().first;
 }
 
 int CWin32View::RowCount() const
@@ -90,12 +88,13 @@ int CWin32View::CursorField() const
 
 void CWin32View::SelectEntry(int entry)
 {
-    m_list->SelectRow(entry < 0 ? -1 : m_model->Rows().RowOfEntry(entry), true);
+    m_list->SelectRow(entry < 0 ? NoRow : m_model->Rows().RowOfEntry(entry), true);
 }
 
 void CWin32View::SelectEntries(const std::vector<int> &entries)
 {
     const CRowModel &rows = m_model->Rows();
+    const auto [firstVisible, lastVisible] = m_list->VisibleRows();
     std::vector<std::pair<int, int>> ranges;
     bool inSight = false;
     for (const int entry : entries) {
@@ -103,7 +102,7 @@ void CWin32View::SelectEntries(const std::vector<int> &entries)
         if (entry < 0 || row >= rows.RowCount()) {
             continue;
         }
-        inSight = inSight || m_list->IsRowVisible(row);
+        inSight = inSight || (row >= firstVisible && row <= lastVisible);
         if (!ranges.empty() && ranges.back().second == row - 1) {
             ranges.back().second = row;
         } else {
@@ -235,7 +234,7 @@ std::optional<std::pair<int, int>> CWin32View::FlagOf(const QModelIndex &cell) c
     return entry < 0 ? std::nullopt : std::optional(std::pair(entry, m_model->FieldOf(cell.column())));
 }
 
-void CWin32View::ShowOrder(int field, bool ascending)
+void CWin32View::ShowOrder(std::optional<int> field, bool ascending)
 {
     m_model->SetOrder(field, ascending);
 }

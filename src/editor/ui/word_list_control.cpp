@@ -2,6 +2,7 @@
 #include "editor/ui/word_list_control.h"
 
 #include "editor/pending_entries.h"
+#include "editor/ui/row_selection_model.h"
 #include "editor/ui/word_list_delegate.h"
 #include "editor/word_list_model.h"
 #include "platform/ui/spoken_text.h"
@@ -14,12 +15,6 @@
 #include <QScrollBar>
 
 #include <algorithm>
-
-namespace {
-
-constexpr int ManyRanges = 50;
-
-}
 
 CWordListControl::CWordListControl(QWidget *parent)
     : QTableView(parent), m_delegate(new CWordListDelegate(*this)), m_quickEdit([] { return false; })
@@ -57,6 +52,11 @@ CWordListControl::CWordListControl(QWidget *parent)
     for (const QScrollBar *const bar : {verticalScrollBar(), horizontalScrollBar()}) {
         connect(bar, &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
     }
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (m_dropRow != NoRow) {
+            SetDropRow(DropRowAt(m_dropPlace)); // The rows move below a pointer that rests.
+        }
+    });
     viewport()->setAcceptDrops(true);
     LayoutRows();
 }
@@ -65,6 +65,8 @@ void CWordListControl::SetListModel(CWordListModel *model)
 {
     m_model = model;
     setModel(model);
+    const std::unique_ptr<QItemSelectionModel> toolkits(selectionModel());
+    setSelectionModel(new CRowSelectionModel(model, this));
     const auto forget = [this] { m_ranges.reset(); };
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, forget);
     connect(model, &QAbstractItemModel::modelReset, this, forget);
@@ -74,7 +76,7 @@ void CWordListControl::SetListModel(CWordListModel *model)
     connect(model, &QAbstractItemModel::rowsRemoved, this, forget);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         // Told also when other rows come or go.
-        if (m_mark && !selectionModel()->isSelected(m_mark->cell)) {
+        if (m_mark && !IsRowSelected(m_mark->cell.row())) {
             ForgetMark();
         }
     });
@@ -106,13 +108,6 @@ void CWordListControl::resizeEvent(QResizeEvent *event)
     if (width() != m_laidOutWidth) {
         LayoutColumns();
     }
-}
-
-QRegion CWordListControl::visualRegionForSelection(const QItemSelection &selection) const
-{
-    // Joining the rows of thousands of ranges takes longer than painting what can be seen.
-    return selection.size() > ManyRanges ? QRegion(viewport()->rect())
-                                         : QTableView::visualRegionForSelection(selection);
 }
 
 int CWordListControl::NumberColumnWidth() const
@@ -176,12 +171,12 @@ void CWordListControl::WidenNumberColumn()
 
 void CWordListControl::ShowOrder()
 {
-    const int column = m_model->OrderField() < 0 ? -1 : m_model->ColumnOf(m_model->OrderField());
-    const bool shown = column >= 0 && column < m_model->columnCount();
+    const std::optional<int> field = m_model->OrderField();
+    const bool shown = field && m_model->ColumnOf(*field) < m_model->columnCount();
     horizontalHeader()->setSortIndicatorShown(shown);
     if (shown) {
         horizontalHeader()->setSortIndicator(
-            column, m_model->IsAscending() ? Qt::AscendingOrder : Qt::DescendingOrder);
+            m_model->ColumnOf(*field), m_model->IsAscending() ? Qt::AscendingOrder : Qt::DescendingOrder);
     }
 }
 
@@ -236,9 +231,6 @@ void CWordListControl::SelectRanges(const std::vector<std::pair<int, int>> &rang
     for (const auto &[first, last] : ranges) {
         selection.append(QItemSelectionRange(m_model->index(first, 0), m_model->index(last, lastColumn)));
     }
-    if (selection.size() > ManyRanges && selectionModel()->selection().size() > ManyRanges) {
-        clearSelection(); // Else each former range is compared with each new one.
-    }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
@@ -250,16 +242,23 @@ void CWordListControl::SelectRow(int row, bool ensureVisible)
     }
     const QModelIndex index = m_model->index(row, m_model->ColumnOf(std::max(CursorField(), 0)));
     PlaceCursor(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    // A row that shows in part counts as visible.
     if (ensureVisible && !IsRowVisible(row)) {
         scrollTo(index);
     }
 }
 
-bool CWordListControl::IsRowVisible(int row) const
+std::pair<int, int> CWordListControl::VisibleRows() const
 {
-    const int top = rowViewportPosition(row);
-    return top + rowHeight(row) > 0 && top < viewport()->height();
+    const int last = rowAt(viewport()->height() - 1);
+    return {rowAt(0), last < 0 ? m_model->rowCount() - 1 : last};
+}
+
+bool CWordListControl::IsRowSelected(int row) const
+{
+    // The toolkit would look at each range in turn, and there may be thousands.
+    const auto &ranges = SelectedRanges();
+    const auto after = std::ranges::upper_bound(ranges, row, {}, &std::pair<int, int>::first);
+    return after != ranges.begin() && row <= std::prev(after)->second;
 }
 
 void CWordListControl::MarkText(int start, int length)

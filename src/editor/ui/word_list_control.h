@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/row_model.h"
+
 #include <QElapsedTimer>
 #include <QItemSelectionModel>
 #include <QPersistentModelIndex>
@@ -64,16 +66,19 @@ public:
     void SetCursorField(int field);
     /// Scrolls nothing and selects nothing.
     void SetCursor(int row, int field);
-    /// The row of the cell cursor; -1 for none.
+    /// The row of the cell cursor, or NoRow.
     int CursorRow() const { return currentIndex().row(); }
 
     /// The selected rows as ranges (first, last), ascending.
     const std::vector<std::pair<int, int>> &SelectedRanges() const;
+    bool IsRowSelected(int row) const;
     /// Selects exactly these ranges, in one go.
     void SelectRanges(const std::vector<std::pair<int, int>> &ranges);
-    /// Selects one row and puts the cell cursor there; -1 for none.
+    /// Selects one row and puts the cell cursor there; none for NoRow.
     void SelectRow(int row, bool ensureVisible);
-    bool IsRowVisible(int row) const;
+    /// The first and the last row in sight; one that shows in part counts.
+    std::pair<int, int> VisibleRows() const;
+    bool IsRowVisible(int row) const { return row >= VisibleRows().first && row <= VisibleRows().second; }
 
     /// Tells assistive technology that the cell of the cursor has another name or flag.
     void TellCursorChanged();
@@ -83,7 +88,7 @@ public:
     /// The stretch that stands out in a cell; null for none.
     const TextMark *MarkIn(const QModelIndex &index) const;
 
-    /// A row that stands out; -1 for none.
+    /// A row that stands out, or NoRow.
     void SetHotRow(int row);
     int HotRow() const { return m_hotRow; }
     /// The list or the edit in one of its cells has the keyboard.
@@ -167,7 +172,7 @@ private:
     void DragSelection();
     /// The row above which something that is dropped at a place goes.
     int DropRowAt(const QPoint &place) const;
-    /// Shows where something would be dropped; -1 for nowhere.
+    /// Shows where something would be dropped; nowhere for NoRow.
     void SetDropRow(int row);
     void MoveCursorField(int step);
     void ScrollToCursorField();
@@ -178,7 +183,7 @@ private:
     CSpokenText *m_spoken = nullptr; // Once a flag was toggled.
     CWordListDelegate *m_delegate;
     std::function<bool()> m_quickEdit;
-    int m_hotRow = -1;
+    int m_hotRow = NoRow;
     int m_laidOutColumns = 0;
     int m_laidOutWidth = 0;
     bool m_layingOut = false;
@@ -188,7 +193,9 @@ private:
     QPoint m_pressedCell; // Where it stood; the list may have moved until the button is released.
     std::function<std::unique_ptr<QMimeData>()> m_dragData;
     std::optional<QPoint> m_dragFrom; // A selected row was pressed there.
-    int m_dropRow = -1;
+    QPersistentModelIndex m_deselected; // Pressed with Ctrl: its row is deselected unless it is dragged.
+    int m_dropRow = NoRow;
+    QPoint m_dropPlace; // Of the pointer, while something is dragged above the list.
     std::optional<TextMark> m_mark;
     std::optional<CellEdit> m_ended;
     QString m_typed;

@@ -7,7 +7,6 @@
 #include <QDrag>
 #include <QDropEvent>
 #include <QMimeData>
-#include <QPainter>
 
 namespace {
 
@@ -31,6 +30,7 @@ void CWordListControl::mouseMoveEvent(QMouseEvent *event)
 void CWordListControl::DragSelection()
 {
     m_dragFrom.reset();
+    m_deselected = QPersistentModelIndex();
     m_pressedFlag = QPersistentModelIndex();
     std::unique_ptr<QMimeData> dragged = m_dragData();
     if (!dragged) {
@@ -40,7 +40,7 @@ void CWordListControl::DragSelection()
     drag->setMimeData(dragged.release());
     // Other programs get a copy: what they do with it removes nothing here.
     drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
-    SetDropRow(-1);
+    SetDropRow(NoRow);
 }
 
 int CWordListControl::DropRowAt(const QPoint &place) const
@@ -71,11 +71,9 @@ void CWordListControl::dragMoveEvent(QDragMoveEvent *event)
         event->ignore();
         return;
     }
-    const QPoint place = event->position().toPoint();
-    SetDropRow(DropRowAt(place));
-    if (!viewport()->rect().adjusted(0, autoScrollMargin(), 0, -autoScrollMargin()).contains(place)) {
-        startAutoScroll();
-    }
+    QTableView::dragMoveEvent(event); // Scrolls near an edge; the toolkit knows no rows to drop on.
+    m_dropPlace = event->position().toPoint();
+    SetDropRow(DropRowAt(m_dropPlace));
     const bool moves = event->source() == this && !event->modifiers().testFlag(Qt::ControlModifier);
     event->setDropAction(moves ? Qt::MoveAction : Qt::CopyAction);
     event->accept();
@@ -84,13 +82,13 @@ void CWordListControl::dragMoveEvent(QDragMoveEvent *event)
 void CWordListControl::dragLeaveEvent(QDragLeaveEvent * /*event*/)
 {
     stopAutoScroll();
-    SetDropRow(-1);
+    SetDropRow(NoRow);
 }
 
 void CWordListControl::dropEvent(QDropEvent *event)
 {
     stopAutoScroll();
-    SetDropRow(-1);
+    SetDropRow(NoRow);
     if (!MayBeDropped(*event->mimeData())) {
         event->ignore();
         return;
@@ -104,19 +102,5 @@ void CWordListControl::dropEvent(QDropEvent *event)
         Q_EMIT RowsDropped(row);
     } else {
         Q_EMIT DataDropped(*event->mimeData(), row);
-    }
-}
-
-void CWordListControl::paintEvent(QPaintEvent *event)
-{
-    QTableView::paintEvent(event);
-    if (m_dropRow >= 0) {
-        constexpr int Thickness = 3;
-        const int last = m_model->rowCount() - 1;
-        const int y =
-            m_dropRow <= last ? rowViewportPosition(m_dropRow) : rowViewportPosition(last) + rowHeight(last);
-        QPainter painter(viewport());
-        painter.fillRect(0, std::max(y - Thickness / 2, 0), viewport()->width(), Thickness,
-            palette().color(QPalette::Active, QPalette::Highlight));
     }
 }

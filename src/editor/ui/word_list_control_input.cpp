@@ -148,16 +148,26 @@ void CWordListControl::mousePressEvent(QMouseEvent *event)
 {
     m_pressedFlag = event->button() == Qt::LeftButton ? FlagAt(event->pos()) : QModelIndex();
     m_pressedCell = visualRect(m_pressedFlag).topLeft();
-    const bool mayDrag = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier
-        && selectionModel()->isSelected(indexAt(event->pos()));
+    const QModelIndex pressed = indexAt(event->pos());
+    const bool toCopy = event->modifiers() == Qt::ControlModifier;
+    const bool mayDrag = event->button() == Qt::LeftButton && (toCopy || event->modifiers() == Qt::NoModifier)
+        && pressed.isValid() && IsRowSelected(pressed.row());
     m_dragFrom = mayDrag ? std::optional(event->pos()) : std::nullopt;
-    QTableView::mousePressEvent(event);
+    m_deselected = mayDrag && toCopy ? pressed : QModelIndex();
+    if (!m_deselected.isValid()) {
+        QTableView::mousePressEvent(event);
+    }
 }
 
 void CWordListControl::mouseReleaseEvent(QMouseEvent *event)
 {
     m_dragFrom.reset();
-    QTableView::mouseReleaseEvent(event);
+    if (m_deselected.isValid()) {
+        PlaceCursor(m_deselected, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+        m_deselected = QPersistentModelIndex();
+    } else {
+        QTableView::mouseReleaseEvent(event);
+    }
     const QPersistentModelIndex pressed = std::exchange(m_pressedFlag, {});
     const QModelIndex released = FlagAt(event->pos());
     // The entry that was pressed, also when the end of an edit moved its row in between.

@@ -35,7 +35,7 @@ CArrangeCommands::CArrangeCommands(CCommandActions &actions, CWin32View &view, C
     });
     connect(&arranging.Order(), &CListOrder::Changed, &view, [&arranging, &view] {
         const auto &order = arranging.Order().Current();
-        view.ShowOrder(order ? order->field : -1, order && order->options.ascending);
+        view.ShowOrder(order ? std::optional(order->field) : std::nullopt, order && order->options.ascending);
     });
     for (const auto &[command, option] : {std::pair(Descending, &ArrangeSettings::descending),
              {GroupFlagged, &ArrangeSettings::groupFlagged}, {SortByLength, &ArrangeSettings::byLength}}) {
