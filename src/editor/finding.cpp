@@ -43,19 +43,20 @@ bool CFinding::HasAim() const
     return !m_text.isEmpty() || m_settings.advancedSearch;
 }
 
-void CFinding::FindNext(bool takeFocus)
+TextMatch CFinding::FindNext(bool takeFocus)
 {
     const bool downward = !m_settings.advancedSearch || m_settings.searchDown;
     const TextMatch match = m_document.List().FindNext(Search(), m_view.FirstSelectedEntry(), downward);
     if (!match.IsFound()) {
         TellNothingFound();
-        return;
+        return match;
     }
     qDebug("Language: %d  start: %d  end: %d", match.column, match.start, match.end);
     m_view.ShowMatch(match, takeFocus);
+    return match;
 }
 
-void CFinding::FindAll()
+int CFinding::FindAll()
 {
     const std::vector<int> entries = m_document.List().FindAll(Search());
     if (entries.empty()) {
@@ -63,6 +64,7 @@ void CFinding::FindAll()
     } else {
         m_view.SelectEntries(entries);
     }
+    return int(entries.size());
 }
 
 void CFinding::TellNothingFound()

@@ -26,11 +26,11 @@ public:
     /// Whether there is anything to look for: a text, or flags.
     bool HasAim() const;
 
-    /// Selects the next entry behind or before the first selected one and shows the match in it; tells when
-    /// there is none. With `takeFocus` typing goes on at the match.
-    void FindNext(bool takeFocus);
-    /// Selects all entries that match; tells when there is none.
-    void FindAll();
+    /// Selects the next entry behind or before the first selected one and shows the match in it, which is
+    /// returned; tells when there is none. With `takeFocus` typing goes on at the match.
+    TextMatch FindNext(bool takeFocus);
+    /// Selects all entries that match and returns how many they are; tells when there is none.
+    int FindAll();
 
 private:
     void TellNothingFound();

@@ -34,8 +34,8 @@ bool CSettingsForm::Reset()
         return false;
     }
     Load();
-    for (const SettingsSection section :
-        {SettingsSection::Misc, SettingsSection::Editor, SettingsSection::Quiz, SettingsSection::Arrange}) {
+    using enum SettingsSection;
+    for (const SettingsSection section : {Misc, Editor, Quiz, Arrange, Find, EasyKey}) {
         m_services.changes.Tell(section);
     }
     return true;

@@ -64,8 +64,8 @@ struct Window
     CCommandActions actions{test.texts, &frame};
     CWin32View *view =
         new CWin32View({test.document, test.allSettings, test.settingsChanges, test.texts, test.prompt});
-    CFindCommands commands{
-        actions, *view, test.document, test.allSettings.find, test.texts, test.prompt, frame};
+    CFindCommands commands{actions, *view, test.document, test.allSettings.find, test.settingsChanges,
+        test.texts, test.prompt, frame};
 };
 
 }
@@ -166,17 +166,26 @@ void FindCommandsTest::theWindow()
     CFindWindow *const window = run.Find();
     run.Run(CommandId::Find);
     QCOMPARE(run.frame.findChildren<CFindWindow *>(), QList<CFindWindow *>{window});
+    // It follows settings that somebody else puts back.
+    run.In<QCheckBox>("dictionary")->click();
+    run.test.allSettings.find = {};
+    run.test.settingsChanges.Tell(SettingsSection::Find);
+    QVERIFY(!run.In<QTableView>("findResults")->isVisible());
+    QCOMPARE(run.In<QComboBox>("flag1")->currentIndex(), 0);
+    QVERIFY(!run.test.allSettings.find.dictionary && run.test.allSettings.find.language == AllColumns);
 }
 
 void FindCommandsTest::theDictionary()
 {
     Window run({QStringLiteral("hund|dog"), QStringLiteral("katt|cat"), QStringLiteral("x|y|hund")});
     run.Run(CommandId::Find);
+    QApplication::setActiveWindow(run.Find());
     run.In<QLineEdit>("findText")->setText(QStringLiteral("hund"));
     run.In<QCheckBox>("dictionary")->click();
     auto *const results = run.In<QTableView>("findResults");
     QCOMPARE(results->model()->rowCount(), 2);
     QCOMPARE(run.In<QLabel>("findCount")->text(), QStringLiteral("2 glosor hittade. Listan har 3 glosor."));
+    QCOMPARE(run.In<QWidget>("spokenText")->accessibleName(), run.In<QLabel>("findCount")->text());
     results->selectAll();
     QCOMPARE(run.view->SelectedEntries(), (std::vector<int>{0, 2}));
     results->selectRow(1);
@@ -184,6 +193,7 @@ void FindCommandsTest::theDictionary()
     QCOMPARE(run.view->SelectedEntries(), std::vector<int>{2});
     QVERIFY(!run.Marked().isEmpty());
     // An edit that is open is stored, and what was found follows the list.
+    QApplication::setActiveWindow(&run.frame);
     run.List()->EditCell(1, 0);
     auto *const editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     QVERIFY(editor != nullptr);

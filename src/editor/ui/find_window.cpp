@@ -7,6 +7,7 @@
 #include "editor/ui/find_result_delegate.h"
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
+#include "platform/ui/spoken_text.h"
 #include "platform/ui/window_placing.h"
 #include "resources/texts.h"
 #include "settings/shell_settings.h"
@@ -24,6 +25,8 @@
 #include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -64,12 +67,11 @@ CFindWindow::CFindWindow(const FindWindowServices &services, QWidget *owner)
     m_text->setObjectName(QStringLiteral("findText"));
     QLabel *const label = MakeLabel(services.texts.Get(Text::FindText), this);
     label->setBuddy(m_text);
-    const FindSettings &settings = services.finding.Settings();
-    m_matchCase = MakeCheck(Text::FindMatchCase, "matchCase", settings.matchCase);
-    m_wholeWord = MakeCheck(Text::FindWholeWord, "wholeWord", settings.wholeWord);
-    m_wildcards = MakeCheck(Text::FindWildcards, "wildcard", settings.wildcard);
-    m_dictionary = MakeCheck(Text::FindDictionary, "dictionary", settings.dictionary);
-    m_advanced = MakeCheck(Text::FindAdvanced, "advancedSearch", settings.advancedSearch);
+    m_matchCase = MakeCheck(Text::FindMatchCase, "matchCase");
+    m_wholeWord = MakeCheck(Text::FindWholeWord, "wholeWord");
+    m_wildcards = MakeCheck(Text::FindWildcards, "wildcard");
+    m_dictionary = MakeCheck(Text::FindDictionary, "dictionary");
+    m_advanced = MakeCheck(Text::FindAdvanced, "advancedSearch");
     QPushButton *const next = MakeButton(Text::FindNextButton, "findNext");
     QPushButton *const all = MakeButton(Text::FindAllButton, "findAll");
     QPushButton *const cancel = MakeButton(Text::Cancel, "cancel");
@@ -132,11 +134,10 @@ CFindWindow::CFindWindow(const FindWindowServices &services, QWidget *owner)
     ShowCount();
 }
 
-QCheckBox *CFindWindow::MakeCheck(int text, const char *name, bool checked)
+QCheckBox *CFindWindow::MakeCheck(int text, const char *name)
 {
     auto *const box = new QCheckBox(m_services.texts.Get(text), this);
     box->setObjectName(QLatin1StringView(name));
-    box->setChecked(checked);
     return box;
 }
 
@@ -199,6 +200,7 @@ QWidget *CFindWindow::MakeResults()
     m_results->installEventFilter(this);
     m_count = MakeLabel({}, part);
     m_count->setObjectName(QStringLiteral("findCount"));
+    m_count->setBuddy(m_results); // Else it is read out with the name of the window.
     layout->addWidget(m_results);
     layout->addWidget(m_count);
     connect(
@@ -235,12 +237,17 @@ void CFindWindow::FillChoices()
 
 void CFindWindow::ShowSettings()
 {
-    const FindSettings &settings = m_services.finding.Settings();
+    const FindSettings settings = m_services.finding.Settings(); // What follows may save some of them.
     m_text->setText(m_services.finding.Text());
+    m_matchCase->setChecked(settings.matchCase);
+    m_wholeWord->setChecked(settings.wholeWord);
+    m_wildcards->setChecked(settings.wildcard);
+    m_advanced->setChecked(settings.advancedSearch);
     m_direction->setCurrentIndex(settings.searchDown ? 1 : 0);
     m_column->setCurrentIndex(settings.language + 1);
     m_flags[0]->setCurrentIndex(settings.flag1);
     m_flags[1]->setCurrentIndex(settings.flag2);
+    m_dictionary->setChecked(settings.dictionary); // Last, since it searches.
 }
 
 void CFindWindow::SaveSettings()
@@ -316,6 +323,7 @@ void CFindWindow::SearchNow()
 {
     SaveSettings();
     m_search.SearchNow();
+    m_saysCount = true;
     GoOn();
 }
 
@@ -333,13 +341,27 @@ void CFindWindow::GoOn()
     if (m_search.IsDue()) {
         SaveSettings();
         m_search.SearchNow();
+        m_saysCount = true;
     } else {
         m_search.Work();
     }
     ShowCount();
     if (const auto wait = m_search.Wait()) {
         m_timer.start(*wait);
+    } else if (std::exchange(m_saysCount, false)) {
+        Say(m_count->text());
     }
+}
+
+void CFindWindow::Say(const QString &found)
+{
+    if (!isActiveWindow() || found.isEmpty()) {
+        return;
+    }
+    if (m_spoken == nullptr) {
+        m_spoken = new CSpokenText(this);
+    }
+    m_spoken->Say(found);
 }
 
 void CFindWindow::ShowCount()

@@ -8,6 +8,7 @@
 
 #include <array>
 
+class CSpokenText;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -35,6 +36,10 @@ public:
 
     /// Shows it beside a window, or brings it to the front.
     void Open(const QWidget &beside);
+    /// Call it when the settings are others than those that it saved.
+    void ShowSettings();
+    /// Has what was found read out, while the keyboard stays here.
+    void Say(const QString &found);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -48,14 +53,13 @@ Q_SIGNALS:
     void MatchWanted(const TextMatch &match);
 
 private:
-    QCheckBox *MakeCheck(int text, const char *name, bool checked);
+    QCheckBox *MakeCheck(int text, const char *name);
     QPushButton *MakeButton(int text, const char *name);
     QComboBox *MakeChoice(const char *name);
     QWidget *MakeAdvanced();
     QWidget *MakeResults();
     /// The choices of the advanced search, with the names of the languages.
     void FillChoices();
-    void ShowSettings();
     void SaveSettings();
     /// Shows what the boxes ask for, in a window that is as high as that.
     void ShowParts();
@@ -83,6 +87,8 @@ private:
     std::array<QLabel *, 2> m_flagLabels = {};
     QTableView *m_results = nullptr;
     QLabel *m_count = nullptr;
+    CSpokenText *m_spoken = nullptr; // Once something was said.
+    bool m_saysCount = false; // Once the search that the user began is done.
     QWidget *m_advancedPart;
     QWidget *m_resultPart;
 };

@@ -2,9 +2,12 @@
 #include "shell/ui/find_commands.h"
 
 #include "document/win32_doc.h"
+#include "editor/text_numbers.h"
 #include "editor/ui/find_window.h"
 #include "editor/ui/win32_view.h"
 #include "platform/ui/wait_cursor.h"
+#include "resources/texts.h"
+#include "settings/settings_changes.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 
@@ -12,12 +15,18 @@
 #include <QApplication>
 
 CFindCommands::CFindCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document,
-    FindSettings &settings, const CTexts &texts, IUserPrompt &prompt, QWidget &frame)
+    FindSettings &settings, const CSettingsChanges &settingsChanges, const CTexts &texts, IUserPrompt &prompt,
+    QWidget &frame)
     : QObject(&frame), m_view(view), m_document(document), m_texts(texts), m_frame(frame), m_actions(actions),
       m_finding(view, document, settings, texts, prompt)
 {
     actions.SetHandler(CommandId::Find, [this] { Open(); });
     actions.SetHandler(CommandId::FindNext, [this] { FindNext(); });
+    connect(&settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
+        if (section == SettingsSection::Find && m_window != nullptr) {
+            m_window->ShowSettings();
+        }
+    });
     frame.installEventFilter(this);
 }
 
@@ -29,7 +38,9 @@ void CFindCommands::Open()
         connect(m_window, &CFindWindow::AllWanted, this, [this] {
             m_view.EndEditing(true);
             const CWaitCursor wait;
-            m_finding.FindAll();
+            if (const int found = m_finding.FindAll(); found > 0) {
+                m_window->Say(m_texts.Fill(Text::EntriesFound, {QString::number(found)}));
+            }
         });
         connect(m_window, &CFindWindow::EntriesChosen, this, [this](const std::vector<int> &entries) {
             if (StoreEdit()) {
@@ -53,7 +64,10 @@ void CFindCommands::FindNext()
         return;
     }
     const CWaitCursor wait;
-    m_finding.FindNext(m_window == nullptr || QApplication::focusWidget() == nullptr);
+    const TextMatch match = m_finding.FindNext(m_window == nullptr || QApplication::focusWidget() == nullptr);
+    if (match.IsFound() && m_window != nullptr) {
+        m_window->Say(m_document.List().Entry(match.entry).GetField(match.column));
+    }
 }
 
 bool CFindCommands::StoreEdit()

@@ -8,6 +8,7 @@
 
 class CCommandActions;
 class CFindWindow;
+class CSettingsChanges;
 class CWin32View;
 class QWidget;
 
@@ -19,7 +20,7 @@ class CFindCommands : public QObject
 public:
     /// Nothing is owned. `frame` becomes the owner of the window.
     CFindCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document, FindSettings &settings,
-        const CTexts &texts, IUserPrompt &prompt, QWidget &frame);
+        const CSettingsChanges &settingsChanges, const CTexts &texts, IUserPrompt &prompt, QWidget &frame);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

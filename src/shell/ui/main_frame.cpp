@@ -223,8 +223,8 @@ void CMainFrame::ConnectCommands()
     new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
     new CToolsCommands(*m_actions, *m_view, m_services.document, m_services.settings.editor, m_services.texts,
         m_services.prompt, this);
-    new CFindCommands(*m_actions, *m_view, m_services.document, m_services.settings.find, m_services.texts,
-        m_services.prompt, *this);
+    new CFindCommands(*m_actions, *m_view, m_services.document, m_services.settings.find,
+        m_services.settingsChanges, m_services.texts, m_services.prompt, *this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
     new CCommandRefresh({*m_actions, *m_editCommands, m_services.document, m_services.settingsChanges,
                             m_services.specialCharacters, *this},

@@ -62,6 +62,8 @@ COrdelinApp::COrdelinApp(int &argc, char **argv)
     connect(&m_settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
         if (section == SettingsSection::Editor) {
             m_document.ApplyUndoSize();
+        } else if (section == SettingsSection::EasyKey) {
+            m_specialCharacters->Renew();
         }
     });
     connect(this, &QGuiApplication::commitDataRequest, this, &COrdelinApp::SessionEnds, Qt::DirectConnection);

@@ -103,6 +103,16 @@ void CSpecialCharacterKeys::Close()
     }
 }
 
+void CSpecialCharacterKeys::Renew()
+{
+    const bool wasOpen = m_open;
+    Close();
+    m_window.reset();
+    if (wasOpen) {
+        Open();
+    }
+}
+
 void CSpecialCharacterKeys::Closed()
 {
     m_open = false;

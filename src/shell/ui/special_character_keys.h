@@ -33,6 +33,8 @@ public:
     void DockBeside(const QWidget &frame);
     /// Keeps the window's place in the settings.
     void Close();
+    /// Call it when the settings are others: an open window shows them.
+    void Renew();
 
 Q_SIGNALS:
     void OpenChanged(bool open);
