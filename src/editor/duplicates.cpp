@@ -69,14 +69,16 @@ void CDuplicates::MakeOne()
     }
 }
 
-void CDuplicates::MergeAll()
+bool CDuplicates::MayMergeAll()
 {
     const bool needsQuestion = m_document.List().Count() >= ManyEntries || m_settings.undoSize < 1;
-    if (needsQuestion
-        && !m_prompt.Confirm(m_texts.Prompt(Text::ReallyMergeAll), PromptIcon::Warning, PromptButtons::YesNo,
-            PromptAnswer::No)) {
-        return;
-    }
+    return !needsQuestion
+        || m_prompt.Confirm(
+            m_texts.Prompt(Text::ReallyMergeAll), PromptIcon::Warning, PromptButtons::YesNo, PromptAnswer::No);
+}
+
+void CDuplicates::MergeAll()
+{
     int merged = 0;
     m_document.Change([&merged](CWordList &list) { merged = list.MergeAll(); });
     qDebug("%d words where combinated.", merged);

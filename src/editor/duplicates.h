@@ -23,7 +23,9 @@ public:
     void Find();
     /// Joins the selected entries into the first of them.
     void MakeOne();
-    /// Joins all entries that share a word. Asks first where that takes long or can't be undone.
+    /// Asks, where that takes long or can't be undone, whether to join all entries that share a word.
+    bool MayMergeAll();
+    /// Does so, and tells how many there were.
     void MergeAll();
 
 private:

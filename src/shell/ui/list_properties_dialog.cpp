@@ -2,6 +2,7 @@
 #include "shell/ui/list_properties_dialog.h"
 
 #include "platform/plain_text.h"
+#include "platform/ui/contrast.h"
 #include "platform/ui/label.h"
 #include "platform/ui/long_line_edit.h"
 #include "platform/ui/setting_controls.h"
@@ -78,6 +79,12 @@ void CListPropertiesDialog::AddQuestion(QFormLayout &rows, int direction)
     CLongLineEdit *const question = MakeTextField(
         page, "question" + number, m_form.Texts().Get(Text::LongText), m_form.questionTemplate[index]);
     question->setPlaceholderText(m_form.FactoryQuestion());
+    // It is read in a field that can't be used: some styles make that as good as invisible.
+    QPalette palette = question->palette();
+    palette.setColor(QPalette::Disabled, QPalette::PlaceholderText,
+        QuietText(palette.color(QPalette::Active, QPalette::Text),
+            palette.color(QPalette::Disabled, QPalette::Base), 0.3));
+    question->setPalette(palette);
     QLabel *const example = MakeWrappedLabel({}, page);
     example->setObjectName(QLatin1StringView("example" + number));
     rows.addRow(adapt);

@@ -16,5 +16,7 @@ public:
         const EditorSettings &settings, const CTexts &texts, IUserPrompt &prompt, QObject *parent);
 
 private:
+    void MergeSoon(CCommandActions &actions);
+
     CDuplicates m_duplicates;
 };
