@@ -11,23 +11,51 @@ mkdir -p "$pictures"
 # shellcheck source=scripts/virtual_display.sh
 . scripts/virtual_display.sh
 
-# shot NAME WINDOW-TITLE: saves the window of that title.
-shot() {
-    local window=
+# find_window TITLE: waits for the window of that title, and sets $window.
+find_window() {
     for _ in $(seq 100); do
-        window=$(xdotool search --onlyvisible --name "^$2" 2>/dev/null | tail -n 1) && [ -n "$window" ] && break
+        window=$(xdotool search --onlyvisible --name "^$1" 2>/dev/null | tail -n 1) && [ -n "$window" ] && break
         sleep 0.1
     done
     if [ -z "$window" ]; then
-        echo "There is no window called $2." >&2
+        echo "There is no window called $1." >&2
         exit 1
     fi
     sleep 1 # Until everything is painted.
+}
+
+# shot NAME WINDOW-TITLE: saves the window of that title.
+shot() {
+    local window=
+    find_window "$2"
     import -window "$window" -strip -define png:compression-level=9 +dither -colors 128 "$pictures/$1.png"
 }
 
 # mnemonic NUMBER: the underlined letter of a text in the language at hand.
 mnemonic() { sed -n "s/^$1=.*&\\(.\\).*/\\L\\1/p" "$texts"; }
+
+# games NAME MODULE: pictures of quizzes that don't ask for the whole answer, over the first words of the list.
+games() {
+    local texts=$2 list="$work/vardagsord.gls" quiz yes window=
+    yes=$(mnemonic 70050)
+    quiz=$(sed -n 's/^63060=//p' "$texts")
+    settings "languageFile=$texts\\nplugInUse=1\\n[editor]\\nduplicateCheckBeforeQuiz=0\\n[quiz]\\nplayRight=0\\nplayWrong=0\\norder=0\\nshowResult=0\\nincludeFlaggedWords=1\\n"
+    "$program" -- "$list" >"$work/program.log" 2>&1 &
+    local pid=$! game
+    pids+=("$pid")
+    find_window "vardagsord"
+    for game in 3-selftest 4-alternatives 5-hangman; do
+        xdotool key "ctrl+alt+${game%%-*}" sleep 1
+        case $game in
+        3-*) xdotool key Return sleep 0.5 ;;
+        5-*) xdotool type --delay 50 "he" && xdotool key Return sleep 0.5 ;; # Letters of "house".
+        esac
+        shot "$1-${game#*-}" "$quiz"
+        xdotool key Escape sleep 0.5 key "alt+$yes" sleep 0.5
+    done
+    kill "$pid"
+    wait "$pid" 2>/dev/null || true
+}
 
 # language NAME MODULE: all pictures in one language; the titles of its windows come from its own texts.
 language() {
@@ -69,6 +97,7 @@ language() {
     shot "$1-result" "$result"
     kill "$pid"
     wait "$pid" 2>/dev/null || true
+    games "$@"
 }
 
 language sv "$PWD/src/resources/swedish.ordmod"

@@ -25,7 +25,6 @@ CHangmanGame::CHangmanGame(const QuizWindowServices &services, std::unique_ptr<C
       m_word(new CShownText("word", texts().Get(Text::HangmanWord), this)), m_guess(new QLineEdit(this)),
       m_tried(new CElidedLabel(this))
 {
-    m_word->setFont(largeFont());
     const QString caption = texts().Get(Text::GuessLetters);
     QLabel *const label = MakeWrappedLabel(caption, this);
     label->setBuddy(m_guess);
@@ -53,6 +52,12 @@ void CHangmanGame::showCurrentWord()
 
 void CHangmanGame::showWord()
 {
+    QFont font = largeFont();
+    if (!HoldsOtherDirections(m_form->word())) { // Their letters are joined.
+        constexpr qreal Spacing = 150; // Percent: that hyphens can be counted.
+        font.setLetterSpacing(QFont::PercentageSpacing, Spacing);
+    }
+    m_word->setFont(font);
     m_word->showText(m_form->maskedWord(), m_form->word());
     m_word->setAccessibleDescription(m_form->spelledWord());
     m_tried->ShowText(m_form->triedLetters());
