@@ -52,11 +52,7 @@ CWordListControl::CWordListControl(QWidget *parent)
     for (const QScrollBar *const bar : {verticalScrollBar(), horizontalScrollBar()}) {
         connect(bar, &QScrollBar::actionTriggered, this, [this] { EndEditing(true); });
     }
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
-        if (m_dropRow != NoRow) {
-            SetDropRow(DropRowAt(m_dropPlace)); // The rows move below a pointer that rests.
-        }
-    });
+    connect(&m_dragScroll, &QTimer::timeout, this, &CWordListControl::ScrollBelowDrag);
     viewport()->setAcceptDrops(true);
     LayoutRows();
 }

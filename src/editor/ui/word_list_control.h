@@ -7,6 +7,7 @@
 #include <QItemSelectionModel>
 #include <QPersistentModelIndex>
 #include <QTableView>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -172,6 +173,9 @@ private:
     void DragSelection();
     /// The row above which something that is dropped at a place goes.
     int DropRowAt(const QPoint &place) const;
+    /// How far the list is to scroll for what is dragged to its edge.
+    int DragScrollStep() const;
+    void ScrollBelowDrag();
     /// Shows where something would be dropped; nowhere for NoRow.
     void SetDropRow(int row);
     void MoveCursorField(int step);
@@ -196,6 +200,7 @@ private:
     QPersistentModelIndex m_deselected; // Pressed with Ctrl: its row is deselected unless it is dragged.
     int m_dropRow = NoRow;
     QPoint m_dropPlace; // Of the pointer, while something is dragged above the list.
+    QTimer m_dragScroll;
     std::optional<TextMark> m_mark;
     std::optional<CellEdit> m_ended;
     QString m_typed;

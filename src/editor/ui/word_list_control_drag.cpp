@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QDrag>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QMimeData>
+#include <QScrollBar>
 
 namespace {
 
@@ -52,6 +54,23 @@ int CWordListControl::DropRowAt(const QPoint &place) const
     return place.y() < rowViewportPosition(row) + rowHeight(row) / 2 ? row : row + 1;
 }
 
+int CWordListControl::DragScrollStep() const
+{
+    const int step = verticalHeader()->defaultSectionSize();
+    return m_dropPlace.y() < step / 2 ? -step : m_dropPlace.y() > viewport()->height() - step / 2 ? step : 0;
+}
+
+void CWordListControl::ScrollBelowDrag()
+{
+    // The toolkit's own scrolling ends while the pointer rests.
+    if (m_dropRow == NoRow || DragScrollStep() == 0) {
+        m_dragScroll.stop();
+    } else {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + DragScrollStep());
+        SetDropRow(DropRowAt(m_dropPlace));
+    }
+}
+
 void CWordListControl::SetDropRow(int row)
 {
     if (row != m_dropRow) {
@@ -71,9 +90,12 @@ void CWordListControl::dragMoveEvent(QDragMoveEvent *event)
         event->ignore();
         return;
     }
-    QTableView::dragMoveEvent(event); // Scrolls near an edge; the toolkit knows no rows to drop on.
     m_dropPlace = event->position().toPoint();
     SetDropRow(DropRowAt(m_dropPlace));
+    constexpr int Interval = 60; // In milliseconds.
+    if (!m_dragScroll.isActive() && DragScrollStep() != 0) {
+        m_dragScroll.start(Interval);
+    }
     const bool moves = event->source() == this && !event->modifiers().testFlag(Qt::ControlModifier);
     event->setDropAction(moves ? Qt::MoveAction : Qt::CopyAction);
     event->accept();
@@ -81,13 +103,11 @@ void CWordListControl::dragMoveEvent(QDragMoveEvent *event)
 
 void CWordListControl::dragLeaveEvent(QDragLeaveEvent * /*event*/)
 {
-    stopAutoScroll();
     SetDropRow(NoRow);
 }
 
 void CWordListControl::dropEvent(QDropEvent *event)
 {
-    stopAutoScroll();
     SetDropRow(NoRow);
     if (!MayBeDropped(*event->mimeData())) {
         event->ignore();

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/plain_text.h"
 #include "platform/ui/label.h"
 #include "platform/ui/number_field.h"
 #include "platform/ui/setting_controls.h"
@@ -14,6 +15,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -62,6 +64,7 @@ void AddFont(QVBoxLayout &page, CGeneralSettingsForm &form, const CTexts &texts)
     QComboBox *const name = MakeFontChoice(group, values.fontName);
     CNumberField *const size = MakeNumber(group, "fontSize", CGeneralSettingsForm::FontSizes, values.fontSize);
     QList<QWidget *> used = AddRow(*rows, texts.Get(Text::FontName), name);
+    name->lineEdit()->setAccessibleName(CaptionReadOut(texts.Get(Text::FontName))); // Which has the focus.
     used += AddRow(*rows, texts.Get(Text::FontSize), size, texts.Get(Text::FontUnit));
     used.append(MakeCheckBox(
         group, "useOtherFontQuizOnly", texts.Get(Text::FontInQuizzesOnly), values.useOtherFontQuizOnly));
