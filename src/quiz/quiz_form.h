@@ -45,7 +45,7 @@ public:
 
     /// The entry that a change is about at first, as an index into the list.
     virtual int currentEntry() const = 0;
-    bool mayChangeEntries() const { return m_start.settings.allowChanges; }
+    bool mayChangeEntries() const { return m_start.settings.allowChanges && session()->roundSize() > 0; }
     /// After entries of the list were changed.
     void entriesChanged() { m_start.session->recheckAll(); }
     /// The file to play after an answer; empty for silence.

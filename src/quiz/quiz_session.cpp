@@ -8,6 +8,7 @@
 #include <iterator>
 #include <limits>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -126,6 +127,7 @@ bool CQuizSession::startRound()
     }
     for (QuizWordRecord &record : m_records) {
         record.askedThisRound = false;
+        record.wrongThisRound = false;
     }
     m_wrongList.clear();
     return true;
@@ -204,7 +206,7 @@ AnswerVerdict CQuizSession::recordAnswer(int roundPosition, const QString &text)
     count(position, verdict);
     m_lastAnswered = position;
     m_accepted.reset();
-    if (verdict == AnswerVerdict::Wrong && std::ranges::find(m_wrongList, position) == m_wrongList.end()) {
+    if (verdict == AnswerVerdict::Wrong && !std::exchange(record.wrongThisRound, true)) {
         m_wrongList.push_back(position);
     }
     return verdict;
@@ -224,7 +226,8 @@ void CQuizSession::recheckAll()
             verdict = judge(position, answer);
             count(position, verdict);
         }
-        if (record.askedThisRound && verdict == AnswerVerdict::Wrong) {
+        record.wrongThisRound = record.askedThisRound && verdict == AnswerVerdict::Wrong;
+        if (record.wrongThisRound) {
             m_wrongList.push_back(position);
         }
     }

@@ -25,6 +25,7 @@ struct QuizWordRecord
     QStringList answers;
     int rightCount = 0;
     bool askedThisRound = false;
+    bool wrongThisRound = false; // Then it is asked again in a requiz round.
 };
 
 /// One run of a quiz over entries of the document's list: which words are asked, in which order and how often,

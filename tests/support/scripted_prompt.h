@@ -32,7 +32,8 @@ public:
     void Tell(const PromptText &text, PromptIcon icon) override
     {
         // A feedback with the program's own sound is shown without that of the desktop.
-        const bool isFeedback = text.number >= Text::AnswerAfterSkip && text.number <= Text::AnswerAfterWrong;
+        const bool isFeedback = (text.number >= Text::AnswerAfterSkip && text.number <= Text::AnswerAfterWrong)
+            || text.number == Text::AllWordsRight;
         if (!isFeedback || (icon != PromptIcon::Information && icon != PromptIcon::PlainInformation)) {
             Check({text.number, icon});
         }

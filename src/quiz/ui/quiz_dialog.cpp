@@ -164,8 +164,10 @@ bool CQuizDialog::pressesButton(const QKeyEvent &key)
 void CQuizDialog::speak(const QString &text)
 {
     const QString verdict = std::exchange(m_verdict, {});
-    const QString spoken = verdict.isEmpty() ? text : verdict + QStringLiteral(". ") + text;
-    if (!spoken.isEmpty()) {
+    const QString end = verdict.isEmpty() || text.isEmpty() ? QString()
+        : verdict.endsWith(u'.')                            ? QStringLiteral(" ")
+                                                            : QStringLiteral(". ");
+    if (const QString spoken = verdict + end + text; !spoken.isEmpty()) {
         m_spoken->Say(spoken);
     }
 }
@@ -199,13 +201,15 @@ void CQuizDialog::reject()
     }
 }
 
-void CQuizDialog::showFeedback(AnswerVerdict verdict, const std::optional<FeedbackText> &feedback)
+void CQuizDialog::showFeedback(
+    AnswerVerdict verdict, const std::optional<FeedbackText> &feedback, const QString &spoken)
 {
     const QString sound = m_form.sound(verdict, m_services.dataFolders);
     if (!sound.isEmpty()) {
         m_services.sounds.Play(sound);
     }
-    m_verdict = texts().Get(verdict == AnswerVerdict::Wrong ? Text::AnswerIsWrong : Text::AnswerIsRight);
+    const int word = verdict == AnswerVerdict::Wrong ? Text::AnswerIsWrong : Text::AnswerIsRight;
+    m_verdict = spoken.isEmpty() ? texts().Get(word) : spoken;
     if (feedback) {
         // One sound is enough.
         const PromptIcon icon = sound.isEmpty() ? PromptIcon::Information : PromptIcon::PlainInformation;

@@ -77,7 +77,7 @@ public:
     /// Asks first; only Yes closes the window, and the result is then Rejected.
     void reject() override;
     QSize sizeHint() const override;
-    /// The verdict on the last answer while it has not been read out: no question followed.
+    /// How the last answer or round was, while it has not been read out: no question followed.
     const QString &unspokenVerdict() const { return m_verdict; }
 
 protected:
@@ -103,8 +103,10 @@ protected:
     void showNextWord();
     /// Reads out what appeared without a key, behind the verdict on an answer where one was given.
     void speak(const QString &text);
-    /// The sound of an answer and the text about it, where there are such.
-    void showFeedback(AnswerVerdict verdict, const std::optional<FeedbackText> &feedback);
+    /// The sound of an answer and the text about it, where there are such. `spoken` tells how it was, in front
+    /// of what is read out next; without it that is the verdict in a word.
+    void showFeedback(
+        AnswerVerdict verdict, const std::optional<FeedbackText> &feedback, const QString &spoken = {});
 
     const CTexts &texts() const { return m_services.texts; }
     IUserPrompt &prompt() const { return m_services.prompt; }
