@@ -411,6 +411,9 @@ void Win32ViewTest::fieldsFollowTheSelection()
     QVERIFY(!run.Field(1)->isVisible());
     run.Flip(&EditorSettings::showEditFields);
     QVERIFY(run.Field(1)->isVisible());
+    run.Flip(&EditorSettings::showEditFields);
+    QVERIFY(!run.Field(1)->isVisible());
+    run.Flip(&EditorSettings::showEditFields);
     run.view.SelectEntry(0);
     QCOMPARE(run.Field(1)->text(), QStringLiteral("b0"));
     // Enter in a field changes the entry and goes on to the next one.
