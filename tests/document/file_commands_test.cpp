@@ -7,275 +7,241 @@
 #include "document/text_numbers.h"
 #include "platform/file_name.h"
 #include "settings/settings_store.h"
+#include "support/files.h"
 #include "support/test_document.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The commands over a document, with files of a folder of their own.
+struct Files
+{
+    explicit Files(const QString &entries = u"a|b"_s) : test(entries) { }
+    QString Path(const QString &name) const { return folder.filePath(name); }
+    void Flag()
+    {
+        test.document.Change([](CWordList &list) { list.SetFlags(0, std::array{0}, FlagMode::Toggle); });
+    }
+
+    QTemporaryDir folder;
+    TestDocument test;
+    CScriptedChooser chooser;
+    CMemoryStore store;
+    CRecentFiles recent{store, u"root"_s};
+    CFileCommands files{test.document, test.texts, test.prompt, chooser, recent};
+};
+
+}
 
 class FileCommandsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void unsavedChanges_data();
-    void unsavedChanges();
-    void pendingWork();
-    void savingWithAndWithoutAName();
-    void changesOutside();
-    void openingByDialog();
-    void recentFiles();
-    void namesThatAreNoText();
-    void filters();
-};
-
-void FileCommandsTest::unsavedChanges_data()
-{
-    QTest::addColumn<PromptAnswer>("answer");
-    QTest::addColumn<QString>("chosenName"); // For saving the unnamed list.
-    QTest::addColumn<bool>("discarded");
-    QTest::addColumn<bool>("saved");
-    QTest::newRow("no") << PromptAnswer::No << "" << true << false;
-    QTest::newRow("cancel") << PromptAnswer::Cancel << "" << false << false;
-    QTest::newRow("yes") << PromptAnswer::Yes << "x.gls" << true << true;
-    QTest::newRow("yes, but no name chosen") << PromptAnswer::Yes << "" << false << false;
-    QTest::newRow("yes, but saving fails") << PromptAnswer::Yes << "no/folder/x.gls" << false << false;
-}
-
-void FileCommandsTest::unsavedChanges()
-{
-    QFETCH(PromptAnswer, answer);
-    QFETCH(QString, chosenName);
-    QFETCH(bool, discarded);
-    QFETCH(bool, saved);
-    const QTemporaryDir folder;
-    TestDocument test(QStringList{QStringLiteral("a|b")});
-    test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Toggle); });
-    CScriptedChooser chooser;
-    if (answer == PromptAnswer::Yes) {
-        chooser.paths = {chosenName.isEmpty() ? QString() : folder.filePath(chosenName)};
-    }
-    test.prompt.answers = {answer};
-    CMemoryStore store;
-    CRecentFiles recent(store, QStringLiteral("root"));
-    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
-    QCOMPARE(files.New(), discarded);
-    QCOMPARE(test.document.List().Count(), discarded ? 0 : 1);
-    QCOMPARE(test.prompt.texts.value(0), QStringLiteral("Vill du spara ändringarna i Namnlös?"));
-    QCOMPARE(QFile::exists(folder.filePath(QStringLiteral("x.gls"))), saved);
-}
-
-void FileCommandsTest::pendingWork()
-{
-    struct CPending : IPendingWork
+    void unsavedChanges()
     {
-        explicit CPending(CWin32Doc &edited) : document(edited) { }
-        void StoreWhole() override { calls += u'w'; }
-        bool HasRest() const override { return rest; }
-        void StoreRest() override
+        const struct
         {
-            document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("|rest"))); });
-            rest = false;
+            PromptAnswer answer;
+            QStringList chosen; // For saving the unnamed list.
+            bool discarded;
+            bool saved;
+        } rows[] = {
+            {PromptAnswer::No, {}, true, false}, {PromptAnswer::Cancel, {}, false, false},
+            {PromptAnswer::Yes, {u"x.gls"_s}, true, true},
+            {PromptAnswer::Yes, {QString()}, false, false}, // no name chosen
+            {PromptAnswer::Yes, {u"no/folder/x.gls"_s}, false, false}, // saving fails
+        };
+        for (const auto &row : rows) {
+            Files run;
+            run.Flag();
+            for (const QString &name : row.chosen) {
+                run.chooser.paths.append(name.isEmpty() ? QString() : run.Path(name));
+            }
+            run.test.prompt.answers = {row.answer};
+            QCOMPARE(run.files.New(), row.discarded);
+            QCOMPARE(run.test.document.List().Count(), row.discarded ? 0 : 1);
+            QCOMPARE(run.test.prompt.texts.value(0), u"Vill du spara ändringarna i Namnlös?"_s);
+            QCOMPARE(QFile::exists(run.Path(u"x.gls"_s)), row.saved);
         }
-        CWordList ListWithAll() const override { return {}; }
-        CWin32Doc &document;
-        QString calls;
-        bool rest = true;
-    };
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("x.gls"));
-    TestDocument test;
-    CScriptedChooser chooser;
-    CMemoryStore store;
-    CRecentFiles recent(store, QStringLiteral("root"));
-    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
-    CPending pending(test.document);
-    files.SetPendingWork(&pending);
-    QVERIFY(test.document.OnSaveDocument(path));
-    QVERIFY(files.Save() && pending.rest);
-    files.Send();
-    QCOMPARE(pending.calls, QStringLiteral("ww"));
-    // An empty list with a word beside it is no empty list.
-    QVERIFY(!files.New() && pending.rest);
-    test.prompt.answers = {PromptAnswer::Yes, PromptAnswer::No};
-    QVERIFY(files.OpenFile(path));
-    QCOMPARE(Describe(test.document.List()), QStringList{QStringLiteral("|rest")});
-    pending.rest = true;
-    QVERIFY(files.MayDiscard());
-    QCOMPARE(test.document.List().Count(), 1);
-    QCOMPARE(test.prompt.numbers, QList<int>(3, Text::SaveChanges));
-}
-
-void FileCommandsTest::savingWithAndWithoutAName()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("lista.gls"));
-    TestDocument test(QStringList{QStringLiteral("a|b")});
-    test.settings.standardFilename = QStringLiteral("%language2 av mig");
-    CScriptedChooser chooser;
-    chooser.paths = {path, QString()};
-    CMemoryStore store;
-    CRecentFiles recent(store, QStringLiteral("root"));
-    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
-    QVERIFY(files.Save());
-    QCOMPARE(chooser.asked.size(), 1);
-    QCOMPARE(chooser.asked[0].filters, QStringList{QStringLiteral("Glosfil (*.gls)")});
-    QCOMPARE(chooser.asked[0].defaultSuffix, QStringLiteral("gls"));
-    QVERIFY(chooser.asked[0].start.endsWith(QStringLiteral("/Engelska av mig.gls")));
-    test.document.Change([&](CWordList &list) { list.SetFlags(0, std::vector<int>{0}, FlagMode::Set); });
-    QVERIFY(files.Save());
-    QCOMPARE(chooser.asked.size(), 1);
-    const QString copy = folder.filePath(QStringLiteral("kopia.gls"));
-    QVERIFY(files.DoSave(copy, false));
-    QVERIFY(QFile::exists(copy) && test.document.Path() == path);
-    QVERIFY(!files.SaveAs()); // Cancelled.
-    QCOMPARE(chooser.asked[1].start, path);
-    QCOMPARE(test.document.Path(), path);
-}
-
-void FileCommandsTest::changesOutside()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("x.gls"));
-    const auto writeOutside = [&](const char *term) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray("Ordelin 2.0\n\n\nA\nB\n1\n\n0\n") + term + "\nx\n");
-    };
-    TestDocument test(QStringList{QStringLiteral("a|b")});
-    CScriptedChooser chooser;
-    CMemoryStore store;
-    CRecentFiles recent(store, QStringLiteral("root"));
-    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
-    CFileWatch watch(test.document, files, test.texts, test.prompt);
-    QString notice;
-    QObject::connect(&watch, &CFileWatch::NoticeChanged, [&](const QString &told) { notice = told; });
-    watch.Look(); // Without a file.
-    QVERIFY(files.DoSave(path, true));
-    watch.Look();
-    QVERIFY(test.prompt.numbers.isEmpty() && notice.isEmpty());
-
-    // While nothing is unsaved it is asked once for each change; a notice stays.
-    writeOutside("one");
-    test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
-    watch.Look();
-    watch.Look();
-    QCOMPARE(test.prompt.numbers, QList<int>{Text::ReadAgain});
-    QVERIFY(notice.contains(path));
-    writeOutside("eleven");
-    watch.Look();
-    QCOMPARE(Describe(test.document.List()), QStringList{QStringLiteral("eleven|x")});
-    QVERIFY(notice.isEmpty());
-
-    // Unsaved changes are only told of what stands against them, until they are saved.
-    test.document.Change([](CWordList &list) { list.Insert(MakeEntry(QStringLiteral("c|d"))); });
-    writeOutside("five");
-    watch.Look();
-    QCOMPARE(test.prompt.numbers.size(), 2);
-    QVERIFY(!notice.isEmpty());
-    const QString other = folder.filePath(QStringLiteral("other.gls"));
-    chooser.paths = {QString(), other};
-    test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::No, PromptAnswer::No, PromptAnswer::Yes};
-    QVERIFY(!files.Save());
-    QVERIFY(!files.Save()); // No name was chosen.
-    QVERIFY(test.document.IsModified() && !notice.isEmpty());
-    QVERIFY(files.Save());
-    QCOMPARE(test.document.Path(), other);
-    QVERIFY(notice.isEmpty());
-    QFile own(other);
-    QVERIFY(own.open(QIODevice::Append) && own.write("\n") == 1);
-    own.close();
-    QVERIFY(files.Save());
-    QCOMPARE(test.prompt.numbers.mid(2), QList<int>(4, Text::OverwriteForeignChange));
-    QVERIFY(QFile::remove(other));
-    watch.Look();
-    QVERIFY(notice.contains(other));
-    QVERIFY(files.Save() && notice.isEmpty());
-}
-
-void FileCommandsTest::openingByDialog()
-{
-    const QTemporaryDir folder;
-    TestDocument test(QStringList{QStringLiteral("a|b")});
-    CScriptedChooser chooser;
-    chooser.paths = {QString(), folder.filePath(QStringLiteral("missing.gls"))};
-    CMemoryStore store;
-    CRecentFiles recent(store, QStringLiteral("root"));
-    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
-    QVERIFY(!files.Open());
-    QCOMPARE(test.document.List().Count(), 1);
-    QVERIFY(!files.Open());
-    QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotOpen});
-    QCOMPARE(chooser.asked[1].filters.size(), 3);
-}
-
-void FileCommandsTest::recentFiles()
-{
-    const QTemporaryDir folder;
-    TestDocument test(QStringList{QStringLiteral("a|b")});
-    CScriptedChooser chooser;
-    CMemoryStore store;
-    CRecentFiles recent(store, QStringLiteral("root"));
-    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
-    const auto path = [&](int number) {
-        return folder.filePath(QString::number(number) + QStringLiteral(".gls"));
-    };
-    for (int number = 1; number <= 5; ++number) {
-        chooser.paths = {path(number)};
-        QVERIFY(files.SaveAs());
     }
-    QCOMPARE(recent.Paths(), QStringList({path(5), path(4), path(3), path(2)}));
-    QCOMPARE(recent.Names().first(), QStringLiteral("5.gls"));
-    QVERIFY(files.OpenRecent(path(3)));
-    QCOMPARE(recent.Paths(), QStringList({path(3), path(5), path(4), path(2)}));
-    QVERIFY(QFile::remove(path(5)));
-    QVERIFY(!files.OpenRecent(path(5)));
-    QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotOpen});
-    QCOMPARE(test.document.Path(), path(3)); // The open list is untouched.
-    QVERIFY(!files.OpenFile(path(9)));
-    QCOMPARE(CRecentFiles(store, QStringLiteral("root")).Paths(), QStringList({path(3), path(4), path(2)}));
-    QVERIFY(QFile::remove(path(2)) && QDir().mkpath(path(2))); // Is there, but can't be read.
-    QVERIFY(!files.OpenRecent(path(2)));
-    QCOMPARE(CRecentFiles(store, QStringLiteral("root")).Paths(), QStringList({path(3), path(4)}));
 
-    for (const char *same : {"/a/x/l.gls", "/b/x/l.gls", "/l.gls", "/x/m.gls"}) {
-        recent.Add(QString::fromLatin1(same));
+    void pendingWork()
+    {
+        struct CPending : IPendingWork
+        {
+            explicit CPending(CWin32Doc &edited) : document(edited) { }
+            void StoreWhole() override { calls += u'w'; }
+            bool HasRest() const override { return rest; }
+            void StoreRest() override
+            {
+                document.Change([](CWordList &list) { list.Insert(MakeEntry(u"|rest"_s)); });
+                rest = false;
+            }
+            CWordList ListWithAll() const override { return {}; }
+            CWin32Doc &document;
+            QString calls;
+            bool rest = true;
+        };
+        Files run{QString()};
+        const QString path = run.Path(u"x.gls"_s);
+        CPending pending(run.test.document);
+        run.files.SetPendingWork(&pending);
+        QVERIFY(run.test.document.OnSaveDocument(path));
+        QVERIFY(run.files.Save() && pending.rest);
+        run.files.Send();
+        QCOMPARE(pending.calls, u"ww"_s);
+        // An empty list with a word beside it is no empty list.
+        QVERIFY(!run.files.New() && pending.rest);
+        run.test.prompt.answers = {PromptAnswer::Yes, PromptAnswer::No};
+        QVERIFY(run.files.OpenFile(path));
+        QCOMPARE(run.test.Entries(), u"|rest"_s);
+        pending.rest = true;
+        QVERIFY(run.files.MayDiscard());
+        QCOMPARE(run.test.document.List().Count(), 1);
+        QCOMPARE(run.test.prompt.numbers, QList<int>(3, Text::SaveChanges));
     }
-    QCOMPARE(recent.Names(),
-        QStringList({QStringLiteral("m.gls"), QStringLiteral("l.gls (/)"), QStringLiteral("l.gls (b/x)"),
-            QStringLiteral("l.gls (a/x)")}));
-}
 
-void FileCommandsTest::namesThatAreNoText()
-{
-    const QTemporaryDir folder;
-    const QString path = DecodeFileName(folder.path().toUtf8() + "/caf\xE9.gls");
-    TestDocument test(QStringList{QStringLiteral("a|b")});
-    CScriptedChooser chooser;
-    CMemoryStore store;
-    CRecentFiles recent(store, QStringLiteral("root"));
-    CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
-    QVERIFY(files.DoSave(folder.filePath(QStringLiteral("x.gls")), true));
-    QCOMPARE(::rename((folder.path() + QStringLiteral("/x.gls")).toUtf8().constData(),
-                 EncodeFileName(path).constData()),
-        0);
-    QVERIFY(files.OpenFile(QDir::current().relativeFilePath(folder.path()) + path.mid(folder.path().size())));
-    QCOMPARE(test.document.Path(), path);
-    QCOMPARE(recent.Paths().first(), path);
-    QVERIFY(files.Save() && files.OpenRecent(path));
-    QVERIFY(IsSameFile(path, folder.path() + QStringLiteral("/./") + path.section(u'/', -1)));
-}
+    void savingWithAndWithoutAName()
+    {
+        Files run;
+        const QString path = run.Path(u"lista.gls"_s);
+        run.test.settings.standardFilename = u"%language2 av mig"_s;
+        run.chooser.paths = {path, QString()};
+        QVERIFY(run.files.Save());
+        QCOMPARE(run.chooser.asked.size(), 1);
+        QCOMPARE(run.chooser.asked[0].filters, QStringList{u"Glosfil (*.gls)"_s});
+        QCOMPARE(run.chooser.asked[0].defaultSuffix, u"gls"_s);
+        QVERIFY(run.chooser.asked[0].start.endsWith(u"/Engelska av mig.gls"_s));
+        run.Flag();
+        QVERIFY(run.files.Save());
+        QCOMPARE(run.chooser.asked.size(), 1);
+        const QString copy = run.Path(u"kopia.gls"_s);
+        QVERIFY(run.files.DoSave(copy, false));
+        QVERIFY(QFile::exists(copy) && run.test.document.Path() == path);
+        QVERIFY(!run.files.SaveAs()); // Cancelled.
+        QCOMPARE(run.chooser.asked[1].start, path);
+        QCOMPARE(run.test.document.Path(), path);
+    }
 
-void FileCommandsTest::filters()
-{
-    QCOMPARE(FileFilters(QStringLiteral(
-                 "Glosfil|*.gls|Text (Unicode)|*.txt|Bilder|*.png;*.jpg|Alla filer (*.*)|*.*||\n")),
-        QStringList({QStringLiteral("Glosfil (*.gls)"), QStringLiteral("Text (Unicode) (*.txt)"),
-            QStringLiteral("Bilder (*.png *.jpg)"), QStringLiteral("Alla filer (*)")}));
-}
+    void changesOutside()
+    {
+        Files run;
+        const QString path = run.Path(u"x.gls"_s);
+        const auto writeOutside = [&](const char *term) {
+            WriteFile(path, QByteArray("Ordelin 2.0\n\n\nA\nB\n1\n\n0\n") + term + "\nx\n");
+        };
+        CFileWatch watch(run.test.document, run.files, run.test.texts, run.test.prompt);
+        QString notice;
+        QObject::connect(&watch, &CFileWatch::NoticeChanged, [&](const QString &told) { notice = told; });
+        watch.Look(); // Without a file.
+        QVERIFY(run.files.DoSave(path, true));
+        watch.Look();
+        QVERIFY(run.test.prompt.numbers.isEmpty() && notice.isEmpty());
+
+        // While nothing is unsaved it is asked once for each change; a notice stays.
+        writeOutside("one");
+        run.test.prompt.answers = {PromptAnswer::No, PromptAnswer::Yes};
+        watch.Look();
+        watch.Look();
+        QCOMPARE(run.test.prompt.numbers, QList<int>{Text::ReadAgain});
+        QVERIFY(notice.contains(path));
+        writeOutside("eleven");
+        watch.Look();
+        QCOMPARE(run.test.Entries(), u"eleven|x"_s);
+        QVERIFY(notice.isEmpty());
+
+        // Unsaved changes are only told of what stands against them, until they are saved.
+        run.test.document.Change([](CWordList &list) { list.Insert(MakeEntry(u"c|d"_s)); });
+        writeOutside("five");
+        watch.Look();
+        QCOMPARE(run.test.prompt.numbers.size(), 2);
+        QVERIFY(!notice.isEmpty());
+        const QString other = run.Path(u"other.gls"_s);
+        run.chooser.paths = {QString(), other};
+        run.test.prompt.answers = {PromptAnswer::Cancel, PromptAnswer::No, PromptAnswer::No, PromptAnswer::Yes};
+        QVERIFY(!run.files.Save());
+        QVERIFY(!run.files.Save()); // No name was chosen.
+        QVERIFY(run.test.document.IsModified() && !notice.isEmpty());
+        QVERIFY(run.files.Save());
+        QCOMPARE(run.test.document.Path(), other);
+        QVERIFY(notice.isEmpty());
+        WriteFile(other, Content(other) + "\n");
+        QVERIFY(run.files.Save());
+        QCOMPARE(run.test.prompt.numbers.mid(2), QList<int>(4, Text::OverwriteForeignChange));
+        QVERIFY(QFile::remove(other));
+        watch.Look();
+        QVERIFY(notice.contains(other));
+        QVERIFY(run.files.Save() && notice.isEmpty());
+    }
+
+    void openingByDialog()
+    {
+        Files run;
+        run.chooser.paths = {QString(), run.Path(u"missing.gls"_s)};
+        QVERIFY(!run.files.Open());
+        QCOMPARE(run.test.document.List().Count(), 1);
+        QVERIFY(!run.files.Open());
+        QCOMPARE(run.test.prompt.numbers, QList<int>{Text::CannotOpen});
+        QCOMPARE(run.chooser.asked[1].filters.size(), 3);
+    }
+
+    void recentFiles()
+    {
+        Files run;
+        const auto path = [&](int number) { return run.Path(QString::number(number) + u".gls"_s); };
+        for (int number = 1; number <= 5; ++number) {
+            run.chooser.paths = {path(number)};
+            QVERIFY(run.files.SaveAs());
+        }
+        QCOMPARE(run.recent.Paths(), QStringList({path(5), path(4), path(3), path(2)}));
+        QCOMPARE(run.recent.Names().first(), u"5.gls"_s);
+        QVERIFY(run.files.OpenRecent(path(3)));
+        QCOMPARE(run.recent.Paths(), QStringList({path(3), path(5), path(4), path(2)}));
+        QVERIFY(QFile::remove(path(5)));
+        QVERIFY(!run.files.OpenRecent(path(5)));
+        QCOMPARE(run.test.prompt.numbers, QList<int>{Text::CannotOpen});
+        QCOMPARE(run.test.document.Path(), path(3)); // The open list is untouched.
+        QVERIFY(!run.files.OpenFile(path(9)));
+        QCOMPARE(CRecentFiles(run.store, u"root"_s).Paths(), QStringList({path(3), path(4), path(2)}));
+        QVERIFY(QFile::remove(path(2)) && QDir().mkpath(path(2))); // Is there, but can't be read.
+        QVERIFY(!run.files.OpenRecent(path(2)));
+        QCOMPARE(CRecentFiles(run.store, u"root"_s).Paths(), QStringList({path(3), path(4)}));
+
+        for (const char *same : {"/a/x/l.gls", "/b/x/l.gls", "/l.gls", "/x/m.gls"}) {
+            run.recent.Add(QString::fromLatin1(same));
+        }
+        QCOMPARE(
+            run.recent.Names(), QStringList({u"m.gls"_s, u"l.gls (/)"_s, u"l.gls (b/x)"_s, u"l.gls (a/x)"_s}));
+    }
+
+    void namesThatAreNoText()
+    {
+        Files run;
+        const QString path = DecodeFileName(run.folder.path().toUtf8() + "/caf\xE9.gls");
+        QVERIFY(run.files.DoSave(run.Path(u"x.gls"_s), true));
+        QCOMPARE(
+            ::rename((run.folder.path() + u"/x.gls"_s).toUtf8().constData(), EncodeFileName(path).constData()),
+            0);
+        QVERIFY(run.files.OpenFile(
+            QDir::current().relativeFilePath(run.folder.path()) + path.mid(run.folder.path().size())));
+        QCOMPARE(run.test.document.Path(), path);
+        QCOMPARE(run.recent.Paths().first(), path);
+        QVERIFY(run.files.Save() && run.files.OpenRecent(path));
+        QVERIFY(IsSameFile(path, run.folder.path() + u"/./"_s + path.section(u'/', -1)));
+    }
+
+    void filters()
+    {
+        QCOMPARE(
+            FileFilters(u"Glosfil|*.gls|Text (Unicode)|*.txt|Bilder|*.png;*.jpg|Alla filer (*.*)|*.*||\n"_s),
+            QStringList({u"Glosfil (*.gls)"_s, u"Text (Unicode) (*.txt)"_s, u"Bilder (*.png *.jpg)"_s,
+                u"Alla filer (*)"_s}));
+    }
+};
 
 QTEST_GUILESS_MAIN(FileCommandsTest)
 #include "file_commands_test.moc"

@@ -10,9 +10,10 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 // Each row makes one file call of the real classes fail, or kills the program there, in a process of its own:
 // first the first call, then the second, until none is left. Whatever happens, old or new content is there, and
@@ -24,20 +25,16 @@ enum Exit { Succeeded = 0, Failed = 1, FewerCalls = 2 };
 
 QStringList Entries(const QString &word)
 {
-    QStringList entries;
-    for (int i = 0; i < 300; ++i) {
-        entries.append(QStringLiteral("%1 %2|λ %2").arg(word).arg(i));
-    }
-    return entries;
+    return NumberedEntries(300, word + u" %1|λ %1"_s);
 }
 
 struct Folders
 {
     QString path;
-    QString State() const { return path + QStringLiteral("/state"); }
-    QString List() const { return path + QStringLiteral("/list.gls"); }
-    QString OtherList() const { return path + QStringLiteral("/other.gls"); }
-    QString Ini() const { return path + QStringLiteral("/Ordelin.ini"); }
+    QString State() const { return path + u"/state"_s; }
+    QString List() const { return path + u"/list.gls"_s; }
+    QString OtherList() const { return path + u"/other.gls"_s; }
+    QString Ini() const { return path + u"/Ordelin.ini"_s; }
 };
 
 bool SaveList(const Folders &folders, const QString &word)
@@ -59,8 +56,8 @@ bool KeepCopies(const Folders &folders)
     TestDocument test;
     CRecovery recovery(test.document, folders.State(), 0);
     bool kept = true;
-    for (const auto &file : {std::pair(folders.List(), QStringLiteral("first")),
-             std::pair(folders.OtherList(), QStringLiteral("second"))}) {
+    for (const auto &file :
+        {std::pair(folders.List(), u"first"_s), std::pair(folders.OtherList(), u"second"_s)}) {
         if (!test.document.OpenDocument(file.first)) {
             return false;
         }
@@ -89,11 +86,11 @@ bool SaveSettings(const Folders &folders, const QString &author)
 
 bool Run(const QString &work, const Folders &folders)
 {
-    if (work == QStringLiteral("copies")) {
+    if (work == u"copies"_s) {
         return KeepCopies(folders);
     }
-    const QString changed = QStringLiteral("changed");
-    return work == QStringLiteral("settings") ? SaveSettings(folders, changed) : SaveList(folders, changed);
+    const QString changed = u"changed"_s;
+    return work == u"settings"_s ? SaveSettings(folders, changed) : SaveList(folders, changed);
 }
 
 int Drive(const QStringList &arguments)
@@ -119,8 +116,7 @@ QStringList Offered(const Folders &folders)
             test.prompt.answers.clear();
             return found;
         }
-        found.append(QStringLiteral("%1 %2 %3")
-                         .arg(test.prompt.numbers.first())
+        found.append(u"%1 %2 %3"_s.arg(test.prompt.numbers.first())
                          .arg(QFileInfo(test.document.Path()).fileName(), WordOf(test.document.List())));
         recovery.Finish();
     }
@@ -133,98 +129,89 @@ class FileFaultsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void faults_data();
-    void faults();
+    void faults_data()
+    {
+        QTest::addColumn<QString>("work");
+        QTest::addColumn<CallFault>("fault");
+        for (const char *work : {"list", "overwriting", "copies", "settings"}) {
+            QTest::addRow("%s, killed", work) << QString::fromLatin1(work) << CallFault::Kill;
+            QTest::addRow("%s, a call fails", work) << QString::fromLatin1(work) << CallFault::Once;
+            QTest::addRow("%s, the disk is full", work) << QString::fromLatin1(work) << CallFault::FullDisk;
+        }
+    }
+
+    void faults()
+    {
+        QFETCH(QString, work);
+        QFETCH(CallFault, fault);
+        int exit = Succeeded;
+        for (int number = 1; exit != FewerCalls; ++number) {
+            const QTemporaryDir folder;
+            const Folders folders = {folder.path()};
+            SetUp(work, folders);
+            exit = QProcess::execute(QCoreApplication::applicationFilePath(),
+                {u"drive"_s, work, QString::number(int(fault)), QString::number(number), folder.path()});
+            QVERIFY2(QList<int>({Succeeded, Failed, FewerCalls, KilledByFault}).contains(exit),
+                qPrintable(QString::number(exit)));
+            QVERIFY(number < 200);
+            Check(work, folders, fault, exit);
+            if (QTest::currentTestFailed()) {
+                qWarning("at call %d, exit code %d", number, exit);
+                return;
+            }
+        }
+    }
 
 private:
-    void SetUp(const QString &work, const Folders &folders) const;
-    void Check(const QString &work, const Folders &folders, CallFault fault, int exit) const;
+    void SetUp(const QString &work, const Folders &folders) const
+    {
+        QVERIFY(SaveList(folders, u"old"_s));
+        QVERIFY(QFile::copy(folders.List(), folders.OtherList()));
+        QVERIFY(SaveSettings(folders, u"old"_s));
+        if (work == u"overwriting"_s) {
+            const QByteArray path = QFile::encodeName(folders.List());
+            QCOMPARE(::link(path.constData(), (path + ".second-name").constData()), 0);
+        }
+    }
+
+    void Check(const QString &work, const Folders &folders, CallFault fault, int exit) const
+    {
+        const bool succeeded = exit == Succeeded || exit == FewerCalls;
+        CWordList list;
+        (void)ReadWordListFile(list, folders.List());
+        const QString word = WordOf(list);
+        const QStringList offered = Offered(folders);
+        if (work == u"settings"_s) {
+            const CTexts texts;
+            CIniStore store(folders.Ini(), CAppSettings::RootPath());
+            CAppSettings settings(store, texts);
+            settings.Exchange(true);
+            const QString &author = settings.editor.author;
+            QVERIFY(author == u"changed"_s || (!succeeded && author == u"old"_s));
+            QVERIFY(!settings.isFirstRun && settings.find.language == 2);
+        } else if (work == u"copies"_s) {
+            QCOMPARE(word, u"old"_s);
+            for (const QString &copy : offered) {
+                QVERIFY2(
+                    copy == u"70161 list.gls first"_s || copy == u"70161 other.gls second"_s, qPrintable(copy));
+            }
+            QVERIFY(!succeeded || offered.contains(u"70161 other.gls second"_s));
+        } else if (word.isEmpty()) {
+            QVERIFY(fault != CallFault::Once && !succeeded && work == u"overwriting"_s);
+            QCOMPARE(offered, QStringList{u"70053 list.gls old"_s});
+        } else {
+            QCOMPARE(offered, QStringList());
+            QVERIFY(word == u"changed"_s || (!succeeded && word == u"old"_s));
+            QVERIFY(exit != Failed || fault == CallFault::FullDisk || word == u"old"_s);
+        }
+    }
 };
-
-void FileFaultsTest::faults_data()
-{
-    QTest::addColumn<QString>("work");
-    QTest::addColumn<CallFault>("fault");
-    for (const char *work : {"list", "overwriting", "copies", "settings"}) {
-        const QString name = QString::fromLatin1(work);
-        QTest::addRow("%s, killed", work) << name << CallFault::Kill;
-        QTest::addRow("%s, a call fails", work) << name << CallFault::Once;
-        QTest::addRow("%s, the disk is full", work) << name << CallFault::FullDisk;
-    }
-}
-
-void FileFaultsTest::faults()
-{
-    QFETCH(QString, work);
-    QFETCH(CallFault, fault);
-    int exit = Succeeded;
-    for (int number = 1; exit != FewerCalls; ++number) {
-        const QTemporaryDir folder;
-        const Folders folders = {folder.path()};
-        SetUp(work, folders);
-        exit = QProcess::execute(QCoreApplication::applicationFilePath(),
-            {QStringLiteral("drive"), work, QString::number(int(fault)), QString::number(number),
-                folder.path()});
-        QVERIFY2(exit == Succeeded || exit == Failed || exit == FewerCalls || exit == KilledByFault,
-            qPrintable(QString::number(exit)));
-        QVERIFY(number < 200);
-        Check(work, folders, fault, exit);
-        if (QTest::currentTestFailed()) {
-            qWarning("at call %d, exit code %d", number, exit);
-            return;
-        }
-    }
-}
-
-void FileFaultsTest::SetUp(const QString &work, const Folders &folders) const
-{
-    QVERIFY(SaveList(folders, QStringLiteral("old")));
-    QVERIFY(QFile::copy(folders.List(), folders.OtherList()));
-    QVERIFY(SaveSettings(folders, QStringLiteral("old")));
-    if (work == QStringLiteral("overwriting")) {
-        const QByteArray path = QFile::encodeName(folders.List());
-        QCOMPARE(::link(path.constData(), (path + ".second-name").constData()), 0);
-    }
-}
-
-void FileFaultsTest::Check(const QString &work, const Folders &folders, CallFault fault, int exit) const
-{
-    const bool succeeded = exit == Succeeded || exit == FewerCalls;
-    CWordList list;
-    (void)ReadWordListFile(list, folders.List());
-    const QString word = WordOf(list);
-    const QStringList offered = Offered(folders);
-    if (work == QStringLiteral("settings")) {
-        const CTexts texts;
-        CIniStore store(folders.Ini(), CAppSettings::RootPath());
-        CAppSettings settings(store, texts);
-        settings.Exchange(true);
-        const QString &author = settings.editor.author;
-        QVERIFY(author == QStringLiteral("changed") || (!succeeded && author == QStringLiteral("old")));
-        QVERIFY(!settings.isFirstRun && settings.find.language == 2);
-    } else if (work == QStringLiteral("copies")) {
-        QCOMPARE(word, QStringLiteral("old"));
-        for (const QString &copy : offered) {
-            QVERIFY2(copy == QStringLiteral("70161 list.gls first")
-                    || copy == QStringLiteral("70161 other.gls second"),
-                qPrintable(copy));
-        }
-        QVERIFY(!succeeded || offered.contains(QStringLiteral("70161 other.gls second")));
-    } else if (word.isEmpty()) {
-        QVERIFY(fault != CallFault::Once && !succeeded && work == QStringLiteral("overwriting"));
-        QCOMPARE(offered, QStringList{QStringLiteral("70053 list.gls old")});
-    } else {
-        QCOMPARE(offered, QStringList());
-        QVERIFY(word == QStringLiteral("changed") || (!succeeded && word == QStringLiteral("old")));
-        QVERIFY(exit != Failed || fault == CallFault::FullDisk || word == QStringLiteral("old"));
-    }
-}
 
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = application.arguments();
-    if (arguments.value(1) == QStringLiteral("drive")) {
+    if (arguments.value(1) == u"drive"_s) {
         return Drive(arguments.mid(2));
     }
     FileFaultsTest test;

@@ -4,15 +4,7 @@
 
 #include <QTest>
 
-class UndoHistoryTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void agreesWithPlainCopies();
-    void lowerSizeDropsEverything();
-    void savedMarks();
-};
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,87 +33,76 @@ struct PlainHistory
 
 }
 
-void UndoHistoryTest::agreesWithPlainCopies()
+class UndoHistoryTest : public QObject
 {
-    for (quint32 seed = 0; seed < 60; ++seed) {
-        CRandom random(seed);
-        CUndoHistory history;
-        PlainHistory plain;
-        for (int step = 0; step < 200; ++step) {
-            switch (const int draw = random.Next() % 40; draw) {
-            case 0: {
-                const int size = random.Next() % 6;
-                if (size + 1 < plain.most) {
-                    plain.states = {plain.states[plain.current]};
-                    plain.current = 0;
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agreesWithPlainCopies()
+    {
+        for (quint32 seed = 0; seed < 60; ++seed) {
+            CRandom random(seed);
+            CUndoHistory history;
+            PlainHistory plain;
+            for (int step = 0; step < 200; ++step) {
+                switch (const int draw = random.Next() % 40; draw) {
+                case 0: {
+                    const int size = random.Next() % 6;
+                    if (size + 1 < plain.most) {
+                        plain.states = {plain.states[plain.current]};
+                        plain.current = 0;
+                    }
+                    plain.most = size + 1;
+                    history.SetUndoSize(size);
+                    break;
                 }
-                plain.most = size + 1;
-                history.SetUndoSize(size);
-                break;
-            }
-            case 1:
-                history.ResetHistory(MakeList({QStringLiteral("new")}));
-                plain.states = {{QStringLiteral("new")}};
-                plain.current = 0;
-                break;
-            default:
-                if (draw < 12) {
-                    history.Undo();
-                    plain.current = std::max<qsizetype>(plain.current - 1, 0);
-                } else if (draw < 20) {
-                    history.Redo();
-                    plain.current = std::min(plain.current + 1, plain.states.size() - 1);
-                } else {
-                    const QString word = QString::number(step);
-                    history.Snapshot();
-                    plain.Snapshot();
-                    QStringList &state = plain.states[plain.current];
-                    if (draw % 2 == 0 || state.isEmpty()) {
-                        history.Current().Insert(CWordEntry(word));
-                        state.append(word);
+                case 1:
+                    history.ResetHistory(MakeList("new"));
+                    plain.states = {{u"new"_s}};
+                    plain.current = 0;
+                    break;
+                default:
+                    if (draw < 12) {
+                        history.Undo();
+                        plain.current = std::max<qsizetype>(plain.current - 1, 0);
+                    } else if (draw < 20) {
+                        history.Redo();
+                        plain.current = std::min(plain.current + 1, plain.states.size() - 1);
                     } else {
-                        history.Current().SetEntryField(word, 0, 0, false);
-                        state.first() = word;
+                        const QString word = QString::number(step);
+                        history.Snapshot();
+                        plain.Snapshot();
+                        QStringList &state = plain.states[plain.current];
+                        if (draw % 2 == 0 || state.isEmpty()) {
+                            history.Current().Insert(CWordEntry(word));
+                            state.append(word);
+                        } else {
+                            history.Current().SetEntryField(word, 0, 0, false);
+                            state.first() = word;
+                        }
                     }
                 }
+                QCOMPARE(Describe(history.Current()), plain.states[plain.current]);
+                QCOMPARE(history.UndoCount(), int(plain.current));
+                QCOMPARE(history.RedoCount(), int(plain.states.size() - plain.current) - 1);
             }
-            QCOMPARE(Describe(history.Current()), plain.states[plain.current]);
-            QCOMPARE(history.UndoCount(), int(plain.current));
-            QCOMPARE(history.RedoCount(), int(plain.states.size() - plain.current) - 1);
         }
     }
-}
 
-void UndoHistoryTest::lowerSizeDropsEverything()
-{
-    CUndoHistory history;
-    history.SetUndoSize(10);
-    for (int i = 0; i < 3; ++i) {
+    void savedMarks()
+    {
+        CUndoHistory history;
+        history.SetUndoSize(3);
         history.Snapshot();
-        history.Current().Insert(CWordEntry(QString::number(i)));
+        history.Current().Insert(CWordEntry(u"a"_s));
+        history.MarkOthersChanged();
+        history.Current().SetSaved(true);
+        history.Undo();
+        QVERIFY(!history.Current().IsSaved());
+        history.Redo();
+        QVERIFY(history.Current().IsSaved());
     }
-    history.Undo();
-    history.SetUndoSize(10);
-    QCOMPARE(history.UndoCount(), 2); // The same size changes nothing.
-    history.SetUndoSize(5);
-    QCOMPARE(history.UndoCount(), 0);
-    QCOMPARE(history.RedoCount(), 0);
-    QCOMPARE(Describe(history.Current()).join(u','), QStringLiteral("0,1"));
-}
-
-void UndoHistoryTest::savedMarks()
-{
-    CUndoHistory history;
-    history.SetUndoSize(3);
-    history.Snapshot();
-    history.Current().Insert(CWordEntry(QStringLiteral("a")));
-    history.MarkOthersChanged();
-    history.Current().SetSaved(true);
-    history.Undo();
-    QVERIFY(!history.Current().IsSaved());
-    history.Redo();
-    QVERIFY(history.Current().IsSaved());
-}
+};
 
 QTEST_APPLESS_MAIN(UndoHistoryTest)
 #include "undo_history_test.moc"

@@ -4,8 +4,6 @@
 #include "support/lists.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -95,249 +93,207 @@ class GlossaryFileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void versions();
-    void readOnlyVersions();
-    void smallestVersion();
-    void recordsAtTheEnd();
-    void oneOddCharacterMakesUnicode_data();
-    void oneOddCharacterMakesUnicode();
-    void lineBreaksInHeaders();
-    void lossyHeaders();
-    void strangeTextsSurvive();
-    void savingReplacesTheFile();
-    void failedSaves();
-    void stopsBetweenRecords();
-};
-
-void GlossaryFileTest::versions()
-{
-    const char *const full = "Ordelin 2.3\nÅsa €\n“Djur” …\nSvenska\nEngelska\n2\n1\nVad är %word?\n0\n\n\n"
-                             "1 0\nhund * vovve\ndog\n\n0 1\nkatt [tam]\ncat\nšelma – djur\n";
-    const QString fullContent = QStringLiteral("Åsa €\n“Djur” …\nSvenska\nEngelska\n1Vad är %word?\n0\n"
-                                               "hund * vovve|dog||1\nkatt [tam]|cat|šelma – djur|2");
-    const char *const greek =
-        "Ordelin 2.3\nΆννα\nζώα\nSvenska\nΕλληνικά\n1\n0\n\n1\n%word;\n\n1 1\nhund\nσκύλος\n犬\n";
-    const QString greekContent = QStringLiteral("Άννα\nζώα\nSvenska\nΕλληνικά\n0\n1%word;\nhund|σκύλος|犬|12");
-    const struct
+    void versions()
     {
-        QByteArray bytes;
-        QString content;
-    } rows[] = {
-        {Ansi(full), fullContent}, // 2.3 ANSI
-        {Utf16(greek, false), greekContent}, // 2.3 UTF-16
-        {Ansi("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nŽ\n€\n"),
-            u"\n\nA\nB\n0\n0\nå|Ž|€"_s}, // 2.3-mini ANSI
-        {Utf16("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nя\nω\n", false),
-            u"\n\nA\nB\n0\n0\nå|я|ω"_s}, // 2.3-mini UTF-16
-        {Ansi("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nœ?\n0\n\n\nå\nŽ\n"),
-            u"\n\nA\nB\n0œ?\n0\nå|Ž"_s}, // 2.3-micro ANSI
-        {Utf16("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nω?\n0\n\n\nå\nя\n", false),
-            u"\n\nA\nB\n0ω?\n0\nå|я"_s}, // 2.3-micro UTF-16
-        {Ansi("Ordelin 2.0\nŒ\n\nA\nB\n2\n\n1\nå\nŽ\n0\nb\nc\n"),
-            u"Œ\n\nA\nB\n0\n0\nå|Ž||1\nb|c"_s}, // 2.0 ANSI
-        {Utf16("Ordelin 2.0\n\n\nA\nB\n1\n\n0\nå\nя\n", false), u"\n\nA\nB\n0\n0\nå|я"_s}, // 2.0 UTF-16
-        {Ansi("Ordelin 2.0\n\n\nA\nB\n0\n\n"), u"\n\nA\nB\n0\n0"_s}, // 2.0 empty
-    };
-    for (const auto &row : rows) {
+        const char *const full = "Ordelin 2.3\nÅsa €\n“Djur” …\nSvenska\nEngelska\n2\n1\nVad är %word?\n0\n\n\n"
+                                 "1 0\nhund * vovve\ndog\n\n0 1\nkatt [tam]\ncat\nšelma – djur\n";
+        const QString fullContent = u"Åsa €\n“Djur” …\nSvenska\nEngelska\n1Vad är %word?\n0\n"
+                                    "hund * vovve|dog||1\nkatt [tam]|cat|šelma – djur|2"_s;
+        const char *const greek =
+            "Ordelin 2.3\nΆννα\nζώα\nSvenska\nΕλληνικά\n1\n0\n\n1\n%word;\n\n1 1\nhund\nσκύλος\n犬\n";
+        const QString greekContent = u"Άννα\nζώα\nSvenska\nΕλληνικά\n0\n1%word;\nhund|σκύλος|犬|12"_s;
+        const std::pair<QByteArray, QString> rows[] = {
+            {Ansi(full), fullContent}, // 2.3 ANSI
+            {Utf16(greek, false), greekContent}, // 2.3 UTF-16
+            {Ansi("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nŽ\n€\n"),
+                u"\n\nA\nB\n0\n0\nå|Ž|€"_s}, // 2.3-mini ANSI
+            {Utf16("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nя\nω\n", false),
+                u"\n\nA\nB\n0\n0\nå|я|ω"_s}, // 2.3-mini UTF-16
+            {Ansi("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nœ?\n0\n\n\nå\nŽ\n"),
+                u"\n\nA\nB\n0œ?\n0\nå|Ž"_s}, // 2.3-micro ANSI
+            {Utf16("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nω?\n0\n\n\nå\nя\n", false),
+                u"\n\nA\nB\n0ω?\n0\nå|я"_s}, // 2.3-micro UTF-16
+            {Ansi("Ordelin 2.0\nŒ\n\nA\nB\n2\n\n1\nå\nŽ\n0\nb\nc\n"),
+                u"Œ\n\nA\nB\n0\n0\nå|Ž||1\nb|c"_s}, // 2.0 ANSI
+            {Utf16("Ordelin 2.0\n\n\nA\nB\n1\n\n0\nå\nя\n", false), u"\n\nA\nB\n0\n0\nå|я"_s}, // 2.0 UTF-16
+            {Ansi("Ordelin 2.0\n\n\nA\nB\n0\n\n"), u"\n\nA\nB\n0\n0"_s}, // 2.0 empty
+        };
+        for (const auto &[bytes, content] : rows) {
+            CWordList list;
+            QCOMPARE(Read(list, bytes), ReadResult::Read);
+            QVERIFY(list.IsSaved());
+            QCOMPARE(DescribeAll(list), content);
+            list.SetSaved(false);
+            QCOMPARE(Write(list), bytes);
+            QVERIFY(list.IsSaved());
+        }
+    }
+
+    void readOnlyVersions()
+    {
+        const char *const old = "Ordelin 1\nŽ\nC\nA\nB\n2\n\n!hund\ndog\nå\n!Œ\n";
+        const QString oldContent = u"Ž\nC\nA\nB\n0\n0\nhund|dog||1\nå|Œ||1"_s;
+        const char *const full =
+            "Ordelin 2.3\nŽ\n\nA\nB\n-5\n\nT1\nx\nT2\nignored\n1\nя\nb\n\nx y\nc*d\ne\nn\n 1\n*\n\n\n";
+        const QString fullContent = u"Ž\n\nA\nB\n0T1\n1T2\nя|b||1\nc * d|e|n|12\n|||2"_s;
+        const struct
+        {
+            QByteArray bytes;
+            QString content;
+            ReadResult result;
+        } rows[] = {
+            {Ansi(old), oldContent, ReadResult::Read}, // 1 ANSI
+            {Utf16(old, true), oldContent, ReadResult::Read}, // 1 UTF-16 big endian
+            {Utf8(old).replace("Ordelin 1", "Ordelin 1.2"), oldContent, ReadResult::Read}, // 1.2 UTF-8
+            {Utf8(full), fullContent, ReadResult::Read}, // 2.3 UTF-8
+            {Utf16(full, true), fullContent, ReadResult::Read}, // 2.3 UTF-16 big endian
+            {Utf8(full).replace("2.3", "9.9"), fullContent, ReadResult::NewerVersion}, // newer version
+            {"Ordelinista\na\nb\n", u"a\nb\n\n\n0\n0"_s, ReadResult::NewerVersion}, // program's name alone
+            {"Ordelin 2.3-micro\n\n\nA\nB\n0\n1\n\n1\n", u"\n\nA\nB\n0\n0"_s,
+                ReadResult::Read}, // adapt mark without a template
+            {"Ordelin 2.0\nauthor\ncomm", u"author\ncomm\n\n\n0\n0"_s, ReadResult::Read}, // header cut off
+            {"Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n\n\na\n\n\nb\n", u"\n\n\n\n0\n0\na\n|b"_s,
+                ReadResult::Read}, // both terms empty
+        };
+        for (const auto &row : rows) {
+            CWordList list = MakeList("old|content");
+            QCOMPARE(Read(list, row.bytes), row.result);
+            QCOMPARE(DescribeAll(list), row.content);
+            QVERIFY(list.IsSaved());
+        }
+    }
+
+    void smallestVersion()
+    {
+        const struct
+        {
+            QString entry;
+            QString questionTemplate;
+            QByteArray header;
+        } rows[] = {
+            {u"a|b||1"_s, {}, "Ordelin 2.0"}, // flag 1 only
+            {u"a|b||2"_s, {}, "Ordelin 2.3"}, // flag 2
+            {u"a|b|n"_s, {}, "Ordelin 2.3-mini"}, // note
+            {u"a|b|n|1"_s, {}, "Ordelin 2.3"}, // note and flag 1
+            {u"a|b"_s, u"t"_s, "Ordelin 2.3-micro"}, // template
+            {u"a|b||1"_s, u"t"_s, "Ordelin 2.3"}, // template and flag 1
+        };
+        for (const auto &row : rows) {
+            CWordList list = MakeList({u"x|y"_s, row.entry});
+            list.SetQuestionTemplate(1, row.questionTemplate);
+            const QByteArray bytes = Write(list);
+            QCOMPARE(bytes.left(bytes.indexOf('\r')), row.header);
+        }
+    }
+
+    void recordsAtTheEnd()
+    {
+        // A record needs all its lines; the last line needs no line end, and nothing follows the last line end.
+        const QByteArray micro = "Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n";
+        const QByteArray full = "Ordelin 2.3\n\n\n\n\n0\n0\n\n0\n\n\n";
         CWordList list;
-        QCOMPARE(Read(list, row.bytes), ReadResult::Read);
-        QVERIFY(list.IsSaved());
-        QCOMPARE(DescribeAll(list), row.content);
+        const auto count = [&](const QByteArray &bytes) {
+            return Read(list, bytes) == ReadResult::Read ? list.Count() : -1;
+        };
+        QCOMPARE(count(micro + "a\nb\nc\n"), 1);
+        QCOMPARE(count(micro + "a\nb"), 1);
+        QCOMPARE(count(full + "0 0\na\nb\n"), 0);
+        QCOMPARE(count(full + "0 0\na\nb\n\n"), 1);
+    }
+
+    void oneOddCharacterMakesUnicode()
+    {
+        for (int place = 0; place < 9; ++place) {
+            QStringList texts(9, u"€"_s);
+            texts[place] = u"α"_s;
+            CWordList list = MakeList({u"å|b|c"_s, texts[6] + u'|' + texts[7] + u'|' + texts[8]});
+            list.SetProperties({.language1 = texts[0],
+                .language2 = texts[1],
+                .author = texts[2],
+                .comments = texts[3],
+                .questionTemplate1 = texts[4],
+                .questionTemplate2 = texts[5]});
+            QVERIFY2(Write(list).startsWith("\xFF\xFE"), qPrintable(QString::number(place)));
+        }
+        CWordList ansi = MakeList("€|å|“");
+        QVERIFY(Write(ansi).startsWith("Ordelin"));
+        QVERIFY(Write(ansi, {.forceUnicode = true}).startsWith("\xFF\xFE"));
+    }
+
+    void lineBreaksInHeaders()
+    {
+        CWordList list = MakeList("a|b");
+        list.SetProperties({.author = u"one\r\ntwo\nthree\rfour"_s, .questionTemplate1 = u"x\ny"_s});
+        CWordList read;
+        QCOMPARE(Read(read, Write(list)), ReadResult::Read);
+        QCOMPARE(read.GetAuthor(), u"one two three four"_s);
+        QCOMPARE(DescribeAll(read).section(u'\n', 4), u"0x y\n0\na|b"_s);
+    }
+
+    void lossyHeaders()
+    {
+        CWordList list;
+        QCOMPARE(Read(list, Utf8("Ordelin 2.0\nα\n\n\n\n1β\n\n1\na\nb\n")), ReadResult::ReadLossy);
+        QCOMPARE(list.Count(), 1);
+        QCOMPARE(Read(list, Utf8("Ordelin 2.3\n\n\n\n\n1\nβ\nt\n0\n\n\n")), ReadResult::ReadLossy);
+        QVERIFY(list.GetAdaptQuestion(0));
+        // Texts and flag lines lose nothing.
+        QCOMPARE(Read(list, Utf8("Ordelin 2.0\nα\nβ\nγ\nδ\n1\n\nω\na\nb\n")), ReadResult::Read);
+        QVERIFY(list.Entry(0).GetFlag(0));
+    }
+
+    void strangeTextsSurvive()
+    {
+        CWordList list;
+        list.SetAuthor(QString(u"a\0b\xD800"_s));
+        const QString huge = u"åäö "_s.repeated(300000) + u'x';
+        list.Insert(CWordEntry(huge, u"\xDC00 lone \xD83D"_s, u"\u0085\u2028"_s));
+        for (const char16_t *term :
+            {u"!", u"! x", u"!*!", u"Ordelin 1", u"WordQuiz", u"0 0", u"1", u"a\r\nb\0c*\x7F", u"[a*b]", u"]x[",
+                u"[ [x] ]", u"\uFEFF", u"\uFFFE", u"\u2028\u2029\f\v", u"\xA0"}) {
+            const QString text = QStringView(term).toString();
+            list.Insert(CWordEntry(text, {}, text, true));
+            list.Insert(CWordEntry({}, text, text, false, true));
+        }
+        CWordList read;
+        QCOMPARE(Read(read, Write(list)), ReadResult::Read);
+        QCOMPARE(DescribeAll(read), DescribeAll(list));
+        QCOMPARE(read.Entry(0).GetText(0), huge);
+    }
+
+    void failedSaves()
+    {
+        const QTemporaryDir folder;
+        CWordList list = MakeList("a|b");
+        QCOMPARE(ReadWordListFile(list, folder.filePath(u"missing"_s)), ReadResult::CannotOpen);
         list.SetSaved(false);
-        QCOMPARE(Write(list), row.bytes);
-        QVERIFY(list.IsSaved());
-    }
-}
-
-void GlossaryFileTest::readOnlyVersions()
-{
-    const char *const old = "Ordelin 1\nŽ\nC\nA\nB\n2\n\n!hund\ndog\nå\n!Œ\n";
-    const QString oldContent = QStringLiteral("Ž\nC\nA\nB\n0\n0\nhund|dog||1\nå|Œ||1");
-    const char *const full =
-        "Ordelin 2.3\nŽ\n\nA\nB\n-5\n\nT1\nx\nT2\nignored\n1\nя\nb\n\nx y\nc*d\ne\nn\n 1\n*\n\n\n";
-    const QString fullContent = QStringLiteral("Ž\n\nA\nB\n0T1\n1T2\nя|b||1\nc * d|e|n|12\n|||2");
-    const struct
-    {
-        QByteArray bytes;
-        QString content;
-        ReadResult result;
-    } rows[] = {
-        {Ansi(old), oldContent, ReadResult::Read}, // 1 ANSI
-        {Utf16(old, true), oldContent, ReadResult::Read}, // 1 UTF-16 big endian
-        {Utf8(old).replace("Ordelin 1", "Ordelin 1.2"), oldContent, ReadResult::Read}, // 1.2 UTF-8
-        {Utf8(full), fullContent, ReadResult::Read}, // 2.3 UTF-8
-        {Utf16(full, true), fullContent, ReadResult::Read}, // 2.3 UTF-16 big endian
-        {Utf8(full).replace("2.3", "9.9"), fullContent, ReadResult::NewerVersion}, // newer version
-        {"Ordelinista\na\nb\n", u"a\nb\n\n\n0\n0"_s, ReadResult::NewerVersion}, // program's name alone
-        {"Ordelin 2.3-micro\n\n\nA\nB\n0\n1\n\n1\n", u"\n\nA\nB\n0\n0"_s,
-            ReadResult::Read}, // adapt mark without a template
-        {"Ordelin 2.0\nauthor\ncomm", u"author\ncomm\n\n\n0\n0"_s, ReadResult::Read}, // header cut off
-        {"Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n\n\na\n\n\nb\n", u"\n\n\n\n0\n0\na\n|b"_s,
-            ReadResult::Read}, // both terms empty
-    };
-    for (const auto &row : rows) {
-        CWordList list = MakeList({QStringLiteral("old|content")});
-        QCOMPARE(Read(list, row.bytes), row.result);
-        QCOMPARE(DescribeAll(list), row.content);
-        QVERIFY(list.IsSaved());
-    }
-}
-
-void GlossaryFileTest::smallestVersion()
-{
-    const struct
-    {
-        QString entry;
-        QString questionTemplate;
-        QByteArray header;
-    } rows[] = {
-        {u"a|b||1"_s, {}, "Ordelin 2.0"}, // flag 1 only
-        {u"a|b||2"_s, {}, "Ordelin 2.3"}, // flag 2
-        {u"a|b|n"_s, {}, "Ordelin 2.3-mini"}, // note
-        {u"a|b|n|1"_s, {}, "Ordelin 2.3"}, // note and flag 1
-        {u"a|b"_s, u"t"_s, "Ordelin 2.3-micro"}, // template
-        {u"a|b||1"_s, u"t"_s, "Ordelin 2.3"}, // template and flag 1
-    };
-    for (const auto &row : rows) {
-        CWordList list = MakeList({QStringLiteral("x|y"), row.entry});
-        list.SetQuestionTemplate(1, row.questionTemplate);
-        const QByteArray bytes = Write(list);
-        QCOMPARE(bytes.left(bytes.indexOf('\r')), row.header);
-    }
-}
-
-void GlossaryFileTest::recordsAtTheEnd()
-{
-    // A record needs all its lines; the last line needs no line end, and nothing follows the last line end.
-    const QByteArray micro = "Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n";
-    const QByteArray full = "Ordelin 2.3\n\n\n\n\n0\n0\n\n0\n\n\n";
-    CWordList list;
-    const auto count = [&](const QByteArray &bytes) {
-        return Read(list, bytes) == ReadResult::Read ? list.Count() : -1;
-    };
-    QCOMPARE(count(micro + "a\nb\nc\n"), 1);
-    QCOMPARE(count(micro + "a\nb"), 1);
-    QCOMPARE(count(full + "0 0\na\nb\n"), 0);
-    QCOMPARE(count(full + "0 0\na\nb\n\n"), 1);
-}
-
-void GlossaryFileTest::oneOddCharacterMakesUnicode_data()
-{
-    QTest::addColumn<int>("place");
-    for (int place = 0; place < 9; ++place) {
-        QTest::addRow("text %d", place) << place;
-    }
-}
-
-void GlossaryFileTest::oneOddCharacterMakesUnicode()
-{
-    QFETCH(int, place);
-    QStringList texts(9, QStringLiteral("€"));
-    texts[place] = QStringLiteral("α");
-    CWordList list = MakeList({QStringLiteral("å|b|c"), texts[6] + u'|' + texts[7] + u'|' + texts[8]});
-    list.SetProperties({.language1 = texts[0],
-        .language2 = texts[1],
-        .author = texts[2],
-        .comments = texts[3],
-        .questionTemplate1 = texts[4],
-        .questionTemplate2 = texts[5]});
-    QVERIFY(Write(list).startsWith("\xFF\xFE"));
-    CWordList ansi = MakeList({QStringLiteral("€|å|“")});
-    QVERIFY(Write(ansi).startsWith("Ordelin"));
-    QVERIFY(Write(ansi, {.forceUnicode = true}).startsWith("\xFF\xFE"));
-}
-
-void GlossaryFileTest::lineBreaksInHeaders()
-{
-    CWordList list = MakeList({QStringLiteral("a|b")});
-    list.SetProperties(
-        {.author = QStringLiteral("one\r\ntwo\nthree\rfour"), .questionTemplate1 = QStringLiteral("x\ny")});
-    CWordList read;
-    QCOMPARE(Read(read, Write(list)), ReadResult::Read);
-    QCOMPARE(read.GetAuthor(), QStringLiteral("one two three four"));
-    QCOMPARE(DescribeAll(read).section(u'\n', 4), QStringLiteral("0x y\n0\na|b"));
-}
-
-void GlossaryFileTest::lossyHeaders()
-{
-    CWordList list;
-    QCOMPARE(Read(list, Utf8("Ordelin 2.0\nα\n\n\n\n1β\n\n1\na\nb\n")), ReadResult::ReadLossy);
-    QCOMPARE(list.Count(), 1);
-    QCOMPARE(Read(list, Utf8("Ordelin 2.3\n\n\n\n\n1\nβ\nt\n0\n\n\n")), ReadResult::ReadLossy);
-    QVERIFY(list.GetAdaptQuestion(0));
-    // Texts and flag lines lose nothing.
-    QCOMPARE(Read(list, Utf8("Ordelin 2.0\nα\nβ\nγ\nδ\n1\n\nω\na\nb\n")), ReadResult::Read);
-    QVERIFY(list.Entry(0).GetFlag(0));
-}
-
-void GlossaryFileTest::strangeTextsSurvive()
-{
-    CWordList list;
-    list.SetAuthor(QString(u"a\0b\xD800"_s));
-    const QString huge = QStringLiteral("åäö ").repeated(300000) + u'x';
-    list.Insert(CWordEntry(huge, u"\xDC00 lone \xD83D"_s, u"\u0085\u2028"_s));
-    for (const char16_t *term :
-        {u"!", u"! x", u"!*!", u"Ordelin 1", u"WordQuiz", u"0 0", u"1", u"a\r\nb\0c*\x7F", u"[a*b]", u"]x[",
-            u"[ [x] ]", u"\uFEFF", u"\uFFFE", u"\u2028\u2029\f\v", u"\xA0"}) {
-        const QString text = QStringView(term).toString();
-        list.Insert(CWordEntry(text, {}, text, true));
-        list.Insert(CWordEntry({}, text, text, false, true));
-    }
-    CWordList read;
-    QCOMPARE(Read(read, Write(list)), ReadResult::Read);
-    QCOMPARE(DescribeAll(read), DescribeAll(list));
-    QCOMPARE(read.Entry(0).GetText(0), huge);
-}
-
-void GlossaryFileTest::savingReplacesTheFile()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("lista å.gls"));
-    const QString link = folder.filePath(QStringLiteral("link.gls"));
-    CWordList list = MakeList({QStringLiteral("a|b")});
-    QVERIFY(WriteWordListFile(list, path));
-    QVERIFY(QFile::link(path, link));
-    list.Insert(MakeEntry(QStringLiteral("c|d")));
-    QVERIFY(WriteWordListFile(list, link));
-    QVERIFY(QFileInfo(link).isSymLink());
-    CWordList read;
-    QCOMPARE(ReadWordListFile(read, path), ReadResult::Read);
-    QCOMPARE(Describe(read).join(u','), QStringLiteral("a|b,c|d"));
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 2);
-    QCOMPARE(ReadWordListFile(read, folder.filePath(QStringLiteral("missing"))), ReadResult::CannotOpen);
-}
-
-void GlossaryFileTest::failedSaves()
-{
-    const QTemporaryDir folder;
-    CWordList list = MakeList({QStringLiteral("a|b")});
-    list.SetSaved(false);
-    QVERIFY(!WriteWordListFile(list, folder.filePath(QStringLiteral("no/such/folder.gls"))));
-    QVERIFY(!WriteWordListFile(list, folder.path()));
-    QVERIFY(!list.IsSaved());
-    CWordList unreadable; // Its file would be refused on opening.
-    unreadable.Insert(CWordEntry(QString(16'000'001, u'x')));
-    QCOMPARE(Write(unreadable), QByteArray());
-    QVERIFY(!unreadable.IsSaved());
-    for (const qint64 room : {0, 1, 20}) {
-        CSmallDevice device(room);
-        device.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-        QVERIFY(!WriteWordList(list, device));
+        QVERIFY(!WriteWordListFile(list, folder.filePath(u"no/such/folder.gls"_s)));
+        QVERIFY(!WriteWordListFile(list, folder.path()));
         QVERIFY(!list.IsSaved());
+        CWordList unreadable; // Its file would be refused on opening.
+        unreadable.Insert(CWordEntry(QString(16'000'001, u'x')));
+        QCOMPARE(Write(unreadable), QByteArray());
+        QVERIFY(!unreadable.IsSaved());
+        for (const qint64 room : {0, 1, 20}) {
+            CSmallDevice device(room);
+            device.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+            QVERIFY(!WriteWordList(list, device));
+            QVERIFY(!list.IsSaved());
+        }
     }
-}
 
-void GlossaryFileTest::stopsBetweenRecords()
-{
-    QBuffer buffer;
-    buffer.setData("Ordelin 2.0\nauthor\n\n\n\n1\n\n1\na\nb\n");
-    buffer.open(QIODevice::ReadOnly);
-    CWordList list;
-    const KeepGoing stopped = false;
-    QCOMPARE(ReadWordList(list, buffer, &stopped), ReadResult::Read);
-    QCOMPARE(list.GetAuthor(), QStringLiteral("author"));
-    QCOMPARE(list.Count(), 0);
-}
+    void stopsBetweenRecords()
+    {
+        QBuffer buffer;
+        buffer.setData("Ordelin 2.0\nauthor\n\n\n\n1\n\n1\na\nb\n");
+        buffer.open(QIODevice::ReadOnly);
+        CWordList list;
+        const KeepGoing stopped = false;
+        QCOMPARE(ReadWordList(list, buffer, &stopped), ReadResult::Read);
+        QCOMPARE(list.GetAuthor(), u"author"_s);
+        QCOMPARE(list.Count(), 0);
+    }
+};
 
 QTEST_APPLESS_MAIN(GlossaryFileTest)
 #include "glossary_file_test.moc"

@@ -74,7 +74,7 @@ void HangmanFormTest::words()
     QFETCH(QString, guesses);
     QFETCH(QString, shown);
     QFETCH(QString, recorded);
-    TestDocument test({QStringLiteral("x|") + term});
+    TestDocument test(QStringList{QStringLiteral("x|") + term});
     QuizSettings settings = InOrder(Requiz::None, 2);
     settings.ignoreCase = ignoreCase;
     TestForm<CHangmanForm> quiz(test, settings);

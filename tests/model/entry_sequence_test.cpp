@@ -8,15 +8,6 @@
 #include <numeric>
 #include <thread>
 
-class EntrySequenceTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void agreesWithAPlainVector();
-    void copiesInDifferentThreads();
-};
-
 namespace {
 
 using Plain = std::vector<int>;
@@ -108,46 +99,52 @@ void Change(CEntrySequence &sequence, Plain &plain, CRandom &random, int number)
 
 }
 
-void EntrySequenceTest::agreesWithAPlainVector()
+class EntrySequenceTest : public QObject
 {
-    for (quint32 seed = 0; seed < 12; ++seed) {
-        CRandom random(seed);
-        CEntrySequence sequence;
-        Plain plain;
-        std::vector<std::pair<CEntrySequence, Plain>> copies;
-        for (int number = 1000; number < 60000; number += 1000) {
-            copies.emplace_back(sequence, plain);
-            Change(sequence, plain, random, number);
-            QCOMPARE(Numbers(sequence), plain);
-            if (random.Next() % 4 == 0) { // Go on from an older copy, as after undo.
-                std::tie(sequence, plain) = copies[size_t(random.Next()) % copies.size()];
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agreesWithAPlainVector()
+    {
+        for (quint32 seed = 0; seed < 12; ++seed) {
+            CRandom random(seed);
+            CEntrySequence sequence;
+            Plain plain;
+            std::vector<std::pair<CEntrySequence, Plain>> copies;
+            for (int number = 1000; number < 60000; number += 1000) {
+                copies.emplace_back(sequence, plain);
+                Change(sequence, plain, random, number);
+                QCOMPARE(Numbers(sequence), plain);
+                if (random.Next() % 4 == 0) { // Go on from an older copy, as after undo.
+                    std::tie(sequence, plain) = copies[size_t(random.Next()) % copies.size()];
+                }
+            }
+            // No change of one copy shows in another.
+            for (const auto &[copy, expected] : copies) {
+                QCOMPARE(Numbers(copy), expected);
             }
         }
-        // No change of one copy shows in another.
-        for (const auto &[copy, expected] : copies) {
-            QCOMPARE(Numbers(copy), expected);
-        }
     }
-}
 
-void EntrySequenceTest::copiesInDifferentThreads()
-{
-    CEntrySequence sequence;
-    for (int number = 0; number < 1500; ++number) {
-        sequence.Append(Entry(number));
-    }
-    for (int round = 0; round < 50; ++round) {
-        const Plain before = Numbers(sequence);
-        Plain read;
-        std::thread reader([copy = sequence, &read] { read = Numbers(copy); });
-        for (int index = 0; index < 1500; index += 7) {
-            sequence.Mutable(index).SetTerm(QString::number(round), 0);
-            sequence.Swap(index, 1499 - index);
+    void copiesInDifferentThreads()
+    {
+        CEntrySequence sequence;
+        for (int number = 0; number < 1500; ++number) {
+            sequence.Append(Entry(number));
         }
-        reader.join();
-        QCOMPARE(read, before);
+        for (int round = 0; round < 50; ++round) {
+            const Plain before = Numbers(sequence);
+            Plain read;
+            std::thread reader([copy = sequence, &read] { read = Numbers(copy); });
+            for (int index = 0; index < 1500; index += 7) {
+                sequence.Mutable(index).SetTerm(QString::number(round), 0);
+                sequence.Swap(index, 1499 - index);
+            }
+            reader.join();
+            QCOMPARE(read, before);
+        }
     }
-}
+};
 
 QTEST_APPLESS_MAIN(EntrySequenceTest)
 #include "entry_sequence_test.moc"

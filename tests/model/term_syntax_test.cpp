@@ -43,19 +43,6 @@ QString SlowRemoveComments(QString text)
 
 }
 
-class TermSyntaxTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void normalForm();
-    void comments();
-    void agreesWithTheSlowRules();
-    void hugeTermsTakeNoQuadraticTime();
-    void tokens();
-    void corrections();
-};
-
 namespace {
 
 /// A text and what is to become of it.
@@ -67,90 +54,82 @@ struct Row
 
 }
 
-void TermSyntaxTest::normalForm()
+class TermSyntaxTest : public QObject
 {
-    const Row rows[] = {
-        {u"hund*vovve"_s, u"hund * vovve"_s}, // separator without blanks
-        {u"a * * b"_s, u"a * b"_s}, // empty alternatives
-        {u"a *"_s, u"a"_s}, {u"** *"_s, {}}, {u" "_s, {}}, {u"a * [] * b"_s, u"a * b"_s}, // empty comments
-        {u"x [  ]"_s, u"x"_s}, {u"x [[ ] [] ]"_s, u"x"_s},
-        {u"dog  [animal]"_s, u"dog [animal]"_s}, // a comment is kept
-        {u"  a   b  "_s, u"a b"_s}, {u"a\t\r\nb"_s, u"a b"_s}, // control characters
-        {u"a\u007F"_s, u"a"_s}, {u"\u00A0a"_s, u"\u00A0a"_s}, // other white space stays
-        {u"a\u0085b"_s, u"a\u0085b"_s},
-        {u"a [b*c] d"_s, u"a [b * c] d"_s}, // a separator inside a comment splits
-    };
-    for (const auto &[text, expected] : rows) {
-        QCOMPARE(NormalizeTerm(text), expected);
-        QCOMPARE(NormalizeTerm(expected), expected);
+    Q_OBJECT
+
+private Q_SLOTS:
+    void normalForm()
+    {
+        const Row rows[] = {
+            {u"hund*vovve"_s, u"hund * vovve"_s}, // separator without blanks
+            {u"a * * b"_s, u"a * b"_s}, // empty alternatives
+            {u"a *"_s, u"a"_s}, {u"** *"_s, {}}, {u" "_s, {}}, {u"a * [] * b"_s, u"a * b"_s}, // empty comments
+            {u"x [  ]"_s, u"x"_s}, {u"x [[ ] [] ]"_s, u"x"_s},
+            {u"dog  [animal]"_s, u"dog [animal]"_s}, // a comment is kept
+            {u"  a   b  "_s, u"a b"_s}, {u"a\t\r\nb"_s, u"a b"_s}, // control characters
+            {u"a\u007F"_s, u"a"_s}, {u"\u00A0a"_s, u"\u00A0a"_s}, // other white space stays
+            {u"a\u0085b"_s, u"a\u0085b"_s},
+            {u"a [b*c] d"_s, u"a [b * c] d"_s}, // a separator inside a comment splits
+        };
+        for (const auto &[text, expected] : rows) {
+            QCOMPARE(NormalizeTerm(text), expected);
+            QCOMPARE(NormalizeTerm(expected), expected);
+        }
     }
-}
 
-void TermSyntaxTest::comments()
-{
-    const Row rows[] = {
-        {u"a [x] b"_s, u"a b"_s}, {u"a [x] * [y] b"_s, u"a * b"_s},
-        {u"a [x] b [y"_s, u"a [x] b [y"_s}, // an unmatched opener keeps those before it
-        {u"[a [b] c] d"_s, u"d"_s}, // comments do not nest
-        {u"a ] b"_s, u"a ] b"_s}, {u"a * [b]"_s, u"a"_s}, // an alternative that was all comment
-    };
-    for (const auto &[text, expected] : rows) {
-        QCOMPARE(StripComments(text), expected);
+    void comments()
+    {
+        const Row rows[] = {
+            {u"a [x] b"_s, u"a b"_s}, {u"a [x] * [y] b"_s, u"a * b"_s},
+            {u"a [x] b [y"_s, u"a [x] b [y"_s}, // an unmatched opener keeps those before it
+            {u"[a [b] c] d"_s, u"d"_s}, // comments do not nest
+            {u"a ] b"_s, u"a ] b"_s}, {u"a * [b]"_s, u"a"_s}, // an alternative that was all comment
+        };
+        for (const auto &[text, expected] : rows) {
+            QCOMPARE(StripComments(text), expected);
+        }
     }
-}
 
-void TermSyntaxTest::agreesWithTheSlowRules()
-{
-    CRandom random(3);
-    for (int i = 0; i < 20000; ++i) {
-        const QString text = RandomText(random, u"[[[]]]  ab*", 12);
-        QString emptied = text;
-        RemoveEmptyComments(emptied);
-        QVERIFY2(emptied == SlowRemoveEmptyComments(text), qPrintable(text));
-        QVERIFY2(StripComments(text) == NormalizeTerm(SlowRemoveComments(text)), qPrintable(text));
+    void agreesWithTheSlowRules()
+    {
+        CRandom random(3);
+        for (int i = 0; i < 20000; ++i) {
+            const QString text = RandomText(random, u"[[[]]]  ab*", 12);
+            QString emptied = text;
+            RemoveEmptyComments(emptied);
+            QVERIFY2(emptied == SlowRemoveEmptyComments(text), qPrintable(text));
+            QVERIFY2(StripComments(text) == NormalizeTerm(SlowRemoveComments(text)), qPrintable(text));
+        }
     }
-}
 
-void TermSyntaxTest::hugeTermsTakeNoQuadraticTime()
-{
-    // Each of these would take minutes if every removal moved the rest of the text.
-    constexpr int Repeats = 400000;
-    QCOMPARE(NormalizeTerm(QStringLiteral("[ ]").repeated(Repeats) + u'x'), QStringLiteral("x"));
-    QCOMPARE(StripComments(QStringLiteral("[a]").repeated(Repeats) + u'x'), QStringLiteral("x"));
-    QCOMPARE(NormalizeTerm(QStringLiteral("[").repeated(Repeats) + QStringLiteral("]").repeated(Repeats)),
-        QString());
-    QCOMPARE(NormalizeTerm(QStringLiteral(" *").repeated(Repeats)), QString());
-    QCOMPARE(NormalizeTerm(QStringLiteral("  a").repeated(Repeats)).size(), 2 * Repeats - 1);
-}
-
-void TermSyntaxTest::tokens()
-{
-    QStringView source = u"1 0 rest";
-    QStringView token;
-    QVERIFY(NextToken(source, token, u' '));
-    QCOMPARE(token, u"1");
-    QCOMPARE(source, u"0 rest");
-    source = u"last";
-    QVERIFY(!NextToken(source, token, u' '));
-    QCOMPARE(token, u"last");
-    QVERIFY(source.isEmpty());
-}
-
-void TermSyntaxTest::corrections()
-{
-    const Row rows[] = {
-        {u"hus, hem (plural)"_s, u"hus * hem [plural]"_s},
-        {u"a (b, c)"_s, u"a [b, c]"_s}, // a comma inside brackets stays
-        {u"a (b * c, d"_s, u"a [b * c * d"_s}, // a separator closes the brackets
-        {u"a), b"_s, u"a] * b"_s}, // a stray closer lowers nothing
-        {u"a * b [c, d]"_s, {}}, // nothing to correct
-    };
-    for (const auto &[text, expected] : rows) {
-        const std::optional<QString> result = SuggestTermCorrection(text);
-        QCOMPARE(result.has_value(), !expected.isEmpty());
-        QCOMPARE(result.value_or(QString()), expected);
+    void hugeTermsTakeNoQuadraticTime()
+    {
+        // Each of these would take minutes if every removal moved the rest of the text.
+        constexpr int Repeats = 400000;
+        QCOMPARE(NormalizeTerm(u"[ ]"_s.repeated(Repeats) + u'x'), u"x"_s);
+        QCOMPARE(StripComments(u"[a]"_s.repeated(Repeats) + u'x'), u"x"_s);
+        QCOMPARE(NormalizeTerm(u"["_s.repeated(Repeats) + u"]"_s.repeated(Repeats)), QString());
+        QCOMPARE(NormalizeTerm(u" *"_s.repeated(Repeats)), QString());
+        QCOMPARE(NormalizeTerm(u"  a"_s.repeated(Repeats)).size(), 2 * Repeats - 1);
     }
-}
+
+    void corrections()
+    {
+        const Row rows[] = {
+            {u"hus, hem (plural)"_s, u"hus * hem [plural]"_s},
+            {u"a (b, c)"_s, u"a [b, c]"_s}, // a comma inside brackets stays
+            {u"a (b * c, d"_s, u"a [b * c * d"_s}, // a separator closes the brackets
+            {u"a), b"_s, u"a] * b"_s}, // a stray closer lowers nothing
+            {u"a * b [c, d]"_s, {}}, // nothing to correct
+        };
+        for (const auto &[text, expected] : rows) {
+            const std::optional<QString> result = SuggestTermCorrection(text);
+            QCOMPARE(result.has_value(), !expected.isEmpty());
+            QCOMPARE(result.value_or(QString()), expected);
+        }
+    }
+};
 
 QTEST_APPLESS_MAIN(TermSyntaxTest)
 #include "term_syntax_test.moc"

@@ -52,135 +52,118 @@ class TextSearchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void places();
-    void agreesWithTheSlowSearch();
-    void columnsAndFilters();
-    void nextWrapsAndTriesTheStartLast();
-    void randomListsAgainstFindAll();
-    void prefixes();
-};
-
-void TextSearchTest::places()
-{
-    const struct
+    void places()
     {
-        QString field;
-        QString text;
-        QString options; // c match case, w whole word, * wildcards
-        int start; // -1: not found
-        int length;
-    } rows[] = {
-        {u"En ÅL"_s, u"ål"_s, {}, 3, 2}, {u"En ÅL ål"_s, u"ål"_s, u"c"_s, 6, 2},
-        {u"idé al"_s, u"ide"_s, {}, -1, 0}, // accents count
-        {u"hus hustak * hus"_s, u"hus"_s, u"w"_s, 0, 3},
-        {u"hustak [hus]"_s, u"hus"_s, u"w"_s, 8, 3}, // a whole word, later in the field
-        {u"a1 a"_s, u"a"_s, u"w"_s, 3, 1}, {u"e\u0301 e"_s, u"e"_s, u"w"_s, 3, 1}, // a combining mark beside
-        {u"\U00010400a a"_s, u"a"_s, u"w"_s, 4, 1}, // a letter outside the basic plane beside
-        {u"a * b"_s, u"a * b"_s, {}, 0, 5}, // the separator is text
-        {u"a*b"_s, u"a?b"_s, {}, -1, 0}, // wildcards off
-        {u"xabcbc"_s, u"a*c"_s, u"*"_s, 1, 3}, // the shortest run
-        {u"abcd c"_s, u"a*c"_s, u"*w"_s, 0, 6}, // made longer for a whole word
-        {u"a\U0001F600b"_s, u"a?b"_s, u"*"_s, 0, 4}, // a surrogate pair is one character
-        {u"abc"_s, u"*"_s, u"*"_s, 0, 0}, {u"abc d"_s, u"*"_s, u"*w"_s, 0, 3},
-        {u"a\\b"_s, u"\\?"_s, u"*"_s, 1, 2}, // a backslash is no escape
-        {u"STRASSE straße x"_s, u"x"_s, {}, 15, 1}, // positions are kept
-        {u"a\u212Ax"_s, u"kx"_s, {}, 1, 2}, // three units fold to one
-    };
-    for (const auto &row : rows) {
-        const CTextMatcher matcher({.text = row.text,
-            .matchCase = row.options.contains(u'c'),
-            .wholeWord = row.options.contains(u'w'),
-            .wildcard = row.options.contains(u'*')});
-        const auto range = matcher.Find(row.field);
-        QCOMPARE(range ? int(range->start) : -1, row.start);
-        QCOMPARE(range ? int(range->length) : 0, row.length);
-    }
-}
-
-void TextSearchTest::agreesWithTheSlowSearch()
-{
-    CRandom random(11);
-    for (int i = 0; i < 20000; ++i) {
-        const QString field = RandomText(random, u"aAbå 1-", 10);
-        const TextSearch search = {.text = RandomText(random, i % 2 == 0 ? u"abÅ*? " : u"aAb å", 4),
-            .matchCase = random.Next() % 2 == 0,
-            .wholeWord = random.Next() % 2 == 0,
-            .wildcard = i % 2 == 0};
-        QVERIFY2(CTextMatcher(search).Find(field) == SlowFind(field, search),
-            qPrintable(u"'%1' in '%2' %3"_s.arg(search.text, field).arg(search.wholeWord)));
-    }
-}
-
-void TextSearchTest::columnsAndFilters()
-{
-    const CWordList list = MakeList("x|ab|ab|1,ab|y||2,z|z|cab");
-    using Entries = std::vector<int>;
-    QCOMPARE(list.FindAll({.text = u"ab"_s}), (Entries{0, 1, 2}));
-    QCOMPARE(list.FindAll({.text = u"ab"_s, .column = 2}), (Entries{0, 2}));
-    QCOMPARE(list.FindAll({.flag1 = FlagFilter::NotFlagged, .flag2 = FlagFilter::NotFlagged}), (Entries{2}));
-    QCOMPARE(list.FindAll({.text = u"ab"_s, .flag1 = FlagFilter::Flagged}), (Entries{0}));
-    // The first matching field in the order of the columns, and the place in it.
-    QCOMPARE(list.FindNext({.text = u"ab"_s}, NoEntry, true), (TextMatch{0, 1, 0, 1}));
-    QCOMPARE(list.FindNext({.text = u"ab"_s, .column = 2}, 0, true), (TextMatch{2, 2, 1, 2}));
-    QCOMPARE(
-        list.FindNext({.column = 1, .flag2 = FlagFilter::Flagged}, NoEntry, true), (TextMatch{1, 1, 0, -1}));
-}
-
-void TextSearchTest::nextWrapsAndTriesTheStartLast()
-{
-    const CWordList list = MakeList("a,b,a,b");
-    const TextSearch a = {.text = u"a"_s};
-    const TextSearch b = {.text = u"b"_s};
-    QCOMPARE(list.FindNext(a, NoEntry, true).entry, 0);
-    QCOMPARE(list.FindNext(a, 0, true).entry, 2);
-    QCOMPARE(list.FindNext(a, 2, true).entry, 0);
-    QCOMPARE(list.FindNext(b, NoEntry, false).entry, 3);
-    QCOMPARE(list.FindNext(b, 1, false).entry, 3);
-    QCOMPARE(list.FindNext({.text = u"c"_s}, 2, true).entry, NoEntry);
-    const CWordList one = MakeList("x,a,x");
-    QCOMPARE(one.FindNext(a, 1, true).entry, 1);
-    QCOMPARE(one.FindNext(a, 1, false).entry, 1);
-    QCOMPARE(CWordList().FindNext(a, NoEntry, true).entry, NoEntry);
-}
-
-void TextSearchTest::randomListsAgainstFindAll()
-{
-    CRandom random(2);
-    for (int round = 0; round < 300; ++round) {
-        QStringList entries;
-        for (int i = random.Next() % 6; i >= 0; --i) {
-            entries.append(RandomText(random, u"ab", 2) + u'|' + RandomText(random, u"ab", 2));
-        }
-        const CWordList list = MakeList(entries);
-        const TextSearch search = {.text = RandomText(random, u"ab", 2), .column = random.Next() % 3 - 1};
-        const std::vector<int> all = list.FindAll(search);
-        // Walking on from a match visits all matches, ascending or descending.
-        for (const bool downward : {true, false}) {
-            std::vector<int> walked;
-            int position = -1;
-            for (size_t i = 0; i < all.size(); ++i) {
-                position = list.FindNext(search, position, downward).entry;
-                walked.push_back(position);
-            }
-            if (!downward) {
-                std::ranges::reverse(walked);
-            }
-            QCOMPARE(walked, all);
+        const struct
+        {
+            QString field;
+            QString text;
+            QString options; // c match case, w whole word, * wildcards
+            int start; // -1: not found
+            int length;
+        } rows[] = {
+            {u"En ÅL"_s, u"ål"_s, {}, 3, 2}, {u"En ÅL ål"_s, u"ål"_s, u"c"_s, 6, 2},
+            {u"idé al"_s, u"ide"_s, {}, -1, 0}, // accents count
+            {u"hus hustak * hus"_s, u"hus"_s, u"w"_s, 0, 3},
+            {u"hustak [hus]"_s, u"hus"_s, u"w"_s, 8, 3}, // a whole word, later in the field
+            {u"a1 a"_s, u"a"_s, u"w"_s, 3, 1},
+            {u"e\u0301 e"_s, u"e"_s, u"w"_s, 3, 1}, // a combining mark beside
+            {u"\U00010400a a"_s, u"a"_s, u"w"_s, 4, 1}, // a letter outside the basic plane beside
+            {u"a * b"_s, u"a * b"_s, {}, 0, 5}, // the separator is text
+            {u"a*b"_s, u"a?b"_s, {}, -1, 0}, // wildcards off
+            {u"xabcbc"_s, u"a*c"_s, u"*"_s, 1, 3}, // the shortest run
+            {u"abcd c"_s, u"a*c"_s, u"*w"_s, 0, 6}, // made longer for a whole word
+            {u"a\U0001F600b"_s, u"a?b"_s, u"*"_s, 0, 4}, // a surrogate pair is one character
+            {u"abc"_s, u"*"_s, u"*"_s, 0, 0}, {u"abc d"_s, u"*"_s, u"*w"_s, 0, 3},
+            {u"a\\b"_s, u"\\?"_s, u"*"_s, 1, 2}, // a backslash is no escape
+            {u"STRASSE straße x"_s, u"x"_s, {}, 15, 1}, // positions are kept
+            {u"a\u212Ax"_s, u"kx"_s, {}, 1, 2}, // three units fold to one
+        };
+        for (const auto &row : rows) {
+            const CTextMatcher matcher({.text = row.text,
+                .matchCase = row.options.contains(u'c'),
+                .wholeWord = row.options.contains(u'w'),
+                .wildcard = row.options.contains(u'*')});
+            const auto range = matcher.Find(row.field);
+            QCOMPARE(range ? int(range->start) : -1, row.start);
+            QCOMPARE(range ? int(range->length) : 0, row.length);
         }
     }
-}
 
-void TextSearchTest::prefixes()
-{
-    const CWordList list = MakeList("hund|dog,Dag|day,[d] e|x");
-    const QString d = u"d"_s;
-    QCOMPARE(list.FindPrefix(d, -1, 0), 0);
-    QCOMPARE(list.FindPrefix(d, 0, 0), 1);
-    QCOMPARE(list.FindPrefix(d, 0, 2), 1);
-    QCOMPARE(list.FindPrefix(u"DO"_s, 1, 1), 0);
-    QCOMPARE(list.FindPrefix(u"[D"_s, 0, 0), 2);
-    QCOMPARE(list.FindPrefix(u"og"_s, -1, 0), -1);
-}
+    void agreesWithTheSlowSearch()
+    {
+        CRandom random(11);
+        for (int i = 0; i < 20000; ++i) {
+            const QString field = RandomText(random, u"aAbå 1-", 10);
+            const TextSearch search = {.text = RandomText(random, i % 2 == 0 ? u"abÅ*? " : u"aAb å", 4),
+                .matchCase = random.Next() % 2 == 0,
+                .wholeWord = random.Next() % 2 == 0,
+                .wildcard = i % 2 == 0};
+            QVERIFY2(CTextMatcher(search).Find(field) == SlowFind(field, search),
+                qPrintable(u"'%1' in '%2' %3"_s.arg(search.text, field).arg(search.wholeWord)));
+        }
+    }
+
+    void columnsAndFilters()
+    {
+        const CWordList list = MakeList("x|ab|ab|1,ab|y||2,z|z|cab");
+        using Entries = std::vector<int>;
+        QCOMPARE(list.FindAll({.text = u"ab"_s}), (Entries{0, 1, 2}));
+        QCOMPARE(list.FindAll({.text = u"ab"_s, .column = 2}), (Entries{0, 2}));
+        QCOMPARE(
+            list.FindAll({.flag1 = FlagFilter::NotFlagged, .flag2 = FlagFilter::NotFlagged}), (Entries{2}));
+        QCOMPARE(list.FindAll({.text = u"ab"_s, .flag1 = FlagFilter::Flagged}), (Entries{0}));
+        // The first matching field in the order of the columns, and the place in it.
+        QCOMPARE(list.FindNext({.text = u"ab"_s}, NoEntry, true), (TextMatch{0, 1, 0, 1}));
+        QCOMPARE(list.FindNext({.text = u"ab"_s, .column = 2}, 0, true), (TextMatch{2, 2, 1, 2}));
+        QCOMPARE(list.FindNext({.column = 1, .flag2 = FlagFilter::Flagged}, NoEntry, true),
+            (TextMatch{1, 1, 0, -1}));
+    }
+
+    void randomListsAgainstFindAll()
+    {
+        CRandom random(2);
+        for (int round = 0; round < 300; ++round) {
+            QStringList entries;
+            for (int i = random.Next() % 6; i >= 0; --i) {
+                entries.append(RandomText(random, u"ab", 2) + u'|' + RandomText(random, u"ab", 2));
+            }
+            const CWordList list = MakeList(entries);
+            const TextSearch search = {.text = RandomText(random, u"ab", 2), .column = random.Next() % 3 - 1};
+            const std::vector<int> all = list.FindAll(search);
+            QCOMPARE(list.FindNext(search, NoEntry, true).IsFound(), !all.empty());
+            // Walking on from a match visits all matches, ascending or descending; a single one is found again.
+            for (const bool downward : {true, false}) {
+                std::vector<int> walked;
+                int position = -1;
+                for (size_t i = 0; i < all.size(); ++i) {
+                    position = list.FindNext(search, position, downward).entry;
+                    walked.push_back(position);
+                }
+                if (!downward) {
+                    std::ranges::reverse(walked);
+                }
+                QCOMPARE(walked, all);
+                if (!all.empty()) {
+                    QCOMPARE(
+                        list.FindNext(search, position, downward).entry, downward ? all.front() : all.back());
+                }
+            }
+        }
+    }
+
+    void prefixes()
+    {
+        const CWordList list = MakeList("hund|dog,Dag|day,[d] e|x");
+        const QString d = u"d"_s;
+        QCOMPARE(list.FindPrefix(d, -1, 0), 0);
+        QCOMPARE(list.FindPrefix(d, 0, 0), 1);
+        QCOMPARE(list.FindPrefix(d, 0, 2), 1);
+        QCOMPARE(list.FindPrefix(u"DO"_s, 1, 1), 0);
+        QCOMPARE(list.FindPrefix(u"[D"_s, 0, 0), 2);
+        QCOMPARE(list.FindPrefix(u"og"_s, -1, 0), -1);
+    }
+};
 
 QTEST_APPLESS_MAIN(TextSearchTest)
 #include "text_search_test.moc"

@@ -4,42 +4,41 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class OpenerTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsOfFailureAlone();
-};
-
-void OpenerTest::tellsOfFailureAlone()
-{
-    const QTemporaryDir folder;
-    const QString mark = folder.filePath(QStringLiteral("mark"));
-    const QString shell = QStringLiteral("/bin/sh");
-    QStringList failed;
-    const auto start = [&](const QString &program, const QString &script, QObject &context) {
-        StartOpener(
-            program, {QStringLiteral("-c"), script}, context, [&failed, script] { failed.append(script); });
-    };
-    QObject context;
-    start(QStringLiteral("no-such-opener"), QStringLiteral("missing"), context);
-    QVERIFY(failed.isEmpty()); // Not before the caller is ready.
-    QTRY_COMPARE(failed, QStringList{QStringLiteral("missing")});
-    start(shell, QStringLiteral("exit 3"), context);
-    QTRY_COMPARE(failed.size(), 2);
-    start(shell, QStringLiteral("kill $$"), context);
-    QTRY_COMPARE(failed.size(), 3);
+    void tellsOfFailureAlone()
     {
-        QObject gone;
-        start(shell, QStringLiteral("exit 4"), gone);
+        const QTemporaryDir folder;
+        const QString mark = folder.filePath(u"mark"_s);
+        const QString shell = u"/bin/sh"_s;
+        QStringList failed;
+        const auto start = [&](const QString &program, const QString &script, QObject &context) {
+            StartOpener(program, {u"-c"_s, script}, context, [&failed, script] { failed.append(script); });
+        };
+        QObject context;
+        start(u"no-such-opener"_s, u"missing"_s, context);
+        QVERIFY(failed.isEmpty()); // Not before the caller is ready.
+        QTRY_COMPARE(failed, QStringList{u"missing"_s});
+        start(shell, u"exit 3"_s, context);
+        QTRY_COMPARE(failed.size(), 2);
+        start(shell, u"kill $$"_s, context);
+        QTRY_COMPARE(failed.size(), 3);
+        {
+            QObject gone;
+            start(shell, u"exit 4"_s, gone);
+        }
+        start(shell, u"touch '%1'"_s.arg(mark), context);
+        QTRY_VERIFY(QFile::exists(mark));
+        start(shell, u"exit 5"_s, context); // The others have ended by then.
+        QTRY_COMPARE(failed.size(), 4);
+        QCOMPARE(failed.last(), u"exit 5"_s);
     }
-    start(shell, QStringLiteral("touch '%1'").arg(mark), context);
-    QTRY_VERIFY(QFile::exists(mark));
-    start(shell, QStringLiteral("exit 5"), context); // The others have ended by then.
-    QTRY_COMPARE(failed.size(), 4);
-    QCOMPARE(failed.last(), QStringLiteral("exit 5"));
-}
+};
 
 QTEST_GUILESS_MAIN(OpenerTest)
 #include "opener_test.moc"

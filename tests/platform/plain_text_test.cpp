@@ -10,53 +10,45 @@ class PlainTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void bounded();
-    void captions();
-    void isolated();
-};
-
-void PlainTextTest::bounded()
-{
-    QCOMPARE(ShownShort(QStringLiteral("abcd"), 4), QStringLiteral("abcd"));
-    QCOMPARE(ShownShort(QStringLiteral("abcde"), 4), QStringLiteral("abc…"));
-    // No half of a character is left.
-    QCOMPARE(ShownShort(QStringLiteral("ab\U00010428de"), 4), QStringLiteral("ab…"));
-}
-
-void PlainTextTest::captions()
-{
-    QCOMPARE(ShownInCaption(QStringLiteral("A&B\tc\n d")), QStringLiteral("A&&B c d"));
-    const QString endless = ShownInCaption(QString(1000000, u'x'));
-    QCOMPARE(endless, QString(39, u'x') + u'…');
-    QCOMPARE(CaptionReadOut(QStringLiteral("&Namn på A&&B:")), QStringLiteral("Namn på A&B"));
-}
-
-void PlainTextTest::isolated()
-{
-    const struct
+    void bounded()
     {
-        QString text;
-        QString shown;
-    } rows[] = {
-        {u"vad? 1 + 2 åäö Ж"_s, u"vad? 1 + 2 åäö Ж"_s}, // left to right stays as it is
-        {u"aאb"_s, u"[aאb)"_s}, // right to left
-        {u"\U00010840"_s, u"[\U00010840)"_s}, // outside the basic plane
-        {u"a<b"_s, u"[a<b)"_s}, // open override
-        {u"a(b(("_s, u"[a(b(())))"_s}, // open isolate
-        {u"a))<b"_s, u"[a<b)"_s}, // closes nothing of ours
-        {u"(a)b"_s, u"[(a)b)"_s}, // balanced
-        {u"א(\nb"_s, u"[א())\n[b)"_s}, // several lines
-    };
-    for (const auto &row : rows) {
-        const auto withMarks = [](QString letters) {
-            return letters.replace(u'(', u'\u2066')
-                .replace(u')', u'\u2069')
-                .replace(u'[', u'\u2068')
-                .replace(u'<', u'\u202E');
-        };
-        QCOMPARE(Isolated(withMarks(row.text)), withMarks(row.shown));
+        QCOMPARE(ShownShort(u"abcd"_s, 4), u"abcd"_s);
+        QCOMPARE(ShownShort(u"abcde"_s, 4), u"abc…"_s);
+        // No half of a character is left.
+        QCOMPARE(ShownShort(u"ab\U00010428de"_s, 4), u"ab…"_s);
     }
-}
+
+    void captions()
+    {
+        QCOMPARE(ShownInCaption(u"A&B\tc\n d"_s), u"A&&B c d"_s);
+        const QString endless = ShownInCaption(QString(1000000, u'x'));
+        QCOMPARE(endless, QString(39, u'x') + u'…');
+        QCOMPARE(CaptionReadOut(u"&Namn på A&&B:"_s), u"Namn på A&B"_s);
+    }
+
+    void isolated()
+    {
+        const std::pair<QString, QString> rows[] = {
+            {u"vad? 1 + 2 åäö Ж"_s, u"vad? 1 + 2 åäö Ж"_s}, // left to right stays as it is
+            {u"aאb"_s, u"[aאb)"_s}, // right to left
+            {u"\U00010840"_s, u"[\U00010840)"_s}, // outside the basic plane
+            {u"a<b"_s, u"[a<b)"_s}, // open override
+            {u"a(b(("_s, u"[a(b(())))"_s}, // open isolate
+            {u"a))<b"_s, u"[a<b)"_s}, // closes nothing of ours
+            {u"(a)b"_s, u"[(a)b)"_s}, // balanced
+            {u"א(\nb"_s, u"[א())\n[b)"_s}, // several lines
+        };
+        for (const auto &[text, shown] : rows) {
+            const auto withMarks = [](QString letters) {
+                return letters.replace(u'(', u'\u2066')
+                    .replace(u')', u'\u2069')
+                    .replace(u'[', u'\u2068')
+                    .replace(u'<', u'\u202E');
+            };
+            QCOMPARE(Isolated(withMarks(text)), withMarks(shown));
+        }
+    }
+};
 
 QTEST_APPLESS_MAIN(PlainTextTest)
 #include "plain_text_test.moc"

@@ -8,6 +8,8 @@
 #include <memory>
 #include <semaphore>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A sound system that lets wait until a test lets it go on.
@@ -36,48 +38,45 @@ class SoundThreadTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void nobodyWaits();
-    void theLatestCounts();
-};
-
-void SoundThreadTest::nobodyWaits()
-{
-    const auto sounds = std::make_shared<SlowSounds>();
-    const auto ended = std::make_shared<std::binary_semaphore>(0);
+    void nobodyWaits()
     {
-        CSoundThread player([sounds, ended] {
-            const SoundOutput output = sounds->Open();
-            ended->release();
-            return output;
-        });
-        player.Play(QStringLiteral("a"));
-        player.Play(QStringLiteral("b"));
+        const auto sounds = std::make_shared<SlowSounds>();
+        const auto ended = std::make_shared<std::binary_semaphore>(0);
+        {
+            CSoundThread player([sounds, ended] {
+                const SoundOutput output = sounds->Open();
+                ended->release();
+                return output;
+            });
+            player.Play(u"a"_s);
+            player.Play(u"b"_s);
+        }
+        sounds->opens.release();
+        ended->acquire();
+        QVERIFY(sounds->played.isEmpty()); // The program was about to end.
     }
-    sounds->opens.release();
-    ended->acquire();
-    QVERIFY(sounds->played.isEmpty()); // The program was about to end.
-}
 
-void SoundThreadTest::theLatestCounts()
-{
-    SlowSounds sounds;
-    sounds.opens.release();
-    std::atomic<std::chrono::milliseconds> now{};
-    CSoundThread player([&sounds] { return sounds.Open(); }, [&now] { return now.load(); });
-    player.Play(QStringLiteral("a"));
-    sounds.begun.acquire();
-    player.Play(QStringLiteral("b"));
-    player.Play(QStringLiteral("c"));
-    sounds.plays.release();
-    sounds.begun.acquire();
-    player.Play(QStringLiteral("too late"));
-    now = std::chrono::seconds(2);
-    sounds.plays.release();
-    player.Play(QStringLiteral("d"));
-    sounds.plays.release();
-    sounds.begun.acquire();
-    QCOMPARE(sounds.played, (QStringList{QStringLiteral("a"), QStringLiteral("c"), QStringLiteral("d")}));
-}
+    void theLatestCounts()
+    {
+        SlowSounds sounds;
+        sounds.opens.release();
+        std::atomic<std::chrono::milliseconds> now{};
+        CSoundThread player([&sounds] { return sounds.Open(); }, [&now] { return now.load(); });
+        player.Play(u"a"_s);
+        sounds.begun.acquire();
+        player.Play(u"b"_s);
+        player.Play(u"c"_s);
+        sounds.plays.release();
+        sounds.begun.acquire();
+        player.Play(u"too late"_s);
+        now = std::chrono::seconds(2);
+        sounds.plays.release();
+        player.Play(u"d"_s);
+        sounds.plays.release();
+        sounds.begun.acquire();
+        QCOMPARE(sounds.played, (QStringList{u"a"_s, u"c"_s, u"d"_s}));
+    }
+};
 
 QTEST_APPLESS_MAIN(SoundThreadTest)
 #include "sound_thread_test.moc"

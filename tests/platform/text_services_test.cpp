@@ -12,121 +12,115 @@
 #include <set>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 class TextServicesTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void swedishOrder();
-    void sortKeysOrderLikeComparison();
-    void collatorsOfSeveralThreads();
-    void lettersAndCase();
-    void codePageByBytes();
-    void codePageRefusesLookAlikes();
-};
+    void swedishOrder()
+    {
+        QStringList words = {u"ö"_s, u"ä"_s, u"å"_s, u"Zebra"_s, u"e"_s, u"É"_s, u"f"_s, u"wok"_s, u"vy"_s,
+            u"c-d"_s, u"cd"_s, u"ab c"_s, u"abb"_s};
+        const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+        std::ranges::sort(
+            words, [&](const QString &a, const QString &b) { return collator.Compare(a, b) < 0; });
+        QCOMPARE(words.join(u','), u"ab c,abb,c-d,cd,e,É,f,vy,wok,Zebra,å,ä,ö"_s);
 
-void TextServicesTest::swedishOrder()
-{
-    QStringList words = {QStringLiteral("ö"), QStringLiteral("ä"), QStringLiteral("å"), QStringLiteral("Zebra"),
-        QStringLiteral("e"), QStringLiteral("É"), QStringLiteral("f"), QStringLiteral("wok"),
-        QStringLiteral("vy"), QStringLiteral("c-d"), QStringLiteral("cd"), QStringLiteral("ab c"),
-        QStringLiteral("abb")};
-    const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
-    std::ranges::sort(words, [&](const QString &a, const QString &b) { return collator.Compare(a, b) < 0; });
-    QCOMPARE(words.join(u','), QStringLiteral("ab c,abb,c-d,cd,e,É,f,vy,wok,Zebra,å,ä,ö"));
-
-    QVERIFY(collator.Equal(u"ÅSA", u"åsa"));
-    QVERIFY(!collator.Equal(u"e", u"é"));
-    QVERIFY(!collator.Equal(u"å", u"a"));
-    QVERIFY(!collator.Equal(u"to be", u"to-be"));
-}
-
-void TextServicesTest::sortKeysOrderLikeComparison()
-{
-    CRandom random(7);
-    const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
-    const QString alphabet = QStringLiteral("aAåÅäöÖeéÉz -'Ωж\u0301");
-    const auto draw = [&] {
-        QString text;
-        for (int length = random.Next() % 9; length > 0; --length) {
-            text.append(alphabet.at(random.Next() % alphabet.size()));
-        }
-        return text;
-    };
-    for (int i = 0; i < 3000; ++i) {
-        const QString a = draw();
-        const QString b = draw();
-        std::vector<char> keys;
-        collator.AppendSortKey(a, keys);
-        const size_t second = keys.size();
-        collator.AppendSortKey(b, keys);
-        const int byKey = std::strcmp(keys.data(), keys.data() + second);
-        const int byText = collator.Compare(a, b);
-        QVERIFY2((byKey < 0) == (byText < 0) && (byKey == 0) == (byText == 0), qPrintable(a + u'|' + b));
+        QVERIFY(collator.Equal(u"ÅSA", u"åsa"));
+        QVERIFY(!collator.Equal(u"e", u"é"));
+        QVERIFY(!collator.Equal(u"å", u"a"));
+        QVERIFY(!collator.Equal(u"to be", u"to-be"));
     }
-}
 
-void TextServicesTest::collatorsOfSeveralThreads()
-{
-    std::vector<std::thread> threads;
-    std::array<bool, 4> right = {};
-    for (bool &result : right) {
-        threads.emplace_back([&result] {
-            const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
-            result = true;
-            for (int i = 0; i < 200; ++i) {
-                result = result && collator.Compare(u"zon", u"ål") < 0 && CaseFolding()[u'Å'] == u'å';
+    void sortKeysOrderLikeComparison()
+    {
+        CRandom random(7);
+        const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+        const QString alphabet = u"aAåÅäöÖeéÉz -'Ωж\u0301"_s;
+        const auto draw = [&] {
+            QString text;
+            for (int length = random.Next() % 9; length > 0; --length) {
+                text.append(alphabet.at(random.Next() % alphabet.size()));
             }
-        });
+            return text;
+        };
+        for (int i = 0; i < 3000; ++i) {
+            const QString a = draw();
+            const QString b = draw();
+            std::vector<char> keys;
+            collator.AppendSortKey(a, keys);
+            const size_t second = keys.size();
+            collator.AppendSortKey(b, keys);
+            const int byKey = std::strcmp(keys.data(), keys.data() + second);
+            const int byText = collator.Compare(a, b);
+            QVERIFY2((byKey < 0) == (byText < 0) && (byKey == 0) == (byText == 0), qPrintable(a + u'|' + b));
+        }
     }
-    for (std::thread &thread : threads) {
-        thread.join();
-    }
-    QVERIFY(std::ranges::all_of(right, std::identity()));
-}
 
-void TextServicesTest::lettersAndCase()
-{
-    QCOMPARE(KeepLetters(u"Å-ä 1ö'é\tж", false), QStringLiteral("Åäöéж"));
-    QCOMPARE(KeepLetters(u"to-be or\tnot", true), QStringLiteral("tobe ornot"));
-    // A letter outside the basic plane stays whole, a lone surrogate is no letter.
-    QCOMPARE(KeepLetters(u"a\U00010400\xD800", false), QStringLiteral("a\U00010400"));
-    QCOMPARE(ToLowerCase(u"ÅÄÖ É \U00010400\xDC00"), QStringLiteral("åäö é \U00010428\xDC00"));
-    QCOMPARE(CaseFolding()[u'Σ'], u'σ');
-    QCOMPARE(CaseFolding()[u'ς'], u'σ');
-    QCOMPARE(CaseFolding()[u'ß'], u'ß'); // Its full folding is two letters and would shift positions.
-    QCOMPARE(CaseFolding()[0xD801], char16_t(0xD801));
-}
-
-void TextServicesTest::codePageByBytes()
-{
-    QByteArray all;
-    for (int byte = 0; byte < 256; ++byte) {
-        all.append(char(byte));
+    void collatorsOfSeveralThreads()
+    {
+        std::vector<std::thread> threads;
+        std::array<bool, 4> right = {};
+        for (bool &result : right) {
+            threads.emplace_back([&result] {
+                const CSwedishCollator &collator = CSwedishCollator::ForThisThread();
+                result = true;
+                for (int i = 0; i < 200; ++i) {
+                    result = result && collator.Compare(u"zon", u"ål") < 0 && CaseFolding()[u'Å'] == u'å';
+                }
+            });
+        }
+        for (std::thread &thread : threads) {
+            thread.join();
+        }
+        QVERIFY(std::ranges::all_of(right, std::identity()));
     }
-    const QString decoded = DecodeWindows1252(all);
-    QCOMPARE(decoded.at(0x80), QChar(u'€'));
-    QCOMPARE(decoded.at(0x8A), QChar(u'Š'));
-    QCOMPARE(decoded.at(0x9F), QChar(u'Ÿ'));
-    QCOMPARE(decoded.at(0xE5), QChar(u'å'));
-    for (const int undefined : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) {
-        QCOMPARE(decoded.at(undefined).unicode(), char16_t(undefined));
-    }
-    QByteArray back;
-    QVERIFY(AppendWindows1252(decoded, back));
-    QCOMPARE(back, all);
-}
 
-void TextServicesTest::codePageRefusesLookAlikes()
-{
-    QByteArray bytes;
-    // U+0080 is not the euro, full-width a is not a, a surrogate pair is one character.
-    QVERIFY(!AppendWindows1252(u"a\u0080\uFF41\U0001F600\xD83Dz", bytes));
-    QCOMPARE(bytes, QByteArray("a????z"));
-    bytes.clear();
-    QVERIFY(!AppendWindows1252(u"e\u0301α", bytes));
-    QCOMPARE(bytes, QByteArray("e??"));
-}
+    void lettersAndCase()
+    {
+        QCOMPARE(KeepLetters(u"Å-ä 1ö'é\tж", false), u"Åäöéж"_s);
+        QCOMPARE(KeepLetters(u"to-be or\tnot", true), u"tobe ornot"_s);
+        // A letter outside the basic plane stays whole, a lone surrogate is no letter.
+        QCOMPARE(KeepLetters(u"a\U00010400\xD800", false), u"a\U00010400"_s);
+        QCOMPARE(ToLowerCase(u"ÅÄÖ É \U00010400\xDC00"), u"åäö é \U00010428\xDC00"_s);
+        QCOMPARE(CaseFolding()[u'Σ'], u'σ');
+        QCOMPARE(CaseFolding()[u'ς'], u'σ');
+        QCOMPARE(CaseFolding()[u'ß'], u'ß'); // Its full folding is two letters and would shift positions.
+        QCOMPARE(CaseFolding()[0xD801], char16_t(0xD801));
+    }
+
+    void codePageByBytes()
+    {
+        QByteArray all;
+        for (int byte = 0; byte < 256; ++byte) {
+            all.append(char(byte));
+        }
+        const QString decoded = DecodeWindows1252(all);
+        QCOMPARE(decoded.at(0x80), QChar(u'€'));
+        QCOMPARE(decoded.at(0x8A), QChar(u'Š'));
+        QCOMPARE(decoded.at(0x9F), QChar(u'Ÿ'));
+        QCOMPARE(decoded.at(0xE5), QChar(u'å'));
+        for (const int undefined : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) {
+            QCOMPARE(decoded.at(undefined).unicode(), char16_t(undefined));
+        }
+        QByteArray back;
+        QVERIFY(AppendWindows1252(decoded, back));
+        QCOMPARE(back, all);
+    }
+
+    void codePageRefusesLookAlikes()
+    {
+        QByteArray bytes;
+        // U+0080 is not the euro, full-width a is not a, a surrogate pair is one character.
+        QVERIFY(!AppendWindows1252(u"a\u0080\uFF41\U0001F600\xD83Dz", bytes));
+        QCOMPARE(bytes, QByteArray("a????z"));
+        bytes.clear();
+        QVERIFY(!AppendWindows1252(u"e\u0301α", bytes));
+        QCOMPARE(bytes, QByteArray("e??"));
+    }
+};
 
 QTEST_APPLESS_MAIN(TextServicesTest)
 #include "text_services_test.moc"

@@ -31,69 +31,65 @@ class ThreadTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void endsByItselfAndStartsAgain();
-    void isStopped();
-    void exceptionsEndIt();
-};
-
-void ThreadTest::endsByItselfAndStartsAgain()
-{
-    int runs = 0; // Without a lock: who waits for the end sees what the thread did.
-    CWorker worker([&](const std::atomic<bool> &) { ++runs; });
-    QVERIFY(!worker.IsRunning() && !worker.IsStarted());
-    worker.Stop(true);
-    for (int round = 1; round <= 3; ++round) {
-        worker.Start();
-        QTRY_VERIFY(!worker.IsRunning() && !worker.IsStarted());
+    void endsByItselfAndStartsAgain()
+    {
+        int runs = 0; // Without a lock: who waits for the end sees what the thread did.
+        CWorker worker([&](const std::atomic<bool> &) { ++runs; });
+        QVERIFY(!worker.IsRunning() && !worker.IsStarted());
         worker.Stop(true);
-        QCOMPARE(runs, round);
+        for (int round = 1; round <= 3; ++round) {
+            worker.Start();
+            QTRY_VERIFY(!worker.IsRunning() && !worker.IsStarted());
+            worker.Stop(true);
+            QCOMPARE(runs, round);
+        }
+        worker.Start();
+        worker.Start(); // Waits for the one before.
+        worker.Stop(true);
+        QCOMPARE(runs, 5);
     }
-    worker.Start();
-    worker.Start(); // Waits for the one before.
-    worker.Stop(true);
-    QCOMPARE(runs, 5);
-}
 
-void ThreadTest::isStopped()
-{
-    QSemaphore begun;
-    QSemaphore mayEnd;
-    bool sawStop = false;
-    CWorker worker([&](const std::atomic<bool> &keepRunning) {
-        begun.release();
-        while (keepRunning) {
-            std::this_thread::yield();
-        }
-        sawStop = true;
-        mayEnd.acquire();
-    });
-    worker.Start();
-    begun.acquire();
-    QVERIFY(worker.IsRunning() && worker.IsStarted());
-    worker.Stop(false);
-    QVERIFY(!worker.IsRunning() && worker.IsStarted()); // Asked, not waited for.
-    mayEnd.release();
-    worker.Stop(true);
-    QVERIFY(sawStop && !worker.IsStarted());
-    mayEnd.release();
-    worker.Start(); // And its destructor ends it.
-}
+    void isStopped()
+    {
+        QSemaphore begun;
+        QSemaphore mayEnd;
+        bool sawStop = false;
+        CWorker worker([&](const std::atomic<bool> &keepRunning) {
+            begun.release();
+            while (keepRunning) {
+                std::this_thread::yield();
+            }
+            sawStop = true;
+            mayEnd.acquire();
+        });
+        worker.Start();
+        begun.acquire();
+        QVERIFY(worker.IsRunning() && worker.IsStarted());
+        worker.Stop(false);
+        QVERIFY(!worker.IsRunning() && worker.IsStarted()); // Asked, not waited for.
+        mayEnd.release();
+        worker.Stop(true);
+        QVERIFY(sawStop && !worker.IsStarted());
+        mayEnd.release();
+        worker.Start(); // And its destructor ends it.
+    }
 
-void ThreadTest::exceptionsEndIt()
-{
-    int runs = 0;
-    CWorker worker([&](const std::atomic<bool> &) {
-        if (++runs == 1) {
-            throw std::runtime_error("work");
-        }
-    });
-    worker.Start();
-    worker.Stop(true);
-    QVERIFY(!worker.IsRunning() && !worker.IsStarted());
-    worker.Start();
-    worker.Stop(true);
-    QCOMPARE(runs, 2);
-}
+    void exceptionsEndIt()
+    {
+        int runs = 0;
+        CWorker worker([&](const std::atomic<bool> &) {
+            if (++runs == 1) {
+                throw std::runtime_error("work");
+            }
+        });
+        worker.Start();
+        worker.Stop(true);
+        QVERIFY(!worker.IsRunning() && !worker.IsStarted());
+        worker.Start();
+        worker.Stop(true);
+        QCOMPARE(runs, 2);
+    }
+};
 
 QTEST_GUILESS_MAIN(ThreadTest)
 #include "thread_test.moc"

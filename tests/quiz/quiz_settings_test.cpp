@@ -1,19 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/quiz_settings_dialog.h"
+#include "resources/texts.h"
 #include "support/scripted_prompt.h"
 #include "support/silent_sounds.h"
+#include "support/widgets.h"
 
-#include "resources/texts.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSpinBox>
-#include <QTest>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,8 +16,8 @@ struct Window
     CScriptedChooser chooser;
     CSilentSounds sounds;
     QuizSettings &settings;
-    CQuizSettingsDialog dialog{CQuizSettingsForm(settings, {QStringLiteral("A&B"), QStringLiteral("Engelska")},
-        texts, chooser, sounds, {QStringLiteral(ORDELIN_SOURCE_DIR)})};
+    CQuizSettingsDialog dialog{CQuizSettingsForm(
+        settings, {u"A&B"_s, u"Engelska"_s}, texts, chooser, sounds, {QStringLiteral(ORDELIN_SOURCE_DIR)})};
 
     explicit Window(QuizSettings &stored) : settings(stored) { dialog.open(); }
 
@@ -72,142 +64,100 @@ class QuizSettingsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void storesWhatIsShown();
-    void cancelStoresNothing();
-    void requizButtons();
-    void rowsThatApply();
-    void choosingSounds();
-    void valuesOutsideTheirRanges();
+    void storesWhatIsShown()
+    {
+        QuizSettings settings;
+        const QString factory = u"3 1 1 0 1 2 0 0 20 50 2 20 0 0 1 0 1 1 2 1 3 right.wav wrong.wav"_s;
+        {
+            Window shown(settings);
+            VerifyAccessibleNames(&shown.dialog);
+            QCOMPARE(shown.Find<QRadioButton>("fromLanguage1")->text(), u"&Från A&&B till Engelska"_s);
+            QCOMPARE(shown.Find<QRadioButton>("fromLanguage2")->text(), u"F&rån Engelska till A&&B"_s);
+            shown.dialog.accept();
+            QCOMPARE(Describe(settings), factory);
+        }
+        {
+            Window changed(settings);
+            for (QCheckBox *box : changed.dialog.findChildren<QCheckBox *>()) {
+                box->toggle();
+            }
+            for (QSpinBox *number : changed.dialog.findChildren<QSpinBox *>()) {
+                number->setValue(number->maximum());
+            }
+            for (QComboBox *choice : changed.dialog.findChildren<QComboBox *>()) {
+                choice->setCurrentIndex(1);
+            }
+            for (const char *button : {"fromLanguage2", "noRequiz"}) {
+                changed.Find<QRadioButton>(button)->click();
+            }
+            changed.Find<QLineEdit>("fileRight")->setText(u"a.wav"_s);
+            changed.Find<QLineEdit>("fileWrong")->clear();
+            QCOMPARE(Describe(settings), factory);
+            changed.dialog.accept();
+        }
+        const QString stored = u"100 0 0 1 0 1 1 1 1000 100 1 99 1 1 0 1 0 0 0 0 100 a.wav "_s;
+        QCOMPARE(Describe(settings), stored);
+        Window again(settings);
+        again.dialog.accept();
+        QCOMPARE(Describe(settings), stored);
+    }
+
+    void requizButtons()
+    {
+        const char *const buttons[] = {"noRequiz", "askAgain", "requizAfter"};
+        constexpr Requiz Values[] = {Requiz::None, Requiz::AtOnce, Requiz::AfterRound};
+        QuizSettings settings;
+        for (int i = 0; i < 3; ++i) {
+            Window cancelled(settings);
+            cancelled.Find<QRadioButton>(buttons[i])->click();
+            QTest::keyClick(&cancelled.dialog, Qt::Key_Escape);
+            QVERIFY(!cancelled.dialog.isVisible() && settings.requiz != Values[i]);
+            Window chosen(settings);
+            chosen.Find<QRadioButton>(buttons[i])->click();
+            chosen.dialog.accept();
+            QCOMPARE(settings.requiz, Values[i]);
+            const Window again(settings);
+            QVERIFY2(again.Find<QRadioButton>(buttons[i])->isChecked(), buttons[i]);
+        }
+    }
+
+    void rowsThatApply()
+    {
+        QuizSettings settings;
+        const Window window(settings);
+        const auto choose = [&](int words, int flagged, const char *requiz, bool limit) {
+            window.Find<QComboBox>("wordsToQuiz")->setCurrentIndex(words);
+            window.Find<QComboBox>("includeFlaggedWords")->setCurrentIndex(flagged);
+            window.Find<QRadioButton>(requiz)->click();
+            window.Find<QCheckBox>("requizMax")->setChecked(limit);
+            return window.Disabled().join(u' ');
+        };
+        QCOMPARE(window.Disabled().join(u' '), u"numberOfWords partOfWords requizMax requizNumber"_s);
+        QCOMPARE(choose(1, 0, "requizAfter", true), u"includeFlaggedProbability partOfWords"_s);
+        QCOMPARE(choose(2, 1, "requizAfter", false), u"includeFlaggedProbability numberOfWords requizNumber"_s);
+        QCOMPARE(choose(3, 2, "noRequiz", true), u"numberOfWords partOfWords requizMax requizNumber"_s);
+    }
+
+    void choosingSounds()
+    {
+        QuizSettings settings;
+        Window window(settings);
+        window.chooser.paths = {QString(), u"/x/ding.wav"_s};
+        auto *const file = window.Find<QLineEdit>("fileWrong");
+        window.Find<QPushButton>("fileWrongBrowse")->click();
+        QCOMPARE(file->text(), u"wrong.wav"_s);
+        QCOMPARE(window.chooser.asked.first().start, QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/wrong.wav"));
+        QCOMPARE(window.chooser.asked.first().filters, (QStringList{u"Ljud (*.wav)"_s, u"Alla filer (*)"_s}));
+        window.Find<QPushButton>("fileWrongBrowse")->click();
+        QCOMPARE(file->text(), u"/x/ding.wav"_s);
+        window.Find<QPushButton>("fileWrongPlay")->click(); // There is no such file.
+        window.Find<QPushButton>("fileRightPlay")->click();
+        QCOMPARE(window.sounds.played, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/right.wav")});
+        window.dialog.accept();
+        QCOMPARE(settings.wrongSoundFile, u"/x/ding.wav"_s);
+        QCOMPARE(settings.rightSoundFile, u"right.wav"_s);
+    }
 };
-
-void QuizSettingsTest::storesWhatIsShown()
-{
-    QuizSettings settings;
-    const QString factory = QStringLiteral("3 1 1 0 1 2 0 0 20 50 2 20 0 0 1 0 1 1 2 1 3 right.wav wrong.wav");
-    {
-        Window shown(settings);
-        for (const QWidget *widget : shown.dialog.findChildren<QWidget *>()) {
-            const bool control = widget->focusPolicy() != Qt::NoFocus && !widget->objectName().isEmpty()
-                && !widget->objectName().startsWith(u"qt_");
-            QVERIFY2(!control || !widget->accessibleName().isEmpty()
-                    || qobject_cast<const QPushButton *>(widget) != nullptr,
-                qPrintable(widget->objectName()));
-        }
-        QCOMPARE(shown.Find<QRadioButton>("fromLanguage1")->text(), QStringLiteral("&Från A&&B till Engelska"));
-        QCOMPARE(shown.Find<QRadioButton>("fromLanguage2")->text(), QStringLiteral("F&rån Engelska till A&&B"));
-        shown.dialog.accept();
-        QCOMPARE(Describe(settings), factory);
-    }
-    {
-        Window changed(settings);
-        for (QCheckBox *box : changed.dialog.findChildren<QCheckBox *>()) {
-            box->toggle();
-        }
-        for (QSpinBox *number : changed.dialog.findChildren<QSpinBox *>()) {
-            number->setValue(number->maximum());
-        }
-        for (QComboBox *choice : changed.dialog.findChildren<QComboBox *>()) {
-            choice->setCurrentIndex(1);
-        }
-        for (const char *button : {"fromLanguage2", "noRequiz"}) {
-            changed.Find<QRadioButton>(button)->click();
-        }
-        changed.Find<QLineEdit>("fileRight")->setText(QStringLiteral("a.wav"));
-        changed.Find<QLineEdit>("fileWrong")->clear();
-        QCOMPARE(Describe(settings), factory);
-        changed.dialog.accept();
-    }
-    const QString stored = QStringLiteral("100 0 0 1 0 1 1 1 1000 100 1 99 1 1 0 1 0 0 0 0 100 a.wav ");
-    QCOMPARE(Describe(settings), stored);
-    Window again(settings);
-    again.dialog.accept();
-    QCOMPARE(Describe(settings), stored);
-}
-
-void QuizSettingsTest::cancelStoresNothing()
-{
-    QuizSettings settings;
-    Window window(settings);
-    window.Find<QSpinBox>("quizNumber")->setValue(7);
-    window.Find<QRadioButton>("fromLanguage2")->click();
-    QTest::keyClick(&window.dialog, Qt::Key_Escape);
-    QVERIFY(!window.dialog.isVisible());
-    QCOMPARE(settings.quizNumber, 3);
-    QCOMPARE(settings.showLanguage, QuizDirection::FromLanguage1);
-}
-
-void QuizSettingsTest::requizButtons()
-{
-    const char *const buttons[] = {"noRequiz", "askAgain", "requizAfter"};
-    constexpr Requiz Values[] = {Requiz::None, Requiz::AtOnce, Requiz::AfterRound};
-    QuizSettings settings;
-    for (int i = 0; i < 3; ++i) {
-        Window chosen(settings);
-        chosen.Find<QRadioButton>(buttons[i])->click();
-        chosen.dialog.accept();
-        QCOMPARE(settings.requiz, Values[i]);
-        const Window again(settings);
-        QVERIFY2(again.Find<QRadioButton>(buttons[i])->isChecked(), buttons[i]);
-    }
-}
-
-void QuizSettingsTest::rowsThatApply()
-{
-    QuizSettings settings;
-    const Window window(settings);
-    const auto choose = [&](int words, int flagged, const char *requiz, bool limit) {
-        window.Find<QComboBox>("wordsToQuiz")->setCurrentIndex(words);
-        window.Find<QComboBox>("includeFlaggedWords")->setCurrentIndex(flagged);
-        window.Find<QRadioButton>(requiz)->click();
-        window.Find<QCheckBox>("requizMax")->setChecked(limit);
-        return window.Disabled().join(u' ');
-    };
-    QCOMPARE(window.Disabled().join(u' '), QStringLiteral("numberOfWords partOfWords requizMax requizNumber"));
-    QCOMPARE(choose(1, 0, "requizAfter", true), QStringLiteral("includeFlaggedProbability partOfWords"));
-    QCOMPARE(choose(2, 1, "requizAfter", false),
-        QStringLiteral("includeFlaggedProbability numberOfWords requizNumber"));
-    QCOMPARE(
-        choose(3, 2, "noRequiz", true), QStringLiteral("numberOfWords partOfWords requizMax requizNumber"));
-}
-
-void QuizSettingsTest::choosingSounds()
-{
-    QuizSettings settings;
-    Window window(settings);
-    window.chooser.paths = {QString(), QStringLiteral("/x/ding.wav")};
-    auto *const file = window.Find<QLineEdit>("fileWrong");
-    window.Find<QPushButton>("fileWrongBrowse")->click();
-    QCOMPARE(file->text(), QStringLiteral("wrong.wav"));
-    QCOMPARE(window.chooser.asked.first().start, QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/wrong.wav"));
-    QCOMPARE(window.chooser.asked.first().filters,
-        (QStringList{QStringLiteral("Ljud (*.wav)"), QStringLiteral("Alla filer (*)")}));
-    window.Find<QPushButton>("fileWrongBrowse")->click();
-    QCOMPARE(file->text(), QStringLiteral("/x/ding.wav"));
-    window.Find<QPushButton>("fileWrongPlay")->click(); // There is no such file.
-    window.Find<QPushButton>("fileRightPlay")->click();
-    QCOMPARE(window.sounds.played, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/right.wav")});
-    window.dialog.accept();
-    QCOMPARE(settings.wrongSoundFile, QStringLiteral("/x/ding.wav"));
-    QCOMPARE(settings.rightSoundFile, QStringLiteral("right.wav"));
-}
-
-void QuizSettingsTest::valuesOutsideTheirRanges()
-{
-    QuizSettings settings;
-    settings.numberOfWords = -5;
-    settings.partOfWords = 3000;
-    Window window(settings);
-    QCOMPARE(window.Find<QSpinBox>("numberOfWords")->value(), 1);
-    QCOMPARE(window.Find<QSpinBox>("partOfWords")->value(), 100);
-    auto *const rounds = window.Find<QSpinBox>("quizNumber");
-    rounds->selectAll();
-    QTest::keyClicks(rounds, QStringLiteral("7000"));
-    QTest::keyClick(rounds, Qt::Key_Return);
-    QVERIFY(!window.dialog.isVisible());
-    QCOMPARE(settings.quizNumber, 100);
-    QCOMPARE(settings.numberOfWords, 1);
-    QCOMPARE(settings.partOfWords, 100);
-}
 
 QTEST_MAIN(QuizSettingsTest)
 #include "quiz_settings_test.moc"

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray FirstLine = QByteArrayLiteral("Ordelin-spr\xC3\xA5kmodul\n");
@@ -47,172 +49,159 @@ class TextsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void modules();
-    void damagedModules();
-    void filling();
-    void directions();
-    void ownTextsBehindAModule();
-    void shippedModulesAreComplete();
-    void mnemonicsAreUnique();
-};
+    void modules()
+    {
+        CStringTable table;
+        QVERIFY(table.Load(
+            FirstLine + "# comment=1\r\n5=a\\nb\\\\n\\t=x\n7=first\n7=second\n8=\nno number=x\n9\n10=last\\"));
+        QCOMPARE(table.Text(5), u"a\nb\\n\t=x"_s);
+        QCOMPARE(table.Text(7), u"second"_s);
+        QVERIFY(table.Contains(8) && !table.Contains(9) && !table.Contains(1));
+        QCOMPARE(table.Text(10), u"last\\"_s);
+        QVERIFY(table.Load(FirstLine + "bitmap170=aGVq\n"));
+        QCOMPARE(table.Picture(), QByteArray("hej"));
+    }
 
-void TextsTest::modules()
-{
-    CStringTable table;
-    QVERIFY(table.Load(
-        FirstLine + "# comment=1\r\n5=a\\nb\\\\n\\t=x\n7=first\n7=second\n8=\nno number=x\n9\n10=last\\"));
-    QCOMPARE(table.Text(5), QStringLiteral("a\nb\\n\t=x"));
-    QCOMPARE(table.Text(7), QStringLiteral("second"));
-    QVERIFY(table.Contains(8) && !table.Contains(9) && !table.Contains(1));
-    QCOMPARE(table.Text(10), QStringLiteral("last\\"));
-    QVERIFY(table.Load(FirstLine + "bitmap170=aGVq\n"));
-    QCOMPARE(table.Picture(), QByteArray("hej"));
-}
+    void damagedModules()
+    {
+        CStringTable table;
+        QVERIFY(!table.Load({}));
+        QVERIFY(!table.Load("7=x\n"));
+        QVERIFY(!table.Load(QByteArray(1000, '\0')));
+        QVERIFY(table.Load(FirstLine));
+        QVERIFY(table.Numbers().isEmpty());
+        QVERIFY(table.Load(FirstLine + "1=" + QByteArray(1000001, '\\')));
+        QCOMPARE(table.Text(1).size(), 500001);
+        QVERIFY(table.Load(FirstLine + "99999999999=x\n3=\xFF\xFE\n"));
+        QCOMPARE(table.Numbers(), QList<int>{3});
+        QVERIFY(table.Load(FirstLine + "bitmap170=a*b\nbitmap171=aGVq\n"));
+        QVERIFY(table.Picture().isEmpty());
+        QVERIFY(table.Load(FirstLine + "bitmap170=" + QByteArray(100000, 'A')));
+        QVERIFY(table.Picture().isEmpty());
+    }
 
-void TextsTest::damagedModules()
-{
-    CStringTable table;
-    QVERIFY(!table.Load({}));
-    QVERIFY(!table.Load("7=x\n"));
-    QVERIFY(!table.Load(QByteArray(1000, '\0')));
-    QVERIFY(table.Load(FirstLine));
-    QVERIFY(table.Numbers().isEmpty());
-    QVERIFY(table.Load(FirstLine + "1=" + QByteArray(1000001, '\\')));
-    QCOMPARE(table.Text(1).size(), 500001);
-    QVERIFY(table.Load(FirstLine + "99999999999=x\n3=\xFF\xFE\n"));
-    QCOMPARE(table.Numbers(), QList<int>{3});
-    QVERIFY(table.Load(FirstLine + "bitmap170=a*b\nbitmap171=aGVq\n"));
-    QVERIFY(table.Picture().isEmpty());
-    QVERIFY(table.Load(FirstLine + "bitmap170=" + QByteArray(100000, 'A')));
-    QVERIFY(table.Picture().isEmpty());
-}
+    void filling()
+    {
+        QCOMPARE(
+            FillText(u"%s av %s (%s%%)"_s, {u"%s"_s, u"%%"_s, u"3"_s}, FilledFor::Screen), u"%s av %% (3%)"_s);
+        QCOMPARE(FillText(u"border=%d%s%"_s, {u"1"_s}, FilledFor::Storage), u"border=1%"_s);
+        QCOMPARE(FillText(u"%word %s"_s, {u"x"_s}, FilledFor::Screen), u"%word x"_s);
+        const QList<Placeholder> both = {{u"%1"_s, u"<%2>"_s}, {u"%2"_s, u"b"_s}};
+        QCOMPARE(FillPlaceholders(u"%%1 %2%"_s, both, FilledFor::Screen), u"%<%2> b%"_s);
+        QCOMPARE(FillInOrder(u"%%1 %2%"_s, both, FilledFor::Screen), u"%<b> b%"_s);
+    }
 
-void TextsTest::filling()
-{
-    QCOMPARE(FillText(QStringLiteral("%s av %s (%s%%)"),
-                 {QStringLiteral("%s"), QStringLiteral("%%"), QStringLiteral("3")}, FilledFor::Screen),
-        QStringLiteral("%s av %% (3%)"));
-    QCOMPARE(FillText(QStringLiteral("border=%d%s%"), {QStringLiteral("1")}, FilledFor::Storage),
-        QStringLiteral("border=1%"));
-    QCOMPARE(FillText(QStringLiteral("%word %s"), {QStringLiteral("x")}, FilledFor::Screen),
-        QStringLiteral("%word x"));
-    const QList<Placeholder> both = {
-        {QStringLiteral("%1"), QStringLiteral("<%2>")}, {QStringLiteral("%2"), QStringLiteral("b")}};
-    QCOMPARE(FillPlaceholders(QStringLiteral("%%1 %2%"), both, FilledFor::Screen), QStringLiteral("%<%2> b%"));
-    QCOMPARE(FillInOrder(QStringLiteral("%%1 %2%"), both, FilledFor::Screen), QStringLiteral("%<b> b%"));
-}
+    void directions()
+    {
+        const CTexts texts;
+        // A file name or a language may not turn the sentence round; what is stored has no marks of ours.
+        const QString turned = u"a\u202Eb"_s;
+        QCOMPARE(texts.Fill(61014, {turned}), u"Det gick inte att spara filen \u2068a\u202Eb\u2069."_s);
+        QCOMPARE(texts.Prompt(61014, {turned}).text, texts.Fill(61014, {turned}));
+        QCOMPARE(texts.Fill(203013, {turned}, FilledFor::Storage), u"a\u202Eb – resultat"_s);
+        // In a sentence from right to left the other letters run the other way; numbers never need a mark.
+        QCOMPARE(FillText(u"א %s %s"_s, {u"x"_s, u"12"_s}, FilledFor::Screen), u"א \u2068x\u2069 12"_s);
+    }
 
-void TextsTest::directions()
-{
-    const CTexts texts;
-    // A file name or a language may not turn the sentence round; what is stored has no marks of ours.
-    const QString turned = QStringLiteral("a\u202Eb");
-    QCOMPARE(
-        texts.Fill(61014, {turned}), QStringLiteral("Det gick inte att spara filen \u2068a\u202Eb\u2069."));
-    QCOMPARE(texts.Prompt(61014, {turned}).text, texts.Fill(61014, {turned}));
-    QCOMPARE(texts.Fill(203013, {turned}, FilledFor::Storage), QStringLiteral("a\u202Eb – resultat"));
-    // In a sentence from right to left the other letters run the other way; numbers never need a mark.
-    QCOMPARE(
-        FillText(QStringLiteral("א %s %s"), {QStringLiteral("x"), QStringLiteral("12")}, FilledFor::Screen),
-        QStringLiteral("א \u2068x\u2069 12"));
-}
+    void ownTextsBehindAModule()
+    {
+        CTexts texts;
+        QVERIFY(!texts.LoadModule("nonsense"));
+        QCOMPARE(texts.Get(62800), u"Avbryt"_s);
+        QVERIFY(texts.LoadModule(FirstLine + "62800=Cancel\n62801= \n63510=" + QByteArray(9999, 'x')));
+        QCOMPARE(texts.Get(63510), u"OK"_s);
+        QCOMPARE(texts.Get(62800), u"Cancel"_s);
+        QCOMPARE(texts.Get(62801), u"Stäng"_s);
+        QCOMPARE(texts.Get(-1), QString());
+    }
 
-void TextsTest::ownTextsBehindAModule()
-{
-    CTexts texts;
-    QVERIFY(!texts.LoadModule("nonsense"));
-    QCOMPARE(texts.Get(62800), QStringLiteral("Avbryt"));
-    QVERIFY(texts.LoadModule(FirstLine + "62800=Cancel\n62801= \n63510=" + QByteArray(9999, 'x')));
-    QCOMPARE(texts.Get(63510), QStringLiteral("OK"));
-    QCOMPARE(texts.Get(62800), QStringLiteral("Cancel"));
-    QCOMPARE(texts.Get(62801), QStringLiteral("Stäng"));
-    QCOMPARE(texts.Get(-1), QString());
-}
-
-void TextsTest::shippedModulesAreComplete()
-{
-    const QString byPosition = QStringLiteral("%[sd%](?![a-z])");
-    const QString byName = QStringLiteral("%[1-9n](?![a-z])|%[a-z]{2,}[0-9]?|\\$[a-z]+");
-    const QDir source(QStringLiteral(ORDELIN_SOURCE_DIR));
-    const CStringTable own = LoadFile(source.filePath(QStringLiteral("src/resources/swedish.ordmod")));
-    QList<int> numbers = own.Numbers();
-    std::ranges::sort(numbers);
-    QVERIFY(numbers.size() > 200);
-    const QDir modules(source.filePath(QStringLiteral("modules")));
-    const QStringList names = modules.entryList({QStringLiteral("*.ordmod")});
-    QVERIFY(!names.isEmpty());
-    for (const QString &name : names) {
-        const CStringTable module = LoadFile(modules.filePath(name));
-        QList<int> translated = module.Numbers();
-        std::ranges::sort(translated);
-        QCOMPARE(translated, numbers);
-        for (const int number : std::as_const(numbers)) {
-            const QString a = own.Text(number);
-            const QString b = module.Text(number);
-            const QString what = QStringLiteral("%1 %2: %3").arg(name).arg(number).arg(b);
-            QVERIFY2(Placeholders(a, byPosition) == Placeholders(b, byPosition), qPrintable(what));
-            QStringList namesInA = Placeholders(a, byName);
-            QStringList namesInB = Placeholders(b, byName);
-            namesInA.sort();
-            namesInB.sort();
-            QVERIFY2(namesInA == namesInB, qPrintable(what));
-            QVERIFY2(a.count(u'\n') == b.count(u'\n') && a.count(u'|') == b.count(u'|'), qPrintable(what));
-            QVERIFY2(number == 62616 || a.count(u'&') == b.count(u'&'), qPrintable(what));
-            QVERIFY2(a.isEmpty() == b.isEmpty(), qPrintable(what));
+    void shippedModulesAreComplete()
+    {
+        const QString byPosition = u"%[sd%](?![a-z])"_s;
+        const QString byName = u"%[1-9n](?![a-z])|%[a-z]{2,}[0-9]?|\\$[a-z]+"_s;
+        const QDir source(QStringLiteral(ORDELIN_SOURCE_DIR));
+        const CStringTable own = LoadFile(source.filePath(u"src/resources/swedish.ordmod"_s));
+        QList<int> numbers = own.Numbers();
+        std::ranges::sort(numbers);
+        QVERIFY(numbers.size() > 200);
+        const QDir modules(source.filePath(u"modules"_s));
+        const QStringList names = modules.entryList({u"*.ordmod"_s});
+        QVERIFY(!names.isEmpty());
+        for (const QString &name : names) {
+            const CStringTable module = LoadFile(modules.filePath(name));
+            QList<int> translated = module.Numbers();
+            std::ranges::sort(translated);
+            QCOMPARE(translated, numbers);
+            for (const int number : std::as_const(numbers)) {
+                const QString a = own.Text(number);
+                const QString b = module.Text(number);
+                const QString what = u"%1 %2: %3"_s.arg(name).arg(number).arg(b);
+                QVERIFY2(Placeholders(a, byPosition) == Placeholders(b, byPosition), qPrintable(what));
+                QStringList namesInA = Placeholders(a, byName);
+                QStringList namesInB = Placeholders(b, byName);
+                namesInA.sort();
+                namesInB.sort();
+                QVERIFY2(namesInA == namesInB, qPrintable(what));
+                QVERIFY2(a.count(u'\n') == b.count(u'\n') && a.count(u'|') == b.count(u'|'), qPrintable(what));
+                QVERIFY2(number == 62616 || a.count(u'&') == b.count(u'&'), qPrintable(what));
+                QVERIFY2(a.isEmpty() == b.isEmpty(), qPrintable(what));
+            }
         }
     }
-}
 
-void TextsTest::mnemonicsAreUnique()
-{
-    QList<QList<int>> windows = {{63070, 63071, 62800, 63073, 63074, 63075, 202005, 70050},
-        {63070, 63071, 62800, 63073, 63074, 63075, 208001, 70050},
-        {63070, 63071, 62800, 63073, 63074, 63075, 208002, 70050},
-        {63070, 63101, 62800, 63073, 63074, 63075, 202005},
-        {202005, 203005, 203006, 203007, 203008, 203009, 203010, 203037, 203039, 203040, 63510, 62800},
-        {208002, 203005, 203006, 203007, 203008, 203009, 203010, 203037, 203039, 203040, 63510, 62800},
-        {63070, 214001, 214002, 62800, 63073, 70050}, {207001, 207002, 207003, 63510, 62800},
-        {205003, 205004, 205005, 205006, 205007, 205008, 205010, 205011},
-        {205014, 205016, 205019, 205022, 205024},
-        {205026, 205027, 205028, 205029, 205030, 205031, 205032, 205033, 205034, 205035, 205036, 205037, 205038,
-            205043, 205044},
-        {209001, 209003, 209004, 209005, 209009, 209010},
-        {210001, 210002, 210003, 210004, 210005, 210006, 210007, 210008, 210009, 210010, 210012, 210013, 62800},
-        {206001, 206002, 206003, 206004, 206005, 62801},
-        {221001, 221003, 221004, 221005, 221006, 221009, 221010, 221011, 221012},
-        {222002, 222003, 222004, 222005, 222007, 222008, 222009, 222010, 222012, 222014},
-        {223001, 223002, 223003, 223004, 223005}, {224001, 224002, 224003}, {226001, 226002, 226003, 226004}};
-    QList<int> titles;
-    const auto captions = [](const CommandMenu &menu) {
-        QList<int> numbers;
-        for (const int id : menu.commands) {
-            numbers.append(IsSubmenu(id) ? id : 100000 + id);
+    void mnemonicsAreUnique()
+    {
+        QList<QList<int>> windows = {{63070, 63071, 62800, 63073, 63074, 63075, 202005, 70050},
+            {63070, 63071, 62800, 63073, 63074, 63075, 208001, 70050},
+            {63070, 63071, 62800, 63073, 63074, 63075, 208002, 70050},
+            {63070, 63101, 62800, 63073, 63074, 63075, 202005},
+            {202005, 203005, 203006, 203007, 203008, 203009, 203010, 203037, 203039, 203040, 63510, 62800},
+            {208002, 203005, 203006, 203007, 203008, 203009, 203010, 203037, 203039, 203040, 63510, 62800},
+            {63070, 214001, 214002, 62800, 63073, 70050}, {207001, 207002, 207003, 63510, 62800},
+            {205003, 205004, 205005, 205006, 205007, 205008, 205010, 205011},
+            {205014, 205016, 205019, 205022, 205024},
+            {205026, 205027, 205028, 205029, 205030, 205031, 205032, 205033, 205034, 205035, 205036, 205037,
+                205038, 205043, 205044},
+            {209001, 209003, 209004, 209005, 209009, 209010},
+            {210001, 210002, 210003, 210004, 210005, 210006, 210007, 210008, 210009, 210010, 210012, 210013,
+                62800},
+            {206001, 206002, 206003, 206004, 206005, 62801},
+            {221001, 221003, 221004, 221005, 221006, 221009, 221010, 221011, 221012},
+            {222002, 222003, 222004, 222005, 222007, 222008, 222009, 222010, 222012, 222014},
+            {223001, 223002, 223003, 223004, 223005}, {224001, 224002, 224003},
+            {226001, 226002, 226003, 226004}};
+        QList<int> titles;
+        const auto captions = [](const CommandMenu &menu) {
+            QList<int> numbers;
+            for (const int id : menu.commands) {
+                numbers.append(IsSubmenu(id) ? id : 100000 + id);
+            }
+            return numbers;
+        };
+        for (const CommandMenu &menu : CommandMenus()) {
+            titles.append(menu.title);
+            windows.append(captions(menu));
         }
-        return numbers;
-    };
-    for (const CommandMenu &menu : CommandMenus()) {
-        titles.append(menu.title);
-        windows.append(captions(menu));
-    }
-    for (const CommandMenu &menu : CommandSubmenus()) {
-        windows.append(captions(menu));
-    }
-    windows.append(titles);
-    const QDir source(QStringLiteral(ORDELIN_SOURCE_DIR));
-    for (const char *path : {"src/resources/swedish.ordmod", "modules/english.ordmod"}) {
-        const CStringTable table = LoadFile(source.filePath(QLatin1StringView(path)));
-        for (const QList<int> &window : std::as_const(windows)) {
-            QString used;
-            for (const int number : window) {
-                const QChar mnemonic = Mnemonic(table.Text(number));
-                if (!mnemonic.isNull()) {
-                    QVERIFY2(!used.contains(mnemonic), qPrintable(table.Text(number)));
-                    used += mnemonic;
+        for (const CommandMenu &menu : CommandSubmenus()) {
+            windows.append(captions(menu));
+        }
+        windows.append(titles);
+        const QDir source(QStringLiteral(ORDELIN_SOURCE_DIR));
+        for (const char *path : {"src/resources/swedish.ordmod", "modules/english.ordmod"}) {
+            const CStringTable table = LoadFile(source.filePath(QLatin1StringView(path)));
+            for (const QList<int> &window : std::as_const(windows)) {
+                QString used;
+                for (const int number : window) {
+                    const QChar mnemonic = Mnemonic(table.Text(number));
+                    if (!mnemonic.isNull()) {
+                        QVERIFY2(!used.contains(mnemonic), qPrintable(table.Text(number)));
+                        used += mnemonic;
+                    }
                 }
             }
         }
     }
-}
+};
 
 QTEST_APPLESS_MAIN(TextsTest)
 #include "texts_test.moc"

@@ -16,14 +16,15 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QTableView>
-#include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 /// The view in a window that has the commands for finding.
 struct Window
 {
-    explicit Window(const QStringList &entries) : test(entries)
+    explicit Window(const QString &entries) : test(entries)
     {
         frame.setCentralWidget(view);
         frame.resize(700, 500);
@@ -40,7 +41,7 @@ struct Window
         return Find()->findChild<Control *>(QLatin1StringView(name));
     }
     CWordListControl *List() { return view->findChild<CWordListControl *>(); }
-    QLineEdit *Field(int field) { return view->findChild<QLineEdit *>(QStringLiteral("field%1").arg(field)); }
+    QLineEdit *Field(int field) { return view->findChild<QLineEdit *>(u"field%1"_s.arg(field)); }
     /// What stands out in the list, as "row column start length".
     QString Marked()
     {
@@ -48,11 +49,7 @@ struct Window
         for (int row = 0; row < model->rowCount(); ++row) {
             for (int column = 0; column < model->columnCount(); ++column) {
                 if (const TextMark *const mark = List()->MarkIn(model->index(row, column))) {
-                    return QStringLiteral("%1 %2 %3 %4")
-                        .arg(row)
-                        .arg(column)
-                        .arg(mark->start)
-                        .arg(mark->length);
+                    return u"%1 %2 %3 %4"_s.arg(row).arg(column).arg(mark->start).arg(mark->length);
                 }
             }
         }
@@ -75,140 +72,134 @@ class FindCommandsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void findingInTheList();
-    void findingInTheFields();
-    void theWindow();
-    void theDictionary();
+    void findingInTheList()
+    {
+        Window run(u"hund|dog,katt|the hundred,x|y|en hund"_s);
+        run.view->SetInsertionPoint(3);
+        run.Run(CommandId::FindNext); // There is nothing to look for.
+        QVERIFY(run.Find() != nullptr && run.Find()->isVisible());
+        run.In<QLineEdit>("findText")->setText(u"hund"_s);
+        QTest::keyClick(run.In<QLineEdit>("findText"), Qt::Key_Return);
+        QCOMPARE(run.view->SelectedEntries(), std::vector<int>{0});
+        QCOMPARE(run.Marked(), u"0 1 0 4"_s);
+        run.Run(CommandId::FindNext);
+        QCOMPARE(run.Marked(), u"1 2 4 4"_s);
+        QCOMPARE(run.view->CursorField(), 1);
+        // The mark goes with its row, and away when the text or the selection is another.
+        run.test.document.Change([](CWordList &list) { list.DeleteEntries(std::array{0}); });
+        QCOMPARE(run.Marked(), u"0 2 4 4"_s);
+        run.test.document.Change([](CWordList &list) { list.SetEntryField(u"z"_s, 1, 0, false); });
+        QCOMPARE(run.Marked(), QString());
+        run.Run(CommandId::FindNext);
+        QCOMPARE(run.Marked(), u"1 3 3 4"_s);
+        run.view->SelectEntry(0);
+        QCOMPARE(run.Marked(), QString());
+        // A note that is not shown is told.
+        run.test.settings.showNotes = false;
+        run.test.settingsChanges.Tell(SettingsSection::Editor);
+        QString status;
+        QObject::connect(
+            run.view, &CWin32View::StatusTextChanged, run.view, [&](const QString &text) { status = text; });
+        run.Run(CommandId::FindNext);
+        QCOMPARE(run.view->SelectedEntries(), std::vector<int>{1});
+        QVERIFY(status.contains(u"en hund"_s));
+    }
+
+    void findingInTheFields()
+    {
+        Window run(u"hund|dog|en hund"_s);
+        run.test.settings.showEditFields = true;
+        run.test.settingsChanges.Tell(SettingsSection::Editor);
+        run.test.allSettings.find.advancedSearch = true;
+        run.test.allSettings.find.language = 2;
+        run.Run(CommandId::Find);
+        run.In<QLineEdit>("findText")->setText(u"hund"_s);
+        run.In<QPushButton>("findNext")->click();
+        QCOMPARE(run.Field(2)->selectedText(), u"hund"_s);
+        QCOMPARE(run.Field(2)->selectionStart(), 3);
+        QVERIFY(!run.Field(2)->hasFocus());
+        run.Find()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(run.Find() == nullptr);
+        QApplication::setActiveWindow(&run.frame);
+        run.Run(CommandId::FindNext);
+        QVERIFY(run.Field(2)->hasFocus());
+        QCOMPARE(run.Field(2)->selectedText(), u"hund"_s);
+    }
+
+    void theWindow()
+    {
+        Window run(u"a|b,b|c||1,c|c"_s);
+        run.Run(CommandId::Find);
+        QVERIFY(!run.In<QComboBox>("column")->isVisible() && !run.In<QTableView>("findResults")->isVisible());
+        const int height = run.Find()->height();
+        run.In<QCheckBox>("advancedSearch")->click();
+        QVERIFY(run.In<QComboBox>("flag1")->isVisible() && run.Find()->height() > height);
+        QCOMPARE(run.In<QComboBox>("column")->itemText(2), u"2 Engelska"_s);
+        // The controls are settings when a search begins.
+        run.In<QComboBox>("column")->setCurrentIndex(2);
+        run.In<QComboBox>("flag1")->setCurrentIndex(2);
+        run.In<QLineEdit>("findText")->setText(u"c"_s);
+        QCOMPARE(run.test.allSettings.find.language, -1);
+        run.In<QPushButton>("findAll")->click();
+        QCOMPARE(run.test.allSettings.find.language, 1);
+        QCOMPARE(run.view->SelectedEntries(), std::vector<int>{2});
+        // Names of languages follow the list; a choice that was made stays.
+        run.test.document.SetListProperties({.language2 = u"R&D"_s});
+        QCOMPARE(run.In<QComboBox>("column")->currentText(), u"2 R&D"_s);
+        // It goes and comes with the main window.
+        run.frame.hide();
+        QVERIFY(!run.Find()->isVisible());
+        run.frame.show();
+        QVERIFY(run.Find()->isVisible());
+        run.In<QCheckBox>("advancedSearch")->click();
+        QCOMPARE(run.Find()->height(), height);
+        CFindWindow *const window = run.Find();
+        run.Run(CommandId::Find);
+        QCOMPARE(run.frame.findChildren<CFindWindow *>(), QList<CFindWindow *>{window});
+        // It follows settings that somebody else puts back.
+        run.In<QCheckBox>("dictionary")->click();
+        run.test.allSettings.find = {};
+        run.test.settingsChanges.Tell(SettingsSection::Find);
+        QVERIFY(!run.In<QTableView>("findResults")->isVisible());
+        QCOMPARE(run.In<QComboBox>("flag1")->currentIndex(), 0);
+        QVERIFY(!run.test.allSettings.find.dictionary && run.test.allSettings.find.language == AllColumns);
+    }
+
+    void theDictionary()
+    {
+        Window run(u"hund|dog,katt|cat,x|y|hund"_s);
+        run.Run(CommandId::Find);
+        QApplication::setActiveWindow(run.Find());
+        run.In<QLineEdit>("findText")->setText(u"hund"_s);
+        run.In<QCheckBox>("dictionary")->click();
+        auto *const results = run.In<QTableView>("findResults");
+        QCOMPARE(results->model()->rowCount(), 2);
+        QCOMPARE(run.In<QLabel>("findCount")->text(), u"2 glosor hittade. Listan har 3 glosor."_s);
+        QCOMPARE(run.In<QWidget>("spokenText")->accessibleName(), run.In<QLabel>("findCount")->text());
+        results->selectAll();
+        QCOMPARE(run.view->SelectedEntries(), (std::vector<int>{0, 2}));
+        results->selectRow(1);
+        QTest::keyClick(results, Qt::Key_Return);
+        QCOMPARE(run.view->SelectedEntries(), std::vector<int>{2});
+        QVERIFY(!run.Marked().isEmpty());
+        // An edit that is open is stored, and what was found follows the list.
+        QApplication::setActiveWindow(&run.frame);
+        run.List()->EditCell(1, 0);
+        auto *const editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+        QVERIFY(editor != nullptr);
+        editor->setText(u"hundar"_s);
+        run.In<QPushButton>("findAll")->click();
+        QCOMPARE(run.test.document.List().Entry(0).GetText(0), u"hundar"_s);
+        run.test.document.Change([](CWordList &list) { list.DeleteEntries(std::array{2}); });
+        QCOMPARE(results->model()->rowCount(), 1);
+        run.In<QCheckBox>("dictionary")->click();
+        QVERIFY(!results->isVisible());
+        QTest::keyClick(run.Find(), Qt::Key_Escape);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(run.Find() == nullptr);
+    }
 };
-
-void FindCommandsTest::findingInTheList()
-{
-    Window run({QStringLiteral("hund|dog"), QStringLiteral("katt|the hundred"), QStringLiteral("x|y|en hund")});
-    run.view->SetInsertionPoint(3);
-    run.Run(CommandId::FindNext); // There is nothing to look for.
-    QVERIFY(run.Find() != nullptr && run.Find()->isVisible());
-    run.In<QLineEdit>("findText")->setText(QStringLiteral("hund"));
-    QTest::keyClick(run.In<QLineEdit>("findText"), Qt::Key_Return);
-    QCOMPARE(run.view->SelectedEntries(), std::vector<int>{0});
-    QCOMPARE(run.Marked(), QStringLiteral("0 1 0 4"));
-    run.Run(CommandId::FindNext);
-    QCOMPARE(run.Marked(), QStringLiteral("1 2 4 4"));
-    QCOMPARE(run.view->CursorField(), 1);
-    // The mark goes with its row, and away when the text or the selection is another.
-    run.test.document.Change([](CWordList &list) { list.DeleteEntries(std::array{0}); });
-    QCOMPARE(run.Marked(), QStringLiteral("0 2 4 4"));
-    run.test.document.Change([](CWordList &list) { list.SetEntryField(QStringLiteral("z"), 1, 0, false); });
-    QCOMPARE(run.Marked(), QString());
-    run.Run(CommandId::FindNext);
-    QCOMPARE(run.Marked(), QStringLiteral("1 3 3 4"));
-    run.view->SelectEntry(0);
-    QCOMPARE(run.Marked(), QString());
-    // A note that is not shown is told.
-    run.test.settings.showNotes = false;
-    run.test.settingsChanges.Tell(SettingsSection::Editor);
-    QString status;
-    QObject::connect(
-        run.view, &CWin32View::StatusTextChanged, run.view, [&](const QString &text) { status = text; });
-    run.Run(CommandId::FindNext);
-    QCOMPARE(run.view->SelectedEntries(), std::vector<int>{1});
-    QVERIFY(status.contains(QStringLiteral("en hund")));
-}
-
-void FindCommandsTest::findingInTheFields()
-{
-    Window run({QStringLiteral("hund|dog|en hund")});
-    run.test.settings.showEditFields = true;
-    run.test.settingsChanges.Tell(SettingsSection::Editor);
-    run.test.allSettings.find.advancedSearch = true;
-    run.test.allSettings.find.language = 2;
-    run.Run(CommandId::Find);
-    run.In<QLineEdit>("findText")->setText(QStringLiteral("hund"));
-    run.In<QPushButton>("findNext")->click();
-    QCOMPARE(run.Field(2)->selectedText(), QStringLiteral("hund"));
-    QCOMPARE(run.Field(2)->selectionStart(), 3);
-    QVERIFY(!run.Field(2)->hasFocus());
-    run.Find()->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(run.Find() == nullptr);
-    QApplication::setActiveWindow(&run.frame);
-    run.Run(CommandId::FindNext);
-    QVERIFY(run.Field(2)->hasFocus());
-    QCOMPARE(run.Field(2)->selectedText(), QStringLiteral("hund"));
-}
-
-void FindCommandsTest::theWindow()
-{
-    Window run({QStringLiteral("a|b"), QStringLiteral("b|c||1"), QStringLiteral("c|c")});
-    run.Run(CommandId::Find);
-    QVERIFY(!run.In<QComboBox>("column")->isVisible() && !run.In<QTableView>("findResults")->isVisible());
-    const int height = run.Find()->height();
-    run.In<QCheckBox>("advancedSearch")->click();
-    QVERIFY(run.In<QComboBox>("flag1")->isVisible() && run.Find()->height() > height);
-    QCOMPARE(run.In<QComboBox>("column")->itemText(2), QStringLiteral("2 Engelska"));
-    // The controls are settings when a search begins.
-    run.In<QComboBox>("column")->setCurrentIndex(2);
-    run.In<QComboBox>("flag1")->setCurrentIndex(2);
-    run.In<QLineEdit>("findText")->setText(QStringLiteral("c"));
-    QCOMPARE(run.test.allSettings.find.language, -1);
-    run.In<QPushButton>("findAll")->click();
-    QCOMPARE(run.test.allSettings.find.language, 1);
-    QCOMPARE(run.view->SelectedEntries(), std::vector<int>{2});
-    // Names of languages follow the list; a choice that was made stays.
-    run.test.document.SetListProperties({.language2 = QStringLiteral("R&D")});
-    QCOMPARE(run.In<QComboBox>("column")->currentText(), QStringLiteral("2 R&D"));
-    // It goes and comes with the main window.
-    run.frame.hide();
-    QVERIFY(!run.Find()->isVisible());
-    run.frame.show();
-    QVERIFY(run.Find()->isVisible());
-    run.In<QCheckBox>("advancedSearch")->click();
-    QCOMPARE(run.Find()->height(), height);
-    CFindWindow *const window = run.Find();
-    run.Run(CommandId::Find);
-    QCOMPARE(run.frame.findChildren<CFindWindow *>(), QList<CFindWindow *>{window});
-    // It follows settings that somebody else puts back.
-    run.In<QCheckBox>("dictionary")->click();
-    run.test.allSettings.find = {};
-    run.test.settingsChanges.Tell(SettingsSection::Find);
-    QVERIFY(!run.In<QTableView>("findResults")->isVisible());
-    QCOMPARE(run.In<QComboBox>("flag1")->currentIndex(), 0);
-    QVERIFY(!run.test.allSettings.find.dictionary && run.test.allSettings.find.language == AllColumns);
-}
-
-void FindCommandsTest::theDictionary()
-{
-    Window run({QStringLiteral("hund|dog"), QStringLiteral("katt|cat"), QStringLiteral("x|y|hund")});
-    run.Run(CommandId::Find);
-    QApplication::setActiveWindow(run.Find());
-    run.In<QLineEdit>("findText")->setText(QStringLiteral("hund"));
-    run.In<QCheckBox>("dictionary")->click();
-    auto *const results = run.In<QTableView>("findResults");
-    QCOMPARE(results->model()->rowCount(), 2);
-    QCOMPARE(run.In<QLabel>("findCount")->text(), QStringLiteral("2 glosor hittade. Listan har 3 glosor."));
-    QCOMPARE(run.In<QWidget>("spokenText")->accessibleName(), run.In<QLabel>("findCount")->text());
-    results->selectAll();
-    QCOMPARE(run.view->SelectedEntries(), (std::vector<int>{0, 2}));
-    results->selectRow(1);
-    QTest::keyClick(results, Qt::Key_Return);
-    QCOMPARE(run.view->SelectedEntries(), std::vector<int>{2});
-    QVERIFY(!run.Marked().isEmpty());
-    // An edit that is open is stored, and what was found follows the list.
-    QApplication::setActiveWindow(&run.frame);
-    run.List()->EditCell(1, 0);
-    auto *const editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-    QVERIFY(editor != nullptr);
-    editor->setText(QStringLiteral("hundar"));
-    run.In<QPushButton>("findAll")->click();
-    QCOMPARE(run.test.document.List().Entry(0).GetText(0), QStringLiteral("hundar"));
-    run.test.document.Change([](CWordList &list) { list.DeleteEntries(std::array{2}); });
-    QCOMPARE(results->model()->rowCount(), 1);
-    run.In<QCheckBox>("dictionary")->click();
-    QVERIFY(!results->isVisible());
-    QCOMPARE(results->model()->rowCount(), 0);
-    QTest::keyClick(run.Find(), Qt::Key_Escape);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(run.Find() == nullptr);
-}
 
 QTEST_MAIN(FindCommandsTest)
 #include "find_commands_test.moc"

@@ -10,8 +10,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
 #include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,70 +43,65 @@ class HelpWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void noHelp();
-    void sections();
-    void search();
-    void besideAQuiz();
+    void noHelp()
+    {
+        Help help(u"/nowhere"_s);
+        help.window.ShowSection({});
+        QCOMPARE(help.prompt.numbers, QList<int>{Text::CannotOpenHelp});
+        QVERIFY(!help.window.isVisible());
+    }
+
+    void sections()
+    {
+        Help help;
+        help.window.ShowSection(u"quizzes"_s);
+        QVERIFY(QTest::qWaitForWindowExposed(&help.window));
+        QCOMPARE(help.Chapter(), u"Förhör"_s);
+        const int place = help.Shown().verticalScrollBar()->value();
+        QVERIFY(place > 0);
+        help.window.ShowSection(u"keys"_s);
+        QVERIFY(help.Shown().verticalScrollBar()->value() > place);
+        help.Part<QPushButton>("back")->click();
+        QCOMPARE(help.Chapter(), u"Förhör"_s);
+        QCOMPARE(help.Shown().verticalScrollBar()->value(), place);
+        help.Part<QPushButton>("inBrowser")->click();
+        QCOMPARE(help.opened, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/help/se.html")});
+        QTest::keyClick(&help.window, Qt::Key_Escape);
+        QVERIFY(!help.window.isVisible());
+    }
+
+    void search()
+    {
+        Help help;
+        help.window.ShowSection({});
+        auto *const search = help.Part<QLineEdit>("search");
+        auto *const hits = help.Part<QLabel>("hits");
+        QTest::keyClick(&help.window, Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(search, u"asterisk"_s);
+        QVERIFY(hits->text().section(u' ', 0, 0).toInt() > 2);
+        const int first = help.Shown().textCursor().selectionStart();
+        QTest::keyClick(search, Qt::Key_Return);
+        QVERIFY(help.Shown().textCursor().selectionStart() > first);
+        QTest::keyClick(search, Qt::Key_Return, Qt::ShiftModifier);
+        QTest::keyClick(search, Qt::Key_Return, Qt::ShiftModifier); // Round the beginning.
+        QVERIFY(help.Shown().textCursor().selectionStart() > first);
+        QTest::keyClicks(search, u"qqq"_s);
+        QCOMPARE(hits->text(), u"Inga träffar"_s);
+    }
+
+    void besideAQuiz()
+    {
+        QWidget mainWindow;
+        QDialog quiz(&mainWindow);
+        quiz.setWindowModality(Qt::WindowModal);
+        quiz.show();
+        Help help;
+        help.window.ShowSection(u"quizzes"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&help.window));
+        QTest::mouseClick(help.Part<QPushButton>("inBrowser"), Qt::LeftButton);
+        QCOMPARE(help.opened.size(), 1);
+    }
 };
-
-void HelpWindowTest::noHelp()
-{
-    Help help(QStringLiteral("/nowhere"));
-    help.window.ShowSection({});
-    QCOMPARE(help.prompt.numbers, QList<int>{Text::CannotOpenHelp});
-    QVERIFY(!help.window.isVisible());
-}
-
-void HelpWindowTest::sections()
-{
-    Help help;
-    help.window.ShowSection(QStringLiteral("quizzes"));
-    QVERIFY(QTest::qWaitForWindowExposed(&help.window));
-    QCOMPARE(help.Chapter(), QStringLiteral("Förhör"));
-    const int place = help.Shown().verticalScrollBar()->value();
-    QVERIFY(place > 0);
-    help.window.ShowSection(QStringLiteral("keys"));
-    QVERIFY(help.Shown().verticalScrollBar()->value() > place);
-    help.Part<QPushButton>("back")->click();
-    QCOMPARE(help.Chapter(), QStringLiteral("Förhör"));
-    QCOMPARE(help.Shown().verticalScrollBar()->value(), place);
-    help.Part<QPushButton>("inBrowser")->click();
-    QCOMPARE(help.opened, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/help/se.html")});
-    QTest::keyClick(&help.window, Qt::Key_Escape);
-    QVERIFY(!help.window.isVisible());
-}
-
-void HelpWindowTest::search()
-{
-    Help help;
-    help.window.ShowSection({});
-    auto *const search = help.Part<QLineEdit>("search");
-    auto *const hits = help.Part<QLabel>("hits");
-    QTest::keyClick(&help.window, Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(search, QStringLiteral("asterisk"));
-    QVERIFY(hits->text().section(u' ', 0, 0).toInt() > 2);
-    const int first = help.Shown().textCursor().selectionStart();
-    QTest::keyClick(search, Qt::Key_Return);
-    QVERIFY(help.Shown().textCursor().selectionStart() > first);
-    QTest::keyClick(search, Qt::Key_Return, Qt::ShiftModifier);
-    QTest::keyClick(search, Qt::Key_Return, Qt::ShiftModifier); // Round the beginning.
-    QVERIFY(help.Shown().textCursor().selectionStart() > first);
-    QTest::keyClicks(search, QStringLiteral("qqq"));
-    QCOMPARE(hits->text(), QStringLiteral("Inga träffar"));
-}
-
-void HelpWindowTest::besideAQuiz()
-{
-    QWidget mainWindow;
-    QDialog quiz(&mainWindow);
-    quiz.setWindowModality(Qt::WindowModal);
-    quiz.show();
-    Help help;
-    help.window.ShowSection(QStringLiteral("quizzes"));
-    QVERIFY(QTest::qWaitForWindowActive(&help.window));
-    QTest::mouseClick(help.Part<QPushButton>("inBrowser"), Qt::LeftButton);
-    QCOMPARE(help.opened.size(), 1);
-}
 
 QTEST_MAIN(HelpWindowTest)
 #include "help_window_test.moc"

@@ -1,77 +1,79 @@
 // SPDX-License-Identifier: MIT
 #include "shell/program_end.h"
 
-#include <QStringList>
+#include <QHash>
 #include <QTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
 
 class ProgramEndTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void ends_data();
-    void ends();
-};
-
-void ProgramEndTest::ends_data()
-{
-    QTest::addColumn<QString>("story");
-    QTest::addColumn<bool>("keepsCopy");
-    QTest::addColumn<bool>("fromOutside");
-    QTest::addColumn<bool>("savesSettingsOfFirstRun");
-    const auto row = [](const char *story, bool keepsCopy, bool fromOutside, bool savesSettings) {
-        QTest::newRow(story) << QString::fromLatin1(story) << keepsCopy << fromOutside << savesSettings;
-    };
-    row("start,close", false, false, true);
-    row("close", false, false, false); // While the questions of the start are open.
-    row("start,change,signal", true, true, true);
-    row("signal,start", true, true, false);
-    row("start,change,give up,end,quit", false, true, true);
-    row("start,change,give up,end,change,quit", true, true, true); // It went on, and there was more work.
-    row("start,change,give up,end,type,quit", true, true, true);
-    row("start,change,refuse,end,quit", true, true, true);
-    row("start,change,end,quit", true, true, true); // The session let nobody be asked.
-    row("start,change,give up,end", false, false, true); // Killed without a word.
-    row("start,change,refuse,end", true, false, true);
-    row("start,change,give up,end,signal", true, true, true);
-    row("start,change,give up,end,refuse,end,quit", true, true, true);
-    row("start,change,refuse,end,close", false, false, true); // It went on, and the user saved or gave up.
-    row("start,change,refuse,end,close,signal", true, true, true);
-}
-
-void ProgramEndTest::ends()
-{
-    QFETCH(QString, story);
-    CProgramEnd end;
-    quint64 counter = 0;
-    for (const QString &event : story.split(u',')) {
-        if (event == QStringLiteral("start")) {
-            end.StartIsOver();
-        } else if (event == QStringLiteral("change")) {
-            ++counter;
-        } else if (event == QStringLiteral("type")) {
-            end.UserTyped();
-        } else if (event == QStringLiteral("give up")) {
-            end.SessionAsks(counter);
-        } else if (event == QStringLiteral("refuse")) {
-            end.SessionAsks(std::nullopt);
-        } else if (event == QStringLiteral("end")) {
-            end.SessionEnds();
-        } else if (event == QStringLiteral("close")) {
-            end.UserCloses();
-            QVERIFY(!end.Quits());
-        } else if (event == QStringLiteral("quit")) {
-            QVERIFY(end.Quits());
-            QVERIFY(!end.Quits()); // Once is enough.
-        } else if (event == QStringLiteral("signal")) {
-            end.Signalled();
+    void ends()
+    {
+        const struct
+        {
+            QString story;
+            bool keepsCopy;
+            bool fromOutside;
+            bool savesSettingsOfFirstRun;
+        } rows[] = {
+            {u"start,close"_s, false, false, true},
+            {u"close"_s, false, false, false}, // While the questions of the start are open.
+            {u"start,change,signal"_s, true, true, true},
+            {u"signal,start"_s, true, true, false},
+            {u"start,change,give up,end,quit"_s, false, true, true},
+            {u"start,change,give up,end,change,quit"_s, true, true, true}, // There was more work.
+            {u"start,change,give up,end,type,quit"_s, true, true, true},
+            {u"start,change,refuse,end,quit"_s, true, true, true},
+            {u"start,change,end,quit"_s, true, true, true}, // The session let nobody be asked.
+            {u"start,change,give up,end"_s, false, false, true}, // Killed without a word.
+            {u"start,change,refuse,end"_s, true, false, true},
+            {u"start,change,give up,end,signal"_s, true, true, true},
+            {u"start,change,give up,end,refuse,end,quit"_s, true, true, true},
+            {u"start,change,refuse,end,close"_s, false, false, true}, // It went on; the user saved or gave up.
+            {u"start,change,refuse,end,close,signal"_s, true, true, true},
+        };
+        for (const auto &row : rows) {
+            CProgramEnd end;
+            const quint64 counter = Play(end, row.story);
+            QCOMPARE(end.KeepsCopy(counter), row.keepsCopy);
+            QCOMPARE(end.IsFromOutside(), row.fromOutside);
+            QCOMPARE(end.SavesSettings(true), row.savesSettingsOfFirstRun);
+            QVERIFY(end.SavesSettings(false));
         }
     }
-    QTEST(end.KeepsCopy(counter), "keepsCopy");
-    QTEST(end.IsFromOutside(), "fromOutside");
-    QTEST(end.SavesSettings(true), "savesSettingsOfFirstRun");
-    QVERIFY(end.SavesSettings(false));
-}
+
+private:
+    /// Lets happen what the story tells, and returns the counter of changes.
+    static quint64 Play(CProgramEnd &end, const QString &story)
+    {
+        quint64 counter = 0;
+        const QHash<QString, std::function<void()>> events = {
+            {u"start"_s, [&] { end.StartIsOver(); }},
+            {u"change"_s, [&] { ++counter; }},
+            {u"type"_s, [&] { end.UserTyped(); }},
+            {u"give up"_s, [&] { end.SessionAsks(counter); }},
+            {u"refuse"_s, [&] { end.SessionAsks(std::nullopt); }},
+            {u"end"_s, [&] { end.SessionEnds(); }},
+            {u"close"_s,
+                [&] {
+                    end.UserCloses();
+                    QVERIFY(!end.Quits());
+                }},
+            {u"quit"_s, [&] { QVERIFY(end.Quits() && !end.Quits()); }}, // Once is enough.
+            {u"signal"_s, [&] { end.Signalled(); }},
+        };
+        for (const QString &event : story.split(u',')) {
+            events.value(event)();
+        }
+        return counter;
+    }
+};
 
 QTEST_APPLESS_MAIN(ProgramEndTest)
 #include "program_end_test.moc"

@@ -63,6 +63,16 @@ inline QString Joined(const CWordList &list)
     return Describe(list).join(u',');
 }
 
+/// As many entries; %1 in the pattern is the number, from 0 on.
+inline QStringList NumberedEntries(int count, const QString &pattern = QStringLiteral("a%1|b%1"))
+{
+    QStringList entries;
+    for (int number = 0; number < count; ++number) {
+        entries.append(QString(pattern).replace(QStringLiteral("%1"), QString::number(number)));
+    }
+    return entries;
+}
+
 /// A text of up to `length` characters of `alphabet`.
 inline QString RandomText(CRandom &random, QStringView alphabet, int length)
 {

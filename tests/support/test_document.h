@@ -31,6 +31,8 @@ struct TestDocument
         settings.standardComments = QStringLiteral("Skapad %date");
         document.OnNewDocument();
     }
+    /// Entries in the form of MakeEntry(), with commas between them.
+    explicit TestDocument(const QString &entries) : TestDocument(entries.split(u',', Qt::SkipEmptyParts)) { }
     explicit TestDocument(const QStringList &entries) : TestDocument()
     {
         CWordList list = document.List();
@@ -40,4 +42,5 @@ struct TestDocument
         list.SetSaved(true);
         document.ReplaceList(std::move(list));
     }
+    QString Entries() const { return Joined(document.List()); }
 };

@@ -60,6 +60,17 @@ private:
     CWin32Doc &m_document;
 };
 
+/// A document with such a view, for what works on the view.
+struct TestEditor
+{
+    explicit TestEditor(const QString &entries) : test(entries) { }
+    explicit TestEditor(const QStringList &entries) : test(entries) { }
+    QString Entries() const { return test.Entries(); }
+
+    TestDocument test;
+    CTestEditorView view{test.document};
+};
+
 /// A clipboard of its own.
 class CTestClipboard : public IClipboard
 {

@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/random.h"
 #include "quiz/quiz_form.h"
-#include "settings/quiz_settings.h"
-#include "support/test_document.h"
+#include "support/test_session.h"
 
-/// Settings of a quiz in the order of the list over all of its entries.
-inline QuizSettings InOrder(Requiz requiz, int rounds)
+/// Settings of a quiz in the order of the list over all of its entries, which also says all right answers.
+inline QuizSettings InOrder(Requiz requiz, int rounds = 1)
 {
-    QuizSettings settings;
-    settings.order = QuizOrder::AsInList;
-    settings.requiz = requiz;
-    settings.quizNumber = rounds;
-    settings.includeFlaggedWords = IncludeFlagged::Always;
+    QuizSettings settings = InListOrder(requiz, rounds);
     settings.showAnswerIfOneCorrect = true;
     return settings;
 }

@@ -7,8 +7,7 @@
 #include "settings/quiz_settings.h"
 #include "support/silent_sounds.h"
 #include "support/test_document.h"
-
-#include <QApplication>
+#include "support/widgets.h"
 
 /// Notes what a quiz asks of the main window.
 class CTestHost : public IQuizHost
@@ -42,19 +41,6 @@ struct TestClock
     std::chrono::milliseconds Read() { return now += step; }
 };
 
-/// The window of this class on screen.
-template<class Window>
-Window *FindWindow()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        auto *window = qobject_cast<Window *>(widget);
-        if (window != nullptr && window->isVisible()) {
-            return window;
-        }
-    }
-    return nullptr;
-}
-
 /// All that a quiz needs, over two words in list order, one round, wrong words again at once.
 struct TestQuiz
 {
@@ -73,8 +59,11 @@ struct TestQuiz
     CQuizLaunch launch;
 
     explicit TestQuiz(
-        const QStringList &entries = {QStringLiteral("hund|dog"), QStringLiteral("<b>katt</b>|cat")},
-        const QStringList &folders = {})
+        const QString &entries = QStringLiteral("hund|dog,<b>katt</b>|cat"), const QStringList &folders = {})
+        : TestQuiz(entries.split(u',', Qt::SkipEmptyParts), folders)
+    {
+    }
+    explicit TestQuiz(const QStringList &entries, const QStringList &folders = {})
         : test(entries), launch({.document = test.document,
                                     .editorSettings = test.settings,
                                     .settings = settings,
@@ -96,5 +85,12 @@ struct TestQuiz
         settings.quizNumber = 1;
         settings.includeFlaggedWords = IncludeFlagged::Always;
         mainWindow.show();
+    }
+    /// Starts a quiz; null when its window did not open.
+    template<class Window>
+    Window *Start(QuizKind kind = QuizKind::Standard)
+    {
+        launch.startQuiz(kind);
+        return FindWindow<Window>();
     }
 };
