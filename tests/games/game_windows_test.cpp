@@ -139,8 +139,8 @@ void GameWindowsTest::marksOfAlternatives()
     const auto marks = [&] {
         QString all;
         for (int digit = 1; digit <= 4; ++digit) {
-            auto *const verdict = game.button(digit)->findChild<QLabel *>(QStringLiteral("verdict"));
-            all += game.button(digit)->accessibleName().mid(3) + u':' + verdict->text() + u' ';
+            CAnswerButton *const button = game.button(digit);
+            all += button->accessibleName().mid(3) + u':' + button->accessibleDescription() + u' ';
         }
         return all;
     };

@@ -20,7 +20,7 @@ CAlternativesGame::CAlternativesGame(
     : CWordByWordDialog(services, *form, Parts), m_form(std::move(form)), m_list(new CAnswerList(this))
 {
     for (int number = 0; number < CAlternativesForm::MostAnswers; ++number) {
-        auto *const answer = new CAnswerButton(texts(), number, largeFont(), m_list);
+        auto *const answer = new CAnswerButton(texts(), number, m_list);
         m_list->addAnswer(answer);
         m_answers.append(answer);
         connect(answer, &QPushButton::clicked, this, [this, number] { choose(number); });
@@ -43,10 +43,12 @@ void CAlternativesGame::showCurrentWord()
     CWordByWordDialog::showCurrentWord();
     m_form->drawAnswers();
     m_keys->forget();
+    const QFont font = answerFont();
     for (int number = 0; number < int(m_answers.size()); ++number) {
         CAnswerButton *const answer = m_answers[number];
         const bool isUsed = number < m_form->answerCount();
         answer->setVisible(isUsed);
+        answer->setFont(font);
         if (isUsed) {
             answer->showAnswer(m_form->answer(number), m_form->spokenAnswer(number));
         }
@@ -55,10 +57,21 @@ void CAlternativesGame::showCurrentWord()
     focusInput();
 }
 
+QFont CAlternativesGame::answerFont() const
+{
+    constexpr qsizetype Long = 60; // Longer ones would seldom be seen together in large letters.
+    for (int number = 0; number < m_form->answerCount(); ++number) {
+        if (m_form->answer(number).size() > Long) {
+            return font();
+        }
+    }
+    return largeFont();
+}
+
 void CAlternativesGame::focusInput()
 {
     m_answers.first()->setFocus();
-    m_list->ensureWidgetVisible(m_answers.first());
+    m_list->bringIntoSight(*m_answers.first());
 }
 
 bool CAlternativesGame::isHastyAnswer(const QKeyEvent &key) const
@@ -89,7 +102,7 @@ void CAlternativesGame::markAnswers(int chosen)
     for (int number = 0; number < m_form->answerCount(); ++number) {
         if (m_form->isRight(number)) {
             m_answers[number]->mark(AnswerVerdict::Right);
-            m_list->ensureWidgetVisible(m_answers[number]);
+            m_list->bringIntoSight(*m_answers[number]);
         } else if (number == chosen) {
             m_answers[number]->mark(AnswerVerdict::Wrong);
         }

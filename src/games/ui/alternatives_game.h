@@ -24,6 +24,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    /// That of all four.
+    QFont answerFont() const;
     void choose(int number);
     void markAnswers(int chosen);
 

@@ -3,73 +3,96 @@
 
 #include "games/text_numbers.h"
 #include "platform/plain_text.h"
-#include "platform/ui/label.h"
 #include "platform/ui/wrapped_text.h"
 #include "resources/texts.h"
 
-#include <QHBoxLayout>
 #include <QIcon>
-#include <QLabel>
+#include <QPainter>
 
-CAnswerButton::CAnswerButton(const CTexts &texts, int number, const QFont &font, QWidget *parent)
-    : QPushButton(parent), m_texts(texts), m_answer(new CWrappedText({}, this))
+CAnswerButton::CAnswerButton(const CTexts &texts, int number, QWidget *parent)
+    : QPushButton(parent), m_texts(texts), m_digit(QString::number(number + 1))
 {
-    setFont(font);
-    const QString digit = QString::number(number + 1);
-    setObjectName(QStringLiteral("answer") + digit);
-    new QHBoxLayout(this);
-    QFont bold = font;
-    bold.setBold(true);
-    addLabel(digit)->setFont(bold);
-    m_answer->setForegroundRole(QPalette::ButtonText);
-    m_answer->setAttribute(Qt::WA_TransparentForMouseEvents);
-    layout()->addWidget(m_answer);
-    m_icon = addLabel({});
-    m_icon->setFixedSize(QSize(1, 1) * fontMetrics().height());
-    m_verdict = addLabel({});
-    m_verdict->setObjectName(QStringLiteral("verdict"));
-    const QFontMetrics metrics(m_verdict->font());
-    m_verdict->setMinimumWidth(std::max(metrics.horizontalAdvance(texts.Get(Text::AnswerIsRight)),
-        metrics.horizontalAdvance(texts.Get(Text::AnswerIsWrong))));
-    static_cast<QHBoxLayout *>(layout())->setStretchFactor(m_answer, 1);
+    setObjectName(QStringLiteral("answer") + m_digit);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }
 
-QLabel *CAnswerButton::addLabel(const QString &text)
-{
-    QLabel *const label = MakeLabel(text, this);
-    label->setForegroundRole(QPalette::ButtonText);
-    label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    layout()->addWidget(label);
-    return label;
-}
-
 void CAnswerButton::showAnswer(const QString &answer, const QString &spoken)
 {
-    m_answer->ShowText(ShownShort(answer));
+    m_answer = ShownShort(answer);
+    m_verdict.reset();
     setAccessibleName(spoken);
     setAccessibleDescription({});
-    m_icon->clear();
-    m_verdict->clear();
+    updateGeometry();
+    update();
 }
 
 void CAnswerButton::mark(AnswerVerdict verdict)
 {
-    const bool isWrong = verdict == AnswerVerdict::Wrong;
-    const QIcon icon(isWrong ? QStringLiteral(":/pictures/wrong.svg") : QStringLiteral(":/pictures/right.svg"));
-    m_icon->setPixmap(icon.pixmap(m_icon->size(), devicePixelRatioF()));
-    m_verdict->setText(m_texts.Get(isWrong ? Text::AnswerIsWrong : Text::AnswerIsRight));
-    setAccessibleDescription(m_verdict->text());
+    m_verdict = verdict;
+    setAccessibleDescription(verdictText(verdict));
+    update();
+}
+
+QString CAnswerButton::verdictText(AnswerVerdict verdict) const
+{
+    return m_texts.Get(verdict == AnswerVerdict::Wrong ? Text::AnswerIsWrong : Text::AnswerIsRight);
+}
+
+QFont CAnswerButton::boldFont() const
+{
+    QFont bold = font();
+    bold.setBold(true);
+    return bold;
+}
+
+int CAnswerButton::digitWidth() const
+{
+    return QFontMetrics(boldFont()).horizontalAdvance(m_digit) + 2 * gap();
+}
+
+int CAnswerButton::markWidth() const
+{
+    const int widest = std::max(fontMetrics().horizontalAdvance(verdictText(AnswerVerdict::Right)),
+        fontMetrics().horizontalAdvance(verdictText(AnswerVerdict::Wrong)));
+    return lineHeight() + widest + 3 * gap();
 }
 
 QSize CAnswerButton::sizeHint() const
 {
-    return layout()->sizeHint();
+    const QSize least = minimumSizeHint();
+    return {least.width() + gap() * 10, least.height()};
 }
 
 QSize CAnswerButton::minimumSizeHint() const
 {
-    return layout()->minimumSize();
+    return {digitWidth() + gap() * 10 + markWidth(), lineHeight() + 2 * gap()};
+}
+
+int CAnswerButton::heightForWidth(int width) const
+{
+    const int room = std::max(width - digitWidth() - markWidth(), 1);
+    return WrappedHeight(m_answer, font(), room) + 2 * gap();
+}
+
+void CAnswerButton::paintEvent(QPaintEvent *event)
+{
+    QPushButton::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    const QRect room = rect().adjusted(digitWidth(), gap(), -markWidth(), -gap());
+    PaintWrapped(painter, m_answer, font(), room);
+    if (m_verdict) {
+        const bool isWrong = *m_verdict == AnswerVerdict::Wrong;
+        const QIcon icon(
+            isWrong ? QStringLiteral(":/pictures/wrong.svg") : QStringLiteral(":/pictures/right.svg"));
+        const QRect place(room.right() + gap(), room.top(), lineHeight(), lineHeight());
+        icon.paint(&painter, place);
+        painter.drawText(rect().adjusted(place.right() + gap(), gap(), 0, 0),
+            int(Qt::AlignTop) | int(Qt::AlignLeft) | int(Qt::TextSingleLine), verdictText(*m_verdict));
+    }
+    painter.setFont(boldFont());
+    // Beside the first line, which is in sight when a long term scrolls.
+    painter.drawText(rect().adjusted(gap(), gap(), 0, 0), int(Qt::AlignTop) | int(Qt::AlignLeft), m_digit);
 }

@@ -5,9 +5,9 @@
 
 #include <QPushButton>
 
+#include <optional>
+
 class CTexts;
-class CWrappedText;
-class QLabel;
 
 /// An answer to choose: its digit, and a term that takes as many lines as it needs. It can be marked as right
 /// or wrong, and keeps the room for that.
@@ -17,7 +17,7 @@ class CAnswerButton : public QPushButton
 
 public:
     /// `number` counts from 0. `texts` must live as long as the button.
-    CAnswerButton(const CTexts &texts, int number, const QFont &font, QWidget *parent);
+    CAnswerButton(const CTexts &texts, int number, QWidget *parent);
 
     /// Takes a mark away. `spoken` is how it is read out.
     void showAnswer(const QString &answer, const QString &spoken);
@@ -25,12 +25,23 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
-    QLabel *addLabel(const QString &text);
+    QFont boldFont() const;
+    QString verdictText(AnswerVerdict verdict) const;
+    int gap() const { return fontMetrics().averageCharWidth(); }
+    /// Beside the term: for the digit, and for the mark.
+    int digitWidth() const;
+    int markWidth() const;
+    int lineHeight() const { return fontMetrics().lineSpacing(); }
 
     const CTexts &m_texts;
-    CWrappedText *m_answer;
-    QLabel *m_icon;
-    QLabel *m_verdict;
+    QString m_digit;
+    QString m_answer;
+    std::optional<AnswerVerdict> m_verdict;
 };

@@ -18,6 +18,15 @@ void CAnswerList::addAnswer(QWidget *answer)
     m_layout->addWidget(answer);
 }
 
+void CAnswerList::bringIntoSight(QWidget &answer)
+{
+    if (answer.height() > viewport()->height()) {
+        verticalScrollBar()->setValue(answer.y());
+    } else {
+        ensureWidgetVisible(&answer, 0, 0);
+    }
+}
+
 int CAnswerList::heightForWidth(int width) const
 {
     return m_layout->totalHeightForWidth(width);

@@ -15,6 +15,8 @@ public:
     explicit CAnswerList(QWidget *parent);
 
     void addAnswer(QWidget *answer);
+    /// The beginning of one that finds no room.
+    void bringIntoSight(QWidget &answer);
 
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;

@@ -39,6 +39,13 @@ int WrappedHeight(const QString &text, const QFont &font, int width)
     return int(std::ceil(LayOut(text, font, width)));
 }
 
+void PaintWrapped(QPainter &painter, const QString &text, const QFont &font, const QRect &place)
+{
+    LayOut(text, font, place.width(), [&](const QTextLine &line, qreal top) {
+        line.draw(&painter, {qreal(place.left()), place.top() + top - line.y()});
+    });
+}
+
 int NaturalWidth(const QString &text, const QFont &font, int most)
 {
     int width = 0;
@@ -51,15 +58,10 @@ int NaturalWidth(const QString &text, const QFont &font, int most)
 CWrappedText::CWrappedText(const QString &text, QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    ShowText(text);
+    QLabel::setText(QString(text).remove(u'\r'));
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
-}
-
-void CWrappedText::ShowText(const QString &text)
-{
-    setText(QString(text).remove(u'\r'));
 }
 
 QSize CWrappedText::sizeHint() const
@@ -83,7 +85,5 @@ void CWrappedText::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    LayOut(text(), font(), width(), [&painter](const QTextLine &line, qreal top) {
-        line.draw(&painter, {0, top - line.y()});
-    });
+    PaintWrapped(painter, text(), font(), rect());
 }

@@ -3,9 +3,13 @@
 
 #include <QLabel>
 
+class QPainter;
+
 /// How high a plain text becomes in a width, with lines that end at blanks, or anywhere in a word that finds no
 /// room on a line of its own.
 int WrappedHeight(const QString &text, const QFont &font, int width);
+/// Paints it from the top of a place, in the colour of the pen.
+void PaintWrapped(QPainter &painter, const QString &text, const QFont &font, const QRect &place);
 /// The width of its longest paragraph on one line, or `most` when that is less.
 int NaturalWidth(const QString &text, const QFont &font, int most);
 
@@ -15,9 +19,8 @@ class CWrappedText : public QLabel
     Q_OBJECT
 
 public:
+    /// The text must not change.
     CWrappedText(const QString &text, QWidget *parent);
-
-    void ShowText(const QString &text);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -26,7 +29,4 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-
-private:
-    using QLabel::setText;
 };
