@@ -2,6 +2,7 @@
 #include "document/win32_doc.h"
 
 #include "document/list_placeholders.h"
+#include "document/read_message.h"
 #include "document/text_numbers.h"
 #include "fileformats/word_list_file.h"
 #include "platform/file_name.h"
@@ -26,23 +27,6 @@ QString CleanProperty(const QString &text)
     std::replace_if(
         clean.begin(), clean.end(), [](QChar unit) { return unit < u' ' || unit == u'\x7F'; }, QChar(u' '));
     return clean;
-}
-
-/// What the user is told of a file that was not read as a list of this version.
-int MessageOf(ReadResult result)
-{
-    switch (result) {
-    case ReadResult::TooLarge:
-        return Text::FileTooLarge;
-    case ReadResult::LineTooLong:
-        return Text::LineTooLong;
-    case ReadResult::NewerVersion:
-        return Text::NewerVersion;
-    case ReadResult::PlainText:
-        return Text::ReadAsPlainText;
-    default:
-        return Text::CannotOpen;
-    }
 }
 
 /// Where the insertion point comes to stand: it keeps its place between the entries around it, and what is
@@ -221,10 +205,10 @@ bool CWin32Doc::Open(const QString &file, bool asCopy)
         return true;
     }
     if (IsRefused(result)) {
-        m_services.prompt.Tell(m_services.texts.Prompt(MessageOf(result), {path}), PromptIcon::Error);
+        m_services.prompt.Tell(m_services.texts.Prompt(ReadMessage(result), {path}), PromptIcon::Error);
         return false;
     }
-    m_services.prompt.Tell(m_services.texts.Prompt(MessageOf(result)), PromptIcon::Warning);
+    m_services.prompt.Tell(m_services.texts.Prompt(ReadMessage(result)), PromptIcon::Warning);
     return true;
 }
 

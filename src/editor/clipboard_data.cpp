@@ -101,13 +101,7 @@ std::unique_ptr<QMimeData> ClipboardDataOf(const CWordList &list, CWordList::Sel
 
 QStringList FilesFromData(const QMimeData &data)
 {
-    QStringList files;
-    for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile()) {
-            files.append(LocalFileOf(url));
-        }
-    }
-    return files;
+    return LocalFilesOf(data.urls());
 }
 
 bool MayHoldEntries(const QMimeData &data)

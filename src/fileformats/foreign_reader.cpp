@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/foreign_reader.h"
 
+#include "fileformats/glossary_version.h"
 #include "fileformats/reading.h"
 #include "fileformats/text_file_reader.h"
 #include "model/term_syntax.h"
@@ -61,4 +62,10 @@ void ReadPlainText(CWordList &list, CTextFileReader &reader, const KeepGoing *ke
     list.SetComments({});
     list.SetAuthor({});
     list.SetSaved(false);
+}
+
+int CountPlainText(CTextFileReader &reader, const KeepGoing *keepGoing)
+{
+    reader.Rewind();
+    return CountRecords(reader, GlossaryVersion(), keepGoing); // Terms alone, like those of no other version.
 }

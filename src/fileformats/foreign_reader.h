@@ -16,3 +16,5 @@ ReadResult ReadForeignVocabulary(CWordList &list, CTextFileReader &reader, const
 /// Reads the whole file as pairs of lines, term 1 and term 2, from its start, and marks the list changed, so
 /// that closing asks to save it in a format of its own.
 void ReadPlainText(CWordList &list, CTextFileReader &reader, const KeepGoing *keepGoing);
+/// Returns how many entries ReadPlainText() would read.
+int CountPlainText(CTextFileReader &reader, const KeepGoing *keepGoing);

@@ -31,15 +31,14 @@ bool IsSet(QStringView mark)
     return !mark.isEmpty() && mark.front() != u'0';
 }
 
-void ReadHeader(CWordList &list, CTextFileReader &reader, const GlossaryVersion &version)
+/// Returns how many entries the header tells of; any number may stand there.
+qint64 ReadHeader(CWordList &list, CTextFileReader &reader, const GlossaryVersion &version)
 {
     list.SetAuthor(HeaderLine(reader));
     list.SetComments(HeaderLine(reader));
     list.SetLanguage(0, HeaderLine(reader));
     list.SetLanguage(1, HeaderLine(reader));
-    // The count only reserves room, and no more than a file of this size can fill.
     const qint64 count = std::atoll(NarrowHeaderLine(reader).constData());
-    list.Reserve(int(std::clamp<qint64>(count, 0, reader.Size() / 2)));
     if (version.hasQuestions) {
         for (const int direction : {0, 1}) {
             const QByteArray mark = NarrowHeaderLine(reader);
@@ -48,6 +47,7 @@ void ReadHeader(CWordList &list, CTextFileReader &reader, const GlossaryVersion 
         }
     }
     HeaderLine(reader); // The empty line between header and records.
+    return count;
 }
 
 /// The two marks of a flag line.
@@ -77,7 +77,9 @@ bool TakeFlagMark(QString &term)
 void ReadGlossaryBody(
     CWordList &list, CTextFileReader &reader, const GlossaryVersion &version, const KeepGoing *keepGoing)
 {
-    ReadHeader(list, reader, version);
+    const qint64 count = ReadHeader(list, reader, version);
+    // It only reserves room, and no more than a file of this size can fill.
+    list.Reserve(int(std::clamp<qint64>(count, 0, reader.Size() / 2)));
     while (MayGoOn(list, keepGoing)) {
         QStringView line;
         std::array<bool, 2> flags = {};
@@ -103,4 +105,11 @@ void ReadGlossaryBody(
         list.Insert(CWordEntry(std::move(term1), std::move(term2), std::move(note), flags[0], flags[1]));
     }
     list.SetSaved(true);
+}
+
+int CountGlossaryBody(
+    CWordList &list, CTextFileReader &reader, const GlossaryVersion &version, const KeepGoing *keepGoing)
+{
+    ReadHeader(list, reader, version);
+    return CountRecords(reader, version, keepGoing);
 }

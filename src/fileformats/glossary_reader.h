@@ -10,3 +10,7 @@ class CTextFileReader;
 /// their fields empty; a record cut off by the end of the file is dropped, one without terms is skipped.
 void ReadGlossaryBody(
     CWordList &list, CTextFileReader &reader, const GlossaryVersion &version, const KeepGoing *keepGoing);
+
+/// Reads the properties alone and returns how many entries ReadGlossaryBody() would read.
+int CountGlossaryBody(
+    CWordList &list, CTextFileReader &reader, const GlossaryVersion &version, const KeepGoing *keepGoing);

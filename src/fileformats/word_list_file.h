@@ -7,6 +7,7 @@
 
 class CWordList;
 class QIODevice;
+struct WordListSummary;
 
 /// What became of reading a file.
 enum class ReadResult {
@@ -49,6 +50,10 @@ using KeepGoing = std::atomic<bool>;
     CWordList &list, const QString &path, const KeepGoing *keepGoing = nullptr);
 /// The same from an open, random-access device.
 [[nodiscard]] ReadResult ReadWordList(CWordList &list, QIODevice &device, const KeepGoing *keepGoing = nullptr);
+
+/// What the file says of itself, and how many entries ReadWordListFile() would read; none is kept.
+[[nodiscard]] ReadResult ReadWordListSummary(
+    WordListSummary &summary, const QString &path, const KeepGoing *keepGoing = nullptr);
 
 struct WriteOptions
 {

@@ -4,6 +4,7 @@
 #include "fileformats/glossary_version.h"
 #include "fileformats/text_file_reader.h"
 #include "fileformats/word_list_file.h"
+#include "fileformats/word_list_filter.h"
 #include "model/word_list.h"
 
 #include <algorithm>
@@ -12,29 +13,53 @@
 
 namespace {
 
+/// What is read of a file: all of it, or its properties and the number of its entries.
+struct Reading
+{
+    CWordList &list;
+    const KeepGoing *keepGoing;
+    bool countsOnly = false;
+    int count = 0; ///< Only where entries are not kept.
+
+    int Entries() const { return std::max(count, list.Count()); }
+};
+
+void ReadBody(Reading &reading, CTextFileReader &reader, const GlossaryVersion &version)
+{
+    if (reading.countsOnly) {
+        reading.count = CountGlossaryBody(reading.list, reader, version, reading.keepGoing);
+    } else {
+        ReadGlossaryBody(reading.list, reader, version, reading.keepGoing);
+    }
+}
+
 /// The first line decides who reads the rest.
-ReadResult Dispatch(CWordList &list, CTextFileReader &reader, const KeepGoing *keepGoing)
+ReadResult Dispatch(Reading &reading, CTextFileReader &reader)
 {
     QString header;
     reader.ReadLine(header);
     const auto *const version = std::ranges::find(Glossary::Versions, header, &GlossaryVersion::header);
     if (version != Glossary::Versions.end()) {
-        ReadGlossaryBody(list, reader, *version, keepGoing);
+        ReadBody(reading, reader, *version);
         return reader.Lossy() ? ReadResult::ReadLossy : ReadResult::Read;
     }
     if (header.startsWith(Glossary::ProgramName)) {
-        ReadGlossaryBody(list, reader, Glossary::Version23, keepGoing);
+        ReadBody(reading, reader, Glossary::Version23);
         return ReadResult::NewerVersion;
     }
     if (header == ForeignHeader) {
-        return ReadForeignVocabulary(list, reader, keepGoing);
+        return ReadForeignVocabulary(reading.list, reader, reading.keepGoing);
     }
-    ReadPlainText(list, reader, keepGoing);
+    if (reading.countsOnly) {
+        reading.count = CountPlainText(reader, reading.keepGoing);
+    } else {
+        ReadPlainText(reading.list, reader, reading.keepGoing);
+    }
     return ReadResult::PlainText;
 }
 
 /// What became of the reading when it did not reach the end.
-std::optional<ReadResult> Failure(const CWordList &list, const CTextFileReader &reader)
+std::optional<ReadResult> Failure(int entries, const CTextFileReader &reader)
 {
     if (reader.Failed()) {
         return ReadResult::CannotOpen;
@@ -42,26 +67,26 @@ std::optional<ReadResult> Failure(const CWordList &list, const CTextFileReader &
     if (reader.LineTooLong()) {
         return ReadResult::LineTooLong;
     }
-    if (list.Count() > FileLimits::MostEntries) {
+    if (entries > FileLimits::MostEntries) {
         return ReadResult::TooLarge;
     }
     return std::nullopt;
 }
 
 /// Half a file is not taken for a whole one: saving it would lose the rest.
-ReadResult ReadAll(CWordList &list, CTextFileReader &reader, const KeepGoing *keepGoing)
+ReadResult ReadAll(Reading &reading, CTextFileReader &reader)
 {
     ReadResult result = ReadResult::TooLarge;
     if (reader.Size() <= FileLimits::MostBytes) {
         try {
-            result = Dispatch(list, reader, keepGoing);
-            result = Failure(list, reader).value_or(result);
+            result = Dispatch(reading, reader);
+            result = Failure(reading.Entries(), reader).value_or(result);
         } catch (const std::bad_alloc &) {
             result = ReadResult::TooLarge;
         }
     }
     if (IsRefused(result)) {
-        list.Reset();
+        reading.list.Reset();
     }
     return result;
 }
@@ -72,7 +97,8 @@ ReadResult ReadWordListFile(CWordList &list, const QString &path, const KeepGoin
 {
     list.Reset();
     CTextFileReader reader;
-    return reader.Open(path) ? ReadAll(list, reader, keepGoing) : ReadResult::CannotOpen;
+    Reading reading{.list = list, .keepGoing = keepGoing};
+    return reader.Open(path) ? ReadAll(reading, reader) : ReadResult::CannotOpen;
 }
 
 ReadResult ReadWordList(CWordList &list, QIODevice &device, const KeepGoing *keepGoing)
@@ -80,5 +106,17 @@ ReadResult ReadWordList(CWordList &list, QIODevice &device, const KeepGoing *kee
     list.Reset();
     CTextFileReader reader;
     reader.Open(device);
-    return ReadAll(list, reader, keepGoing);
+    Reading reading{.list = list, .keepGoing = keepGoing};
+    return ReadAll(reading, reader);
+}
+
+ReadResult ReadWordListSummary(WordListSummary &summary, const QString &path, const KeepGoing *keepGoing)
+{
+    CWordList list;
+    CTextFileReader reader;
+    Reading reading{.list = list, .keepGoing = keepGoing, .countsOnly = true};
+    const ReadResult result = reader.Open(path) ? ReadAll(reading, reader) : ReadResult::CannotOpen;
+    summary = WordListSummary::Of(list);
+    summary.entries = IsRefused(result) ? 0 : reading.Entries();
+    return result;
 }

@@ -33,6 +33,9 @@ public:
     IFileChooser &operator=(const IFileChooser &) = delete;
 
     virtual QString ChooseFileToOpen(const FileChoice &choice) = 0;
+    /// Several at once.
+    virtual QStringList ChooseFilesToOpen(const FileChoice &choice) = 0;
+    virtual QString ChooseFolder(const FileChoice &choice) = 0;
     /// Asks before an existing file is chosen.
     virtual ChosenFile ChooseFileToSave(const FileChoice &choice) = 0;
 };

@@ -88,6 +88,17 @@ QString LocalFileOf(const QUrl &url)
         : path;
 }
 
+QStringList LocalFilesOf(const QList<QUrl> &urls)
+{
+    QStringList files;
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile()) {
+            files.append(LocalFileOf(url));
+        }
+    }
+    return files;
+}
+
 QString AbsoluteFilePath(const QString &path)
 {
     if (QDir::isAbsolutePath(path)) {
@@ -101,6 +112,12 @@ QString AbsoluteFilePath(const QString &path)
 bool FileExists(const QString &path)
 {
     return StatusOf(path).has_value();
+}
+
+bool IsFolder(const QString &path)
+{
+    const auto status = StatusOf(path);
+    return status && S_ISDIR(status->st_mode);
 }
 
 bool IsSameFile(const QString &path, const QString &other)

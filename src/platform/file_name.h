@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 class QUrl;
 
@@ -17,9 +17,13 @@ QString DecodeFileName(QByteArrayView bytes);
 QByteArray EncodeFileName(QStringView name);
 /// The file of a file: URL; empty for any other URL.
 QString LocalFileOf(const QUrl &url);
+/// Those of them that are files.
+QStringList LocalFilesOf(const QList<QUrl> &urls);
 /// The file's name from the root on, cleaned of "." and "..". Links stay.
 QString AbsoluteFilePath(const QString &path);
 /// Whether there is something of this name, or at the end of the link of this name.
 bool FileExists(const QString &path);
+/// Whether there is a folder of this name, or at the end of the link of this name.
+bool IsFolder(const QString &path);
 /// Whether both are there and name the same file, by links of either kind or not.
 bool IsSameFile(const QString &path, const QString &other);

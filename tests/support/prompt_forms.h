@@ -7,6 +7,7 @@
 #include "quiz/text_numbers.h"
 #include "settings/text_numbers.h"
 #include "shell/text_numbers.h"
+#include "tools/text_numbers.h"
 
 #include <QList>
 
@@ -68,6 +69,7 @@ inline const QList<PromptForm> &PromptForms()
         {Text::FileTooLarge, Error},
         {Text::LineTooLong, Error},
         {Text::EntriesNotSaved, Warning},
+        {Text::FolderMissing, Warning},
     };
     return forms;
 }

@@ -76,7 +76,7 @@ private:
     }
 };
 
-/// Chooses the files of a script; an empty path is a cancelled dialog.
+/// Chooses the files of a script; an empty path is a cancelled dialog. Several stand with "|" between them.
 class CScriptedChooser : public IFileChooser
 {
 public:
@@ -88,6 +88,11 @@ public:
     }
 
     QString ChooseFileToOpen(const FileChoice &choice) override { return Take(choice); }
+    QStringList ChooseFilesToOpen(const FileChoice &choice) override
+    {
+        return Take(choice).split(u'|', Qt::SkipEmptyParts);
+    }
+    QString ChooseFolder(const FileChoice &choice) override { return Take(choice); }
     ChosenFile ChooseFileToSave(const FileChoice &choice) override { return {Take(choice), filter}; }
 
     QStringList paths;

@@ -10,12 +10,19 @@
 
 namespace {
 
-ChosenFile Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
+struct Chosen
+{
+    QStringList paths = {}; ///< Empty when none was.
+    qsizetype filter = 0;
+};
+
+Chosen Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
 {
     QFileDialog dialog(OwnerWindow(), choice.title);
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(fileMode);
+    dialog.setOption(QFileDialog::ShowDirsOnly, fileMode == QFileDialog::Directory);
     dialog.setNameFilters(choice.filters);
     dialog.setDefaultSuffix(choice.defaultSuffix);
     const QFileInfo start(choice.start);
@@ -28,18 +35,29 @@ ChosenFile Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileD
     if (dialog.exec() != QDialog::Accepted) {
         return {};
     }
-    return {dialog.selectedFiles().value(0),
-        std::max<qsizetype>(choice.filters.indexOf(dialog.selectedNameFilter()), 0)};
+    return {
+        dialog.selectedFiles(), std::max<qsizetype>(choice.filters.indexOf(dialog.selectedNameFilter()), 0)};
 }
 
 }
 
 QString CFileDialogChooser::ChooseFileToOpen(const FileChoice &choice)
 {
-    return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::ExistingFile).path;
+    return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::ExistingFile).paths.value(0);
+}
+
+QStringList CFileDialogChooser::ChooseFilesToOpen(const FileChoice &choice)
+{
+    return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::ExistingFiles).paths;
+}
+
+QString CFileDialogChooser::ChooseFolder(const FileChoice &choice)
+{
+    return Choose(choice, QFileDialog::AcceptOpen, QFileDialog::Directory).paths.value(0);
 }
 
 ChosenFile CFileDialogChooser::ChooseFileToSave(const FileChoice &choice)
 {
-    return Choose(choice, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+    const Chosen chosen = Choose(choice, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+    return {chosen.paths.value(0), chosen.filter};
 }

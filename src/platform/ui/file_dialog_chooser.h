@@ -8,5 +8,7 @@ class CFileDialogChooser : public IFileChooser
 {
 public:
     QString ChooseFileToOpen(const FileChoice &choice) override;
+    QStringList ChooseFilesToOpen(const FileChoice &choice) override;
+    QString ChooseFolder(const FileChoice &choice) override;
     ChosenFile ChooseFileToSave(const FileChoice &choice) override;
 };

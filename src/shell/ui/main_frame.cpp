@@ -21,6 +21,7 @@
 #include "shell/ui/command_refresh.h"
 #include "shell/ui/edit_commands.h"
 #include "shell/ui/file_menu_commands.h"
+#include "shell/ui/file_tools_commands.h"
 #include "shell/ui/find_commands.h"
 #include "shell/ui/help_commands.h"
 #include "shell/ui/menu_bar_focus.h"
@@ -143,6 +144,8 @@ void CMainFrame::ShowAsBefore()
 
 void CMainFrame::FinishQuietly()
 {
+    // First, since an import puts its list in place of the one before.
+    m_fileToolsCommands->FinishQuietly();
     m_view->EndEditingQuietly();
 }
 
@@ -225,6 +228,15 @@ void CMainFrame::ConnectCommands()
         m_services.prompt, this);
     new CFindCommands(*m_actions, *m_view, m_services.document, m_services.settings.find,
         m_services.settingsChanges, m_services.texts, m_services.prompt, *this);
+    m_fileToolsCommands = new CFileToolsCommands(*m_actions, m_services.files,
+        {.document = m_services.document,
+            .import = m_services.settings.import,
+            .fileSearch = m_services.settings.filesearch,
+            .texts = texts,
+            .prompt = m_services.prompt,
+            .chooser = m_services.chooser,
+            .openHelp = m_services.openHelp},
+        *this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
     new CCommandRefresh({*m_actions, *m_editCommands, m_services.document, m_services.settingsChanges,
                             m_services.specialCharacters, *this},

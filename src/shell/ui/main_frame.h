@@ -17,6 +17,7 @@ class CCommandActions;
 class CEditCommands;
 class CElidedLabel;
 class CFileCommands;
+class CFileToolsCommands;
 class CQuizLaunch;
 class CRandom;
 class CRecentFiles;
@@ -118,6 +119,7 @@ private:
     CArranging m_arranging;
     CFileWatch m_fileWatch;
     CEditCommands *m_editCommands;
+    CFileToolsCommands *m_fileToolsCommands = nullptr;
     CElidedLabel *m_statusText;
     CQuizLaunch *m_quizLaunch;
     CWindowPlace m_place;
