@@ -5,6 +5,9 @@
 
 namespace Text {
 
+inline constexpr int MoveWordsAround = 70018;
+inline constexpr int MarkedRow = 212001;
+inline constexpr int HowAnswersAreMoved = 212002;
 inline constexpr int SpokenAlternative = 216001;
 inline constexpr int GuessLetters = 217001;
 inline constexpr int HangmanWord = 217002;

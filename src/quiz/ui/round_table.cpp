@@ -42,6 +42,7 @@ CRoundTable::CRoundTable(const QString &accessibleName, QWidget *parent) : QTabl
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel); // A row may be as high as the table.
     setAlternatingRowColors(true);
     setShowGrid(false);
     setTabKeyNavigation(false);
@@ -97,6 +98,18 @@ void CRoundTable::fitCurrentRow()
     if (m_fittedRow >= 0) {
         const int highest = std::max(viewport()->height() - lowest, lowest);
         rows->resizeSection(m_fittedRow, std::clamp(sizeHintForRow(m_fittedRow), lowest, highest));
+    }
+}
+
+QModelIndex CRoundTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    switch (action) {
+    case MoveHome:
+        return model()->index(0, 0);
+    case MoveEnd:
+        return model()->index(model()->rowCount() - 1, 0);
+    default:
+        return QTableView::moveCursor(action, modifiers);
     }
 }
 

@@ -26,6 +26,7 @@ Q_SIGNALS:
     void searchTyped(const QString &start, int row);
 
 protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyboardSearch(const QString &search) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
