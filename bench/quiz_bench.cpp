@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "document/win32_doc.h"
+#include "games/pair_matching_form.h"
+#include "games/ui/pair_matching.h"
+#include "generator.h"
+#include "measure.h"
+#include "platform/clock.h"
+#include "platform/file_chooser.h"
+#include "platform/random.h"
+#include "platform/sound_player.h"
+#include "platform/user_prompt.h"
+#include "quiz/ui/quiz_windows.h"
+#include "quiz/ui/table_quiz.h"
+#include "resources/texts.h"
+#include "settings/settings.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+#include <cstdio>
+#include <cstdlib>
+
+// The windows that show a whole round, without a display. Aimed at with 100,000 words: each opens at once, and
+// a round is checked in less than a second.
+
+namespace {
+
+class CYesPrompt : public IUserPrompt
+{
+public:
+    void Tell(const PromptText & /*text*/, PromptIcon /*icon*/) override { }
+    PromptAnswer Ask(const PromptText & /*text*/, PromptIcon /*icon*/, PromptButtons /*buttons*/,
+        PromptAnswer /*defaultAnswer*/) override
+    {
+        return PromptAnswer::Yes;
+    }
+};
+
+class CNoSounds : public ISoundPlayer
+{
+public:
+    void Play(const QString & /*file*/) override { }
+};
+
+class CNoFiles : public IFileChooser
+{
+public:
+    QString ChooseFileToOpen(const FileChoice & /*choice*/) override { return {}; }
+    ChosenFile ChooseFileToSave(const FileChoice & /*choice*/) override { return {}; }
+};
+
+void Print(const char *name, const Measurement &measured)
+{
+    std::printf("  %-46s %10.3f ms\n", name, measured.seconds * 1e3);
+}
+
+/// Until everything is painted.
+void Settle()
+{
+    QCoreApplication::processEvents();
+}
+
+struct Quiz
+{
+    explicit Quiz(int count)
+    {
+        settings.quiz.includeFlaggedWords = IncludeFlagged::Always;
+        settings.quiz.requiz = Requiz::AfterRound;
+        document.ReplaceList(GenerateList(count, 1));
+    }
+
+    CTexts texts;
+    Settings settings;
+    CYesPrompt prompt;
+    CNoSounds sounds;
+    CNoFiles files;
+    CRandom random{1};
+    CWin32Doc document{{texts, settings.editor, prompt, [] { return QDate(2004, 5, 6); }, {}}};
+
+    void run(const char *name, const QuizWindowMaker &makeWindow)
+    {
+        std::printf(" %s\n", name);
+        const auto session = std::make_shared<CQuizSession>(
+            document, settings.quiz, random, std::span<const int>(), QuizAnswers::AreJudged);
+        std::unique_ptr<CQuizDialog> window;
+        const auto nothing = [] {};
+        Print("open to the first paint", Measure(1, nothing, [&] {
+            window = makeWindow({texts, prompt, sounds, files, settings.result},
+                {session, settings.quiz, {settings.quizChallenge, settings.fallingWord}, texts, random,
+                    SteadyClock});
+            window->show();
+            Settle();
+        }));
+        QApplication::setActiveWindow(window.get());
+        auto *const table = window->findChild<QTableView *>();
+        Print("an arrow key", Measure(10, nothing, [&] {
+            QTest::keyClick(table, Qt::Key_Down);
+            Settle();
+        }));
+        Print("a search in vain", Measure(1, nothing, [&] {
+            QTest::keyClick(table, Qt::Key_NumberSign);
+            Settle();
+        }));
+        Print("check the round", Measure(1, nothing, [&] {
+            window->findChild<QPushButton *>(QStringLiteral("checkButton"))->click();
+            Settle();
+        }));
+    }
+};
+
+void Run(int count)
+{
+    std::printf("%d words\n", count);
+    Quiz quiz(count);
+    quiz.run("table", makeQuizWindow<CTableQuiz, CTableQuizForm>);
+    quiz.run("pair matching", makeQuizWindow<CPairMatchingDialog, CPairMatchingForm>);
+    std::printf("\n");
+}
+
+}
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    for (int i = 1; i < argc; ++i) {
+        Run(std::atoi(argv[i]));
+    }
+    if (argc == 1) {
+        Run(100000);
+    }
+    return 0;
+}
