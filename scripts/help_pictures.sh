@@ -34,7 +34,7 @@ shot() {
 # mnemonic NUMBER: the underlined letter of a text in the language at hand.
 mnemonic() { sed -n "s/^$1=.*&\\(.\\).*/\\L\\1/p" "$texts"; }
 
-# games NAME MODULE: pictures of quizzes that don't ask for the whole answer, over the first words of the list.
+# games NAME MODULE: pictures of the other quizzes and of the games, over the first words of the list.
 games() {
     local texts=$2 list="$work/vardagsord.gls" quiz yes window=
     yes=$(mnemonic 70050)
@@ -44,9 +44,10 @@ games() {
     local pid=$! game
     pids+=("$pid")
     find_window "vardagsord"
-    for game in 3-selftest 4-alternatives 5-hangman; do
+    for game in 2-table 3-selftest 4-alternatives 5-hangman 6-pairs; do
         xdotool key "ctrl+alt+${game%%-*}" sleep 1
         case $game in
+        2-*) xdotool type --delay 50 "house" && xdotool key Return type --delay 50 "flat" && xdotool key Return sleep 0.5 ;;
         3-*) xdotool key Return sleep 0.5 ;;
         5-*) xdotool type --delay 50 "he" && xdotool key Return sleep 0.5 ;; # Letters of "house".
         esac
