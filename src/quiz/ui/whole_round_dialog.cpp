@@ -12,19 +12,26 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-/// In the accent colour of the desktop, with letters that can be read on it.
+/// In the accent colour of the desktop, as far as letters can be read on it.
 QPalette accented(QPalette palette)
 {
+    constexpr int AsStylesPaint = 130; // In percent; they make a button lighter than its colour.
+    constexpr int Step = 110;
+    QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    const auto contrastTo = [&](const QColor &letters) {
+        return std::min(Contrast(letters, accent), Contrast(letters, accent.lighter(AsStylesPaint)));
+    };
+    const bool light = contrastTo(Qt::white) > contrastTo(Qt::black);
+    const QColor letters = light ? Qt::white : Qt::black;
+    while (contrastTo(letters) < TextContrast) {
+        accent = light ? accent.darker(Step) : accent.lighter(Step);
+    }
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
-        QColor letters = palette.color(QPalette::Active, QPalette::HighlightedText);
-        if (Contrast(letters, accent) < TextContrast) {
-            letters = Contrast(Qt::black, accent) > Contrast(Qt::white, accent) ? Qt::black : Qt::white;
-        }
         palette.setColor(group, QPalette::Button, accent);
         palette.setColor(group, QPalette::ButtonText, letters);
     }
