@@ -2,7 +2,6 @@
 #include "quiz/round_model.h"
 
 #include "platform/plain_text.h"
-#include "quiz/text_numbers.h"
 #include "quiz/whole_round_form.h"
 #include "resources/texts.h"
 
@@ -53,12 +52,7 @@ QVariant CRoundModel::data(const QModelIndex &index, int role) const
 
 QString CRoundModel::readOut(int row, int column) const
 {
-    const QString other = ShownShort(m_form.cell(row, CWholeRoundForm::ColumnCount - 1));
-    QString text = ShownShort(m_form.cell(row, column));
-    // The cell that is current says what stands in its row.
-    if (column == 0 && !other.isEmpty() && other != text) {
-        text = m_texts.Fill(Text::AskedEntry, {text, other});
-    }
+    const QString text = ShownShort(m_form.cell(row, column));
     return m_markedText != 0 && m_form.hasMark(row, column) ? m_texts.Fill(m_markedText, {text}) : text;
 }
 
