@@ -2,6 +2,7 @@
 #include "fileformats/word_list_file.h"
 #include "platform/windows_1252.h"
 #include "support/lists.h"
+#include "support/small_device.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -56,25 +57,6 @@ QByteArray Write(CWordList &list, const WriteOptions &options = {})
     buffer.open(QIODevice::WriteOnly);
     return WriteWordList(list, buffer, options) ? buffer.data() : QByteArray();
 }
-
-/// Takes some bytes, and no more.
-class CSmallDevice : public QIODevice
-{
-public:
-    explicit CSmallDevice(qint64 room) : m_room(room) { }
-
-protected:
-    qint64 readData(char *, qint64) override { return -1; }
-    qint64 writeData(const char *, qint64 size) override
-    {
-        const qint64 taken = std::min(size, m_room);
-        m_room -= taken;
-        return taken > 0 ? taken : -1;
-    }
-
-private:
-    qint64 m_room;
-};
 
 /// Every property and entry, one a line.
 QString DescribeAll(const CWordList &list)
@@ -265,7 +247,8 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         CWordList list = MakeList("a|b");
-        QCOMPARE(ReadWordListFile(list, folder.filePath(u"missing"_s)), ReadResult::CannotOpen);
+        CWordList missing;
+        QCOMPARE(ReadWordListFile(missing, folder.filePath(u"missing"_s)), ReadResult::CannotOpen);
         list.SetSaved(false);
         QVERIFY(!WriteWordListFile(list, folder.filePath(u"no/such/folder.gls"_s)));
         QVERIFY(!WriteWordListFile(list, folder.path()));
