@@ -81,13 +81,15 @@ void CAnswerButton::paintEvent(QPaintEvent *event)
     QPushButton::paintEvent(event);
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::ButtonText));
-    const QRect room = rect().adjusted(digitWidth(), gap(), -markWidth(), -gap());
+    // A message stands over the middle and the right.
+    const int mark = m_verdict ? markWidth() : 0;
+    const QRect room = rect().adjusted(digitWidth() + mark, gap(), mark - markWidth(), -gap());
     PaintWrapped(painter, m_answer, font(), room);
     if (m_verdict) {
         const bool isWrong = *m_verdict == AnswerVerdict::Wrong;
         const QIcon icon(
             isWrong ? QStringLiteral(":/pictures/wrong.svg") : QStringLiteral(":/pictures/right.svg"));
-        const QRect place(room.right() + gap(), room.top(), lineHeight(), lineHeight());
+        const QRect place(digitWidth(), room.top(), lineHeight(), lineHeight());
         icon.paint(&painter, place);
         painter.drawText(rect().adjusted(place.right() + gap(), gap(), 0, 0),
             int(Qt::AlignTop) | int(Qt::AlignLeft) | int(Qt::TextSingleLine), verdictText(*m_verdict));
