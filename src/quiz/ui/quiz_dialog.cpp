@@ -3,6 +3,7 @@
 
 #include "platform/sound_player.h"
 #include "platform/ui/held_enter.h"
+#include "platform/ui/held_keys.h"
 #include "platform/ui/input_guard_filter.h"
 #include "platform/ui/label.h"
 #include "platform/ui/spoken_text.h"
@@ -137,7 +138,8 @@ QWidget *CQuizDialog::makeStatistics()
 void CQuizDialog::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous() && !std::exchange(m_wasShown, true)) {
-        IgnoreHeldEnter(*this); // The window has all its controls now.
+        JoinRepeatedKeys(*this); // The window has all its controls now.
+        IgnoreHeldEnter(*this);
         showNextWord();
     }
     QDialog::showEvent(event);
