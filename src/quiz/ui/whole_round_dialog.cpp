@@ -58,7 +58,7 @@ CWholeRoundDialog::CWholeRoundDialog(
 
 CWholeRoundDialog::~CWholeRoundDialog()
 {
-    delete m_table;
+    delete m_table; // It asks the form until its end.
 }
 
 void CWholeRoundDialog::selectRow(int row)

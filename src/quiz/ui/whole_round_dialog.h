@@ -13,6 +13,9 @@ class CWholeRoundDialog : public CQuizDialog
 {
     Q_OBJECT
 
+public:
+    ~CWholeRoundDialog() override;
+
 protected:
     struct Setup
     {
@@ -26,8 +29,6 @@ protected:
     };
     CWholeRoundDialog(
         const QuizWindowServices &services, std::shared_ptr<CWholeRoundForm> form, const Setup &setup);
-    /// The table asks the form until its end.
-    ~CWholeRoundDialog() override;
 
     /// Shows the rows, and what can be done now.
     void showCurrentWord() override;
