@@ -48,6 +48,8 @@ class CNoFiles : public IFileChooser
 {
 public:
     QString ChooseFileToOpen(const FileChoice & /*choice*/) override { return {}; }
+    QStringList ChooseFilesToOpen(const FileChoice & /*choice*/) override { return {}; }
+    QString ChooseFolder(const FileChoice & /*choice*/) override { return {}; }
     ChosenFile ChooseFileToSave(const FileChoice & /*choice*/) override { return {}; }
 };
 
