@@ -3,7 +3,6 @@
 
 #include "quiz/round_model.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QHeaderView>
 #include <QInputMethodEvent>
@@ -138,29 +137,6 @@ void CRoundTable::inputMethodEvent(QInputMethodEvent *event)
     // What an input method, a dead key or a compose sequence makes is typing too.
     if (!event->commitString().isEmpty()) {
         keyboardSearch(event->commitString());
-    }
-}
-
-void CRoundTable::focusInEvent(QFocusEvent *event)
-{
-    QTableView::focusInEvent(event);
-    // Behind the table itself. At the start of a round something else is read out.
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-        QMetaObject::invokeMethod(this, &CRoundTable::tellCurrentCell, Qt::QueuedConnection);
-    }
-}
-
-void CRoundTable::tellCurrentCell()
-{
-    QAccessibleInterface *const table = QAccessible::queryAccessibleInterface(this);
-    if (!hasFocus() || !currentIndex().isValid() || table == nullptr || table->tableInterface() == nullptr) {
-        return;
-    }
-    QAccessibleInterface *const cell =
-        table->tableInterface()->cellAt(currentIndex().row(), currentIndex().column());
-    if (cell != nullptr) {
-        QAccessibleEvent focus(cell, QAccessible::Focus);
-        QAccessible::updateAccessibility(&focus);
     }
 }
 

@@ -30,13 +30,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyboardSearch(const QString &search) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void fitCurrentRow();
-    /// Tells assistive technology which cell has the focus.
-    void tellCurrentCell();
 
     QString m_typed;
     QElapsedTimer m_sinceTyped;
