@@ -10,6 +10,16 @@
 #include <QDateTime>
 #include <QFileInfo>
 
+namespace {
+
+/// Numbers stand below each other.
+int AlignmentOf(int column)
+{
+    return int(Qt::AlignVCenter | (column == CFoundFilesModel::Entries ? Qt::AlignRight : Qt::AlignLeft));
+}
+
+}
+
 CFoundFilesModel::CFoundFilesModel(const CTexts &texts, QObject *parent)
     : QAbstractTableModel(parent), m_texts(texts), m_headings(texts.Get(Text::SearchColumns).split(u'\n'))
 {
@@ -73,8 +83,7 @@ QVariant CFoundFilesModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return CellText(File(index.row()), index.column());
     case Qt::TextAlignmentRole:
-        return index.column() == Entries ? int(Qt::AlignRight | Qt::AlignVCenter)
-                                         : int(Qt::AlignLeft | Qt::AlignVCenter);
+        return AlignmentOf(index.column());
     default:
         return {};
     }
@@ -82,10 +91,10 @@ QVariant CFoundFilesModel::data(const QModelIndex &index, int role) const
 
 QVariant CFoundFilesModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
-        return {};
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
+        return AlignmentOf(section);
     }
-    return m_headings.value(section);
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? m_headings.value(section) : QVariant();
 }
 
 CFoundFilesOrder::CFoundFilesOrder(CFoundFilesModel &model, QObject *parent)

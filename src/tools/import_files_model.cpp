@@ -14,6 +14,13 @@
 
 namespace {
 
+/// Numbers stand below each other.
+int AlignmentOf(int column)
+{
+    return int(
+        Qt::AlignVCenter | (column >= CImportFilesModel::ImportedEntries ? Qt::AlignRight : Qt::AlignLeft));
+}
+
 bool IsRead(ImportFileStatus status)
 {
     return status == ImportFileStatus::Imported || status == ImportFileStatus::Ignored
@@ -177,8 +184,7 @@ QVariant CImportFilesModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleDescriptionRole:
         return Reason(file);
     case Qt::TextAlignmentRole:
-        return index.column() >= ImportedEntries ? int(Qt::AlignRight | Qt::AlignVCenter)
-                                                 : int(Qt::AlignLeft | Qt::AlignVCenter);
+        return AlignmentOf(index.column());
     case StatusRole:
         return int(file.status);
     default:
@@ -188,8 +194,8 @@ QVariant CImportFilesModel::data(const QModelIndex &index, int role) const
 
 QVariant CImportFilesModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
-        return {};
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
+        return AlignmentOf(section);
     }
-    return m_headings.value(section);
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? m_headings.value(section) : QVariant();
 }

@@ -281,6 +281,12 @@ bool CFileSearchWindow::eventFilter(QObject *watched, QEvent *event)
     return QDialog::eventFilter(watched, event);
 }
 
+QSize CFileSearchWindow::sizeHint() const
+{
+    return QDialog::sizeHint().expandedTo(
+        {fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 42});
+}
+
 void CFileSearchWindow::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous()) {

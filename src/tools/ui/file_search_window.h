@@ -31,6 +31,7 @@ public:
     /// Shows it, or brings it to the front.
     void Open();
 
+    QSize sizeHint() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:

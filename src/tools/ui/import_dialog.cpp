@@ -273,6 +273,12 @@ void CImportDialog::closeEvent(QCloseEvent *event)
     QDialog::closeEvent(event);
 }
 
+QSize CImportDialog::sizeHint() const
+{
+    return QDialog::sizeHint().expandedTo(
+        {fontMetrics().averageCharWidth() * 105, fontMetrics().lineSpacing() * 34});
+}
+
 void CImportDialog::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous()) {

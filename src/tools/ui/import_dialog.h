@@ -33,6 +33,7 @@ public:
 
     /// Stops what is going on, or else closes the window.
     void reject() override;
+    QSize sizeHint() const override;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
