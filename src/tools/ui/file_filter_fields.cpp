@@ -68,7 +68,7 @@ void CFileFilterFields::AddText(
     QGridLayout &rows, QWidget *page, int column, const char *name, int caption, QString &value)
 {
     CLongLineEdit *const field = MakeTextField(page, name, m_texts.Get(Text::LongText), value);
-    field->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
+    field->setMinimumWidth(fontMetrics().averageCharWidth() * 10);
     QLabel *const label = MakeLabel(m_texts.Get(caption), page);
     label->setBuddy(field);
     field->setAccessibleName(CaptionReadOut(label->text()));

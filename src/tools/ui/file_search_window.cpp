@@ -125,6 +125,7 @@ QWidget *CFileSearchWindow::MakeFields()
             return chosen.isEmpty() ? current : chosen;
         });
     m_folder = folder.name;
+    m_folder->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
     folder.browse->setAutoDefault(false);
     folderLabel->setBuddy(m_folder);
     QCheckBox *const subfolders = MakeCheckBox(

@@ -119,7 +119,7 @@ void CImportDialog::MakeList()
     header->setSectionResizeMode(CImportFilesModel::Folder, QHeaderView::Stretch);
     const int character = fontMetrics().averageCharWidth();
     constexpr int UnitsPerCharacter = 4; // Widths of columns are given in such units.
-    m_list->setColumnWidth(CImportFilesModel::Name, character * 28);
+    m_list->setColumnWidth(CImportFilesModel::Name, character * 26);
     m_list->setColumnWidth(CImportFilesModel::Status, character * 16);
     for (const int column : {CImportFilesModel::ImportedEntries, CImportFilesModel::IgnoredEntries}) {
         m_list->setColumnWidth(
@@ -276,7 +276,7 @@ void CImportDialog::closeEvent(QCloseEvent *event)
 QSize CImportDialog::sizeHint() const
 {
     return QDialog::sizeHint().expandedTo(
-        {fontMetrics().averageCharWidth() * 105, fontMetrics().lineSpacing() * 34});
+        {fontMetrics().averageCharWidth() * 120, fontMetrics().lineSpacing() * 34});
 }
 
 void CImportDialog::showEvent(QShowEvent *event)
