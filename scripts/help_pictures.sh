@@ -58,6 +58,28 @@ games() {
     wait "$pid" 2>/dev/null || true
 }
 
+# imports NAME MODULE: the window of the import when it is done, over the samples; those in other languages are ignored.
+imports() {
+    local texts=$2 list="$work/vardagsord.gls" search add start title
+    search=$(mnemonic 235003)
+    add=$(mnemonic 237009)
+    start=$(mnemonic 235001)
+    title=$(sed -n 's/^235000=//p' "$texts")
+    settings "languageFile=$texts\\nplugInUse=1\\n[import]\\nuseFilter=1\\nlanguageMatch=1\\n"
+    mkdir -p "$work/lists"
+    cp samples/*.gls "$work/lists"
+    cp samples/vardagsord.gls "$list"
+    "$program" -- "$list" >"$work/program.log" 2>&1 &
+    local pid=$! window=
+    pids+=("$pid")
+    find_window "vardagsord"
+    xdotool key ctrl+i sleep 1 key "alt+$search" sleep 1 key ctrl+a type --delay 20 "$work/lists"
+    xdotool key Return sleep 2 key "alt+$add" sleep 0.5 key Escape sleep 0.5 key "alt+$start" sleep 2
+    shot "$1-import" "$title"
+    kill "$pid"
+    wait "$pid" 2>/dev/null || true
+}
+
 # language NAME MODULE: all pictures in one language; the titles of its windows come from its own texts.
 language() {
     local texts=$2 list="$work/vardagsord.gls" find properties quiz result settings settings_key special tools yes
@@ -99,6 +121,7 @@ language() {
     kill "$pid"
     wait "$pid" 2>/dev/null || true
     games "$@"
+    imports "$@"
 }
 
 language sv "$PWD/src/resources/swedish.ordmod"
