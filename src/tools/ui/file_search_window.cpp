@@ -262,6 +262,7 @@ void CFileSearchWindow::ShowState()
 {
     const bool searching = m_searching.IsSearching();
     m_start->setText(m_services.texts.Get(searching ? Text::SearchStop : Text::SearchStart));
+    m_start->setDefault(!searching); // Enter starts a search, and stops none by accident.
     if (m_open != nullptr) {
         m_open->setEnabled(m_list->selectionModel()->selectedRows().size() == 1);
     }
