@@ -27,8 +27,11 @@ CFileFilterFields::CFileFilterFields(const CTexts &texts, const FileFilterValues
     rows->setContentsMargins(indent, 0, 0, 0);
     rows->setColumnStretch(1, 1);
     rows->setColumnStretch(3, 1);
-    AddNumber(*rows, page, "miniValue", Text::FilterMinimum, values.useMinimum, values.minimum);
-    AddNumber(*rows, page, "maxValue", Text::FilterMaximum, values.useMaximum, values.maximum);
+    auto *const numbers = new QGridLayout; // Columns of its own: its captions are longer than those below.
+    numbers->setColumnStretch(3, 1);
+    AddNumber(*numbers, page, "miniValue", Text::FilterMinimum, values.useMinimum, values.minimum);
+    AddNumber(*numbers, page, "maxValue", Text::FilterMaximum, values.useMaximum, values.maximum);
+    rows->addLayout(numbers, 0, 0, 1, 4);
     if (addFields) {
         addFields(*rows, page);
     }
@@ -53,13 +56,10 @@ void CFileFilterFields::AddNumber(
     number->setAccessibleName(CaptionReadOut(check->text()));
     QLabel *const unit = MakeLabel(m_texts.Get(Text::FilterEntries), page);
     const QList<QWidget *> field = {number, unit};
-    auto *const line = new QHBoxLayout;
-    line->addWidget(number);
-    line->addWidget(unit);
-    line->addStretch(1);
     const int row = rows.rowCount();
     rows.addWidget(check, row, 0);
-    rows.addLayout(line, row, 1, 1, 3);
+    rows.addWidget(number, row, 1);
+    rows.addWidget(unit, row, 2);
     SetAllEnabled(field, use);
     connect(check, &QCheckBox::toggled, page, [field](bool checked) { SetAllEnabled(field, checked); });
 }
