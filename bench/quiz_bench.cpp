@@ -81,7 +81,7 @@ struct Quiz
     CRandom random{1};
     CWin32Doc document{{texts, settings.editor, prompt, [] { return QDate(2004, 5, 6); }, {}}};
 
-    void run(const char *name, const QuizWindowMaker &makeWindow)
+    void MeasureWindow(const char *name, const QuizWindowMaker &makeWindow)
     {
         std::printf(" %s\n", name);
         const auto session = std::make_shared<CQuizSession>(
@@ -116,8 +116,8 @@ void Run(int count)
 {
     std::printf("%d words\n", count);
     Quiz quiz(count);
-    quiz.run("table", makeQuizWindow<CTableQuiz, CTableQuizForm>);
-    quiz.run("pair matching", makeQuizWindow<CPairMatchingDialog, CPairMatchingForm>);
+    quiz.MeasureWindow("table", makeQuizWindow<CTableQuiz, CTableQuizForm>);
+    quiz.MeasureWindow("pair matching", makeQuizWindow<CPairMatchingDialog, CPairMatchingForm>);
     std::printf("\n");
 }
 
