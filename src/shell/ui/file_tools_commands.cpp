@@ -47,7 +47,7 @@ void CFileToolsCommands::OpenSearch()
             m_actions.Run(CommandId::Import, [this, &files] { OpenImport(files); });
         });
     }
-    m_search->Open();
+    m_search->Present();
 }
 
 bool CFileToolsCommands::eventFilter(QObject *watched, QEvent *event)

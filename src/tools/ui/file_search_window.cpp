@@ -94,7 +94,7 @@ CFileSearchWindow::~CFileSearchWindow()
     disconnect(&m_searching, nullptr, this, nullptr);
 }
 
-void CFileSearchWindow::Open()
+void CFileSearchWindow::Present()
 {
     show();
     raise();

@@ -29,7 +29,7 @@ public:
     ~CFileSearchWindow() override;
 
     /// Shows it, or brings it to the front.
-    void Open();
+    void Present();
 
     QSize sizeHint() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -201,7 +201,7 @@ void CImportDialog::OpenSearch()
         m_searchWindow = new CFileSearchWindow(m_services, CFileSearchWindow::Purpose::AddToImport, this);
         connect(m_searchWindow, &CFileSearchWindow::FilesChosen, this, &CImportDialog::AddFiles);
     }
-    m_searchWindow->Open();
+    m_searchWindow->Present();
 }
 
 void CImportDialog::RemoveSelected()
