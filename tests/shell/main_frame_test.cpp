@@ -187,7 +187,7 @@ private Q_SLOTS:
 
         // In an edit box they work on its text alone.
         run.Command(ShowEditFields)->trigger();
-        auto *const box = Find<QLineEdit>(&run.frame, "field0");
+        auto *const box = ::Find<QLineEdit>(&run.frame, "field0");
         box->setFocus();
         run.Command(Paste)->trigger();
         QVERIFY(box->text().startsWith(u"a\tb"_s));
