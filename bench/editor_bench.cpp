@@ -4,12 +4,11 @@
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
 #include "generator.h"
-#include "measure.h"
 #include "platform/random.h"
-#include "platform/user_prompt.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
 #include "settings/settings_changes.h"
+#include "window_bench.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -23,17 +22,6 @@
 // and no key that touches few entries above 16 ms.
 
 namespace {
-
-class CYesPrompt : public IUserPrompt
-{
-public:
-    void Tell(const PromptText & /*text*/, PromptIcon /*icon*/) override { }
-    PromptAnswer Ask(const PromptText & /*text*/, PromptIcon /*icon*/, PromptButtons /*buttons*/,
-        PromptAnswer /*defaultAnswer*/) override
-    {
-        return PromptAnswer::Yes;
-    }
-};
 
 struct Editor
 {
@@ -53,21 +41,23 @@ struct Editor
     CArranging arranging{view, document, settings.arrange, random};
 };
 
-void Print(const char *name, const Measurement &measured)
-{
-    std::printf("  %-46s %10.3f ms\n", name, measured.seconds * 1e3);
-}
-
-/// Until everything is painted.
-void Settle()
-{
-    QCoreApplication::processEvents();
-}
-
 void Key(Qt::Key key)
 {
     QTest::keyClick(QApplication::focusWidget(), key);
     Settle();
+}
+
+void MeasureOpening(CWin32View &view)
+{
+    Print("open to the first paint",
+        Measure(
+            1, [] {},
+            [&view] {
+                view.RefreshAll();
+                view.show();
+                Settle();
+            }));
+    QApplication::setActiveWindow(&view);
 }
 
 void Run(int count)
@@ -77,12 +67,7 @@ void Run(int count)
     auto *const list = view.findChild<CWordListControl *>();
     std::printf("%d entries\n", count);
     const auto nothing = [] {};
-    Print("open to the first paint", Measure(1, nothing, [&] {
-        view.RefreshAll();
-        view.show();
-        Settle();
-    }));
-    QApplication::setActiveWindow(&view);
+    MeasureOpening(view);
     list->setFocus();
     Print("a page down", Measure(10, nothing, [] { Key(Qt::Key_PageDown); }));
     Print("scroll to the middle",
@@ -158,7 +143,7 @@ void Run(int count)
     std::printf("\n");
 }
 
-/// Terms so long that laying one out takes longer than a key press may; aimed at below 50 ms each.
+/// Size 0: terms so long that laying one out takes longer than a key press may; aimed at below 50 ms each.
 void RunLongTerms()
 {
     Editor editor(0);
@@ -174,12 +159,7 @@ void RunLongTerms()
     auto *const list = view.findChild<CWordListControl *>();
     std::printf("4 entries of 1 MB terms\n");
     const auto nothing = [] {};
-    Print("open to the first paint", Measure(1, nothing, [&] {
-        view.RefreshAll();
-        view.show();
-        Settle();
-    }));
-    QApplication::setActiveWindow(&view);
+    MeasureOpening(view);
     list->setFocus();
     view.SelectEntry(0);
     Print("an arrow key", Measure(3, nothing, [] { Key(Qt::Key_Down); }));
@@ -209,15 +189,11 @@ void RunLongTerms()
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    for (int i = 1; i < argc; ++i) {
-        Run(std::atoi(argv[i]));
-    }
-    RunLongTerms();
-    if (argc == 1) {
-        Run(100000);
-        Run(1000000);
-    }
-    return 0;
+    return MeasureSizes(argc, argv, {0, 100000, 1000000}, [](int count) {
+        if (count == 0) {
+            RunLongTerms();
+        } else {
+            Run(count);
+        }
+    });
 }

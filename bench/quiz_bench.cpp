@@ -3,16 +3,15 @@
 #include "games/pair_matching_form.h"
 #include "games/ui/pair_matching.h"
 #include "generator.h"
-#include "measure.h"
 #include "platform/clock.h"
 #include "platform/file_chooser.h"
 #include "platform/random.h"
 #include "platform/sound_player.h"
-#include "platform/user_prompt.h"
 #include "quiz/ui/quiz_windows.h"
 #include "quiz/ui/table_quiz.h"
 #include "resources/texts.h"
 #include "settings/settings.h"
+#include "window_bench.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -26,17 +25,6 @@
 // a round is checked in less than a second.
 
 namespace {
-
-class CYesPrompt : public IUserPrompt
-{
-public:
-    void Tell(const PromptText & /*text*/, PromptIcon /*icon*/) override { }
-    PromptAnswer Ask(const PromptText & /*text*/, PromptIcon /*icon*/, PromptButtons /*buttons*/,
-        PromptAnswer /*defaultAnswer*/) override
-    {
-        return PromptAnswer::Yes;
-    }
-};
 
 class CNoSounds : public ISoundPlayer
 {
@@ -52,17 +40,6 @@ public:
     QString ChooseFolder(const FileChoice & /*choice*/) override { return {}; }
     ChosenFile ChooseFileToSave(const FileChoice & /*choice*/) override { return {}; }
 };
-
-void Print(const char *name, const Measurement &measured)
-{
-    std::printf("  %-46s %10.3f ms\n", name, measured.seconds * 1e3);
-}
-
-/// Until everything is painted.
-void Settle()
-{
-    QCoreApplication::processEvents();
-}
 
 struct Quiz
 {
@@ -125,13 +102,5 @@ void Run(int count)
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    for (int i = 1; i < argc; ++i) {
-        Run(std::atoi(argv[i]));
-    }
-    if (argc == 1) {
-        Run(100000);
-    }
-    return 0;
+    return MeasureSizes(argc, argv, {100000}, Run);
 }
