@@ -67,11 +67,9 @@ struct Alternatives
         return 0;
     }
     QString word() const { return window->findChild<QLabel *>(QStringLiteral("wordText"))->text(); }
-    void send(QEvent::Type type, int digit, Qt::KeyboardModifiers modifiers = {}, bool repeated = false,
-        quint64 time = 0) const
+    void send(QEvent::Type type, int digit, Qt::KeyboardModifiers modifiers = {}, bool repeated = false) const
     {
         QKeyEvent event(type, Qt::Key_0 + digit, modifiers, QString::number(digit), repeated);
-        event.setTimestamp(time);
         QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
 };
@@ -115,9 +113,6 @@ void GameWindowsTest::keysOfAlternatives()
     game.send(press, 2);
     game.send(press, 2, {}, true);
     game.send(release, 2, {}, true);
-    game.send(press, 2, {}, false, 1000);
-    game.send(release, 2, {}, false, 1600);
-    game.send(press, 2, {}, false, 1600); // A repeat that the toolkit didn't notice.
     QCOMPARE(game.word(), first); // Held down.
     game.send(press, 3);
     game.send(release, 2);

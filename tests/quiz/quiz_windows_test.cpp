@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -40,13 +41,7 @@ private Q_SLOTS:
         QCOMPARE(question->toPlainText(), u"Vad heter \"hund\" på Engelska?"_s);
         QTest::keyClicks(answer, u"dog"_s);
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
-        QApplication::sendEvent(answer, &held); // Held since it closed the message: not an answer.
-        // Nor is a repeat that the toolkit takes for a press: it comes at the time of the release.
-        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent missed(type, Qt::Key_Return, Qt::NoModifier);
-            missed.setTimestamp(7);
-            QApplication::sendEvent(answer, &missed);
-        }
+        QApplication::sendEvent(window->windowHandle(), &held); // Since it closed the message: not an answer.
         QCOMPARE(statistics(), u"Glosa 1 av 2. 0 rätt av 1."_s);
         QTest::keyClick(answer, Qt::Key_Return);
         QCOMPARE(statistics(), u"Glosa 2 av 2. 1 rätt av 2."_s);

@@ -3,7 +3,8 @@
 
 class QWidget;
 
-/// Lets a key that is held down be released only at its end: the display may tell of each repeat as a release
-/// and a press, and while the computer is busy the toolkit may not notice that. For windows in which a release
-/// presses a button. Call it when the window has all its parts.
-void JoinRepeatedKeys(QWidget &window);
+/// Lets a window tell a key that is held down from one that is pressed again and again. The display may tell of
+/// each repeat as a release and a press, which the toolkit doesn't notice while the computer is busy. So a key
+/// is released in the window only at its end, and Enter does nothing while it repeats: held down since the
+/// window before, it must not confirm what nobody has read yet. Call it before the window is shown.
+void NoticeHeldKeys(QWidget &window);

@@ -2,7 +2,7 @@
 #include "platform/ui/message_box_prompt.h"
 
 #include "platform/plain_text.h"
-#include "platform/ui/held_enter.h"
+#include "platform/ui/held_keys.h"
 #include "platform/ui/owner_window.h"
 #include "platform/ui/type_ahead_filter.h"
 #include "platform/ui/wait_cursor.h"
@@ -157,7 +157,7 @@ int Show(const PromptText &text, PromptIcon icon, QMessageBox::StandardButtons b
     box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     box.setDefaultButton(defaultButton);
     box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
-    IgnoreHeldEnter(box);
+    NoticeHeldKeys(box);
     const CUsualCursor usual;
     return typeAhead != nullptr && box.parentWidget() != nullptr ? typeAhead->Ask(box) : box.exec();
 }

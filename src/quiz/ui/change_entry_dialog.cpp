@@ -2,6 +2,7 @@
 #include "quiz/ui/change_entry_dialog.h"
 
 #include "platform/ui/elided_label.h"
+#include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
 #include "quiz/text_numbers.h"
 #include "resources/texts.h"
@@ -49,6 +50,7 @@ CChangeEntryDialog::CChangeEntryDialog(
     }
     showEntry(start);
     m_term1->setFocus();
+    NoticeHeldKeys(*this);
 }
 
 QComboBox *CChangeEntryDialog::makeList(int start)

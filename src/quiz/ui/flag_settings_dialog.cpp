@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/flag_settings_dialog.h"
 
+#include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
 #include "platform/ui/number_field.h"
 #include "platform/ui/setting_controls.h"
@@ -53,6 +54,7 @@ CFlagSettingsDialog::CFlagSettingsDialog(
     layout->addLayout(grid);
     layout->addStretch(1);
     layout->addWidget(buttons);
+    NoticeHeldKeys(*this);
 }
 
 void CFlagSettingsDialog::addLimit(QGridLayout &grid, const Limit &limit)

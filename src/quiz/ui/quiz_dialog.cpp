@@ -2,7 +2,6 @@
 #include "quiz/ui/quiz_dialog.h"
 
 #include "platform/sound_player.h"
-#include "platform/ui/held_enter.h"
 #include "platform/ui/held_keys.h"
 #include "platform/ui/input_guard_filter.h"
 #include "platform/ui/label.h"
@@ -62,6 +61,7 @@ CQuizDialog::CQuizDialog(const QuizWindowServices &services, CQuizForm &form, Qu
     layout->addLayout(left, 1);
     layout->addLayout(m_buttonColumn);
     makeButtons();
+    NoticeHeldKeys(*this);
     openHelpOnF1(*this, m_services);
 }
 
@@ -138,8 +138,6 @@ QWidget *CQuizDialog::makeStatistics()
 void CQuizDialog::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous() && !std::exchange(m_wasShown, true)) {
-        JoinRepeatedKeys(*this); // The window has all its controls now.
-        IgnoreHeldEnter(*this);
         showNextWord();
     }
     QDialog::showEvent(event);

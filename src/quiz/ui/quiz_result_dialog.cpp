@@ -2,7 +2,7 @@
 #include "quiz/ui/quiz_result_dialog.h"
 
 #include "platform/plain_text.h"
-#include "platform/ui/held_enter.h"
+#include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/quiz_session.h"
@@ -86,7 +86,7 @@ CQuizResultDialog::CQuizResultDialog(
     const int narrowest = layout->totalMinimumSize().width();
     setMinimumSize(narrowest, layout->minimumHeightForWidth(narrowest));
     m_list->setFocus();
-    IgnoreHeldEnter(*this);
+    NoticeHeldKeys(*this);
     openHelpOnF1(*this, m_services);
 }
 

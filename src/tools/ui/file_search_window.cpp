@@ -5,7 +5,7 @@
 #include "platform/local_formats.h"
 #include "platform/plain_text.h"
 #include "platform/ui/elided_label.h"
-#include "platform/ui/held_enter.h"
+#include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
 #include "platform/ui/scrolling_page.h"
 #include "platform/ui/setting_controls.h"
@@ -84,7 +84,7 @@ CFileSearchWindow::CFileSearchWindow(const FileToolServices &services, Purpose p
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
         [this] { m_services.openHelp(QStringLiteral("filesearch")); });
     m_folder->setFocus();
-    IgnoreHeldEnter(*this); // The key that starts the search shall not stop it.
+    NoticeHeldKeys(*this); // The key that starts the search shall not stop it.
     ShowState();
 }
 
