@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "quiz/text_numbers.h"
 #include "quiz/ui/change_entry_dialog.h"
-#include "quiz/ui/quiz_result_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "support/files.h"
 #include "support/test_quiz.h"
 
-#include <QPlainTextEdit>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "quiz/text_numbers.h"
 #include "quiz/ui/flag_settings_dialog.h"
-#include "quiz/ui/quiz_result_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "support/test_quiz.h"
 
@@ -136,7 +134,7 @@ private Q_SLOTS:
         QCOMPARE(run.test.Entries(), u"hund|dog * doggy,<b>katt</b>|cat"_s);
         run.test.prompt.answers = {PromptAnswer::Yes};
         window->reject();
-        FindWindow<CQuizResultDialog>()->reject();
+        CloseResult();
     }
 
     void flagSettings()

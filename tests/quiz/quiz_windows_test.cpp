@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/input_guard_filter.h"
-#include "platform/ui/spoken_text.h"
-#include "quiz/text_numbers.h"
-#include "quiz/ui/quiz_result_dialog.h"
 #include "quiz/ui/standard_quiz.h"
 #include "support/test_quiz.h"
 
 #include <QAccessible>
 #include <QDialogButtonBox>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QTextEdit>
 #include <QWindow>
 
@@ -165,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(feedback->toPlainText(), u"Rätt"_s);
         run.test.prompt.answers = {PromptAnswer::Yes};
         window->close();
-        FindWindow<CQuizResultDialog>()->reject();
+        CloseResult();
     }
 };
 

@@ -2,12 +2,17 @@
 #pragma once
 
 #include "games/ui/game_windows.h"
+#include "platform/input_guard.h"
+#include "platform/ui/spoken_text.h"
 #include "quiz/quiz_host.h"
 #include "quiz/ui/quiz_launch.h"
+#include "quiz/ui/quiz_result_dialog.h"
 #include "settings/quiz_settings.h"
 #include "support/silent_sounds.h"
 #include "support/test_document.h"
 #include "support/widgets.h"
+
+#include <QPlainTextEdit>
 
 /// Notes what a quiz asks of the main window.
 class CTestHost : public IQuizHost
@@ -94,3 +99,14 @@ struct TestQuiz
         return FindWindow<Window>();
     }
 };
+
+/// Closes the result on screen and returns what it says of all answers; nothing when there is no result.
+inline QString CloseResult()
+{
+    auto *const result = FindWindow<CQuizResultDialog>();
+    const QString summary = result != nullptr ? Find<QLabel>(result, "summary")->text() : QString();
+    if (result != nullptr) {
+        result->reject();
+    }
+    return summary;
+}

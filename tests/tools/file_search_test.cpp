@@ -10,6 +10,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Search
@@ -39,7 +41,6 @@ struct Search
         return paths.join(u',');
     }
 };
-
 }
 
 class FileSearchTest : public QObject
@@ -47,122 +48,107 @@ class FileSearchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void patterns();
-    void aTreeWithEverythingOdd();
-    void whatIsShown();
-    void filters();
-    void stopped();
+    void patterns()
+    {
+        const auto match = [](const char *patterns, const char *name) {
+            return CFilePatterns(QString::fromUtf8(patterns)).Match(QString::fromUtf8(name));
+        };
+        QVERIFY(match("", "a.GLS") && match(" ; ", "a.gls") && !match("", "a.gls~") && !match("", "agls"));
+        QVERIFY(match("*.txt; *.GLS", "Å.gls") && match("*.*", "none") && match("*", ""));
+        QVERIFY(match("Å?B*c*.g", "åxbcxc.g") && !match("a?b", "ab") && !match("[ab].gls", "a.gls"));
+        QVERIFY(!match("*a*a*a*a*a*a*a*b", QByteArray(3000, 'a')));
+        const CFilePatterns both(u"*.gls;a*"_s);
+        QVERIFY(both.MatchAsGlossaryOnly(u"b.gls") && !both.MatchAsGlossaryOnly(u"a.gls"));
+    }
+
+    void aTreeWithEverythingOdd()
+    {
+        Search run;
+        const QString list = run.files.AddList(u"b.gls"_s, {u"c|C"_s});
+        run.files.AddFile(u"plain.gls"_s, "a\nb\n");
+        run.files.AddFile(u"plain.txt"_s, "a\nb\n");
+        run.files.AddFile(u"foreign.txt"_s, "WordQuiz\n[Vocabulary]\n1\n2\na\nb\n");
+        run.files.AddFile(u"not.gls"_s, "WordQuiz\n");
+        run.files.AddFile(u"empty.gls"_s, {});
+        run.files.AddFile(QFile::decodeName("no ending"), "Ordelin 2.3-micro\n");
+        run.files.AddList(u"sub/.hidden/x.gls"_s, {});
+        QVERIFY(QDir().mkpath(run.files.Path(u"folder.gls"_s)));
+        QCOMPARE(::mkfifo(qPrintable(run.files.Path(u"pipe.gls"_s)), 0600), 0);
+        QVERIFY(QFile::link(list, run.files.Path(u"sub/link.gls"_s)));
+        QVERIFY(QFile::link(run.files.Path(), run.files.Path(u"a"_s)));
+        QVERIFY(QFile::link(run.files.Path(u"gone"_s), run.files.Path(u"broken.gls"_s)));
+        // Glossary files of every kind; of the others only what is no plain text.
+        QCOMPARE(run.Run(), u"b.gls,sub/link.gls,sub/.hidden/x.gls"_s);
+        QCOMPARE(run.search->CountLine(), u"Hittade filer: 3. Filer och mappar som inte kunde läsas: 3."_s);
+        QCOMPARE(run.Run(u"*.txt;*.gls"_s), u"b.gls,foreign.txt,plain.txt,sub/link.gls,sub/.hidden/x.gls"_s);
+        run.search->values.searchSubDirectories = false;
+        QCOMPARE(run.Run(u"*.*"_s), u"b.gls,empty.gls,foreign.txt,no ending,plain.gls,plain.txt"_s);
+        QVERIFY(!run.test.allSettings.filesearch.searchSubDirectories);
+        // No folder: told, and what was found stays.
+        run.search->values.path = list;
+        QCOMPARE(run.Run().count(u','), 5);
+        QCOMPARE(run.test.prompt.numbers, QList<int>{Text::FolderMissing});
+        QCOMPARE(run.test.allSettings.filesearch.path, run.files.Path());
+    }
+
+    void whatIsShown()
+    {
+        Search run;
+        run.files.AddList(u"a.gls"_s, ManyEntries(u"x"_s, 9), u"Tyska|A|Å|"_s + QString(5000, u'x'));
+        run.files.AddList(u"b.gls"_s, ManyEntries(u"x"_s, 10), u"tyska|B|Ä"_s);
+        run.files.AddList(u"c.gls"_s, {}, u"Engelska|C|B"_s);
+        run.Run();
+        CFoundFilesOrder &found = run.search->Found();
+        const auto cell = [&](int row, int column) { return found.index(row, column).data().toString(); };
+        QCOMPARE(cell(0, CFoundFilesModel::Languages), u"Tyska - A"_s);
+        QCOMPARE(cell(0, CFoundFilesModel::Comments).size(), 1000);
+        QCOMPARE(cell(1, CFoundFilesModel::Path), run.files.Path(u"b.gls"_s));
+        QVERIFY(!cell(1, CFoundFilesModel::Date).isEmpty());
+        for (const int column :
+            {CFoundFilesModel::Author, CFoundFilesModel::Entries, CFoundFilesModel::Languages}) {
+            found.sort(column);
+            QCOMPARE(run.Found(), u"c.gls,a.gls,b.gls"_s);
+        }
+        found.sort(CFoundFilesModel::Entries, Qt::DescendingOrder);
+        QCOMPARE(run.Found(), u"b.gls,a.gls,c.gls"_s);
+        found.sort(-1);
+        QCOMPARE(run.Found(), u"a.gls,b.gls,c.gls"_s);
+    }
+
+    void filters()
+    {
+        Search run;
+        run.files.AddList(u"a.gls"_s, {u"c|C"_s}, u"Svenska|Tyska|Åke|Kapitel"_s);
+        run.files.AddList(u"b.gls"_s, ManyEntries(u"x"_s, 3), u"Tyska|Svenska"_s);
+        FileSearchSettings &values = run.search->values;
+        values.lang1 = u" svensk "_s;
+        QCOMPARE(run.Run(), u"a.gls,b.gls"_s);
+        values.useFilter = true;
+        QCOMPARE(run.Run(), u"a.gls"_s);
+        values.lang1.clear();
+        values.useMiniValue = true;
+        values.miniValue = 2;
+        QCOMPARE(run.Run(), u"b.gls"_s);
+        values.useMaxValue = true;
+        values.maxValue = 2;
+        QCOMPARE(run.Run(), QString());
+    }
+
+    void stopped()
+    {
+        Search run;
+        for (int i = 0; i < 50; ++i) {
+            run.files.AddList(u"%1/x.gls"_s.arg(i), ManyEntries(u"x"_s, 1000));
+        }
+        QVERIFY(run.search->Start());
+        QVERIFY(run.search->IsSearching() && !run.search->FolderLine().isEmpty());
+        run.search->Stop();
+        QVERIFY(!run.search->IsSearching() && run.search->FolderLine().isEmpty());
+        QCOMPARE(run.Run().count(u','), 49);
+        QVERIFY(run.search->Start());
+        run.search.reset();
+    }
 };
-
-void FileSearchTest::patterns()
-{
-    const auto match = [](const char *patterns, const char *name) {
-        return CFilePatterns(QString::fromUtf8(patterns)).Match(QString::fromUtf8(name));
-    };
-    QVERIFY(match("", "a.GLS") && match(" ; ", "a.gls") && !match("", "a.gls~") && !match("", "agls"));
-    QVERIFY(match("*.txt; *.GLS", "Å.gls") && match("*.*", "none") && match("*", ""));
-    QVERIFY(match("Å?B*c*.g", "åxbcxc.g") && !match("a?b", "ab") && !match("[ab].gls", "a.gls"));
-    QVERIFY(!match("*a*a*a*a*a*a*a*b", QByteArray(3000, 'a')));
-    const CFilePatterns both(QStringLiteral("*.gls;a*"));
-    QVERIFY(both.MatchAsGlossaryOnly(u"b.gls") && !both.MatchAsGlossaryOnly(u"a.gls"));
-}
-
-void FileSearchTest::aTreeWithEverythingOdd()
-{
-    Search run;
-    const QString list = run.files.AddList(QStringLiteral("b.gls"), {QStringLiteral("c|C")});
-    run.files.AddFile(QStringLiteral("plain.gls"), "a\nb\n");
-    run.files.AddFile(QStringLiteral("plain.txt"), "a\nb\n");
-    run.files.AddFile(QStringLiteral("foreign.txt"), "WordQuiz\n[Vocabulary]\n1\n2\na\nb\n");
-    run.files.AddFile(QStringLiteral("not.gls"), "WordQuiz\n");
-    run.files.AddFile(QStringLiteral("empty.gls"), {});
-    run.files.AddFile(QFile::decodeName("no ending"), "Ordelin 2.3-micro\n");
-    run.files.AddList(QStringLiteral("sub/.hidden/x.gls"), {});
-    QVERIFY(QDir().mkpath(run.files.Path(QStringLiteral("folder.gls"))));
-    QCOMPARE(::mkfifo(qPrintable(run.files.Path(QStringLiteral("pipe.gls"))), 0600), 0);
-    QVERIFY(QFile::link(list, run.files.Path(QStringLiteral("sub/link.gls"))));
-    QVERIFY(QFile::link(run.files.Path(), run.files.Path(QStringLiteral("a"))));
-    QVERIFY(QFile::link(run.files.Path(QStringLiteral("gone")), run.files.Path(QStringLiteral("broken.gls"))));
-    // Glossary files of every kind; of the others only what is no plain text.
-    QCOMPARE(run.Run(), QStringLiteral("b.gls,sub/link.gls,sub/.hidden/x.gls"));
-    QCOMPARE(
-        run.search->CountLine(), QStringLiteral("Hittade filer: 3. Filer och mappar som inte kunde läsas: 3."));
-    QCOMPARE(run.Run(QStringLiteral("*.txt;*.gls")),
-        QStringLiteral("b.gls,foreign.txt,plain.txt,sub/link.gls,sub/.hidden/x.gls"));
-    run.search->values.searchSubDirectories = false;
-    QCOMPARE(run.Run(QStringLiteral("*.*")),
-        QStringLiteral("b.gls,empty.gls,foreign.txt,no ending,plain.gls,plain.txt"));
-    QVERIFY(!run.test.allSettings.filesearch.searchSubDirectories);
-    // No folder: told, and what was found stays.
-    run.search->values.path = list;
-    QCOMPARE(run.Run().count(u','), 5);
-    QCOMPARE(run.test.prompt.numbers, QList<int>{Text::FolderMissing});
-    QCOMPARE(run.test.allSettings.filesearch.path, run.files.Path());
-}
-
-void FileSearchTest::whatIsShown()
-{
-    Search run;
-    const QString long_ = QString(5000, u'x');
-    run.files.AddList(
-        QStringLiteral("a.gls"), ManyEntries(QStringLiteral("x"), 9), QStringLiteral("Tyska|A|Å|") + long_);
-    run.files.AddList(
-        QStringLiteral("b.gls"), ManyEntries(QStringLiteral("x"), 10), QStringLiteral("tyska|B|Ä"));
-    run.files.AddList(QStringLiteral("c.gls"), {}, QStringLiteral("Engelska|C|B"));
-    run.Run();
-    CFoundFilesOrder &found = run.search->Found();
-    const auto cell = [&](int row, int column) { return found.index(row, column).data().toString(); };
-    QCOMPARE(cell(0, CFoundFilesModel::Languages), QStringLiteral("Tyska - A"));
-    QCOMPARE(cell(0, CFoundFilesModel::Comments).size(), 1000);
-    QCOMPARE(cell(1, CFoundFilesModel::Path), run.files.Path(QStringLiteral("b.gls")));
-    QVERIFY(!cell(1, CFoundFilesModel::Date).isEmpty());
-    for (const auto &[column, order] : {std::pair(CFoundFilesModel::Author, "c.gls,a.gls,b.gls"),
-             {CFoundFilesModel::Entries, "c.gls,a.gls,b.gls"},
-             {CFoundFilesModel::Languages, "c.gls,a.gls,b.gls"}}) {
-        found.sort(column);
-        QCOMPARE(run.Found(), QLatin1StringView(order));
-    }
-    found.sort(CFoundFilesModel::Entries, Qt::DescendingOrder);
-    QCOMPARE(run.Found(), QStringLiteral("b.gls,a.gls,c.gls"));
-    found.sort(-1);
-    QCOMPARE(run.Found(), QStringLiteral("a.gls,b.gls,c.gls"));
-}
-
-void FileSearchTest::filters()
-{
-    Search run;
-    run.files.AddList(
-        QStringLiteral("a.gls"), {QStringLiteral("c|C")}, QStringLiteral("Svenska|Tyska|Åke|Kapitel"));
-    run.files.AddList(
-        QStringLiteral("b.gls"), ManyEntries(QStringLiteral("x"), 3), QStringLiteral("Tyska|Svenska"));
-    FileSearchSettings &values = run.search->values;
-    values.lang1 = QStringLiteral(" svensk ");
-    QCOMPARE(run.Run(), QStringLiteral("a.gls,b.gls"));
-    values.useFilter = true;
-    QCOMPARE(run.Run(), QStringLiteral("a.gls"));
-    values.lang1.clear();
-    values.useMiniValue = true;
-    values.miniValue = 2;
-    QCOMPARE(run.Run(), QStringLiteral("b.gls"));
-    values.useMaxValue = true;
-    values.maxValue = 2;
-    QCOMPARE(run.Run(), QString());
-}
-
-void FileSearchTest::stopped()
-{
-    Search run;
-    for (int i = 0; i < 50; ++i) {
-        run.files.AddList(QStringLiteral("%1/x.gls").arg(i), ManyEntries(QStringLiteral("x"), 1000));
-    }
-    QVERIFY(run.search->Start());
-    QVERIFY(run.search->IsSearching() && !run.search->FolderLine().isEmpty());
-    run.search->Stop();
-    QVERIFY(!run.search->IsSearching() && run.search->FolderLine().isEmpty());
-    QCOMPARE(run.Run().count(u','), 49);
-    QVERIFY(run.search->Start());
-    run.search.reset();
-}
 
 QTEST_GUILESS_MAIN(FileSearchTest)
 #include "file_search_test.moc"
