@@ -16,12 +16,13 @@ ALLOWED = {
     "settings": {"platform", "resources"},
     "model": {"platform"},
     "fileformats": {"model", "platform"},
+    "dictionaries": {"model", "platform"},
     "document": DOCUMENT,
     "quiz": DOCUMENT,
     "games": DOCUMENT | {"quiz"},
-    "editor": DOCUMENT,
+    "editor": DOCUMENT | {"dictionaries"},
     "tools": DOCUMENT,
-    "shell": DOCUMENT | {"quiz", "games", "editor", "tools"},
+    "shell": DOCUMENT | {"dictionaries", "quiz", "games", "editor", "tools"},
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')

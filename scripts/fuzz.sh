@@ -7,7 +7,8 @@ cd "$(dirname "$0")/.."
 
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz >/dev/null
-for target in language_module_fuzzer pasted_data_fuzzer read_word_list_fuzzer settings_file_fuzzer term_syntax_fuzzer; do
+for source in fuzz/*_fuzzer.cpp; do
+    target=$(basename "$source" .cpp)
     mkdir -p "build/fuzz/found/$target"
     (
         cd build/fuzz

@@ -5,8 +5,8 @@
 # nothing when all of it is there.
 set -euo pipefail
 
-program=(g++ cmake ninja-build ccache python3 pkg-config qt6-base-dev libqt6svg6 qt6-wayland libicu-dev libgl-dev
-    libx11-dev libxtst-dev libcanberra-dev fonts-dejavu-core)
+program=(g++ cmake ninja-build ccache python3 pkg-config qt6-base-dev libqt6svg6 qt6-wayland libicu-dev zlib1g-dev
+    libgl-dev libx11-dev libxtst-dev libcanberra-dev fonts-dejavu-core)
 display=(xvfb openbox imagemagick xdotool)
 package=(debhelper dpkg-dev)
 checks=(clang clang-format clang-tidy libclang-rt-dev git
@@ -17,7 +17,7 @@ declare -n packages=${1:?"usage: setup.sh program|display|package|checks"}
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     cat >&2 <<EOF
 This system has no Debian packages, so nothing was installed. Needed are: a C++20 compiler, CMake 3.25, Ninja,
-Python 3, Qt 6.4 (base and SVG), ICU and libcanberra, with their development files; for pictures of windows without a
+Python 3, Qt 6.4 (base and SVG), ICU, zlib and libcanberra, with their development files; for pictures of windows without a
 display Xvfb, openbox, xdotool and ImageMagick; for the checks clang, clang-format and clang-tidy.
 EOF
     # What is needed may have come another way; a package takes Debian.

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "dictionaries/article.h"
+#include "dictionaries/dictionary.h"
+#include "require.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+void Write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    Require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+}
+
+/// Takes any bytes as the two files of a dictionary, one behind the other: the first byte says where the second
+/// begins, in parts of 255, and whether that is compressed.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    if (size == 0) {
+        return 0;
+    }
+    const QByteArray bytes(reinterpret_cast<const char *>(data + 1), qsizetype(size - 1));
+    const qsizetype cut = bytes.size() * data[0] / 255;
+    Require(TranslationsIn(bytes).size() <= 30);
+    static const QTemporaryDir folder;
+    const QString index = folder.filePath(QStringLiteral("d.index"));
+    const QString text =
+        folder.filePath(data[0] % 2 == 0 ? QStringLiteral("d.dict.dz") : QStringLiteral("d.dict"));
+    Write(index, bytes.first(cut));
+    Write(text, bytes.sliced(cut));
+    CDictionary dictionary;
+    if (dictionary.Open(index, text)) {
+        dictionary.Translate(QStringLiteral("a*b*horse*a horse"));
+        for (const DictionaryEntry &entry : dictionary.TranslateBeginning(QStringLiteral("a"), 10)) {
+            Require(entry.translations.size() <= 50);
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+/// Knows the languages of the world by their names in Swedish, in English and in themselves (Unicode CLDR).
+class CLanguageNames
+{
+public:
+    CLanguageNames();
+
+    /// The code (ISO 639-3) of a language; empty when it is not known. `name` is a name as users write it, of
+    /// which the first word may be enough ("engelska (brittisk)"), or a code of two or three letters.
+    QString CodeOf(const QString &name) const;
+
+private:
+    QHash<QString, QString> m_codes; // By names in small letters.
+};

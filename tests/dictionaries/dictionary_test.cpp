@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "dictionaries/dictionary.h"
+
+#include "dictionaries/article.h"
+#include "dictionaries/installed_dictionaries.h"
+#include "platform/language_names.h"
+#include "support/files.h"
+
+#include <QTest>
+
+#include <zlib.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Article = std::pair<QByteArray, QByteArray>; // What the index calls it, and its text.
+
+QByteArray Base64Number(qint64 number)
+{
+    const char *const alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    QByteArray digits;
+    do {
+        digits.prepend(alphabet[number % 64]);
+        number /= 64;
+    } while (number > 0);
+    return digits;
+}
+
+void AppendNumber(QByteArray &bytes, int number)
+{
+    bytes.append(char(number % 256)).append(char(number / 256));
+}
+
+QByteArray Compressed(QByteArray text, int pieceSize)
+{
+    QByteArray pieces;
+    QByteArray sizes;
+    z_stream stream = {};
+    deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, -MAX_WBITS, 8, Z_DEFAULT_STRATEGY);
+    for (qsizetype start = 0; start < text.size(); start += pieceSize) {
+        QByteArray piece(2 * pieceSize + 100, Qt::Uninitialized);
+        stream.next_in = reinterpret_cast<Bytef *>(text.data() + start);
+        stream.avail_in = uInt(std::min<qsizetype>(pieceSize, text.size() - start));
+        stream.next_out = reinterpret_cast<Bytef *>(piece.data());
+        stream.avail_out = uInt(piece.size());
+        deflate(&stream, Z_FULL_FLUSH);
+        piece.chop(stream.avail_out);
+        AppendNumber(sizes, int(piece.size()));
+        pieces += piece;
+    }
+    deflateEnd(&stream);
+    QByteArray field;
+    AppendNumber(field, 1);
+    AppendNumber(field, pieceSize);
+    AppendNumber(field, int(sizes.size() / 2));
+    field += sizes;
+    QByteArray extra = "XX"_ba;
+    AppendNumber(extra, 3);
+    extra += "abcRA";
+    AppendNumber(extra, int(field.size()));
+    extra += field;
+    QByteArray file("\x1F\x8B\x08\x0C\0\0\0\0\0\3", 10);
+    AppendNumber(file, int(extra.size()));
+    return file + extra + QByteArray("name.dict\0", 10) + pieces;
+}
+
+class CDictionaryFiles
+{
+public:
+    explicit CDictionaryFiles(const QList<Article> &articles, int pieceSize = 0)
+    {
+        for (const auto &[headword, article] : articles) {
+            index += headword + '\t' + Base64Number(text.size()) + '\t' + Base64Number(article.size()) + '\n';
+            text += article;
+        }
+        if (pieceSize > 0) {
+            text = Compressed(text, pieceSize);
+            suffix = u".dict.dz"_s;
+        }
+    }
+    bool OpenIn(CDictionary &dictionary)
+    {
+        const QString base = m_folder.filePath(u"d"_s);
+        return dictionary.Open(WriteFile(base + u".index"_s, index), WriteFile(base + suffix, text));
+    }
+
+    QByteArray index;
+    QByteArray text;
+    QString suffix = u".dict"_s;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+const QList<Article> Animals = {{"00databaseshort", "00-database-short\n An animal dictionary\n"},
+    {"horse", "Horse /hɔːs/ <n>\n1. häst, hingst\n2. bock\n"},
+    {"horse", "horse /hɔːs/ <v>\n rida [ngt], häst\n"}, {"horsefly", "horse-fly /ˈhɔːsflaɪ/\nbroms (insekt)\n"},
+    {"ox", "ox\n"}, {"österut", "österut\neastwards\n"}};
+
+QStringList Headwords(const std::vector<DictionaryEntry> &entries)
+{
+    QStringList headwords;
+    for (const DictionaryEntry &entry : entries) {
+        headwords.append(entry.headword + u'=' + entry.translations.join(u'/'));
+    }
+    return headwords;
+}
+
+}
+
+class DictionaryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void articles()
+    {
+        const QByteArray article = "ab /ˈap/ ([+ dat]) <prep>\n"
+                                   " [adm.] from <prep>, as from/of <prep> [formal]\n"
+                                   "      \"ab dem Jahr 1990\"  - as from 1990, as of 1990\n"
+                                   "   Synonyms: {Einrichtung}, {Institution}\n\n see: {ab 1990}\n\n"
+                                   "         Note: zeitlich\n2. ex;  From, from\n3.   Note: räumlich\n";
+        QCOMPARE(TranslationsIn(article), QStringList({u"from"_s, u"as from/of"_s, u"ex"_s, u"From"_s}));
+        QCOMPARE(HeadwordOf(article), u"ab"_s);
+        QVERIFY(TranslationsIn("").isEmpty() && TranslationsIn("only a headword").isEmpty());
+        QVERIFY(TranslationsIn("a\n" + QByteArray("b,", 20000).repeated(10)).size() <= 30);
+    }
+
+    void lookedUp_data()
+    {
+        QTest::addColumn<int>("pieceSize");
+        QTest::newRow("plain") << 0;
+        QTest::newRow("articles cut in pieces") << 7;
+        QTest::newRow("one piece") << 60000;
+    }
+    void lookedUp()
+    {
+        QFETCH(int, pieceSize);
+        CDictionaryFiles files(Animals, pieceSize);
+        CDictionary dictionary;
+        QVERIFY(files.OpenIn(dictionary));
+        QCOMPARE(dictionary.Translate(u"HORSE [animal] * Österut"_s),
+            QStringList({u"häst"_s, u"hingst"_s, u"bock"_s, u"rida"_s, u"eastwards"_s}));
+        QCOMPARE(dictionary.Translate(u"horse"_s), QStringList({u"rida"_s, u"häst"_s, u"hingst"_s, u"bock"_s}));
+        QCOMPARE(dictionary.Translate(u"a horse-fly"_s), QStringList(u"broms"_s));
+        QVERIFY(dictionary.Translate(u"hors"_s).isEmpty() && dictionary.Translate(u"ox"_s).isEmpty());
+        QVERIFY(dictionary.Translate({}).isEmpty() && dictionary.Translate(u"zz"_s).isEmpty());
+        QCOMPARE(Headwords(dictionary.TranslateBeginning(u"hor"_s, 10)),
+            QStringList({u"Horse=häst/hingst/bock"_s, u"horse=rida/häst"_s, u"horse-fly=broms"_s}));
+        QCOMPARE(dictionary.TranslateBeginning(u"hor"_s, 1).size(), size_t(1));
+        QVERIFY(dictionary.TranslateBeginning(u"00"_s, 10).empty());
+    }
+
+    void anotherOrder()
+    {
+        // As sorted without regard to case and hyphens.
+        CDictionaryFiles files({{"B", "B\nb\n"}, {"a-b", "a-b\nab\n"}, {"AC", "AC\nac\n"}});
+        CDictionary dictionary;
+        QVERIFY(files.OpenIn(dictionary));
+        QCOMPARE(dictionary.Translate(u"ab*ac*b"_s), QStringList({u"ab"_s, u"ac"_s, u"b"_s}));
+        // In the order of its bytes, with capital letters and all characters.
+        CDictionaryFiles all({{"C++", "C++\nspråk\n"}, {"c", "c\nton\n"}});
+        QVERIFY(all.OpenIn(dictionary));
+        QCOMPARE(dictionary.Translate(u"C++"_s), QStringList({u"ton"_s, u"språk"_s}));
+    }
+
+    void damagedFiles()
+    {
+        CDictionary dictionary;
+        for (const QByteArray &index : {QByteArray(), QByteArray("no tabulators\n"), QByteArray("a\t!\tB\n"),
+                 QByteArray("a\tB\tAAAAAAAAAAAA\n"), QByteArray(100000, 'a'), QByteArray(10, '\0')}) {
+            CDictionaryFiles files(Animals);
+            files.index = index;
+            QVERIFY2(!files.OpenIn(dictionary), index.left(20).constData());
+        }
+        for (const QByteArray &header : {QByteArray(), QByteArray("\x1F\x8B\x08\0\0\0\0\0\0\3AAAA", 14),
+                 QByteArray("\x1F\x8B\x08\4\0\0\0\0\0\3\xFF\xFF", 12),
+                 QByteArray("plain text, not compressed")}) {
+            CDictionaryFiles files(Animals, 7);
+            files.text = header;
+            QVERIFY2(!files.OpenIn(dictionary), header.left(20).constData());
+        }
+        // Places outside the file, and articles as long as a file of terabytes.
+        CDictionaryFiles wrong(Animals);
+        wrong.index = "horse\t////////\tG\nhorse\tA\t////////\nox\tA\tB\n";
+        QVERIFY(wrong.OpenIn(dictionary));
+        QVERIFY(dictionary.Translate(u"horse"_s).isEmpty());
+        // A piece that would become far more text than a piece is, and one that ends in the middle.
+        CDictionaryFiles bomb(Animals, 7);
+        const QByteArray zeros = Compressed(QByteArray(60000, '\0'), 60000);
+        bomb.text = zeros;
+        bomb.text.replace(QByteArray("\x60\xEA"), QByteArray("\x07\0", 2));
+        QVERIFY(bomb.OpenIn(dictionary));
+        QVERIFY(dictionary.Translate(u"horse"_s).isEmpty());
+        CDictionaryFiles cut(Animals, 7);
+        cut.text.chop(cut.text.size() / 3);
+        QVERIFY(cut.OpenIn(dictionary));
+        QVERIFY(dictionary.Translate(u"österut"_s).isEmpty());
+    }
+
+    void installed()
+    {
+        QTemporaryDir folder;
+        for (const char *const name : {"freedict-eng-swe.index", "freedict-eng-swe.dict.dz", "swe-eng.index",
+                 "swe-eng.dict", "wn.index", "wn.dict", "alone.index", "other/freedict-eng-swe.index",
+                 "other/freedict-eng-swe.dict", "other/de-sv.index", "other/de-sv.dict"}) {
+            QVERIFY(!WriteFile(folder.filePath(QString::fromLatin1(name)), "x").isEmpty());
+        }
+        const CLanguageNames languages;
+        const auto found = FindDictionaries(
+            {folder.path(), folder.filePath(u"none"_s), folder.filePath(u"other"_s)}, languages);
+        QStringList names;
+        for (const InstalledDictionary &dictionary : found) {
+            names.append(dictionary.name + u':' + dictionary.from + u'>' + dictionary.to);
+        }
+        QCOMPARE(names.join(u' '), u"de-sv:deu>swe freedict-eng-swe:eng>swe swe-eng:swe>eng wn:>"_s);
+        QCOMPARE(found.at(1).text, folder.filePath(u"freedict-eng-swe.dict.dz"_s));
+        QCOMPARE(DictionaryFor(found, languages, u" Engelska (brittisk) "_s, u"svenska"_s), &found.at(1));
+        QCOMPARE(DictionaryFor(found, languages, u"Swedish"_s, u"English"_s), &found.at(2));
+        QCOMPARE(DictionaryFor(found, languages, u"Deutsch"_s, u"sv"_s), &found.at(0));
+        QCOMPARE(DictionaryFor(found, languages, u"Franska"_s, u"Svenska"_s), nullptr);
+        QCOMPARE(DictionaryFor(found, languages, u"Kapitel 3"_s, u""_s), nullptr);
+    }
+};
+
+QTEST_GUILESS_MAIN(DictionaryTest)
+#include "dictionary_test.moc"
