@@ -6,6 +6,7 @@
 #include "document/recent_files.h"
 #include "document/text_numbers.h"
 #include "document/win32_doc.h"
+#include "fileformats/formats.h"
 #include "platform/file_chooser.h"
 #include "platform/file_name.h"
 #include "platform/plain_text.h"
@@ -80,9 +81,8 @@ bool CFileCommands::Open()
     if (!MayDiscard()) {
         return false;
     }
-    const QString path = m_chooser.ChooseFileToOpen({.title = m_texts.Get(Text::OpenTitle),
-        .filters = FileFilters(m_texts.Get(Text::OpenFilters)),
-        .start = StartFolder()});
+    const QString path = m_chooser.ChooseFileToOpen(
+        {.title = m_texts.Get(Text::OpenTitle), .filters = OpenFilters(m_texts), .start = StartFolder()});
     if (path.isEmpty()) {
         return false;
     }
@@ -160,7 +160,7 @@ bool CFileCommands::DoSave(const QString &path, bool replace)
                                                          : m_document.Name();
         target = m_chooser
                      .ChooseFileToSave({.title = m_texts.Get(replace ? Text::SaveAsTitle : Text::SaveCopyTitle),
-                         .filters = FileFilters(m_texts.Get(Text::OpenFilters)).mid(0, 1),
+                         .filters = FormatFilters(FormatsToStayIn(), m_texts),
                          .start = QDir(StartFolder()).filePath(name),
                          .defaultSuffix = QStringLiteral("gls")})
                      .path;

@@ -16,6 +16,12 @@ inline int ReadMessage(ReadResult result)
         return Text::FileTooLarge;
     case ReadResult::LineTooLong:
         return Text::LineTooLong;
+    case ReadResult::Binary:
+        return Text::NoText;
+    case ReadResult::Damaged:
+        return Text::FileDamaged;
+    case ReadResult::NothingChosen:
+        return Text::NothingChosenOfFile;
     case ReadResult::NewerVersion:
         return Text::NewerVersion;
     case ReadResult::PlainText:

@@ -27,5 +27,8 @@ inline constexpr int SaveAsTitle = 70138;
 inline constexpr int OverwriteForeignChange = 70160;
 inline constexpr int RecoverChanges = 70161;
 inline constexpr int SaveCopyTitle = 70163;
+inline constexpr int NoText = 70187;
+inline constexpr int FileDamaged = 70188;
+inline constexpr int NothingChosenOfFile = 70189;
 
 }

@@ -4,7 +4,7 @@
 #include "document/list_placeholders.h"
 #include "document/read_message.h"
 #include "document/text_numbers.h"
-#include "fileformats/word_list_file.h"
+#include "fileformats/formats.h"
 #include "platform/file_name.h"
 #include "platform/local_formats.h"
 #include "platform/plain_text.h"
@@ -195,20 +195,20 @@ bool CWin32Doc::Open(const QString &file, bool asCopy)
     const FileStamp stamp = FileStamp::Of(path); // Before it is read, so that a change meanwhile is one.
     DeleteContents();
     CWordList list = List();
-    const ReadResult result = ReadWordListFile(list, path);
-    const bool own = result == ReadResult::Read || result == ReadResult::ReadLossy;
-    // Without a path, saving asks for a name: a newer file is not overwritten by an older layout, nor a text
-    // file.
+    const FormatReading reading = ReadListFile(list, path);
+    const bool own = reading.MayBeSavedOver();
+    // Without a path, saving asks for a name: a newer file is not overwritten by an older layout, nor one of a
+    // format that holds less.
     const bool hasFile = own && !asCopy;
     Replace(std::move(list), hasFile ? path : QString(), hasFile ? stamp : FileStamp());
-    if (own) {
-        return true;
-    }
-    if (IsRefused(result)) {
-        m_services.prompt.Tell(m_services.texts.Prompt(ReadMessage(result), {path}), PromptIcon::Error);
+    const int message = ReadMessage(reading.result);
+    if (IsRefused(reading.result)) {
+        m_services.prompt.Tell(m_services.texts.Prompt(message, {path}), PromptIcon::Error);
         return false;
     }
-    m_services.prompt.Tell(m_services.texts.Prompt(ReadMessage(result)), PromptIcon::Warning);
+    if (message != 0) {
+        m_services.prompt.Tell(m_services.texts.Prompt(message), PromptIcon::Warning);
+    }
     return true;
 }
 

@@ -28,7 +28,9 @@ FileImport CFileImport::ImportFile(const QString &path, const KeepGoing &keepGoi
 {
     CWordList file;
     FileImport outcome;
-    outcome.read = ReadWordListFile(file, path, &keepGoing);
+    const FormatReading reading = ReadListFile(file, path, {.keepGoing = &keepGoing});
+    outcome.read = reading.result;
+    outcome.losses = reading.losses;
     if (IsRefused(outcome.read)) {
         return outcome;
     }

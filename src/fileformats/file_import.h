@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "fileformats/word_list_file.h"
+#include "fileformats/formats.h"
 #include "fileformats/word_list_filter.h"
 #include "model/word_list.h"
 
@@ -37,6 +37,7 @@ struct FileImport
     ImportResult result = ImportResult::Bad;
     ReadResult read = ReadResult::CannotOpen;
     FileFault fault = FileFault::None;
+    FormatLosses losses = {}; ///< What its reader could not take.
     int importedEntries = 0;
     int ignoredEntries = 0;
 };

@@ -4,6 +4,20 @@
 #include "fileformats/glossary_version.h"
 #include "fileformats/text_file_reader.h"
 
+std::optional<ReadResult> FailureOf(const CTextFileReader &reader, int entries)
+{
+    if (reader.Failed()) {
+        return ReadResult::CannotOpen;
+    }
+    if (reader.LineTooLong()) {
+        return ReadResult::LineTooLong;
+    }
+    if (entries > FileLimits::MostEntries) {
+        return ReadResult::TooLarge;
+    }
+    return std::nullopt;
+}
+
 int CountRecords(CTextFileReader &reader, const GlossaryVersion &version, const KeepGoing *keepGoing)
 {
     int count = 0;

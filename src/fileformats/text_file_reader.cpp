@@ -22,7 +22,18 @@ bool CTextFileReader::Open(const QString &path)
 
 void CTextFileReader::Open(QIODevice &device)
 {
+    Open(device, false);
+}
+
+void CTextFileReader::OpenUtf8(QIODevice &device)
+{
+    Open(device, true);
+}
+
+void CTextFileReader::Open(QIODevice &device, bool isValidUtf8)
+{
     m_device = &device;
+    m_isValidUtf8 = isValidUtf8;
     m_size = device.size();
     m_lossy = false;
     Rewind();
@@ -49,6 +60,11 @@ void CTextFileReader::Rewind()
 void CTextFileReader::Detect()
 {
     m_device->seek(0);
+    if (m_isValidUtf8) {
+        m_encoding = TextEncoding::Utf8;
+        m_bytesLeft = m_size;
+        return;
+    }
     const QByteArray start = m_device->read(std::min<qint64>(3, m_size));
     qint64 markSize = 0;
     m_encoding = TextEncoding::Ansi;
@@ -124,6 +140,15 @@ void CTextFileReader::DecodeUtf8(const uchar *bytes, qsizetype count)
         qsizetype used = 1;
         if (length == 0) {
             unit = bytes[i];
+        } else if (length == 4 && m_isValidUtf8) {
+            if (i + length > count) {
+                break;
+            }
+            used = length;
+            const char32_t character = (bytes[i] & 0x07U) << 18 | (bytes[i + 1] & 0x3FU) << 12
+                | (bytes[i + 2] & 0x3FU) << 6 | (bytes[i + 3] & 0x3FU);
+            m_units[size_t(m_count++)] = QChar::highSurrogate(character);
+            unit = QChar::lowSurrogate(character);
         } else if (length == 2 || length == 3) {
             if (i + length > count) {
                 break;

@@ -28,6 +28,9 @@ public:
     [[nodiscard]] bool Open(const QString &path);
     /// Reads from an open, random-access device, which the caller keeps.
     void Open(QIODevice &device);
+    /// The same of a text without a mark that is known to be valid UTF-8; characters beyond U+FFFF are read
+    /// too.
+    void OpenUtf8(QIODevice &device);
     bool IsOpen() const { return m_device != nullptr && m_device->isOpen(); }
     void Close();
     /// Back to the first line.
@@ -53,6 +56,7 @@ public:
     bool ReadNarrowLine(QByteArray &line);
 
 private:
+    void Open(QIODevice &device, bool isValidUtf8);
     void Detect();
     /// Decodes the next piece of the file behind what is not yet read, which moves to the start of the buffer.
     /// Returns false at the end.
@@ -79,4 +83,5 @@ private:
     bool m_lineTooLong = false;
     bool m_atStart = true;
     bool m_lossy = false;
+    bool m_isValidUtf8 = false;
 };

@@ -23,13 +23,18 @@ enum class ReadResult {
     TooLarge = 5,
     /// Refused: a line longer than CTextFileReader reads.
     LineTooLong = 6,
+    /// Refused: no text but a picture, a sound, a packed file or the like.
+    Binary = 7,
+    /// Refused: the file breaks the rules of its format.
+    Damaged = 8,
+    /// Refused: too much to be read whole; nothing was chosen of it.
+    NothingChosen = 9,
 };
 
 /// Whether nothing was read, so that there is no list to show.
 constexpr bool IsRefused(ReadResult result)
 {
-    return result == ReadResult::CannotOpen || result == ReadResult::TooLarge
-        || result == ReadResult::LineTooLong;
+    return result == ReadResult::CannotOpen || result >= ReadResult::TooLarge;
 }
 
 /// What is opened at most, so that a file that is no list can't take all memory and time.

@@ -2,6 +2,7 @@
 #include "fileformats/foreign_reader.h"
 #include "fileformats/glossary_reader.h"
 #include "fileformats/glossary_version.h"
+#include "fileformats/reading.h"
 #include "fileformats/text_file_reader.h"
 #include "fileformats/word_list_file.h"
 #include "fileformats/word_list_filter.h"
@@ -9,7 +10,6 @@
 
 #include <algorithm>
 #include <new>
-#include <optional>
 
 namespace {
 
@@ -58,21 +58,6 @@ ReadResult Dispatch(Reading &reading, CTextFileReader &reader)
     return ReadResult::PlainText;
 }
 
-/// What became of the reading when it did not reach the end.
-std::optional<ReadResult> Failure(int entries, const CTextFileReader &reader)
-{
-    if (reader.Failed()) {
-        return ReadResult::CannotOpen;
-    }
-    if (reader.LineTooLong()) {
-        return ReadResult::LineTooLong;
-    }
-    if (entries > FileLimits::MostEntries) {
-        return ReadResult::TooLarge;
-    }
-    return std::nullopt;
-}
-
 /// Half a file is not taken for a whole one: saving it would lose the rest.
 ReadResult ReadAll(Reading &reading, CTextFileReader &reader)
 {
@@ -80,7 +65,7 @@ ReadResult ReadAll(Reading &reading, CTextFileReader &reader)
     if (reader.Size() <= FileLimits::MostBytes) {
         try {
             result = Dispatch(reading, reader);
-            result = Failure(reading.Entries(), reader).value_or(result);
+            result = FailureOf(reader, reading.Entries()).value_or(result);
         } catch (const std::bad_alloc &) {
             result = ReadResult::TooLarge;
         }

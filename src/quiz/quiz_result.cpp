@@ -3,6 +3,7 @@
 
 #include "document/file_filters.h"
 #include "document/win32_doc.h"
+#include "fileformats/formats.h"
 #include "fileformats/text_file_writer.h"
 #include "platform/file_chooser.h"
 #include "platform/file_name.h"
@@ -146,7 +147,7 @@ void CQuizResult::saveMistakes()
     const QString suffix = QStringLiteral("gls");
     const QString path = m_services.chooser
                              .ChooseFileToSave({.title = texts.Get(Text::SaveMistakesTitle),
-                                 .filters = FileFilters(texts.Get(Text::OpenFilters)).mid(0, 1),
+                                 .filters = FormatFilters(FormatsToStayIn(), texts),
                                  .start = proposedFile(Text::MistakesFileName, suffix),
                                  .defaultSuffix = suffix})
                              .path;

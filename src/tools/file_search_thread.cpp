@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/file_search_thread.h"
 
-#include "fileformats/word_list_file.h"
+#include "fileformats/formats.h"
 #include "platform/file_stamp.h"
 #include "platform/plain_text.h"
 #include "tools/file_patterns.h"
@@ -26,14 +26,14 @@ bool CFileSearchThread::LookAt(
     const QString &path, bool plainTextCounts, const std::optional<CWordListFilter> &filter)
 {
     WordListSummary summary;
-    const ReadResult result = ReadWordListSummary(summary, path, &KeepRunning());
+    const FormatReading reading = ReadListSummary(summary, path, {.keepGoing = &KeepRunning()});
     if (!IsRunning()) {
         return true; // Not counted to the end.
     }
-    if (IsRefused(result)) {
+    if (IsRefused(reading.result)) {
         return false;
     }
-    if ((result == ReadResult::PlainText && !plainTextCounts)
+    if ((!plainTextCounts && reading.format != nullptr && reading.format->IsText())
         || (filter && filter->FaultOf(summary) != FileFault::None)) {
         return true;
     }

@@ -40,7 +40,7 @@ void CImporting::ChooseFiles(IFileChooser &chooser)
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString folder = m_document.Path().isEmpty() ? documents : QFileInfo(m_document.Path()).path();
     const QStringList files = chooser.ChooseFilesToOpen({.title = m_texts.Get(Text::ImportChooseTitle),
-        .filters = FileFilters(m_texts.Get(Text::OpenFilters)),
+        .filters = OpenFilters(m_texts),
         .start = FirstGiven(m_lastFolder, folder)});
     if (!files.isEmpty()) {
         m_lastFolder = QFileInfo(files.first()).path();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/ui/file_search_window.h"
 
+#include "fileformats/formats.h"
 #include "platform/file_chooser.h"
 #include "platform/local_formats.h"
 #include "platform/plain_text.h"
@@ -136,7 +137,12 @@ QWidget *CFileSearchWindow::MakeFields()
     type->setAccessibleName(CaptionReadOut(typeLabel->text()));
     type->setEditable(true);
     type->setInsertPolicy(QComboBox::NoInsert);
-    type->addItems({QStringLiteral("*.gls"), QStringLiteral("*.txt"), QStringLiteral("*.*")});
+    for (const Format *const format : FormatsToOpen()) {
+        if (!format->suffixes.empty()) {
+            type->addItem(PatternsOf(*format).join(u';'));
+        }
+    }
+    type->addItem(QStringLiteral("*.*"));
     type->setCurrentText(values.filetype);
     typeLabel->setBuddy(type);
     connect(
