@@ -47,7 +47,7 @@ public:
     virtual int currentEntry() const = 0;
     bool mayChangeEntries() const { return m_start.settings.allowChanges && session()->roundSize() > 0; }
     /// After entries of the list were changed.
-    void entriesChanged() { m_start.session->recheckAll(); }
+    virtual void entriesChanged() { m_start.session->recheckAll(); }
     /// The file to play after an answer; empty for silence.
     QString sound(AnswerVerdict verdict, const QStringList &dataFolders) const;
 

@@ -12,7 +12,7 @@ const std::array<QuizKindRow, QuizSettings::KindCount> &quizKinds()
         {QuizKind::PairMatching, 32860, "ordelin-quiz-pairs", 2, QuizAnswers::AreJudged},
         {QuizKind::WordContest, 32861, "ordelin-quiz-contest", 1, QuizAnswers::AreJudged},
         {QuizKind::FallingWords, 32862, "ordelin-quiz-falling", 1, QuizAnswers::AreJudged},
-        {QuizKind::Memory, 32863, "ordelin-quiz-memory", 1, QuizAnswers::AreShown},
+        {QuizKind::Memory, 32863, "ordelin-quiz-memory", 1, QuizAnswers::AreJudged},
     }};
     return Kinds;
 }

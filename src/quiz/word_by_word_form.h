@@ -10,13 +10,13 @@ class CWordByWordForm : public CQuizForm
 public:
     int currentEntry() const override { return session()->entryOfRound(m_roundPosition); }
     int roundPosition() const { return m_roundPosition; }
-    QString question() const;
+    virtual QString question() const;
     std::optional<QuizProgress> wordProgress() const override;
 
     /// What there is to show after a step.
     enum class Next { SameWord, OtherWord, Over };
     /// Goes on after an answer: to the next word, the same one asked again, or the next round.
-    Next advance(AnswerVerdict verdict);
+    virtual Next advance(AnswerVerdict verdict);
     /// Goes on without recording an answer.
     Next skip();
 

@@ -3,8 +3,8 @@
 
 #include "document/text_numbers.h"
 #include "editor/text_numbers.h"
+#include "games/text_numbers.h"
 #include "platform/user_prompt.h"
-#include "quiz/text_numbers.h"
 #include "settings/text_numbers.h"
 #include "shell/text_numbers.h"
 #include "tools/text_numbers.h"
@@ -40,6 +40,7 @@ inline const QList<PromptForm> &PromptForms()
         {Text::ReadAsPlainText, Warning},
         {Text::NewerVersion, Warning},
         {Text::FlagLimitsContradict, Information},
+        {Text::TimeIsUp, Information},
         {Text::ReallyEndQuiz, Question, YesNoCancel, No},
         {Text::ReallyAssociate, Information, YesNoCancel, Yes},
         {Text::ReallyReset, Information, YesNoCancel, No},

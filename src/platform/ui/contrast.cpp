@@ -39,3 +39,13 @@ QColor QuietText(const QColor &text, const QColor &background, double share)
     }
     return quiet;
 }
+
+QColor MarkColour(const QColor &colour, const QColor &text, const QColor &background)
+{
+    constexpr double Step = 0.1;
+    QColor mark = colour;
+    for (double share = Step; share <= 1 && Contrast(mark, background) < MarkContrast; share += Step) {
+        mark = Mixed(colour, text, share);
+    }
+    return mark;
+}

@@ -15,3 +15,6 @@ QColor Mixed(const QColor &a, const QColor &b, double shareOfB);
 
 /// `text` moved towards its background, as far as `share` says and the contrast of text allows.
 QColor QuietText(const QColor &text, const QColor &background, double share);
+
+/// `colour` moved towards that of text, as far as a mark on the background needs it.
+QColor MarkColour(const QColor &colour, const QColor &text, const QColor &background);

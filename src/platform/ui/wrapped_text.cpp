@@ -11,10 +11,11 @@ namespace {
 
 /// Lays a text out line by line and returns its height. `line` gets each line, and what is above it.
 qreal LayOut(const QString &text, const QFont &font, int width,
-    const std::function<void(const QTextLine &line, qreal top)> &line = {})
+    const std::function<void(const QTextLine &line, qreal top)> &line = {},
+    Qt::Alignment alignment = Qt::AlignLeading)
 {
     qreal top = 0;
-    QTextOption option;
+    QTextOption option(alignment);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     for (const QString &paragraph : text.split(u'\n')) {
         QTextLayout layout(paragraph, font);
@@ -53,6 +54,17 @@ int NaturalWidth(const QString &text, const QFont &font, int most)
         width = std::max(width, int(std::ceil(line.naturalTextWidth())) + 1);
     });
     return std::min(width, most);
+}
+
+void DrawWrapped(
+    QPainter &painter, const QString &text, const QFont &font, const QRect &room, Qt::Alignment alignment)
+{
+    LayOut(
+        text, font, room.width(),
+        [&](const QTextLine &line, qreal top) {
+            line.draw(&painter, QPointF(room.topLeft()) + QPointF(0, top - line.y()));
+        },
+        alignment);
 }
 
 CWrappedText::CWrappedText(const QString &text, QWidget *parent) : QLabel(parent)

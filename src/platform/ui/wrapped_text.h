@@ -12,6 +12,9 @@ int WrappedHeight(const QString &text, const QFont &font, int width);
 void PaintWrapped(QPainter &painter, const QString &text, const QFont &font, const QRect &place);
 /// The width of its longest paragraph on one line, or `most` when that is less.
 int NaturalWidth(const QString &text, const QFont &font, int most);
+/// Draws it from the top of a room on, in its width.
+void DrawWrapped(
+    QPainter &painter, const QString &text, const QFont &font, const QRect &room, Qt::Alignment alignment);
 
 /// A label that shows such a text to its end, however long its words are. Its height follows from its width.
 class CWrappedText : public QLabel

@@ -163,7 +163,7 @@ bool CQuizDialog::pressesButton(const QKeyEvent &key)
 
 void CQuizDialog::speak(const QString &text)
 {
-    const QString verdict = std::exchange(m_verdict, {});
+    const QString verdict = takeUnspokenVerdict();
     const QString end = verdict.isEmpty() || text.isEmpty() ? QString()
         : verdict.endsWith(u'.')                            ? QStringLiteral(" ")
                                                             : QStringLiteral(". ");

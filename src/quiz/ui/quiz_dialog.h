@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 class CInputGuardFilter;
 class CSpokenText;
@@ -77,8 +78,9 @@ public:
     /// Asks first; only Yes closes the window, and the result is then Rejected.
     void reject() override;
     QSize sizeHint() const override;
-    /// How the last answer or round was, while it has not been read out: no question followed.
-    const QString &unspokenVerdict() const { return m_verdict; }
+    /// How the last answer or round was, where it has not been read out, since no question followed. Whoever
+    /// takes it reads it out.
+    QString takeUnspokenVerdict() { return std::exchange(m_verdict, {}); }
 
 protected:
     /// `form` must live as long as the window.

@@ -91,7 +91,7 @@ void CQuizLaunch::quizClosed()
     const QRect normal = m_dialog->normalGeometry();
     rememberSize(m_services.windowSizes, m_kind, normal.isValid() ? normal.size() : m_dialog->size());
     m_services.host.ShowMainWindow(true);
-    const QString unspoken = m_dialog->unspokenVerdict();
+    const QString unspoken = m_dialog->takeUnspokenVerdict();
     // The window is in the middle of closing itself.
     m_dialog.release()->deleteLater();
     if (m_services.settings.showResult && m_session->totalRight() + m_session->totalWrong() > 0) {
