@@ -54,5 +54,5 @@ void DrawFitted(QPainter &painter, const FittedText &fitted, const QRect &room)
     const QSize size = SizeOf(fitted, room.size());
     QRect place({}, QSize(room.width(), size.height()));
     place.moveCenter(room.center());
-    DrawWrapped(painter, fitted.text, fitted.font, place, Qt::AlignHCenter);
+    PaintWrapped(painter, fitted.text, fitted.font, place, Qt::AlignHCenter);
 }

@@ -40,11 +40,15 @@ int WrappedHeight(const QString &text, const QFont &font, int width)
     return int(std::ceil(LayOut(text, font, width)));
 }
 
-void PaintWrapped(QPainter &painter, const QString &text, const QFont &font, const QRect &place)
+void PaintWrapped(
+    QPainter &painter, const QString &text, const QFont &font, const QRect &place, Qt::Alignment alignment)
 {
-    LayOut(text, font, place.width(), [&](const QTextLine &line, qreal top) {
-        line.draw(&painter, {qreal(place.left()), place.top() + top - line.y()});
-    });
+    LayOut(
+        text, font, place.width(),
+        [&](const QTextLine &line, qreal top) {
+            line.draw(&painter, {qreal(place.left()), place.top() + top - line.y()});
+        },
+        alignment);
 }
 
 int NaturalWidth(const QString &text, const QFont &font, int most)
@@ -56,24 +60,18 @@ int NaturalWidth(const QString &text, const QFont &font, int most)
     return std::min(width, most);
 }
 
-void DrawWrapped(
-    QPainter &painter, const QString &text, const QFont &font, const QRect &room, Qt::Alignment alignment)
-{
-    LayOut(
-        text, font, room.width(),
-        [&](const QTextLine &line, qreal top) {
-            line.draw(&painter, QPointF(room.topLeft()) + QPointF(0, top - line.y()));
-        },
-        alignment);
-}
-
 CWrappedText::CWrappedText(const QString &text, QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    QLabel::setText(QString(text).remove(u'\r'));
+    ShowText(text);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+}
+
+void CWrappedText::ShowText(const QString &text)
+{
+    setText(QString(text).remove(u'\r'));
 }
 
 QSize CWrappedText::sizeHint() const

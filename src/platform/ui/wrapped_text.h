@@ -9,12 +9,10 @@ class QPainter;
 /// room on a line of its own.
 int WrappedHeight(const QString &text, const QFont &font, int width);
 /// Paints it from the top of a place, in the colour of the pen.
-void PaintWrapped(QPainter &painter, const QString &text, const QFont &font, const QRect &place);
+void PaintWrapped(QPainter &painter, const QString &text, const QFont &font, const QRect &place,
+    Qt::Alignment alignment = Qt::AlignLeading);
 /// The width of its longest paragraph on one line, or `most` when that is less.
 int NaturalWidth(const QString &text, const QFont &font, int most);
-/// Draws it from the top of a room on, in its width.
-void DrawWrapped(
-    QPainter &painter, const QString &text, const QFont &font, const QRect &room, Qt::Alignment alignment);
 
 /// A label that shows such a text to its end, however long its words are. Its height follows from its width.
 class CWrappedText : public QLabel
@@ -22,8 +20,9 @@ class CWrappedText : public QLabel
     Q_OBJECT
 
 public:
-    /// The text must not change.
     CWrappedText(const QString &text, QWidget *parent);
+
+    void ShowText(const QString &text);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
