@@ -13,8 +13,6 @@
 
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 // Each row makes one file call of the real classes fail, or kills the program there, in a process of its own:
 // first the first call, then the second, until none is left. Whatever happens, old or new content is there, and
 // whole.
@@ -129,40 +127,38 @@ class FileFaultsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void faults_data()
-    {
-        QTest::addColumn<QString>("work");
-        QTest::addColumn<CallFault>("fault");
-        for (const char *work : {"list", "overwriting", "copies", "settings"}) {
-            QTest::addRow("%s, killed", work) << QString::fromLatin1(work) << CallFault::Kill;
-            QTest::addRow("%s, a call fails", work) << QString::fromLatin1(work) << CallFault::Once;
-            QTest::addRow("%s, the disk is full", work) << QString::fromLatin1(work) << CallFault::FullDisk;
-        }
-    }
-
     void faults()
     {
-        QFETCH(QString, work);
-        QFETCH(CallFault, fault);
-        int exit = Succeeded;
-        for (int number = 1; exit != FewerCalls; ++number) {
-            const QTemporaryDir folder;
-            const Folders folders = {folder.path()};
-            SetUp(work, folders);
-            exit = QProcess::execute(QCoreApplication::applicationFilePath(),
-                {u"drive"_s, work, QString::number(int(fault)), QString::number(number), folder.path()});
-            QVERIFY2(QList<int>({Succeeded, Failed, FewerCalls, KilledByFault}).contains(exit),
-                qPrintable(QString::number(exit)));
-            QVERIFY(number < 200);
-            Check(work, folders, fault, exit);
-            if (QTest::currentTestFailed()) {
-                qWarning("at call %d, exit code %d", number, exit);
-                return;
+        for (const QString &work : {u"list"_s, u"overwriting"_s, u"copies"_s, u"settings"_s}) {
+            for (const CallFault fault : {CallFault::Kill, CallFault::Once, CallFault::FullDisk}) {
+                int exit = Succeeded;
+                for (int number = 1; exit != FewerCalls && !QTest::currentTestFailed(); ++number) {
+                    QVERIFY(number < 200);
+                    exit = LetFail(work, fault, number);
+                }
             }
         }
     }
 
 private:
+    /// The exit code of a process in which that call failed.
+    int LetFail(const QString &work, CallFault fault, int number) const
+    {
+        const QTemporaryDir folder;
+        const Folders folders = {folder.path()};
+        SetUp(work, folders);
+        const int exit = QProcess::execute(QCoreApplication::applicationFilePath(),
+            {u"drive"_s, work, QString::number(int(fault)), QString::number(number), folder.path()});
+        if (!QList<int>({Succeeded, Failed, FewerCalls, KilledByFault}).contains(exit)) {
+            QTest::qFail("unknown exit code", __FILE__, __LINE__);
+        }
+        Check(work, folders, fault, exit);
+        if (QTest::currentTestFailed()) {
+            qWarning("%s, fault %d, call %d, exit code %d", qPrintable(work), int(fault), number, exit);
+        }
+        return exit;
+    }
+
     void SetUp(const QString &work, const Folders &folders) const
     {
         QVERIFY(SaveList(folders, u"old"_s));

@@ -2,10 +2,6 @@
 #include "document/undo_history.h"
 #include "support/lists.h"
 
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The history as a plain list of descriptions, by the rules as they read.
@@ -87,20 +83,6 @@ private Q_SLOTS:
                 QCOMPARE(history.RedoCount(), int(plain.states.size() - plain.current) - 1);
             }
         }
-    }
-
-    void savedMarks()
-    {
-        CUndoHistory history;
-        history.SetUndoSize(3);
-        history.Snapshot();
-        history.Current().Insert(CWordEntry(u"a"_s));
-        history.MarkOthersChanged();
-        history.Current().SetSaved(true);
-        history.Undo();
-        QVERIFY(!history.Current().IsSaved());
-        history.Redo();
-        QVERIFY(history.Current().IsSaved());
     }
 };
 

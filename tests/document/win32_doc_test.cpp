@@ -4,13 +4,9 @@
 #include "support/full_disk.h"
 #include "support/test_document.h"
 
-#include <QSignalSpy>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 class Win32DocTest : public QObject
 {
@@ -54,13 +50,12 @@ private Q_SLOTS:
         {
             QByteArray bytes;
             QList<int> shown;
-            bool keepsPath;
-            bool modified;
+            bool keepsPath, modified;
             QString entries;
         } rows[] = {
             {"Ordelin 2.0\n\n\nA\nB\n1\n\n1\na\nb\n", {}, true, false, u"a|b||1"_s}, // own file
-            {"\xEF\xBB\xBFOrdelin 2.0\n\n\nA\nB\n1\xCE\xB1\n\n1\na\nb\n", {}, true, false,
-                u"a|b||1"_s}, // lossy header
+            // Lossy header.
+            {"\xEF\xBB\xBFOrdelin 2.0\n\n\nA\nB\n1\xCE\xB1\n\n1\na\nb\n", {}, true, false, u"a|b||1"_s},
             {"Ordelin 3\n\n\nA\nB\n1\n0\n\n0\n\n\n1\na\nb\n\n", {Text::NewerVersion}, false, false,
                 u"a|b||1"_s},
             {"a\nb\n", {Text::ReadAsPlainText}, false, true, u"a|b"_s},
@@ -138,8 +133,7 @@ private Q_SLOTS:
         Write("Ordelin 2.0\n\n\nA\nB\n1\n\n1\nx\ny\n");
         const std::array times = {before.st_atim, before.st_mtim};
         QCOMPARE(::utimensat(AT_FDCWD, path.toUtf8().constData(), times.data(), 0), 0);
-        QVERIFY(test.document.IsChangedOutside());
-        QVERIFY(test.document.OnSaveDocument(path));
+        QVERIFY(test.document.IsChangedOutside() && test.document.OnSaveDocument(path));
         QVERIFY(!test.document.IsChangedOutside()); // Its own change is none.
         QVERIFY(QFile::remove(path));
         QVERIFY(!test.document.IsChangedOutside());
@@ -158,8 +152,7 @@ private Q_SLOTS:
         QVERIFY(document.OpenDocument(path));
         document.Change([](CWordList &list) { list.SetComments(QString(5000, u'x')); });
         QVERIFY(!WithFullDisk(2000, [&] { return document.OnSaveDocument(path); }));
-        QVERIFY(!document.IsChangedOutside());
-        QVERIFY(document.OnSaveDocument(path));
+        QVERIFY(!document.IsChangedOutside() && document.OnSaveDocument(path));
         QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotSave});
     }
 
@@ -175,8 +168,7 @@ private Q_SLOTS:
         QVERIFY(test.document.SaveCopy(Path(u"copy.gls"_s)));
         QCOMPARE(test.prompt.numbers.size(), 2);
         test.document.Change([](CWordList &list) { list.DeleteEntries(std::array{1, 2}); });
-        QVERIFY(test.document.OnSaveDocument(path));
-        QVERIFY(!test.document.IsModified());
+        QVERIFY(test.document.OnSaveDocument(path) && !test.document.IsModified());
         QCOMPARE(test.prompt.numbers.size(), 2);
     }
 
@@ -187,8 +179,7 @@ private Q_SLOTS:
         QCOMPARE(test.document.UndoCount(), 0);
         test.document.Change([&](CWordList &list) { list.Insert(MakeEntry(u"c|d"_s)); });
         QCOMPARE(titles.count(), 1);
-        QVERIFY(test.document.OnSaveDocument(Path(u"undo.gls"_s)));
-        QVERIFY(!test.document.IsModified());
+        QVERIFY(test.document.OnSaveDocument(Path(u"undo.gls"_s)) && !test.document.IsModified());
         test.document.Undo();
         QCOMPARE(test.Entries(), u"a|b"_s);
         QVERIFY(test.document.IsModified()); // The file holds the other state.
@@ -269,18 +260,7 @@ private Q_SLOTS:
         }
     }
 
-    void listProperties()
-    {
-        TestDocument test(u"a|b"_s);
-        test.document.SetListProperties({.author = u"A\r\nB"_s, .questionTemplate2 = u"x\ny"_s});
-        QCOMPARE(test.document.List().GetAuthor(), u"A B"_s);
-        QCOMPARE(test.document.List().GetQuestionTemplate(1), u"x y"_s);
-        QCOMPARE(test.document.UndoCount(), 1);
-        test.document.SetListProperties({.author = u"A B"_s});
-        QCOMPARE(test.document.UndoCount(), 1); // Nothing differed.
-    }
-
-    void mailing()
+    void mailingAndPlaceholders()
     {
         TestDocument test(u"a|b"_s);
         test.settings.standardFilename = u"%language2 av mig"_s;
@@ -294,11 +274,6 @@ private Q_SLOTS:
         test.canStartPrograms = false;
         test.document.OnFileSendMail();
         QCOMPARE(test.prompt.numbers, QList<int>{Text::CannotStartMail});
-    }
-
-    void placeholders()
-    {
-        TestDocument test(u"a|b"_s);
         test.document.Change([&](CWordList &list) {
             list.SetProperties({.language1 = u"%author"_s, .author = u"A/B"_s, .comments = u"c"_s});
         });

@@ -3,8 +3,6 @@
 #include "editor/list_steps.h"
 #include "support/test_editor_view.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct Editor : TestEditor

@@ -4,11 +4,8 @@
 #include "support/lists.h"
 
 #include <QMimeData>
-#include <QTest>
 
 #include <numeric>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -84,8 +81,8 @@ private Q_SLOTS:
             {u"hund - dog - the note"_s, u"hund|dog|the note"_s}, // blanks beside the separator
             {u"\t* hus = house *\n**a*b;c"_s, u"hus|house,a * b|c"_s}, // stars and blanks outside
             {u"\ta;b\t\n"_s, u"a|b"_s}, // a separator outside goes with them
-            {u"a-b-c-d\na;b\nno separator\n\n=house\nx==y\nc;d\n-"_s,
-                u"a|b,c|d"_s}, // lines that make no sense between others
+            // Lines that make no sense between others.
+            {u"a-b-c-d\na;b\nno separator\n\n=house\nx==y\nc;d\n-"_s, u"a|b,c|d"_s},
             {u"a-  -c\n[];b"_s, {}}, // terms of blanks or comments without words
             {u"ёж – hedgehog; igelkott"_s, u"ёж – hedgehog|igelkott"_s}, // letters outside Latin 1
             {u"a;b\rc;d\r\re;f\r"_s, u"a|b,c|d,e|f"_s}, // CR alone

@@ -4,8 +4,6 @@
 
 #include <QRegularExpression>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct Editor : TestEditor

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "editor/text_box.h"
-#include "editor/text_numbers.h"
 #include "support/test_entry_editor.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -120,8 +117,7 @@ private Q_SLOTS:
     {
         const struct
         {
-            bool lang1first;
-            bool notes;
+            bool lang1first, notes;
             QList<int> edited; // The field after each step.
         } rows[] = {
             {true, true, QList<int>{0, 1, 2, 0}}, // notes shown
@@ -173,8 +169,7 @@ private Q_SLOTS:
         Editor editor(u"a|b,c|d,e|f"_s);
         editor.test.prompt.answers = {PromptAnswer::No, PromptAnswer::Cancel, PromptAnswer::Yes};
         const std::vector<int> two = {0, 2};
-        QVERIFY(!editor.editing.DeleteEntries({}));
-        QVERIFY(!editor.editing.DeleteEntries(two));
+        QVERIFY(!editor.editing.DeleteEntries({}) && !editor.editing.DeleteEntries(two));
         QVERIFY(!editor.editing.DeleteEntries(two));
         QCOMPARE(editor.test.document.List().Count(), 3);
         QVERIFY(editor.editing.DeleteEntries(two));

@@ -4,8 +4,6 @@
 #include "editor/mark_in_sight.h"
 #include "support/test_editor_view.h"
 
-using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 
 namespace {
@@ -148,13 +146,11 @@ private Q_SLOTS:
         const struct
         {
             QString text;
-            int start;
-            int length;
-            QString line;
-            QString marked;
+            int start, length;
+            QString line, marked;
         } rows[] = {
-            {u"abcdefghijklmnopqrstuvwxyz1234"_s, 28, 2, u"abcdefghijklmnopqrstuvwxyz1234"_s,
-                u"34"_s}, // all fits
+            // All fits.
+            {u"abcdefghijklmnopqrstuvwxyz1234"_s, 28, 2, u"abcdefghijklmnopqrstuvwxyz1234"_s, u"34"_s},
             {u"abcdefghijklmnopqrstuvwxyz123456789"_s, 2, 3, u"abcdefghijklmnopqrstuvwxyz123…"_s, u"cde"_s},
             {u"abcdefghijklmnopqrstuvwxyz123456789"_s, 32, 3, u"…uvwxyz123456789"_s, u"789"_s},
             {x.repeated(50) + u"MARK"_s + x.repeated(50), 50, 4, u"…xxxxxxxxxxxxMARKxxxxxxxxxxxx…"_s,

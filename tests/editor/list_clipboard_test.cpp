@@ -6,8 +6,6 @@
 
 #include <QUrl>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct Clipboard : TestEditor

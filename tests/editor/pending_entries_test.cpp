@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "editor/pending_entries.h"
-#include "editor/text_numbers.h"
 #include "support/test_entry_editor.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

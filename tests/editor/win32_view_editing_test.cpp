@@ -6,8 +6,6 @@
 #include <QClipboard>
 #include <QWheelEvent>
 
-using namespace Qt::StringLiterals;
-
 class Win32ViewEditingTest : public QObject
 {
     Q_OBJECT

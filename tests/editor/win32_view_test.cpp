@@ -2,13 +2,8 @@
 #include "editor/word_list_model.h"
 #include "support/test_view.h"
 
-#include <QDropEvent>
 #include <QHeaderView>
-#include <QMimeData>
 #include <QScrollBar>
-#include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
 
 class Win32ViewTest : public QObject
 {
@@ -219,11 +214,7 @@ private Q_SLOTS:
         QObject::connect(&run.view, &CWin32View::DataDropped, &run.view,
             [&](const QMimeData &, int row) { rows.append(row); });
         const auto drop = [&](const QMimeData &data, const QPoint &place) {
-            QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(run.List()->viewport(), &enter);
-            QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(run.List()->viewport(), &event);
-            return event.isAccepted();
+            return Drop(run.List()->viewport(), data, place);
         };
         QMimeData text;
         text.setText(u"x - y"_s);

@@ -4,9 +4,6 @@
 #include "support/test_document.h"
 
 #include <QAbstractItemModelTester>
-#include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
 
 class WordListModelTest : public QObject
 {

@@ -6,11 +6,8 @@
 
 #include <QBuffer>
 #include <QTemporaryDir>
-#include <QTest>
 
 Q_DECLARE_METATYPE(ReadResult)
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -87,16 +84,16 @@ private Q_SLOTS:
         const std::pair<QByteArray, QString> rows[] = {
             {Ansi(full), fullContent}, // 2.3 ANSI
             {Utf16(greek, false), greekContent}, // 2.3 UTF-16
-            {Ansi("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nŽ\n€\n"),
-                u"\n\nA\nB\n0\n0\nå|Ž|€"_s}, // 2.3-mini ANSI
-            {Utf16("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nя\nω\n", false),
-                u"\n\nA\nB\n0\n0\nå|я|ω"_s}, // 2.3-mini UTF-16
-            {Ansi("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nœ?\n0\n\n\nå\nŽ\n"),
-                u"\n\nA\nB\n0œ?\n0\nå|Ž"_s}, // 2.3-micro ANSI
-            {Utf16("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nω?\n0\n\n\nå\nя\n", false),
-                u"\n\nA\nB\n0ω?\n0\nå|я"_s}, // 2.3-micro UTF-16
-            {Ansi("Ordelin 2.0\nŒ\n\nA\nB\n2\n\n1\nå\nŽ\n0\nb\nc\n"),
-                u"Œ\n\nA\nB\n0\n0\nå|Ž||1\nb|c"_s}, // 2.0 ANSI
+            // 2.3-mini ANSI.
+            {Ansi("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nŽ\n€\n"), u"\n\nA\nB\n0\n0\nå|Ž|€"_s},
+            // 2.3-mini UTF-16.
+            {Utf16("Ordelin 2.3-mini\n\n\nA\nB\n1\n0\n\n0\n\n\nå\nя\nω\n", false), u"\n\nA\nB\n0\n0\nå|я|ω"_s},
+            // 2.3-micro ANSI.
+            {Ansi("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nœ?\n0\n\n\nå\nŽ\n"), u"\n\nA\nB\n0œ?\n0\nå|Ž"_s},
+            // 2.3-micro UTF-16.
+            {Utf16("Ordelin 2.3-micro\n\n\nA\nB\n1\n0\nω?\n0\n\n\nå\nя\n", false), u"\n\nA\nB\n0ω?\n0\nå|я"_s},
+            // 2.0 ANSI.
+            {Ansi("Ordelin 2.0\nŒ\n\nA\nB\n2\n\n1\nå\nŽ\n0\nb\nc\n"), u"Œ\n\nA\nB\n0\n0\nå|Ž||1\nb|c"_s},
             {Utf16("Ordelin 2.0\n\n\nA\nB\n1\n\n0\nå\nя\n", false), u"\n\nA\nB\n0\n0\nå|я"_s}, // 2.0 UTF-16
             {Ansi("Ordelin 2.0\n\n\nA\nB\n0\n\n"), u"\n\nA\nB\n0\n0"_s}, // 2.0 empty
         };
@@ -131,8 +128,8 @@ private Q_SLOTS:
             {Utf16(full, true), fullContent, ReadResult::Read}, // 2.3 UTF-16 big endian
             {Utf8(full).replace("2.3", "9.9"), fullContent, ReadResult::NewerVersion}, // newer version
             {"Ordelinista\na\nb\n", u"a\nb\n\n\n0\n0"_s, ReadResult::NewerVersion}, // program's name alone
-            {"Ordelin 2.3-micro\n\n\nA\nB\n0\n1\n\n1\n", u"\n\nA\nB\n0\n0"_s,
-                ReadResult::Read}, // adapt mark without a template
+            // Adapt mark without a template.
+            {"Ordelin 2.3-micro\n\n\nA\nB\n0\n1\n\n1\n", u"\n\nA\nB\n0\n0"_s, ReadResult::Read},
             {"Ordelin 2.0\nauthor\ncomm", u"author\ncomm\n\n\n0\n0"_s, ReadResult::Read}, // header cut off
             {"Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n\n\na\n\n\nb\n", u"\n\n\n\n0\n0\na\n|b"_s,
                 ReadResult::Read}, // both terms empty
@@ -149,8 +146,7 @@ private Q_SLOTS:
     {
         const struct
         {
-            QString entry;
-            QString questionTemplate;
+            QString entry, questionTemplate;
             QByteArray header;
         } rows[] = {
             {u"a|b||1"_s, {}, "Ordelin 2.0"}, // flag 1 only
@@ -168,7 +164,7 @@ private Q_SLOTS:
         }
     }
 
-    void recordsAtTheEnd()
+    void recordsAndTheirCount()
     {
         // A record needs all its lines; the last line needs no line end, and nothing follows the last line end.
         const QByteArray micro = "Ordelin 2.3-micro\n\n\n\n\n0\n0\n\n0\n\n\n";
@@ -181,6 +177,11 @@ private Q_SLOTS:
         QCOMPARE(count(micro + "a\nb"), 1);
         QCOMPARE(count(full + "0 0\na\nb\n"), 0);
         QCOMPARE(count(full + "0 0\na\nb\n\n"), 1);
+        for (const char *lie : {"2147483647", "99999999999999999999", "-2147483648", "-1", "x", ""}) {
+            QCOMPARE(
+                Read(list, QByteArray("Ordelin 2.0\n\n\nA\nB\n") + lie + "\n\n1\na\nb\n"), ReadResult::Read);
+            QCOMPARE(Joined(list), u"a|b||1"_s);
+        }
     }
 
     void oneOddCharacterMakesUnicode()
@@ -265,16 +266,67 @@ private Q_SLOTS:
         }
     }
 
-    void stopsBetweenRecords()
+    void foreignFiles()
     {
-        QBuffer buffer;
-        buffer.setData("Ordelin 2.0\nauthor\n\n\n\n1\n\n1\na\nb\n");
-        buffer.open(QIODevice::ReadOnly);
-        CWordList list;
-        const KeepGoing stopped = false;
-        QCOMPARE(ReadWordList(list, buffer, &stopped), ReadResult::Read);
-        QCOMPARE(list.GetAuthor(), u"author"_s);
-        QCOMPARE(list.Count(), 0);
+        const struct
+        {
+            QByteArray bytes;
+            ReadResult result;
+            QString content; // Author, comments, languages, then the entries; all joined by commas.
+        } rows[] = {
+            {"WordQuiz\n[Font]\n x\n[vocabulary] \nSwedish\nEnglish\nhund [n]\ndog [animal]\n\n\na*b [x] "
+             "[y]\nc\n",
+                ReadResult::Read, u",,Swedish,English,hund|dog [animal],a * b [x]|c"_s},
+            // Names are the first pair that is not empty.
+            {"WordQuiz\n[Vocabulary]\n\n \n[x]\nEnglish\na\nb\n", ReadResult::Read, u",,,English,a|b"_s},
+            // The second line is missing at the end; similar entries are kept.
+            {"WordQuiz\n[Vocabulary]\nA\nB\na\nb\na\nb\nc", ReadResult::Read, u",,A,B,a|b,a|b,c"_s},
+            {"WordQuiz\na\nb\n", ReadResult::CannotOpen, {}}, {"a\nb\nc", ReadResult::PlainText, u",,,,a|b"_s},
+            {"!a\n!b\n\n\n1 0\n\xE5", ReadResult::PlainText, u",,,,!a|!b,1 0|å"_s}, // has no marks
+            {"\xFF\xFE\x61\0\n\0\xB1\x03"_ba, ReadResult::PlainText, u",,,,a|α"_s}, // in UTF-16
+            {{}, ReadResult::PlainText, u",,,"_s},
+            {"ordelin 2.0\nb\n", ReadResult::PlainText, u",,,,ordelin 2.0|b"_s}, // header in other case
+        };
+        for (const auto &row : rows) {
+            CWordList list;
+            list.SetAuthor(u"someone before"_s);
+            list.SetSaved(true);
+            QCOMPARE(Read(list, row.bytes), row.result);
+            if (row.result == ReadResult::CannotOpen) {
+                QCOMPARE(list.Count(), 0);
+                continue;
+            }
+            const QStringList described =
+                QStringList{list.GetAuthor(), list.GetComments(), list.GetLanguage(0), list.GetLanguage(1)}
+                + Describe(list);
+            QCOMPARE(described.join(u','), row.content);
+            QCOMPARE(list.IsSaved(), row.result == ReadResult::Read);
+        }
+    }
+
+    void truncatedFiles()
+    {
+        CWordList sample = MakeList("hund * vovve|dog|djur|1,katt [tam]|cat||2,å|α|“citat”|12");
+        sample.SetProperties({.language1 = u"Svenska"_s,
+            .language2 = u"Ελληνικά"_s,
+            .adaptQuestion1 = true,
+            .questionTemplate1 = u"%word?"_s});
+        const QByteArray bytes = Write(sample);
+        for (qsizetype size = 0; size < bytes.size(); ++size) {
+            CWordList list;
+            if (Read(list, bytes.left(size)) == ReadResult::CannotOpen) {
+                continue;
+            }
+            // Entries without terms are written, and skipped on reading.
+            QStringList entries = Describe(list);
+            entries.removeIf([](const QString &entry) { return entry.startsWith(u"||"); });
+            entries.removeAll(QString());
+            CWordList again;
+            QVERIFY(Read(again, Write(list)) == ReadResult::Read);
+            QCOMPARE(Describe(again), entries);
+            // Cut inside the last record, the ones before it are there.
+            QVERIFY(size != bytes.size() - 20 || entries == Describe(sample).first(2));
+        }
     }
 };
 

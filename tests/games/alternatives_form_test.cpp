@@ -2,12 +2,8 @@
 #include "games/alternatives_form.h"
 #include "support/test_form.h"
 
-#include <QTest>
-
 #include <array>
 #include <set>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,6 +15,7 @@ QStringList Answers(const CAlternativesForm &form)
     }
     return answers;
 }
+
 }
 
 class AlternativesFormTest : public QObject

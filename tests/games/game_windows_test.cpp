@@ -4,8 +4,6 @@
 #include "games/ui/hangman_game.h"
 #include "support/test_quiz.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 const QStringList Animals = {u"hund|dog"_s, u"katt|cat"_s, u"ko|cow"_s, u"get|goat"_s};
@@ -51,6 +49,7 @@ struct Alternatives
         QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
 };
+
 }
 
 class GameWindowsTest : public QObject

@@ -2,10 +2,6 @@
 #include "games/hangman_form.h"
 #include "support/test_form.h"
 
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-
 class HangmanFormTest : public QObject
 {
     Q_OBJECT

@@ -5,8 +5,6 @@
 #include "support/test_form.h"
 #include "support/test_quiz.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The answers from the first row to the last one, a mark behind that which is marked.

@@ -2,11 +2,7 @@
 #include "model/duplicate_search.h"
 #include "support/lists.h"
 
-#include <QTest>
-
 #include <numeric>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -75,21 +71,6 @@ private Q_SLOTS:
         }
     }
 
-    void whatCountsAsShared()
-    {
-        const auto shares = [](const char *a, const char *b) {
-            const CWordList list = MakeList({QString::fromUtf8(a), QString::fromUtf8(b)});
-            const auto found = CDuplicateSearch(list).FindNext();
-            return found ? found->language : -1;
-        };
-        QCOMPARE(shares("hus*hem|house", "hem|home"), 0);
-        QCOMPARE(shares("a|house", "b|home * house"), 1);
-        QCOMPARE(shares("sie|she", "Sie|you"), -1);
-        QCOMPARE(shares("bank [pengar]|x", "bank|y"), -1);
-        QCOMPARE(shares("a|x|note", "a|y|another"), 0);
-        QCOMPARE(shares("a|", "b|"), -1);
-    }
-
     void mergesIntoTheFirst()
     {
         CWordList list = MakeList("x|y,hus|house|djur|12,hem|||1,hus * bostad|home|djur; tamt|12,z|z|jur|12");
@@ -99,6 +80,10 @@ private Q_SLOTS:
         list.SetSaved(true);
         QCOMPARE(list.MergeAll() + list.MergeEntries(std::vector<int>{1}) + list.MergeEntries({}), 0);
         QVERIFY(list.IsSaved());
+        list = MakeList("a * b|c|n|1");
+        list.InsertAll(CWordList(list), InsertOptions::AtEnd); // Both places share one entry.
+        QCOMPARE(list.MergeEntries(std::vector<int>{0, 1}), 1);
+        QCOMPARE(Joined(list), u"a * b|c|n|1"_s);
     }
 
     void mergingAgreesWithAllPairs()
@@ -141,28 +126,6 @@ private Q_SLOTS:
             // What is left shares nothing.
             QVERIFY(AllPairs(merged).empty());
         }
-    }
-
-    void mergesAnEntryThatStandsTwice()
-    {
-        CWordList list = MakeList("a * b|c|n|1");
-        const CWordList copy = list;
-        list.InsertAll(copy, InsertOptions::AtEnd); // Both places share one entry.
-        QCOMPARE(list.MergeEntries(std::vector<int>{0, 1}), 1);
-        QCOMPARE(Joined(list), u"a * b|c|n|1"_s);
-    }
-
-    void mergesManyNotesQuickly()
-    {
-        constexpr int Count = 30000;
-        CWordList list;
-        for (int i = 0; i < Count; ++i) {
-            list.Insert(
-                CWordEntry(u"same * w%1"_s.arg(i), {}, u"kapitel %1 sidan %2"_s.arg(i / 170).arg(i % 170)));
-        }
-        QCOMPARE(list.MergeAll(), Count - 1);
-        QCOMPARE(list.Entry(0).AlternativeCount(0), Count);
-        QCOMPARE(list.Entry(0).GetNote().count(u"; "_s), Count - 1);
     }
 
     void longTermsTakeNoQuadraticTime()

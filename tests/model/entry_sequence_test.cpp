@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/entry_sequence.h"
 #include "platform/random.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/term_syntax.h"
-#include "platform/random.h"
 #include "support/lists.h"
-
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,10 +35,6 @@ QString SlowRemoveComments(QString text)
         text.remove(opener, closer - opener + 1);
     }
 }
-
-}
-
-namespace {
 
 /// A text and what is to become of it.
 struct Row

@@ -3,10 +3,6 @@
 #include "platform/letters.h"
 #include "support/lists.h"
 
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The rules of a search in one field, by trying every start and every end. Of the places with the lowest start
@@ -56,8 +52,7 @@ private Q_SLOTS:
     {
         const struct
         {
-            QString field;
-            QString text;
+            QString field, text;
             QString options; // c match case, w whole word, * wildcards
             int start; // -1: not found
             int length;

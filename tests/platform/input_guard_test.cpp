@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/input_guard.h"
-
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test.h"
 
 using namespace std::chrono_literals;
 using Change = CInputGuard::Change;

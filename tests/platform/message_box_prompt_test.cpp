@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/message_box_prompt.h"
 #include "platform/ui/wrapped_text.h"
+#include "support/test.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
-#include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

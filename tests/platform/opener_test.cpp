@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/opener.h"
+#include "support/test.h"
 
 #include <QTemporaryDir>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 
 class OpenerTest : public QObject
 {

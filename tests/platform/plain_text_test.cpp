@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/plain_text.h"
-
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test.h"
 
 class PlainTextTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void bounded()
+    void boundedAndInCaptions()
     {
         QCOMPARE(ShownShort(u"abcd"_s, 4), u"abcd"_s);
         QCOMPARE(ShownShort(u"abcde"_s, 4), u"abc…"_s);
         // No half of a character is left.
         QCOMPARE(ShownShort(u"ab\U00010428de"_s, 4), u"ab…"_s);
-    }
-
-    void captions()
-    {
         QCOMPARE(ShownInCaption(u"A&B\tc\n d"_s), u"A&&B c d"_s);
         const QString endless = ShownInCaption(QString(1000000, u'x'));
         QCOMPARE(endless, QString(39, u'x') + u'…');

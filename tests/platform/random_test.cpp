@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/random.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
 #include <array>
@@ -58,16 +57,6 @@ private Q_SLOTS:
         // Beyond 32767 elements the draws are widened, so that late elements reach late places too.
         QVERIFY(std::any_of(numbers.begin() + 35000, numbers.end(), [](int number) { return number < 20000; }));
         QCOMPARE(std::set<int>(numbers.begin(), numbers.end()).size(), numbers.size());
-
-        // Two elements: the first exchange decides, the second puts element 1 in front of element 0.
-        for (quint32 seed = 0; seed < 20; ++seed) {
-            CRandom draws(seed);
-            const bool swapped = draws.Next() % 2 == 1;
-            CRandom same(seed);
-            std::vector<int> pair = {0, 1};
-            ShuffleCyclically(pair, same);
-            QCOMPARE(pair, swapped ? (std::vector<int>{0, 1}) : (std::vector<int>{1, 0}));
-        }
     }
 };
 

@@ -5,7 +5,6 @@
 #include "support/files.h"
 #include "support/full_disk.h"
 
-#include <QTest>
 #include <QUrl>
 
 #include <array>
@@ -16,8 +15,6 @@
 #include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -92,8 +89,8 @@ private Q_SLOTS:
         QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555));
         QVERIFY(!SaveAsNobody(m_path, New, backups.path(), 10000)); // Overwritten in part, and put back.
         QCOMPARE(Content(m_path), Old);
-        QVERIFY(
-            !SaveAsNobody(m_path, New.first(12000), backups.path(), 8000)); // Also where it would fit a buffer.
+        // Also where it would fit a buffer.
+        QVERIFY(!SaveAsNobody(m_path, New.first(12000), backups.path(), 8000));
         QCOMPARE(Content(m_path), Old);
         for (const QByteArray &content : {New, QByteArray("short")}) {
             QVERIFY(SaveAsNobody(m_path, content, backups.path()));

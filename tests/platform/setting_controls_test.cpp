@@ -2,16 +2,14 @@
 #include "platform/ui/number_field.h"
 #include "platform/ui/setting_controls.h"
 #include "platform/ui/settings_sheet.h"
+#include "support/test.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
-#include <QTest>
 #include <QVBoxLayout>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -97,8 +95,9 @@ private:
             QTest::keyClick(field, Qt::Key_Return);
             QVERIFY(!sheet.isVisible());
             break;
+        // By a key of the button, which leaves the focus where it is.
         case Accept:
-            sheet.accept(); // By a key of the button, which leaves the focus where it is.
+            sheet.accept();
             break;
         case Arrow:
             field->interpretText();

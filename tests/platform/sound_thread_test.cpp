@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sound_thread.h"
+#include "support/test.h"
 
 #include <QStringList>
-#include <QTest>
 
 #include <atomic>
 #include <memory>
 #include <semaphore>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

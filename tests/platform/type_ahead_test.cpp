@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/type_ahead.h"
-
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test.h"
 
 using namespace std::chrono_literals;
 
@@ -58,8 +55,7 @@ private Q_SLOTS:
         typist.now += 400ms;
         QVERIFY(typist.typeAhead.TryToHear());
         typist.typeAhead.TypedOn(); // By who still looks elsewhere.
-        QVERIFY(typist.typeAhead.Keeps());
-        QVERIFY(typist.typeAhead.TryToHear());
+        QVERIFY(typist.typeAhead.Keeps() && typist.typeAhead.TryToHear());
         typist.Type(Qt::Key_Tab, 0ms);
         typist.Type(Qt::Key_Escape, 10ms); // Whoever answers may be quick.
         QCOMPARE(typist.passed, (QList<int>{'a', Qt::Key_Tab, Qt::Key_Escape}));

@@ -4,10 +4,6 @@
 #include "settings/quiz_settings.h"
 #include "support/lists.h"
 
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-
 Q_DECLARE_METATYPE(AnswerVerdict)
 
 class AnswerCheckTest : public QObject
@@ -20,8 +16,7 @@ private Q_SLOTS:
         using enum AnswerVerdict;
         const struct
         {
-            QString term;
-            QString typed;
+            QString term, typed;
             QString options; // i ignore case, 1 or 2 character check
             AnswerVerdict verdict;
         } rows[] = {
@@ -80,13 +75,12 @@ private Q_SLOTS:
         {
             AnswerVerdict verdict;
             QString typed;
-            bool showAnswer;
-            bool showIfOneCorrect;
+            bool showAnswer, showIfOneCorrect;
             QString text; // Empty: none.
         } rows[] = {
             {Right, u"a"_s, true, true, {}}, // right
-            {RightOneOfSeveral, u"a"_s, false, true,
-                u"Rätt svar! Alla rätta svar är:\r\n\r\na * b"_s}, // one of several, shown
+            // One of several, shown.
+            {RightOneOfSeveral, u"a"_s, false, true, u"Rätt svar! Alla rätta svar är:\r\n\r\na * b"_s},
             {RightOneOfSeveral, u"a"_s, true, false, {}}, // one of several, not shown
             {Wrong, u"%word"_s, true, false,
                 u"Fel. Rätt svar är:\r\n\r\na * b\r\n\r\nDu svarade:\r\n\r\n%word"_s}, // wrong

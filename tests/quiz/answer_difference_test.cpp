@@ -2,95 +2,85 @@
 #include "quiz/answer_difference.h"
 #include "quiz/difference_text.h"
 #include "resources/texts.h"
-
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test.h"
 
 class AnswerDifferenceTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void differences_data()
-    {
-        QTest::addColumn<QString>("term");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("options"); // i ignore case, 1 or 2 character check
-        QTest::addColumn<QString>("parts"); // +missing, -surplus, typed>expected, same or typed/expected
-        QTest::addColumn<QString>("slip"); // A letter for each.
-        const auto row = [](const char *name, const char *term, const char *answer, const char *options,
-                             const char *parts, const char *slip) {
-            QTest::newRow(name) << QString::fromUtf8(term) << QString::fromUtf8(answer)
-                                << QString::fromUtf8(options) << QString::fromUtf8(parts)
-                                << QString::fromUtf8(slip);
-        };
-        row("a letter missing", "house", "hose", "", "ho|+u|se", "O");
-        row("a letter too much", "house", "houuse", "", "hou|-u|se", "O");
-        row("a letter changed", "house", "hause", "", "h|a>o|use", "O");
-        row("a digit is no letter", "mp3", "mp4", "", "mp|4>3", "");
-        row("the fewest steps", "sitting", "kittens", "", "k>s|itt|e>i|n|s>g", "");
-        row("one more and one less", "abcd", "bcde", "", "+a|bcd|-e", "");
-        row("all else", "dog", "cat", "", "cat>dog", "W");
-        row("letter case", "Hund", "hUND", "", "hUND>Hund", "L");
-        row("letter case and punctuation", "Don't", "dont", "", "d>D|on|+'|t", "LP");
-        row("å is a letter", "får", "far", "", "f|a>å|r", "O");
-        row("ü is an accent", "über", "uber", "", "u>ü|ber", "A");
-        row("an apostrophe that looks the same", "don't", "don’t", "", "don|’>'|t", "S");
-        row("a blank that looks the same", "to be", "to\u00A0be", "", "to|\u00A0> |be", "S");
-        row("two neighbours exchanged", "horse", "hrose", "", "h|ro>or|se", "X");
-        row("accents", "été", "ete", "", "e>é|t|e>é", "A");
-        row("a combining mark belongs to its letter", "e\u0301n", "en", "", "e>e\u0301|n", "A");
-        row("an emoji of several code points is one", "a👩‍🚀b", "ab", "", "a|+👩‍🚀|b", "P");
-        row("punctuation", "to-be, or", "to be or", "", "to| >-|be|+,| or", "P");
-        row("only digits left are no words", "!", "?", "", "?>!", "W");
-        row("the nearest of several", "cat * house * horse", "housse", "", "hous|-s|e", "O");
-        row("the first of those as near", "bat * cat", "rat", "", "r>b|at", "O");
-        row("a named slip is nearest", "H * hund", "HUND", "", "HUND>hund", "L");
-        row("the whole term", "cat * dog", "cat dog", "", "cat |+* |dog", "P");
-        row("the comment left out", "hus [n]", "huss", "", "hus|-s", "O");
-        row("the comment typed", "hus [n]", "hus m", "", "hus |m>n", "O");
-        row("what does not count is the same", "to-be or Not", "Tobe or noot", "i1",
-            "Tobe or no/to-be or No|-o|t", "O");
-        row("also between steps", "fast, cars!", "¡last bars", "1", "¡/|l>f|ast /ast, |b>c|ars/ars!", "");
-        row("only its case counts", "Hund!", "hUND", "1", "hUND>Hund|/!", "L");
-        row("case ignored", "Hund", "HUNT", "i", "HUN/Hun|T>d", "O");
-        row("nothing left to compare", "to-be", "!!", "1", "!!>to-be", "W");
-        row("a mark that does not count stays with its letter", "e\u0301ne", "enn", "1", "en/e\u0301n|n>e",
-            "O");
-        row("looks the same and is not", "e\u0301n", "én", "", "é>e\u0301|n", "S");
-        row("looks the same and counts as without its mark", "én", "e\u0301n", "1", "e\u0301>é|n", "A");
-        row("parts that make one character", "\u0e19\u0e33x", "\u0e19-\u0e33", "1",
-            "\u0e19-\u0e33/\u0e19\u0e33|+x", "O");
-    }
-
     void differences()
     {
-        QFETCH(QString, term);
-        QFETCH(QString, answer);
-        QFETCH(QString, options);
-        QFETCH(QString, parts);
-        QFETCH(QString, slip);
-        const CheckingOptions checking = {options.contains(u'i'),
-            options.contains(u'1') ? CharacterCheck::OnlyLetters : CharacterCheck::AllCharacters};
-        const AnswerDifference difference = answerDifference(CWordEntry(term), 0, answer, checking);
-        QStringList found;
-        for (const DifferencePart &part : difference.parts) {
-            using enum DifferencePart::Kind;
-            found.append(part.kind == Same
-                    ? (part.typed == part.expected ? part.typed : part.typed + u'/' + part.expected)
-                    : part.kind == Missing ? u'+' + part.expected
-                    : part.kind == Surplus ? u'-' + part.typed
-                                           : part.typed + u'>' + part.expected);
-        }
-        QCOMPARE(found.join(u'|'), parts);
-        QString slips;
-        for (int bit = 0; bit < 7; ++bit) {
-            if (difference.slips.testFlag(Slip(1 << bit))) {
-                slips += u"LAPSOXW"_s.at(bit);
+        const struct
+        {
+            QString term, answer;
+            QString options; // i ignore case, 1 character check
+            QString parts; // +missing, -surplus, typed>expected, same or typed/expected
+            QString slips; // A letter for each.
+        } rows[] = {
+            {u"house"_s, u"hose"_s, {}, u"ho|+u|se"_s, u"O"_s}, // a letter missing
+            {u"house"_s, u"houuse"_s, {}, u"hou|-u|se"_s, u"O"_s}, // a letter too much
+            {u"house"_s, u"hause"_s, {}, u"h|a>o|use"_s, u"O"_s}, // a letter changed
+            {u"mp3"_s, u"mp4"_s, {}, u"mp|4>3"_s, {}}, // a digit is no letter
+            {u"sitting"_s, u"kittens"_s, {}, u"k>s|itt|e>i|n|s>g"_s, {}}, // the fewest steps
+            {u"abcd"_s, u"bcde"_s, {}, u"+a|bcd|-e"_s, {}}, // one more and one less
+            {u"dog"_s, u"cat"_s, {}, u"cat>dog"_s, u"W"_s}, // all else
+            {u"Hund"_s, u"hUND"_s, {}, u"hUND>Hund"_s, u"L"_s}, // letter case
+            {u"Don't"_s, u"dont"_s, {}, u"d>D|on|+'|t"_s, u"LP"_s}, // letter case and punctuation
+            {u"får"_s, u"far"_s, {}, u"f|a>å|r"_s, u"O"_s}, // å is a letter
+            {u"über"_s, u"uber"_s, {}, u"u>ü|ber"_s, u"A"_s}, // ü is an accent
+            {u"don't"_s, u"don’t"_s, {}, u"don|’>'|t"_s, u"S"_s}, // an apostrophe that looks the same
+            {u"to be"_s, u"to\u00A0be"_s, {}, u"to|\u00A0> |be"_s, u"S"_s}, // a blank that looks the same
+            {u"horse"_s, u"hrose"_s, {}, u"h|ro>or|se"_s, u"X"_s}, // two neighbours exchanged
+            {u"été"_s, u"ete"_s, {}, u"e>é|t|e>é"_s, u"A"_s}, // accents
+            {u"e\u0301n"_s, u"en"_s, {}, u"e>e\u0301|n"_s, u"A"_s}, // a combining mark belongs to its letter
+            // An emoji of several code points is one.
+            {u"a👩‍🚀b"_s, u"ab"_s, {}, u"a|+👩‍🚀|b"_s, u"P"_s},
+            {u"to-be, or"_s, u"to be or"_s, {}, u"to| >-|be|+,| or"_s, u"P"_s}, // punctuation
+            {u"!"_s, u"?"_s, {}, u"?>!"_s, u"W"_s}, // only digits left are no words
+            {u"cat * house * horse"_s, u"housse"_s, {}, u"hous|-s|e"_s, u"O"_s}, // the nearest of several
+            {u"bat * cat"_s, u"rat"_s, {}, u"r>b|at"_s, u"O"_s}, // the first of those as near
+            {u"H * hund"_s, u"HUND"_s, {}, u"HUND>hund"_s, u"L"_s}, // a named slip is nearest
+            {u"cat * dog"_s, u"cat dog"_s, {}, u"cat |+* |dog"_s, u"P"_s}, // the whole term
+            {u"hus [n]"_s, u"huss"_s, {}, u"hus|-s"_s, u"O"_s}, // the comment left out
+            {u"hus [n]"_s, u"hus m"_s, {}, u"hus |m>n"_s, u"O"_s}, // the comment typed
+            // What does not count is the same.
+            {u"to-be or Not"_s, u"Tobe or noot"_s, u"i1"_s, u"Tobe or no/to-be or No|-o|t"_s, u"O"_s},
+            // Also between steps.
+            {u"fast, cars!"_s, u"¡last bars"_s, u"1"_s, u"¡/|l>f|ast /ast, |b>c|ars/ars!"_s, {}},
+            {u"Hund!"_s, u"hUND"_s, u"1"_s, u"hUND>Hund|/!"_s, u"L"_s}, // only its case counts
+            {u"Hund"_s, u"HUNT"_s, u"i"_s, u"HUN/Hun|T>d"_s, u"O"_s}, // case ignored
+            {u"to-be"_s, u"!!"_s, u"1"_s, u"!!>to-be"_s, u"W"_s}, // nothing left to compare
+            // A mark that does not count stays with its letter.
+            {u"e\u0301ne"_s, u"enn"_s, u"1"_s, u"en/e\u0301n|n>e"_s, u"O"_s},
+            {u"e\u0301n"_s, u"én"_s, {}, u"é>e\u0301|n"_s, u"S"_s}, // looks the same and is not
+            // Looks the same and counts as without its mark.
+            {u"én"_s, u"e\u0301n"_s, u"1"_s, u"e\u0301>é|n"_s, u"A"_s},
+            // Parts that make one character.
+            {u"\u0e19\u0e33x"_s, u"\u0e19-\u0e33"_s, u"1"_s, u"\u0e19-\u0e33/\u0e19\u0e33|+x"_s, u"O"_s},
+        };
+        for (const auto &row : rows) {
+            const CheckingOptions checking = {row.options.contains(u'i'),
+                row.options.contains(u'1') ? CharacterCheck::OnlyLetters : CharacterCheck::AllCharacters};
+            const AnswerDifference difference = answerDifference(CWordEntry(row.term), 0, row.answer, checking);
+            QStringList found;
+            for (const DifferencePart &part : difference.parts) {
+                using enum DifferencePart::Kind;
+                found.append(part.kind == Same
+                        ? (part.typed == part.expected ? part.typed : part.typed + u'/' + part.expected)
+                        : part.kind == Missing ? u'+' + part.expected
+                        : part.kind == Surplus ? u'-' + part.typed
+                                               : part.typed + u'>' + part.expected);
             }
+            QCOMPARE(found.join(u'|'), row.parts);
+            QString slips;
+            for (int bit = 0; bit < 7; ++bit) {
+                if (difference.slips.testFlag(Slip(1 << bit))) {
+                    slips += u"LAPSOXW"_s.at(bit);
+                }
+            }
+            QCOMPARE(slips, row.slips);
         }
-        QCOMPARE(slips, slip);
     }
 
     void shown()

@@ -7,8 +7,6 @@
 #include <QHeaderView>
 #include <QListView>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 void Answer(QWidget *window, const QString &answer)
@@ -47,7 +45,6 @@ private Q_SLOTS:
     {
         TestQuiz run(u"hund|dog,katt|cat||1,häst|horse"_s);
         auto *dialog = PlayToResult(run, {u"dog"_s, u"x"_s, u"hrose"_s});
-        QVERIFY(dialog != nullptr);
         VerifyAccessibleNames(dialog);
         QCOMPARE(Find<QLabel>(dialog, "summary")->text(), u"Totalt 3 glosor. Av 3 svar är 1 rätt (33%)."_s);
         QCOMPARE(Find<QLabel>(dialog, "flagLine")->text(),
@@ -118,7 +115,6 @@ private Q_SLOTS:
         QVERIFY(accept->isEnabled());
         Find<QPushButton>(window, "resultButton")->click();
         auto *dialog = FindWindow<CQuizResultDialog>();
-        QVERIFY(dialog != nullptr);
         QCOMPARE(Find<QTableView>(dialog, "results")->model()->columnCount(), 3);
         for (const char *hidden :
             {"flagLine", "flagsHint", "flagSettingsButton", "selectMistakes", "wrongAnswers"}) {
@@ -144,7 +140,6 @@ private Q_SLOTS:
         auto *result = PlayToResult(run, {u"dog"_s, u"x"_s});
         Find<QPushButton>(result, "flagSettingsButton")->click();
         auto *dialog = FindWindow<CFlagSettingsDialog>();
-        QVERIFY(dialog != nullptr);
         auto *limit = Find<QSpinBox>(dialog, "flagWordLimit");
         auto *unasked = Find<QComboBox>(dialog, "changeUnaskedTo");
         QVERIFY(limit->value() == 100 && limit->isEnabled() && unasked->currentIndex() == 1

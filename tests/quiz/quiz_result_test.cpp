@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/quiz_result.h"
-#include "quiz/text_numbers.h"
 #include "support/files.h"
 #include "support/test_session.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -93,24 +90,6 @@ private Q_SLOTS:
             QCOMPARE(run.result.flagLine(), row.line);
             run.result.applyFlags();
             QCOMPARE(run.Entries(), row.entries);
-        }
-    }
-
-    void contradictingLimits()
-    {
-        const struct
-        {
-            int flag;
-            int unflag;
-            bool unflags;
-            bool contradict;
-        } rows[] = {{100, 0, true, false}, {50, 49, true, false}, {50, 50, true, true}, {50, 50, false, false}};
-        for (const auto &row : rows) {
-            ResultSettings settings;
-            settings.flagWordLimit = row.flag;
-            settings.unFlagWordLimit = row.unflag;
-            settings.unFlagWord = row.unflags;
-            QCOMPARE(flagLimitsContradict(settings), row.contradict);
         }
     }
 

@@ -5,8 +5,6 @@
 #include "support/silent_sounds.h"
 #include "support/widgets.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The window over settings of its own; `settings` are those that OK stores.
@@ -104,20 +102,16 @@ private Q_SLOTS:
 
     void requizButtons()
     {
-        const char *const buttons[] = {"noRequiz", "askAgain", "requizAfter"};
-        constexpr Requiz Values[] = {Requiz::None, Requiz::AtOnce, Requiz::AfterRound};
         QuizSettings settings;
-        for (int i = 0; i < 3; ++i) {
-            Window cancelled(settings);
-            cancelled.Find<QRadioButton>(buttons[i])->click();
-            QTest::keyClick(&cancelled.dialog, Qt::Key_Escape);
-            QVERIFY(!cancelled.dialog.isVisible() && settings.requiz != Values[i]);
-            Window chosen(settings);
-            chosen.Find<QRadioButton>(buttons[i])->click();
-            chosen.dialog.accept();
-            QCOMPARE(settings.requiz, Values[i]);
-            const Window again(settings);
-            QVERIFY2(again.Find<QRadioButton>(buttons[i])->isChecked(), buttons[i]);
+        for (const auto &[button, requiz] : {std::pair("noRequiz", Requiz::None), {"askAgain", Requiz::AtOnce},
+                 {"requizAfter", Requiz::AfterRound}}) {
+            Window window(settings);
+            window.Find<QRadioButton>(button)->click();
+            QTest::keyClick(&window.dialog, Qt::Key_Escape);
+            QVERIFY(!window.dialog.isVisible() && settings.requiz != requiz);
+            window.dialog.accept();
+            QCOMPARE(settings.requiz, requiz);
+            QVERIFY2(Window(settings).Find<QRadioButton>(button)->isChecked(), button);
         }
     }
 

@@ -9,8 +9,6 @@
 #include <QTextEdit>
 #include <QWindow>
 
-using namespace Qt::StringLiterals;
-
 class QuizWindowsTest : public QObject
 {
     Q_OBJECT
@@ -46,7 +44,6 @@ private Q_SLOTS:
 
         QVERIFY(run.host.shown);
         auto *result = FindWindow<CQuizResultDialog>();
-        QVERIFY(result != nullptr);
         QCOMPARE(Find<QLabel>(result, "summary")->text(), u"Totalt 2 glosor. Av 3 svar är 2 rätt (67%)."_s);
         result->accept();
         QVERIFY(!run.launch.isRunning());
@@ -57,7 +54,6 @@ private Q_SLOTS:
     {
         TestQuiz run;
         auto *window = run.Start<CStandardQuiz>();
-        QVERIFY(window != nullptr);
         QApplication::setActiveWindow(window);
         auto *answer = Find<QLineEdit>(window, "answer");
         QTest::keyClick(answer, Qt::Key_F1);
@@ -104,7 +100,6 @@ private Q_SLOTS:
         QTest::keyClick(answer, Qt::Key_Return); // So is nothing, once the word was seen.
 
         auto *result = FindWindow<CQuizResultDialog>();
-        QVERIFY(result != nullptr);
         run.clock.now += CInputGuard::Pause;
         QVERIFY(QTest::qWaitForWindowExposed(result)); // The pause begins when it is painted.
         auto *list = Find<QWidget>(result, "results");

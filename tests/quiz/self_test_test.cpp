@@ -2,8 +2,6 @@
 #include "quiz/ui/self_test.h"
 #include "support/test_quiz.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The word on screen and the answer, if it is shown.
@@ -27,7 +25,6 @@ private Q_SLOTS:
     {
         TestQuiz run({u"a|x [1] * y"_s, u"b|<i>||1"_s, u"c|"_s, u"d|z"_s});
         auto *window = run.Start<CSelfTest>(QuizKind::SelfTest);
-        QVERIFY(window != nullptr);
         QApplication::setActiveWindow(window);
         auto *spoken = window->findChild<CSpokenText *>();
         const auto enter = [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); };

@@ -5,10 +5,6 @@
 #include "support/test_form.h"
 #include "support/test_quiz.h"
 
-#include <QTableView>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// What the window would show: the round, the rows with the current one in brackets and answers marked by "*",
@@ -59,6 +55,7 @@ QStringList Play(const QStringList &entries, const QuizSettings &settings, const
     }
     return lines;
 }
+
 }
 
 class TableQuizTest : public QObject
@@ -76,8 +73,7 @@ private Q_SLOTS:
         {
             QStringList entries;
             QuizSettings settings;
-            QString script;
-            QString lines;
+            QString script, lines;
         } rows[] = {
             // In any order; mistakes, then synonyms.
             {animals, InOrder(Requiz::None), u"@1 _puss_ x ! y ?k >"_s,

@@ -17,8 +17,6 @@
 #include <QPushButton>
 #include <QTableView>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The view in a window that has the commands for finding.
@@ -187,7 +185,6 @@ private Q_SLOTS:
         QApplication::setActiveWindow(&run.frame);
         run.List()->EditCell(1, 0);
         auto *const editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-        QVERIFY(editor != nullptr);
         editor->setText(u"hundar"_s);
         run.In<QPushButton>("findAll")->click();
         QCOMPARE(run.test.document.List().Entry(0).GetText(0), u"hundar"_s);

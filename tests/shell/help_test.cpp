@@ -3,10 +3,7 @@
 #include "support/files.h"
 
 #include <QRegularExpression>
-#include <QTest>
 #include <QUrl>
-
-using namespace Qt::StringLiterals;
 
 class HelpTest : public QObject
 {
@@ -37,8 +34,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString file = folder.filePath(u"a.html"_s);
-        QVERIFY(!ReadHelp(file));
-        QVERIFY(!ReadHelp(folder.path()));
+        QVERIFY(!ReadHelp(file) && !ReadHelp(folder.path()));
         WriteFile(file, QByteArray("<h2>x").repeated(100'000) + "<nav><nav");
         const std::optional<HelpPage> page = ReadHelp(file);
         QVERIFY(page && page->sections.isEmpty());

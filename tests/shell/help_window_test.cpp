@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "resources/texts.h"
-#include "shell/text_numbers.h"
 #include "shell/ui/help_text.h"
 #include "shell/ui/help_window.h"
 #include "support/scripted_prompt.h"
@@ -11,8 +10,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTreeWidget>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/program_end.h"
+#include "support/test.h"
 
 #include <QHash>
-#include <QTest>
 
 #include <functional>
-
-using namespace Qt::StringLiterals;
 
 class ProgramEndTest : public QObject
 {
@@ -18,9 +16,7 @@ private Q_SLOTS:
         const struct
         {
             QString story;
-            bool keepsCopy;
-            bool fromOutside;
-            bool savesSettingsOfFirstRun;
+            bool keepsCopy, fromOutside, savesSettingsOfFirstRun;
         } rows[] = {
             {u"start,close"_s, false, false, true},
             {u"close"_s, false, false, false}, // While the questions of the start are open.

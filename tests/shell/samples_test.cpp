@@ -10,8 +10,6 @@
 
 #include <QBuffer>
 
-using namespace Qt::StringLiterals;
-
 class SamplesTest : public QObject
 {
     Q_OBJECT
@@ -65,8 +63,7 @@ private Q_SLOTS:
         CRecentFiles recent(store, u"root"_s);
         CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
         QVERIFY(files.OpenCopy(path));
-        QVERIFY(!test.document.IsModified());
-        QVERIFY(test.document.Path().isEmpty());
+        QVERIFY(!test.document.IsModified() && test.document.Path().isEmpty());
         QVERIFY(recent.Paths().isEmpty());
         const QString saved = folder.filePath(u"mine.gls"_s);
         chooser.paths = {saved};

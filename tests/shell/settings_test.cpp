@@ -2,8 +2,6 @@
 #include "document/win32_doc.h"
 #include "platform/ui/long_line_edit.h"
 #include "platform/ui/number_field.h"
-#include "settings/settings.h"
-#include "settings/settings_changes.h"
 #include "shell/ui/list_properties_dialog.h"
 #include "shell/ui/settings_dialog.h"
 #include "support/test_document.h"
@@ -13,9 +11,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
 
 class SettingsTest : public QObject
 {

@@ -3,10 +3,7 @@
 #include "settings/shell_settings.h"
 #include "shell/special_character_model.h"
 #include "shell/special_characters.h"
-
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test.h"
 
 namespace {
 
@@ -70,17 +67,13 @@ private Q_SLOTS:
     void ownCharacters()
     {
         Characters run(CharacterSet::Own, {u"a"_s, u"b"_s});
-        QVERIFY(!run.characters.Edit(0, u" \n"_s));
-        QVERIFY(run.characters.Edit(0, u" a\u0301\n "_s));
-        QVERIFY(run.characters.Edit(2, u"c"_s));
-        QVERIFY(!run.characters.Edit(4, u"d"_s));
-        QVERIFY(!run.characters.Remove(3));
-        QVERIFY(run.characters.Remove(1));
+        QVERIFY(!run.characters.Edit(0, u" \n"_s) && run.characters.Edit(0, u" a\u0301\n "_s));
+        QVERIFY(run.characters.Edit(2, u"c"_s) && !run.characters.Edit(4, u"d"_s));
+        QVERIFY(!run.characters.Remove(3) && run.characters.Remove(1));
         QCOMPARE(run.settings.keys, QStringList({u"a\u0301"_s, u"c"_s}));
 
         run.settings.subset = int(CharacterSet::Latin1);
-        QVERIFY(!run.characters.Edit(0, u"x"_s));
-        QVERIFY(!run.characters.Remove(0));
+        QVERIFY(!run.characters.Edit(0, u"x"_s) && !run.characters.Remove(0));
         QCOMPARE(run.settings.keys.size(), 2);
     }
 
@@ -100,8 +93,7 @@ private Q_SLOTS:
         QCOMPARE(text(10, 1), QString());
         QCOMPARE(text(11, 0), u"(...)"_s);
         QCOMPARE(text(11, 0, Qt::EditRole), QString());
-        QVERIFY(model.Remove(0));
-        QVERIFY(model.setData(model.index(10, 0), u"x"_s));
+        QVERIFY(model.Remove(0) && model.setData(model.index(10, 0), u"x"_s));
         QCOMPARE(text(10, 0), u"x"_s);
         QCOMPARE(text(11, 0), u"(...)"_s);
 

@@ -6,14 +6,11 @@
 #include "shell/help.h"
 #include "shell/language_choice.h"
 #include "shell/start_up.h"
-#include "shell/text_numbers.h"
 #include "shell/window_placement.h"
 #include "support/files.h"
 #include "support/scripted_prompt.h"
 
 #include <QLocale>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -158,6 +155,11 @@ private Q_SLOTS:
         QCOMPARE(preselected("dea"), 1);
         QCOMPARE(preselected("fra"), 3);
         QCOMPARE(preselected(""), 3);
+        QStringList found;
+        for (const char *name : {"sv_SE", "en_US", "en_GB", "de_DE", "nb_NO", "fi_FI", "la"}) {
+            found.append(LanguageAbbreviation(QLocale(QString::fromLatin1(name))));
+        }
+        QCOMPARE(found.join(u' '), u"sve enu eng deu nor fin lat"_s);
 
         CLanguageChoice choice(entries, u"/d"_s, false, u"enu"_s);
         QCOMPARE(choice.Selected(), 1);
@@ -176,31 +178,22 @@ private Q_SLOTS:
         QVERIFY(settings.languageFile.isEmpty() && !settings.plugInUse);
     }
 
-    void abbreviations()
-    {
-        QStringList found;
-        for (const char *name : {"sv_SE", "en_US", "en_GB", "de_DE", "nb_NO", "fi_FI", "la"}) {
-            found.append(LanguageAbbreviation(QLocale(QString::fromLatin1(name))));
-        }
-        QCOMPARE(found.join(u' '), u"sve enu eng deu nor fin lat"_s);
-    }
-
     void fileToReopen()
     {
         const QString path = WriteFile(Path("last.gls"), "x");
         CMemoryStore store;
         Start start(store);
         CRecentFiles recent(store, CAppSettings::RootPath());
-        start.settings.misc.openOnClosing = true;
-        QCOMPARE(start.startUp.FileToReopen({}, recent), QString());
+        const auto file = [&](bool openOnClosing, const QString &named = {}) {
+            start.settings.misc.openOnClosing = openOnClosing;
+            return start.startUp.FileToReopen(named, recent);
+        };
+        QCOMPARE(file(true), QString());
         recent.Add(path);
-        QCOMPARE(start.startUp.FileToReopen({}, recent), path);
-        QCOMPARE(start.startUp.FileToReopen(u"named.gls"_s, recent), QString());
-        start.settings.misc.openOnClosing = false;
-        QCOMPARE(start.startUp.FileToReopen({}, recent), QString());
-        start.settings.misc.openOnClosing = true;
+        QCOMPARE(file(true), path);
+        QCOMPARE(file(true, u"named.gls"_s) + file(false), QString());
         QFile::remove(path);
-        QCOMPARE(start.startUp.FileToReopen({}, recent), QString());
+        QCOMPARE(file(true), QString());
     }
 
     void help()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/test.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

@@ -3,12 +3,12 @@
 
 #include "fileformats/word_list_file.h"
 #include "support/lists.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QTest>
 
 /// A folder of its own with files in it.
 class CListFiles

@@ -3,6 +3,7 @@
 
 #include "model/word_list.h"
 #include "platform/random.h"
+#include "support/test.h"
 
 #include <QStringList>
 

@@ -4,10 +4,10 @@
 #include "platform/file_chooser.h"
 #include "platform/user_prompt.h"
 #include "support/prompt_forms.h"
+#include "support/test.h"
 
 #include <QList>
 #include <QStringList>
-#include <QTest>
 
 #include <functional>
 

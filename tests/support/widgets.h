@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/test.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTableView>
-#include <QTest>
 
 /// The window of this class on screen, or null.
 template<class Window>
@@ -43,6 +46,16 @@ inline void VerifyAccessibleNames(const QWidget *window)
         QVERIFY2(
             !isControl || !isOurs || !widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
     }
+}
+
+/// Lets data be dropped on a widget. False where it is refused.
+inline bool Drop(QWidget *target, const QMimeData &data, const QPoint &place = {9, 9})
+{
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDropEvent drop(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    return enter.isAccepted() && QApplication::sendEvent(target, &drop) && drop.isAccepted();
 }
 
 /// Types into whatever has the focus; a line feed is Enter.

@@ -5,12 +5,7 @@
 #include "support/test_document.h"
 #include "tools/file_patterns.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
 #include <sys/stat.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,6 +36,7 @@ struct Search
         return paths.join(u',');
     }
 };
+
 }
 
 class FileSearchTest : public QObject

@@ -13,10 +13,7 @@
 #include <QAction>
 #include <QDragEnterEvent>
 #include <QMimeData>
-#include <QTableView>
 #include <QUrl>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -61,6 +58,7 @@ bool IsEnabled(const QWidget *window, const char *name)
 {
     return Find<QWidget>(window, name)->isEnabled();
 }
+
 }
 
 class FileToolWindowsTest : public QObject
@@ -101,7 +99,8 @@ private Q_SLOTS:
         const int height = dialog->height();
         QTRY_VERIFY(IsEnabled(dialog, "import"));
         Click(dialog, "import");
-        QVERIFY(!Find<QWidget>(dialog, "useFilter")->isVisible() && Find<QWidget>(dialog, "progress")->isVisible());
+        QVERIFY(
+            !Find<QWidget>(dialog, "useFilter")->isVisible() && Find<QWidget>(dialog, "progress")->isVisible());
         QVERIFY(dialog->height() < height);
         QVERIFY(!IsEnabled(dialog, "chooseFiles"));
         QTRY_COMPARE(Find<QPushButton>(dialog, "cancel")->text(), u"Stäng"_s);

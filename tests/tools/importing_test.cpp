@@ -4,11 +4,6 @@
 #include "support/list_files.h"
 #include "support/test_document.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// An import into a list of two entries, between them.
@@ -46,6 +41,7 @@ struct Import
     QString ToolTip(int row) const { return importing->Files().index(row, 0).data(Qt::ToolTipRole).toString(); }
     QString List() const { return Joined(test.document.List()); }
 };
+
 }
 
 class ImportingTest : public QObject
