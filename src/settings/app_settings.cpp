@@ -119,6 +119,7 @@ void CAppSettings::ForEachSection(Visit visit)
     visit(result, "result");
     visit(find, "find");
     visit(arrange, "arrange");
+    visit(dictionaries, "dictionaries");
 }
 
 void CAppSettings::Exchange(bool load)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/dictionary_settings.h"
 #include "settings/editor_settings.h"
 #include "settings/quiz_settings.h"
 #include "settings/shell_settings.h"
@@ -23,4 +24,5 @@ struct Settings
     ResultSettings result;
     FindSettings find;
     ArrangeSettings arrange;
+    DictionarySettings dictionaries;
 };

@@ -5,7 +5,8 @@
 #include "settings/settings_changes.h"
 
 CSettingsForm::CSettingsForm(SettingsFormServices services)
-    : newLists(services.texts, services.today()), m_services(std::move(services))
+    : newLists(services.texts, services.today()), dictionaries(services.languages),
+      m_services(std::move(services))
 {
     Load();
 }
@@ -16,6 +17,7 @@ void CSettingsForm::Load()
     editing.Load(m_services.settings.editor);
     newLists.Load(m_services.settings.editor);
     view.Load(m_services.settings.editor);
+    dictionaries.Load(m_services.settings.dictionaries);
 }
 
 void CSettingsForm::Store()
@@ -24,6 +26,7 @@ void CSettingsForm::Store()
     editing.Store(m_services.settings.editor);
     newLists.Store(m_services.settings.editor);
     view.Store(m_services.settings.editor);
+    dictionaries.Store(m_services.settings.dictionaries);
     m_services.changes.Tell(SettingsSection::Misc);
     m_services.changes.Tell(SettingsSection::Editor);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/dictionary_settings_form.h"
 #include "shell/settings_forms.h"
 
 #include <functional>
@@ -21,6 +22,10 @@ struct SettingsFormServices
     std::function<void()> chooseLanguage;
     std::function<void()> associateFiles;
     std::function<void()> openQuizSettings;
+    /// Returns the folder chosen, or an empty path.
+    std::function<QString(const QString &start)> chooseDictionaryFolder = {};
+    /// Those of the list that is open.
+    std::array<QString, 2> languages = {};
 };
 
 /// The window of settings without the window: its pages' values, stored together.
@@ -42,6 +47,7 @@ public:
     CEditingSettingsForm editing;
     CNewListSettingsForm newLists;
     CViewSettingsForm view;
+    CDictionarySettingsForm dictionaries;
 
 private:
     SettingsFormServices m_services;

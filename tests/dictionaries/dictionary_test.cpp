@@ -4,28 +4,17 @@
 #include "dictionaries/article.h"
 #include "dictionaries/installed_dictionaries.h"
 #include "platform/language_names.h"
-#include "support/files.h"
+#include "support/dictionary_files.h"
 
 #include <QTest>
 
 #include <zlib.h>
 
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Article = std::pair<QByteArray, QByteArray>; // What the index calls it, and its text.
-
-QByteArray Base64Number(qint64 number)
-{
-    const char *const alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    QByteArray digits;
-    do {
-        digits.prepend(alphabet[number % 64]);
-        number /= 64;
-    } while (number > 0);
-    return digits;
-}
 
 void AppendNumber(QByteArray &bytes, int number)
 {
@@ -70,10 +59,7 @@ class CDictionaryFiles
 public:
     explicit CDictionaryFiles(const QList<Article> &articles, int pieceSize = 0)
     {
-        for (const auto &[headword, article] : articles) {
-            index += headword + '\t' + Base64Number(text.size()) + '\t' + Base64Number(article.size()) + '\n';
-            text += article;
-        }
+        std::tie(index, text) = DictionaryBytes(articles);
         if (pieceSize > 0) {
             text = Compressed(text, pieceSize);
             suffix = u".dict.dz"_s;

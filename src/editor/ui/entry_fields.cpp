@@ -8,9 +8,12 @@
 #include "platform/ui/long_line_edit.h"
 #include "resources/texts.h"
 
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QShortcutEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -29,6 +32,7 @@ CEntryFields::CEntryFields(const CTexts &texts, QWidget *parent) : QWidget(paren
         m_fields[i] = new CLongLineEdit(texts.Get(Text::LongText), this);
         m_fields[i]->setObjectName(QStringLiteral("field%1").arg(i));
         m_labels[i]->setBuddy(m_fields[i]);
+        m_fields[i]->installEventFilter(this);
         layout->addWidget(m_labels[i], int(i), 0);
         layout->addWidget(m_fields[i], int(i), 1);
         connect(m_fields[i], &QLineEdit::returnPressed, this, &CEntryFields::AddOrChange);
@@ -61,6 +65,17 @@ QPushButton *CEntryFields::MakeButton(int text, const char *name)
 
 bool CEntryFields::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::FocusIn) {
+        const auto field = std::ranges::find(m_fields, watched);
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        // Not when a window or a menu gives it back.
+        if (field != m_fields.end()
+            && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
+                || reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason
+                || reason == Qt::OtherFocusReason)) {
+            Q_EMIT Entered(int(field - m_fields.begin()));
+        }
+    }
     // At once: the toolkit would show the button pressed first, while typing goes on in the field before.
     if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
         static_cast<QPushButton *>(watched)->click();
@@ -90,6 +105,11 @@ void CEntryFields::SetTexts(const EntryTexts &texts)
         m_fields[i]->SetWholeText(texts[i]);
         m_fields[i]->setCursorPosition(0);
     }
+}
+
+QLineEdit &CEntryFields::Line(int field) const
+{
+    return *m_fields[size_t(field)];
 }
 
 void CEntryFields::SetChangeMode(bool change)

@@ -10,6 +10,7 @@
 class CElidedLabel;
 class CLongLineEdit;
 class CTexts;
+class QLineEdit;
 class QPushButton;
 
 /// The three fields below the list in which an entry is typed or changed, with their buttons.
@@ -23,6 +24,7 @@ public:
     void SetLanguages(const QString &language1, const QString &language2);
     EntryTexts Texts() const;
     void SetTexts(const EntryTexts &texts);
+    QLineEdit &Line(int field) const;
     /// In change mode the fields hold an entry of the list, else one that is to be added.
     void SetChangeMode(bool change);
     bool IsChangeMode() const { return m_changeMode; }
@@ -35,6 +37,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
+    /// A field took the keyboard.
+    void Entered(int field);
     void NewEntry();
     void AddOrChange();
     /// The user typed in a field.

@@ -71,6 +71,11 @@ CWin32View::CWin32View(const ViewServices &services, QWidget *parent)
     connect(m_fields, &CEntryFields::NewEntry, this, &CWin32View::ClearFields);
     connect(m_fields, &CEntryFields::AddOrChange, this, &CWin32View::FieldsEntered);
     connect(&services.document, &CWin32Doc::Changed, this, &CWin32View::ListChanged);
+    connect(m_fields, &CEntryFields::Entered, this, [this](int field) {
+        if (field != CWordEntry::NoteField) {
+            TellTermWanted(m_fields->Line(field), field, m_fields->Texts()[size_t(1 - field)]);
+        }
+    });
     connect(m_fields, &CEntryFields::Typed, this, &CWin32View::TypedChanged);
     connect(&services.settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
         if (section == SettingsSection::Editor) {
@@ -91,6 +96,7 @@ void CWin32View::ConnectList()
         }
     });
     connect(m_list, &CWordListControl::CursorMoved, this, &CWin32View::SelectionChanged);
+    connect(m_list, &CWordListControl::EditorOpened, this, &CWin32View::EditorOpened);
     connect(m_list, &CWordListControl::Typed, this, &CWin32View::TypedChanged);
     connect(m_list, &CWordListControl::CellEdited, this, &CWin32View::CellEdited);
     connect(m_list, &CWordListControl::LeftEmpty, this, [this](int row, int field) {

@@ -19,6 +19,7 @@ class CEntryFields;
 class CSettingsChanges;
 class CWordListControl;
 class CWordListModel;
+class QLineEdit;
 class QMimeData;
 struct CellEdit;
 struct ListChange;
@@ -100,6 +101,8 @@ Q_SIGNALS:
     void SelectionChanged();
     /// What is typed and no entry yet is another.
     void TypedChanged();
+    /// A term of a new entry is about to be typed in a line; `otherTerm`, of the other language, is not empty.
+    void TermWanted(QLineEdit *line, int language, const QString &otherTerm);
     /// The heading of a field was clicked. An edit is left open, here and for a flag: the command ends it.
     void SortRequested(int field);
     /// A flag was clicked; FlagOf() says whose.
@@ -137,6 +140,8 @@ private:
     void SelectAndTypeOn(int entry);
     /// Whether the entry that a question told of stays selected, since what was typed still goes on.
     bool ShowsFound();
+    void TellTermWanted(QLineEdit &line, int language, const QString &otherTerm);
+    void EditorOpened(QLineEdit *line, int row, int field);
     void CellDoubleClicked(int row, int field, bool shift);
     void SearchTyped(const QString &start, int row);
     void PendingChanged() override;

@@ -24,6 +24,22 @@ void CWin32View::EndEditingQuietly()
     m_editing.SetAsking(true);
 }
 
+void CWin32View::TellTermWanted(QLineEdit &line, int language, const QString &otherTerm)
+{
+    if (!otherTerm.isEmpty()) {
+        Q_EMIT TermWanted(&line, language, otherTerm);
+    }
+}
+
+void CWin32View::EditorOpened(QLineEdit *line, int row, int field)
+{
+    const CRowModel &rows = m_model->Rows();
+    // Entries have both terms already.
+    if (rows.IsNewEntryRow(row) && (field == 0 || field == 1)) {
+        TellTermWanted(*line, field, rows.pending[size_t(1 - field)]);
+    }
+}
+
 void CWin32View::CellEdited(const CellEdit &edit)
 {
     using Key = CellEdit::Key;

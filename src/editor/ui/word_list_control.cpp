@@ -20,6 +20,10 @@ CWordListControl::CWordListControl(QWidget *parent)
     : QTableView(parent), m_delegate(new CWordListDelegate(*this)), m_quickEdit([] { return false; })
 {
     setItemDelegate(m_delegate);
+    connect(
+        m_delegate, &CWordListDelegate::EditorOpened, this, [this](QLineEdit *line, const QModelIndex &cell) {
+            Q_EMIT EditorOpened(line, cell.row(), m_model->FieldOf(cell.column()));
+        });
     connect(m_delegate, &CWordListDelegate::Typed, this, &CWordListControl::Typed);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);

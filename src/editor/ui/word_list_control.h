@@ -20,6 +20,7 @@ class CWordListDelegate;
 class CSpokenText;
 class CWordListModel;
 class QAccessibleInterface;
+class QLineEdit;
 class QMimeData;
 struct OpenEdit;
 
@@ -112,6 +113,8 @@ Q_SIGNALS:
     void CellEdited(const CellEdit &edit);
     /// The edit of a cell was cancelled when it held no text.
     void LeftEmpty(int row, int field);
+    /// A line was made for editing a cell.
+    void EditorOpened(QLineEdit *line, int row, int field);
     /// The text of the cell that is being edited is another.
     void Typed();
     void FlagClicked(const QPersistentModelIndex &cell);

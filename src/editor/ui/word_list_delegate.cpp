@@ -92,6 +92,7 @@ QWidget *CWordListDelegate::createEditor(
     connect(line, &QLineEdit::textEdited, this, &CWordListDelegate::Typed);
     m_editor = line;
     m_edited = index;
+    Q_EMIT EditorOpened(line, index);
     return line;
 }
 

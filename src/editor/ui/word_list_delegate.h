@@ -53,6 +53,8 @@ public:
         const QModelIndex &index) override;
 
 Q_SIGNALS:
+    /// A line was made for editing a cell; its text comes later.
+    void EditorOpened(QLineEdit *line, const QModelIndex &cell) const;
     /// The text in the open editor is another.
     void Typed() const;
 

@@ -5,6 +5,7 @@
 #include "document/recent_files.h"
 #include "document/win32_doc.h"
 #include "editor/clipboard_data.h"
+#include "editor/ui/term_suggestions.h"
 #include "editor/ui/win32_view.h"
 #include "games/ui/game_windows.h"
 #include "platform/plain_text.h"
@@ -86,6 +87,7 @@ CMainFrame::CMainFrame(const FrameServices &services)
 {
     setObjectName(QStringLiteral("mainFrame"));
     setCentralWidget(m_view);
+    new CTermSuggestions(*m_view, services.document, services.settings.dictionaries, services.texts);
     UseFonts();
     MakeMenus();
     ConnectCommands();

@@ -2,10 +2,13 @@
 #include "shell/ui/settings_commands.h"
 
 #include "document/win32_doc.h"
+#include "platform/file_chooser.h"
 #include "quiz/ui/quiz_settings_dialog.h"
+#include "resources/texts.h"
 #include "settings/settings.h"
 #include "settings/settings_changes.h"
 #include "shell/commands.h"
+#include "shell/text_numbers.h"
 #include "shell/ui/command_actions.h"
 #include "shell/ui/list_properties_dialog.h"
 #include "shell/ui/settings_dialog.h"
@@ -16,6 +19,10 @@ CSettingsCommands::CSettingsCommands(CCommandActions &actions, Services services
     : QObject(&mainWindow), m_services(std::move(services)), m_mainWindow(mainWindow)
 {
     m_services.form.openQuizSettings = [this] { OpenQuizSettings(); };
+    m_services.form.chooseDictionaryFolder = [this](const QString &start) {
+        return m_services.chooser.ChooseFolder(
+            {.title = m_services.form.texts.Get(Text::DictionaryFolderReadOut), .filters = {}, .start = start});
+    };
     actions.SetHandler(CommandId::Settings, [this] { OpenSettings(); });
     actions.SetHandler(CommandId::QuizSettings, [this] { OpenQuizSettings(); });
     actions.SetHandler(CommandId::Properties, [this] { OpenProperties(); });
@@ -23,6 +30,8 @@ CSettingsCommands::CSettingsCommands(CCommandActions &actions, Services services
 
 void CSettingsCommands::OpenSettings()
 {
+    const CWordList &list = m_services.document.List();
+    m_services.form.languages = {list.GetLanguage(0), list.GetLanguage(1)};
     auto *const dialog = new CSettingsDialog(m_services.form, &m_mainWindow);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();

@@ -25,4 +25,5 @@ void CSettingsDialog::AddPages()
     AddPage(MakeEditingSettingsPage(m_form.editing, texts), texts.Get(Text::SettingsEditingPage));
     AddPage(MakeNewListSettingsPage(m_form.newLists, texts), texts.Get(Text::SettingsNewListsPage));
     AddPage(MakeViewSettingsPage(m_form.view, texts), texts.Get(Text::SettingsViewPage));
+    AddPage(MakeDictionarySettingsPage(m_form), texts.Get(Text::SettingsDictionaryPage));
 }

@@ -18,3 +18,4 @@ QWidget *MakeGeneralSettingsPage(CSettingsForm &form, const std::function<void()
 QWidget *MakeEditingSettingsPage(CEditingSettingsForm &form, const CTexts &texts);
 QWidget *MakeNewListSettingsPage(CNewListSettingsForm &form, const CTexts &texts);
 QWidget *MakeViewSettingsPage(CViewSettingsForm &form, const CTexts &texts);
+QWidget *MakeDictionarySettingsPage(CSettingsForm &sheet);
