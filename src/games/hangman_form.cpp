@@ -62,6 +62,11 @@ QString CHangmanForm::spoken() const
     return ShownShort(question(), Longest) + u'\n' + spelledWord();
 }
 
+bool CHangmanForm::isMiss(char32_t letter) const
+{
+    return m_compared.find(letter) == std::u32string::npos;
+}
+
 QString CHangmanForm::triedLetters() const
 {
     if (m_tried.empty()) {
@@ -69,29 +74,41 @@ QString CHangmanForm::triedLetters() const
     }
     QStringList letters;
     for (const char32_t letter : m_tried) {
-        const bool isMiss = m_compared.find(letter) == std::u32string::npos;
-        letters += isMiss ? texts().Fill(Text::MissedLetter, {character(letter)}) : character(letter);
+        letters += isMiss(letter) ? texts().Fill(Text::MissedLetter, {character(letter)}) : character(letter);
     }
     return texts().Fill(Text::TriedLetters, {letters.join(QStringLiteral(", "))});
+}
+
+std::optional<LastAnswer> CHangmanForm::shownAnswer() const
+{
+    std::optional<LastAnswer> last = CWordByWordForm::shownAnswer();
+    if (last && !last->difference.isEmpty()) {
+        last->difference = m_misses.toHtmlEscaped();
+    }
+    return last;
 }
 
 std::optional<CHangmanForm::Outcome> CHangmanForm::guess(const QString &letters)
 {
     const QString compared = settings().ignoreCase ? ToLowerCase(letters) : letters;
     std::unordered_set<char32_t> guessed;
+    QStringList misses;
     for (const char32_t letter : KeepLetters(compared, false).toStdU32String()) {
-        if (guessed.insert(letter).second && m_tried.find(letter) == std::u32string::npos) {
+        if (!guessed.insert(letter).second) {
+            continue;
+        }
+        if (m_tried.find(letter) == std::u32string::npos) {
             m_tried += letter;
         }
-    }
-    std::unordered_set<char32_t> missed = guessed;
-    for (size_t i = 0; i < m_compared.size(); ++i) {
-        if (guessed.contains(m_compared[i])) {
-            m_hidden[i] = false;
-            missed.erase(m_compared[i]);
+        if (isMiss(letter)) {
+            misses += texts().Fill(Text::MissedLetter, {character(letter)});
         }
     }
-    if (!missed.empty()) {
+    for (size_t i = 0; i < m_compared.size(); ++i) {
+        m_hidden[i] = m_hidden[i] && !guessed.contains(m_compared[i]);
+    }
+    if (!misses.isEmpty()) {
+        m_misses = misses.join(QStringLiteral(", "));
         return recordAnswer({});
     }
     if (std::ranges::find(m_hidden, true) != m_hidden.end()) {

@@ -26,16 +26,21 @@ public:
     QString spoken() const;
     /// The letters tried so far, with those marked that are not in the word; empty before the first.
     QString triedLetters() const;
+    /// Of a miss, the letters that were it: an empty answer is recorded for them.
+    std::optional<LastAnswer> shownAnswer() const override;
 
     /// Reveals letters. Returns nothing while the word is to be guessed on; after a miss, or when all is
     /// revealed, the answer has been recorded.
     std::optional<Outcome> guess(const QString &letters);
 
 private:
+    bool isMiss(char32_t letter) const;
+
     QString m_word;
     // Code point by code point:
     std::u32string m_characters;
     std::u32string m_compared; // As far as case counts.
     std::vector<bool> m_hidden;
     std::u32string m_tried; // Each letter once.
+    QString m_misses; // Of the word that was missed last.
 };

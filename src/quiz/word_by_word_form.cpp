@@ -47,6 +47,11 @@ CWordByWordForm::Next CWordByWordForm::skip()
     return advance(AnswerVerdict::Right);
 }
 
+std::optional<LastAnswer> CWordByWordForm::shownAnswer() const
+{
+    return ::lastAnswer(*session(), texts());
+}
+
 QString CWordByWordForm::lastAnswer() const
 {
     return session()->record(*session()->lastAnswered()).answers.last();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "quiz/accept_offer.h"
+#include "quiz/last_answer.h"
 #include "quiz/quiz_form.h"
 
 /// What the forms decide that ask one word at a time: which word is on screen, and what comes after an answer.
@@ -20,6 +21,8 @@ public:
     /// Goes on without recording an answer.
     Next skip();
 
+    /// What is shown of the answer given last.
+    virtual std::optional<LastAnswer> shownAnswer() const;
     /// What "I was right" would do: accept the last answer, unless a word was skipped after it, or take back
     /// what was accepted.
     AcceptOffer acceptOffer() const;

@@ -72,6 +72,7 @@ private Q_SLOTS:
         QCOMPARE(form.spelledWord(), u"streck, y, mellanslag, streck"_s);
         const auto miss = form.guess(u"zq"_s);
         QVERIFY(miss && miss->feedback->number == 63003 && form.advance(miss->verdict) == Next::SameWord);
+        QCOMPARE(form.shownAnswer()->difference, u"q (fel)"_s); // Not that nothing was answered.
         form.startWord(); // Hidden again, and known is what was tried.
         QCOMPARE(form.maskedWord(), u"-- -"_s);
         QCOMPARE(form.triedLetters(), u"Provade bokstäver: y, z, q (fel)"_s);

@@ -46,7 +46,7 @@ void CWordByWordDialog::updateStatistics()
 {
     CQuizDialog::updateStatistics();
     if (m_feedback != nullptr) {
-        m_feedback->showAnswer(lastAnswer(*m_form.session(), texts()));
+        m_feedback->showAnswer(m_form.shownAnswer());
     }
     if (m_accept != nullptr) {
         m_accept->showOffer(m_form.acceptOffer());
