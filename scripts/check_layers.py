@@ -22,6 +22,7 @@ ALLOWED = {
     "games": DOCUMENT | {"quiz"},
     "editor": DOCUMENT | {"dictionaries"},
     "tools": DOCUMENT,
+    "commandline": DOCUMENT | {"dictionaries", "quiz", "tools"},
     "shell": DOCUMENT | {"dictionaries", "quiz", "games", "editor", "tools"},
 }
 

@@ -36,7 +36,9 @@ check_files() {
         cat <<END
 bin/ordelin
 share/applications/$id.desktop
+share/bash-completion/completions/ordelin
 share/doc/ordelin/copyright
+share/fish/vendor_completions.d/ordelin.fish
 $icons/16x16/apps/$id.svg
 $icons/scalable/apps/$id.svg
 $icons/scalable/mimetypes/application-x-ordelin.svg
@@ -44,6 +46,7 @@ share/man/man1/ordelin.1
 share/man/sv/man1/ordelin.1
 share/metainfo/$id.metainfo.xml
 share/mime/packages/ordelin.xml
+share/zsh/site-functions/_ordelin
 END
         find help samples sounds -type f -printf 'share/ordelin/%p\n'
         find modules -type f -printf 'share/ordelin/ordmod/%P\n'
@@ -51,7 +54,7 @@ END
     # The databases that the desktop makes of them, and what Debian adds to every package.
     (cd "$1" && find . -not -type d -printf '%P\n') \
         | grep -Ev '^share/(applications/mimeinfo.cache|mime/[^p]|doc/ordelin/changelog.gz)' \
-        | sed 's/\.1\.gz$/.1/' | sort | diff "$work/expected" - || fail "$1 has other files"
+        | sed 's/\.1\.gz$/.1/; s,zsh/vendor-completions/,zsh/site-functions/,' | sort | diff "$work/expected" - || fail "$1 has other files"
 }
 
 version=$(sed -n 's/^project(ordelin VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)

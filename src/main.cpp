@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "commandline/text_numbers.h"
+#include "commandline/verb.h"
 #include "platform/data_folders.h"
 #include "platform/file_name.h"
 #include "resources/texts.h"
@@ -8,25 +10,53 @@
 #include "shell/start_up.h"
 #include "shell/ui/ordelin_app.h"
 
+#include <QDateTime>
+
 #include <cstdio>
 
 namespace {
 
-/// Answers without a window, which needs no display. Returns the exit code.
-int Answer(int &argc, char **argv, const CommandLine &commandLine)
+/// What runs without a window need of the user's settings.
+struct Surroundings
 {
-    const QCoreApplication app(argc, argv);
-    CTexts texts;
-    const CIniStore store(CIniStore::UserPath(), CAppSettings::RootPath());
-    LoadLanguage(LoadLanguageSettings(store, CAppSettings::RootPath(), texts,
-                     DataFolders(QCoreApplication::applicationDirPath()), QLocale::system()),
-        texts);
-    const CommandLineAnswer answer = AnswerCommandLine(commandLine, texts, QStringLiteral(ORDELIN_VERSION));
+    CTexts texts = {};
+    CIniStore store = CIniStore(CIniStore::UserPath(), CAppSettings::RootPath());
+
+    Surroundings(int &argc, char **argv)
+    {
+        const QCoreApplication app(argc, argv); // Knows where the program is.
+        const QStringList folders = DataFolders(QCoreApplication::applicationDirPath());
+        const MiscSettings settings =
+            LoadLanguageSettings(store, CAppSettings::RootPath(), texts, folders, QLocale::system());
+        LoadLanguage(settings, texts);
+    }
+};
+
+/// Answers without a window, which needs no display. Returns the exit code.
+int Answer(const Surroundings &surroundings, const CommandLine &commandLine)
+{
+    const CTexts &texts = surroundings.texts;
+    CommandLineAnswer answer = AnswerCommandLine(commandLine, texts, QStringLiteral(ORDELIN_VERSION));
+    if (commandLine.error == 0 && commandLine.action == CommandLine::Action::ShowHelp) {
+        answer.text += (texts.Get(Text::VerbsTitle) + VerbList(texts)).toLocal8Bit();
+    }
     std::FILE *const stream = answer.isError ? stderr : stdout;
     const bool written = std::fwrite(answer.text.constData(), 1, size_t(answer.text.size()), stream)
             == size_t(answer.text.size())
         && std::fflush(stream) == 0;
     return written ? answer.exitCode : 1;
+}
+
+/// Runs a verb, which opens no window. Returns the exit code.
+int Run(const Verb &verb, const QStringList &arguments, const Surroundings &surroundings)
+{
+    CConsole console;
+    return int(RunVerb(verb, arguments,
+        {.texts = surroundings.texts,
+            .console = console,
+            .settings = surroundings.store,
+            .today = QDate::currentDate(),
+            .seed = quint32(QDateTime::currentMSecsSinceEpoch())}));
 }
 
 }
@@ -37,9 +67,12 @@ int main(int argc, char *argv[])
     for (int i = 1; i < argc; ++i) {
         arguments.append(DecodeFileName(argv[i]));
     }
+    if (const Verb *const verb = FindVerb(arguments.value(0)); verb != nullptr) {
+        return Run(*verb, arguments.sliced(1), Surroundings(argc, argv));
+    }
     const CommandLine commandLine = ParseCommandLine(arguments);
     if (commandLine.error != 0 || commandLine.action != CommandLine::Action::Run) {
-        return Answer(argc, argv, commandLine);
+        return Answer(Surroundings(argc, argv), commandLine);
     }
     COrdelinApp app(argc, argv);
     return app.Run(commandLine.file, commandLine.newList);

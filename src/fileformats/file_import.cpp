@@ -29,11 +29,17 @@ FileImport CFileImport::ImportFile(const QString &path, const KeepGoing &keepGoi
     CWordList file;
     FileImport outcome;
     const FormatReading reading = ReadListFile(file, path, {.keepGoing = &keepGoing});
+    if (!IsRefused(reading.result)) {
+        outcome = ImportList(file, keepGoing);
+    }
     outcome.read = reading.result;
     outcome.losses = reading.losses;
-    if (IsRefused(outcome.read)) {
-        return outcome;
-    }
+    return outcome;
+}
+
+FileImport CFileImport::ImportList(const CWordList &file, const KeepGoing &keepGoing)
+{
+    FileImport outcome;
     outcome.fault = FaultOf(file);
     if (outcome.fault != FileFault::None) {
         outcome.result = ImportResult::Ignored;
@@ -82,7 +88,8 @@ bool CFileImport::HasLanguagesOf(const CWordList &file) const
 bool CFileImport::IsCrossed(const CWordList &file) const
 {
     // Kept: one such pair is enough, also where the languages stand the right way round as well.
-    return SameLanguage(0, file, 1) || SameLanguage(1, file, 0);
+    const bool isCrossed = SameLanguage(0, file, 1) || SameLanguage(1, file, 0);
+    return isCrossed && !(m_options.prefersStraight && (SameLanguage(0, file, 0) || SameLanguage(1, file, 1)));
 }
 
 void CFileImport::InsertEntries(const CWordList &file, const KeepGoing &keepGoing, FileImport &outcome)

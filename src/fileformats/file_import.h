@@ -22,6 +22,9 @@ struct ImportOptions
     LanguageMatch languageMatch = LanguageMatch::Any;
     /// Skip entries whose terms and note are exactly those of one that is there.
     bool ignoreDuplicates = false;
+    /// Terms keep their places where a language stands the right way round as well as crossed: where names are
+    /// missing, say.
+    bool prefersStraight = false;
     WordListFilter filter = {};
 };
 
@@ -53,6 +56,8 @@ public:
     /// Reads a file of any kind. Where the list's languages stand in the file the other way round, its terms
     /// change places. `keepGoing` set to false stops between two records; what is in the list by then stays.
     FileImport ImportFile(const QString &path, const KeepGoing &keepGoing);
+    /// The same with what was read of a file.
+    FileImport ImportList(const CWordList &file, const KeepGoing &keepGoing);
 
     const CWordList &Target() const { return m_target; }
     CWordList TakeTarget() { return std::move(m_target); }

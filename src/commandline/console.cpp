@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "commandline/console.h"
+
+#include "platform/plain_text.h"
+
+#include <csignal>
+#include <unistd.h>
+
+namespace {
+
+/// Whether a character has no look of its own and turns what stands beside it round.
+bool TurnsDirection(QChar unit)
+{
+    return (unit >= u'\u202A' && unit <= u'\u202E') || (unit >= u'\u2066' && unit <= u'\u2069')
+        || unit == u'\u200E' || unit == u'\u200F' || unit == u'\u061C';
+}
+
+}
+
+QString Printable(QStringView text)
+{
+    QString printable;
+    printable.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar unit = text.at(i);
+        const bool pair = unit.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (pair) {
+            printable += unit;
+            printable += text.at(++i);
+        } else if (unit == u'\n') {
+            printable += unit;
+        } else if (unit == u'\r' || TurnsDirection(unit)) {
+            continue;
+        } else if (unit == u'\t' || unit == QChar::LineSeparator || unit == QChar::ParagraphSeparator) {
+            printable += u' ';
+        } else if (unit.category() == QChar::Other_Control || unit.isSurrogate()) {
+            printable += QChar(QChar::ReplacementCharacter);
+        } else {
+            printable += unit;
+        }
+    }
+    return printable;
+}
+
+QString ShownInLine(const QString &text)
+{
+    return Printable(OneLine(ShownShort(text)));
+}
+
+CConsole::CConsole()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    // A stream that is closed stays so, and what is read from it or written to it fails.
+    (void)m_input.open(STDIN_FILENO, QIODevice::ReadOnly);
+    (void)m_output.open(STDOUT_FILENO, QIODevice::WriteOnly);
+    (void)m_error.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
+}
+
+void CConsole::Print(const QString &text)
+{
+    const QByteArray bytes = Printable(text).toUtf8();
+    m_failed = m_output.write(bytes) != bytes.size() || m_failed;
+}
+
+void CConsole::Tell(const QString &message)
+{
+    (void)Flush();
+    QString line = Printable(message);
+    while (line.endsWith(u'\n')) {
+        line.chop(1);
+    }
+    m_error.write((QStringLiteral("ordelin: ") + line + u'\n').toUtf8());
+}
+
+std::optional<QString> CConsole::ReadLine()
+{
+    (void)Flush();
+    QByteArray line = m_input.readLine(LongestLine);
+    if (line.isEmpty()) {
+        return std::nullopt;
+    }
+    while (line.endsWith('\n') || line.endsWith('\r')) {
+        line.chop(1);
+    }
+    return QString::fromUtf8(line);
+}
+
+bool CConsole::IsInputATerminal() const
+{
+    return ::isatty(STDIN_FILENO) == 1;
+}
+
+bool CConsole::IsOutputATerminal() const
+{
+    return ::isatty(STDOUT_FILENO) == 1;
+}
+
+bool CConsole::Flush()
+{
+    m_failed = !m_output.flush() || m_failed;
+    return !m_failed;
+}
