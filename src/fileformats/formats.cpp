@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/formats.h"
 
+#include "fileformats/anki_text.h"
 #include "fileformats/plain_formats.h"
+#include "fileformats/separated_text.h"
+#include "fileformats/separated_text_guess.h"
 #include "fileformats/text_detection.h"
 #include "fileformats/word_list_filter.h"
 #include "model/word_list.h"
@@ -21,6 +24,8 @@
 namespace {
 
 constexpr std::array GlossarySuffixes = {QLatin1StringView("gls")};
+constexpr std::array SeparatedTextSuffixes = {
+    QLatin1StringView("csv"), QLatin1StringView("tsv"), QLatin1StringView("tab"), QLatin1StringView("psv")};
 constexpr std::array PlainTextSuffixes = {QLatin1StringView("txt")};
 
 constexpr std::array Table = {
@@ -39,6 +44,22 @@ constexpr std::array Table = {
         .suffixes = {},
         .recognises = WordQuizFormat::Recognises,
         .read = WordQuizFormat::Read},
+    Format{.id = FormatId::AnkiText,
+        .key = QLatin1StringView("anki"),
+        .name = Text::FormatAnkiText,
+        .suffixes = PlainTextSuffixes,
+        .recognises = AnkiTextFormat::Recognises,
+        .read = AnkiTextFormat::Read,
+        .count = AnkiTextFormat::Count,
+        .write = AnkiTextFormat::Write},
+    Format{.id = FormatId::SeparatedText,
+        .key = QLatin1StringView("separated"),
+        .name = Text::FormatSeparatedText,
+        .suffixes = SeparatedTextSuffixes,
+        .recognises = SeparatedTextFormat::Recognises,
+        .read = SeparatedTextFormat::Read,
+        .count = SeparatedTextFormat::Count,
+        .write = SeparatedTextFormat::Write},
     Format{.id = FormatId::PlainText,
         .key = QLatin1StringView("text"),
         .name = Text::FormatPlainText,
@@ -277,6 +298,15 @@ FormatReading ReadListSummary(WordListSummary &summary, const QString &path, con
     return reading;
 }
 
+SeparatedTextOptions SeparatedOptionsFor(const QString &path)
+{
+    SeparatedTextOptions options;
+    if (const char16_t separator = SeparatorOfSuffix(SuffixOf(path)); separator != 0) {
+        options.separator = separator;
+    }
+    return options;
+}
+
 FormatLosses LossesOf(const CWordList &list, const Format &format, const FormatWriteOptions &options)
 {
     CLossCounter losses;
@@ -289,11 +319,15 @@ FormatLosses LossesOf(const CWordList &list, const Format &format, const FormatW
 bool WriteListFile(
     const CWordList &list, const QString &path, const Format &format, const FormatWriteOptions &options)
 {
+    FormatWriteOptions complete = options;
+    if (!complete.separated) {
+        complete.separated = SeparatedOptionsFor(path);
+    }
     CSafeFile file;
     if (!format.CanWrite() || !file.Open(path, options.file.backupFolder)) {
         return false;
     }
-    if (!format.write(list, file.Device(), options)) {
+    if (!format.write(list, file.Device(), complete)) {
         file.Cancel();
         return false;
     }

@@ -102,6 +102,8 @@ struct FormatReading
 [[nodiscard]] FormatReading ReadListSummary(
     WordListSummary &summary, const QString &path, const FormatReadOptions &options = {});
 
+/// How a separated text of this name is written: tabs in a ".tsv", commas where the suffix tells nothing.
+SeparatedTextOptions SeparatedOptionsFor(const QString &path);
 /// What of the list a file of the format would not have; ask before writing.
 FormatLosses LossesOf(const CWordList &list, const Format &format, const FormatWriteOptions &options = {});
 /// Writes the file as safely as a glossary file (see CSafeFile). Returns false when anything failed, or when

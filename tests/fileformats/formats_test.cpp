@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/formats.h"
 
+#include "support/formats.h"
 #include "support/lists.h"
 
 #include <QBuffer>
@@ -34,24 +35,6 @@ private:
     QByteArray m_bytes;
     qint64 m_read = 0;
 };
-
-/// The losses as "kind:count", with commas between them.
-QString Described(const FormatLosses &losses)
-{
-    QStringList parts;
-    for (const FormatLoss &loss : losses) {
-        parts.append(u"%1:%2"_s.arg(int(loss.kind)).arg(loss.count));
-    }
-    return parts.join(u',');
-}
-
-QByteArray Written(const CWordList &list, FormatId format, const FormatWriteOptions &options = {})
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    return WriteListDevice(list, buffer, FormatOf(format), options) ? buffer.data()
-                                                                    : QByteArrayLiteral("failed");
-}
 
 }
 
