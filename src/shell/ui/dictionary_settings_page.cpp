@@ -19,6 +19,9 @@
 
 namespace {
 
+/// The fields grow with the window; names and paths may be far longer.
+constexpr int LeastCharacters = 20;
+
 void ShowDictionaries(
     QComboBox &choice, const CDictionarySettingsForm &form, int direction, const CTexts &texts)
 {
@@ -54,7 +57,7 @@ QWidget *MakeDictionarySettingsPage(CSettingsForm &sheet)
             [&form, direction](int index) { form.Choose(direction, index); });
         // A name may be long.
         choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        choice->setMinimumContentsLength(30);
+        choice->setMinimumContentsLength(LeastCharacters);
         AddRow(*rows,
             FillCaption(
                 texts.Get(Text::DictionaryDirection1 + direction), form.From(direction), form.To(direction)),
@@ -67,6 +70,7 @@ QWidget *MakeDictionarySettingsPage(CSettingsForm &sheet)
                 const QString chosen = sheet.Services().chooseDictionaryFolder(current);
                 return chosen.isEmpty() ? current : chosen;
             });
+    folder->setMinimumWidth(page->fontMetrics().averageCharWidth() * LeastCharacters);
     auto *const folderRow = new QHBoxLayout;
     folderRow->addWidget(folder, 1);
     folderRow->addWidget(browse);
