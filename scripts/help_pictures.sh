@@ -58,9 +58,13 @@ games() {
     wait "$pid" 2>/dev/null || true
 }
 
-# imports NAME MODULE: the window of the import when it is done, over the samples; those in other languages are ignored.
+# imports NAME MODULE: the windows of the search for lists and of the import, both when they are done, over the samples;
+# the import ignores those in other languages.
 imports() {
-    local texts=$2 list="$work/vardagsord.gls" search add start title
+    local texts=$2 list="$work/vardagsord.gls" search add start title tools search_key search_title
+    tools=$(mnemonic 99005)
+    search_key=$(mnemonic 133004)
+    search_title=$(sed -n 's/^237000=//p' "$texts")
     search=$(mnemonic 235003)
     add=$(mnemonic 237009)
     start=$(mnemonic 235001)
@@ -73,7 +77,10 @@ imports() {
     local pid=$! window=
     pids+=("$pid")
     find_window "vardagsord"
-    xdotool key ctrl+i sleep 1 key "alt+$search" sleep 1 key ctrl+a type --delay 20 "$work/lists"
+    xdotool key "alt+$tools" sleep 0.5 key "$search_key" sleep 1 key ctrl+a type --delay 20 "$work/lists"
+    xdotool key Return sleep 2
+    shot "$1-search" "$search_title"
+    xdotool key Escape sleep 0.5 key ctrl+i sleep 1 key "alt+$search" sleep 1 key ctrl+a type --delay 20 "$work/lists"
     xdotool key Return sleep 2 key "alt+$add" sleep 0.5 key Escape sleep 0.5 key "alt+$start" sleep 2
     shot "$1-import" "$title"
     kill "$pid"
@@ -82,7 +89,7 @@ imports() {
 
 # language NAME MODULE: all pictures in one language; the titles of its windows come from its own texts.
 language() {
-    local texts=$2 list="$work/vardagsord.gls" find properties quiz result settings settings_key special tools yes
+    local texts=$2 list="$work/vardagsord.gls" find properties quiz result settings settings_key special table tools yes
     yes=$(mnemonic 70050)
     tools=$(mnemonic 99005)
     settings_key=$(mnemonic 133006)
@@ -92,6 +99,7 @@ language() {
     quiz=$(sed -n 's/^63060=//p' "$texts")
     result=$(sed -n 's/^62122=//p' "$texts")
     special=$(sed -n 's/^346000=//p' "$texts")
+    table=$(sed -n 's/^62660=//p' "$texts")
     settings "languageFile=$texts\\nplugInUse=1\\n[editor]\\nduplicateCheckBeforeQuiz=0\\n[quiz]\\nplayRight=0\\nplayWrong=0\\nwordsToQuiz=1\\nnumberOfWords=8\\nrequiz=0\\n[find]\\ndictionary=1\\n[easykey]\\nsubset=2\\ndock=0\\n[Winpos]\\nStatus=1\\nLeft=40\\nTop=40\\nRight=840\\nBottom=600\\n"
     cp samples/vardagsord.gls "$list"
     if [ "$1" = en ]; then # The comments and the names of the languages.
@@ -110,7 +118,9 @@ language() {
     shot "$1-settings" "$settings"
     xdotool key Escape sleep 0.5 key F9
     shot "$1-special" "$special"
-    xdotool key F9 sleep 0.5 key F9 sleep 0.5 key ctrl+alt+1 sleep 1
+    xdotool key F9 sleep 0.5 key F9 sleep 0.5 key ctrl+p
+    shot "$1-tables" "$table"
+    xdotool key Escape sleep 0.5 key ctrl+alt+1 sleep 1
     for answer in 1 2 3; do
         [ "$answer" -ne 2 ] || shot "$1-quiz" "$quiz" # The first one is in its panel.
         xdotool type --delay 50 "x"

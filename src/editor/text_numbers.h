@@ -7,12 +7,10 @@ namespace Text {
 
 inline constexpr int ProposeCorrection = 61023;
 inline constexpr int EntriesMerged = 61031;
-inline constexpr int Note = 61041;
 inline constexpr int ListSummary = 61106;
 inline constexpr int FindDirections = 62550;
 inline constexpr int FindFlagFilters = 62551;
 inline constexpr int FindColumns = 62552;
-inline constexpr int NumberColumn = 62609;
 inline constexpr int EntrySelected = 70001;
 inline constexpr int NewEntryRowSelected = 70002;
 inline constexpr int EntriesSelected = 70003;

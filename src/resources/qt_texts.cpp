@@ -80,6 +80,20 @@ constexpr std::array ToolkitTexts = {
     ToolkitText{"Folder", 70139},
     ToolkitText{"File", 70140},
     ToolkitText{"%1 File", 70141},
+    ToolkitText{"Select Color", 234001},
+    ToolkitText{"&Basic colors", 234002},
+    ToolkitText{"&Custom colors", 234003},
+    ToolkitText{"&Pick Screen Color", 234004},
+    ToolkitText{"&Add to Custom Colors", 234005},
+    ToolkitText{"Hu&e:", 234006},
+    ToolkitText{"&Sat:", 234007},
+    ToolkitText{"&Val:", 234008},
+    ToolkitText{"&Red:", 234009},
+    ToolkitText{"&Green:", 234010},
+    ToolkitText{"Bl&ue:", 234011},
+    ToolkitText{"A&lpha channel:", 234012},
+    ToolkitText{"&HTML:", 234013},
+    ToolkitText{"Cursor at %1, %2\nPress ESC to cancel", 234014},
 };
 
 }

@@ -9,8 +9,13 @@ namespace Text {
 
 inline constexpr int OpenFilters = 61010;
 inline constexpr int CannotSave = 61014;
+inline constexpr int Note = 61041;
+inline constexpr int NumberColumn = 62609;
 inline constexpr int Cancel = 62800;
+inline constexpr int Close = 62801;
 inline constexpr int LongText = 70090;
 inline constexpr int OpenTitle = 70137;
+inline constexpr int HoldsWholeList = 70171;
+inline constexpr int SavedWithoutCharacters = 203015;
 
 }

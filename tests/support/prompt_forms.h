@@ -71,6 +71,7 @@ inline const QList<PromptForm> &PromptForms()
         {Text::LineTooLong, Error},
         {Text::EntriesNotSaved, Warning},
         {Text::FolderMissing, Warning},
+        {Text::PrintFailed, Warning},
     };
     return forms;
 }

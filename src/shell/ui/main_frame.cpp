@@ -31,6 +31,7 @@
 #include "shell/ui/samples_menu.h"
 #include "shell/ui/settings_commands.h"
 #include "shell/ui/special_character_keys.h"
+#include "shell/ui/table_command.h"
 #include "shell/ui/tools_commands.h"
 #include "shell/ui/user_fonts.h"
 #include "shell/ui/view_commands.h"
@@ -228,6 +229,17 @@ void CMainFrame::ConnectCommands()
     new CQuizCommands(*m_actions, *m_quizLaunch, m_services.settings.quiz, m_services.settingsChanges, this);
     new CToolsCommands(*m_actions, *m_view, m_services.document, m_services.settings.editor, m_services.texts,
         m_services.prompt, this);
+    new CTableCommand(*m_actions, *m_view,
+        {.document = m_services.document,
+            .options = m_services.settings.createTable,
+            .texts = texts,
+            .prompt = m_services.prompt,
+            .chooser = m_services.chooser,
+            .today = m_services.today,
+            .pageFolder = m_services.pageFolder,
+            .openFile = m_services.openFile,
+            .showHelp = [this] { ShowHelp(QStringLiteral("tables")); }},
+        *this);
     new CFindCommands(*m_actions, *m_view, m_services.document, m_services.settings.find,
         m_services.settingsChanges, m_services.texts, m_services.prompt, *this);
     m_fileToolsCommands = new CFileToolsCommands(*m_actions, m_services.files,

@@ -59,6 +59,9 @@ struct FrameServices
     std::function<void()> associateFiles = {};
     /// What comes with the program is looked for in these.
     QStringList dataFolders = {};
+    // For the table wizard; see TableGuideServices.
+    QString pageFolder = {};
+    std::function<void(const QString &file, std::function<void()> failed)> openFile = {};
 };
 
 /// The main window: menus, tool bars and status line around the view. It hands every command on.

@@ -124,7 +124,12 @@ void COrdelinApp::MakeMainWindow()
         .resetSettings = [this] { return m_settings.ResetToFactory(m_prompt); },
         .chooseLanguage = [this] { ChooseLanguage(); },
         .associateFiles = [this] { AssociateFiles(); },
-        .dataFolders = m_dataFolders});
+        .dataFolders = m_dataFolders,
+        .pageFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation),
+        .openFile =
+            [this](const QString &file, std::function<void()> failed) {
+                StartOpener(QStringLiteral("xdg-open"), {file}, *this, std::move(failed));
+            }});
     connect(&m_recovery, &CRecovery::CopyFailed, m_frame.get(),
         [this] { m_frame->statusBar()->showMessage(m_texts.Get(Text::CopyFailed), FailureShown); });
     m_recovery.SetListToKeep([this] { return m_frame->ListWithTyped(); });

@@ -49,7 +49,7 @@ CFileSearchWindow::CFileSearchWindow(const FileToolServices &services, Purpose p
     } else {
         m_choose = MakeButton(Text::SearchAdd, "add");
     }
-    QPushButton *const close = MakeButton(Text::CloseWindow, "close");
+    QPushButton *const close = MakeButton(Text::Close, "close");
     MakeList();
     QLayout *const orderLine = MakeOrderLine();
     m_count->setObjectName(QStringLiteral("fileCount"));

@@ -249,7 +249,7 @@ void CImportDialog::ShowState()
 void CImportDialog::ShowEnd()
 {
     m_list->clearSelection();
-    m_cancel->setText(m_services.texts.Get(Text::CloseWindow));
+    m_cancel->setText(m_services.texts.Get(Text::Close));
     m_cancel->setDefault(true);
     unsetCursor();
     QApplication::beep();
