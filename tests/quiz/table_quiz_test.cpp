@@ -21,8 +21,8 @@ QString Shown(const CTableQuizForm &form)
 }
 
 /// Plays a quiz by script and returns a line per step. A step is an answer ("." for none), "@2" to select a
-/// row,
-/// "?k" to search for a row, "term 1=term 2" to change the entry of the current row, "!" to check the round and
+/// row, "?k" to search for one, "term 1=term 2" to change the entry of the current row, "!" to check the round
+/// and ">" to go on.
 QStringList Play(const QStringList &entries, const QuizSettings &settings, const QString &script)
 {
     TestDocument test(entries);
@@ -129,6 +129,9 @@ Förhör 1 av 1. Hund| [katt|] häst| Vad heter "katt" på Engelska?)"_s},
             return table->model()->index(row, column).data().toString();
         };
         QVERIFY(answer->hasFocus() && table->currentIndex().row() == 0);
+        QTest::keyClick(answer, Qt::Key_Backtab);
+        QCOMPARE(
+            window->findChild<CSpokenText *>()->accessibleName(), u"hund"_s); // The row that has the focus.
 
         // Typed and not confirmed, but for the row that is current when the round is checked.
         QTest::keyClicks(answer, u"lost"_s);

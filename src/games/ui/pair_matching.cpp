@@ -3,7 +3,6 @@
 
 #include "games/text_numbers.h"
 #include "games/ui/pair_table.h"
-#include "platform/plain_text.h"
 #include "platform/ui/drawn_icon.h"
 #include "platform/ui/label.h"
 #include "quiz/text_numbers.h"
@@ -63,17 +62,6 @@ void CPairMatchingDialog::showState()
 QString CPairMatchingDialog::spokenQuestion() const
 {
     return m_form->isChecked() ? QString() : QString(m_form->hint() + u' ' + currentRowText());
-}
-
-QString CPairMatchingDialog::currentRowText() const
-{
-    const int row = m_form->currentRow();
-    if (row >= m_form->rowCount()) {
-        return {};
-    }
-    const QString text =
-        texts().Fill(Text::AskedEntry, {ShownShort(m_form->cell(row, 0)), ShownShort(m_form->cell(row, 1))});
-    return m_form->hasMark(row, 0) ? texts().Fill(Text::MarkedRow, {text}) : text;
 }
 
 void CPairMatchingDialog::checkOrGoOn()

@@ -24,8 +24,6 @@ private:
     CPairMatchingDialog(
         const QuizWindowServices &services, std::shared_ptr<CPairMatchingForm> form, CPairTable *table);
     void checkOrGoOn();
-    /// What stands in the current row, as it is read out.
-    QString currentRowText() const;
     /// After answers changed places.
     void showMoved(bool moved);
 

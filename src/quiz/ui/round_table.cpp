@@ -140,6 +140,14 @@ void CRoundTable::inputMethodEvent(QInputMethodEvent *event)
     }
 }
 
+void CRoundTable::focusInEvent(QFocusEvent *event)
+{
+    QTableView::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        Q_EMIT reachedByTab();
+    }
+}
+
 void CRoundTable::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);

@@ -24,12 +24,15 @@ Q_SIGNALS:
     void rowSelected(int row);
     /// Text was typed that begins a row; `row` is where to look first.
     void searchTyped(const QString &start, int row);
+    /// It got the focus by Tab: nothing tells which row is the current one.
+    void reachedByTab();
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyboardSearch(const QString &search) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

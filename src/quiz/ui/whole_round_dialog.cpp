@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "quiz/ui/whole_round_dialog.h"
 
+#include "platform/plain_text.h"
 #include "platform/ui/contrast.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/round_model.h"
@@ -43,8 +44,8 @@ QPalette accented(QPalette palette)
 CWholeRoundDialog::CWholeRoundDialog(
     const QuizWindowServices &services, std::shared_ptr<CWholeRoundForm> form, const Setup &setup)
     : CQuizDialog(services, *form, setup.parts), m_form(std::move(form)), m_table(setup.table),
-      m_model(new CRoundModel(*m_form, texts(), setup.markedText, this)), m_continue(button(setup.continues)),
-      m_caption(m_continue->text()), m_isDefault(m_continue->isDefault())
+      m_model(new CRoundModel(*m_form, texts(), setup.markedText, this)), m_markedText(setup.markedText),
+      m_continue(button(setup.continues)), m_caption(m_continue->text()), m_isDefault(m_continue->isDefault())
 {
     m_table->setModel(m_model);
     content()->addWidget(m_table, 1);
@@ -54,11 +55,24 @@ CWholeRoundDialog::CWholeRoundDialog(
             m_table->showRow(*found);
         }
     });
+    connect(m_table, &CRoundTable::reachedByTab, this, [this] { speak(currentRowText()); });
 }
 
 CWholeRoundDialog::~CWholeRoundDialog()
 {
     delete m_table; // It asks the form until its end.
+}
+
+QString CWholeRoundDialog::currentRowText() const
+{
+    const int row = m_form->currentRow();
+    if (row >= m_form->rowCount()) {
+        return {};
+    }
+    const QString first = ShownShort(m_form->cell(row, 0));
+    const QString second = ShownShort(m_form->cell(row, 1));
+    const QString text = second.isEmpty() ? first : texts().Fill(Text::AskedEntry, {first, second});
+    return m_markedText != 0 && m_form->hasMark(row, 0) ? texts().Fill(m_markedText, {text}) : text;
 }
 
 void CWholeRoundDialog::selectRow(int row)

@@ -48,6 +48,8 @@ protected:
     void check();
     void goOn();
     CRoundTable *table() const { return m_table; }
+    /// What stands in the current row, as it is read out.
+    QString currentRowText() const;
 
     void changeEvent(QEvent *event) override;
 
@@ -57,6 +59,7 @@ private:
     std::shared_ptr<CWholeRoundForm> m_form;
     CRoundTable *m_table;
     CRoundModel *m_model;
+    int m_markedText;
     QPushButton *m_continue;
     QString m_caption; // Of that button before a round is checked.
     bool m_isDefault;
