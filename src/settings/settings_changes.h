@@ -4,7 +4,7 @@
 #include <QObject>
 
 /// The sections that somebody follows while the program runs.
-enum class SettingsSection { Misc, Editor, Quiz, Arrange, Find, EasyKey };
+enum class SettingsSection { Misc, Editor, Quiz, Arrange, Find, FileSearch, EasyKey };
 
 /// Whoever changes a section by the user's will tells so here, after the change; whoever shows it or works by a
 /// value of its own listens.

@@ -38,7 +38,7 @@ bool CSettingsForm::Reset()
     }
     Load();
     using enum SettingsSection;
-    for (const SettingsSection section : {Misc, Editor, Quiz, Arrange, Find, EasyKey}) {
+    for (const SettingsSection section : {Misc, Editor, Quiz, Arrange, Find, FileSearch, EasyKey}) {
         m_services.changes.Tell(section);
     }
     return true;

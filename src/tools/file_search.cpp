@@ -16,12 +16,7 @@ CFileSearch::CFileSearch(
     : QObject(parent), values(settings), m_settings(settings), m_texts(texts), m_prompt(prompt), m_files(texts),
       m_order(m_files)
 {
-    if (values.path.isEmpty()) {
-        values.path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    }
-    if (values.filetype.isEmpty()) {
-        values.filetype = QStringLiteral("*.gls");
-    }
+    TakeSettings();
     connect(
         &m_thread, &CFileSearchThread::MessagesWaiting, this, &CFileSearch::TakeMessages, Qt::QueuedConnection);
 }
@@ -29,6 +24,17 @@ CFileSearch::CFileSearch(
 CFileSearch::~CFileSearch()
 {
     m_thread.Stop(true);
+}
+
+void CFileSearch::TakeSettings()
+{
+    values = m_settings;
+    if (values.path.isEmpty()) {
+        values.path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    }
+    if (values.filetype.isEmpty()) {
+        values.filetype = QStringLiteral("*.gls");
+    }
 }
 
 bool CFileSearch::Start()

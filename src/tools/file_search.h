@@ -24,6 +24,9 @@ public:
     /// What the controls show; stored when a search starts.
     FileSearchSettings values;
 
+    /// Takes the settings as they are now for what the controls show.
+    void TakeSettings();
+
     CFoundFilesOrder &Found() { return m_order; }
     bool IsSearching() const { return m_isSearching; }
 

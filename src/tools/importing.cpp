@@ -50,9 +50,10 @@ void CImporting::ChooseFiles(IFileChooser &chooser)
 
 void CImporting::AddFiles(const QStringList &paths)
 {
-    if (m_stage == Stage::Choosing) {
+    if (m_stage == Stage::Choosing && !paths.isEmpty()) {
         m_files.Add(paths);
         Q_EMIT Changed();
+        Q_EMIT FilesAdded();
     }
 }
 
@@ -101,6 +102,9 @@ void CImporting::TakeCollected()
         Collect(std::exchange(m_toCollect, {}));
     }
     Q_EMIT Changed();
+    if (isEnd && !m_isCollecting) {
+        Q_EMIT FilesAdded();
+    }
 }
 
 ImportOptions CImporting::Options() const

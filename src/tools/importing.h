@@ -62,6 +62,8 @@ public:
 Q_SIGNALS:
     /// Anything of the above is another.
     void Changed();
+    /// Files were added to those to import, or none was found.
+    void FilesAdded();
     /// The import is done.
     void Ended();
 

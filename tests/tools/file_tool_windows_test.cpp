@@ -32,7 +32,7 @@ struct Window
     CFileToolsCommands commands{actions, fileCommands,
         {test.document, test.allSettings.import, test.allSettings.filesearch, test.texts, test.prompt, chooser,
             [this](const QString &section) { help.append(section); }},
-        frame};
+        test.settingsChanges, frame};
 
     Window()
     {
@@ -168,6 +168,13 @@ private Q_SLOTS:
         QVERIFY(window->isVisible());
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(Joined(run.test.document.List()), u"d|D"_s);
+        // It follows settings that somebody else puts back.
+        Find<QCheckBox>(window, "useFilter")->click();
+        run.test.allSettings.filesearch = {};
+        run.test.settingsChanges.Tell(SettingsSection::FileSearch);
+        QVERIFY(!Find<QCheckBox>(window, "useFilter")->isChecked() && list->model()->rowCount() == 2);
+        QVERIFY(Find<QLineEdit>(window, "folder")->text() != run.files.Path());
+        QVERIFY(Find<QLineEdit>(window, "folder")->isVisible());
         // The selected one, or all.
         for (const int files : {1, 2}) {
             Click(window, "import");

@@ -7,6 +7,7 @@
 #include "editor/ui/find_result_delegate.h"
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
+#include "platform/ui/row_table.h"
 #include "platform/ui/spoken_text.h"
 #include "platform/ui/window_placing.h"
 #include "resources/texts.h"
@@ -185,17 +186,8 @@ QWidget *CFindWindow::MakeResults()
     m_results->setAccessibleName(m_services.texts.Get(Text::FindResultList));
     m_results->setModel(&m_search.Results());
     m_results->setItemDelegate(new CFindResultDelegate(m_results));
-    m_results->setSelectionBehavior(QTableView::SelectRows);
-    m_results->setShowGrid(false);
-    m_results->setWordWrap(false);
-    m_results->setTabKeyNavigation(false);
-    m_results->setCornerButtonEnabled(false);
+    ShowRows(*m_results);
     m_results->setVerticalScrollMode(QTableView::ScrollPerPixel);
-    m_results->verticalHeader()->hide();
-    m_results->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_results->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    m_results->horizontalHeader()->setHighlightSections(false);
-    m_results->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_results->setMinimumHeight(fontMetrics().height() * 5);
     m_results->installEventFilter(this);
     m_count = MakeLabel({}, part);

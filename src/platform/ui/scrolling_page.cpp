@@ -1,8 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/scrolling_page.h"
 
+#include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
+
+namespace {
+
+class CFirstShow : public QObject
+{
+public:
+    explicit CFirstShow(QWidget &window) : QObject(&window), m_window(window)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == &m_window && event->type() == QEvent::Show && !event->spontaneous()) {
+            constexpr double Share = 0.9; // The rest is for the window's frame and panels.
+            m_window.resize(m_window.sizeHint().boundedTo(m_window.screen()->availableSize() * Share));
+            m_window.removeEventFilter(this); // From now on it has the size that the user gives it.
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QWidget &m_window;
+};
+
+}
 
 CScrollingPage::CScrollingPage(QWidget *page, QWidget *parent) : QScrollArea(parent)
 {
@@ -29,6 +56,5 @@ QSize CScrollingPage::minimumSizeHint() const
 
 void FitToScreen(QWidget &window)
 {
-    constexpr double Share = 0.9; // The rest is for the window's frame and panels.
-    window.resize(window.sizeHint().boundedTo(window.screen()->availableSize() * Share));
+    new CFirstShow(window);
 }

@@ -16,6 +16,6 @@ public:
     QSize minimumSizeHint() const override;
 };
 
-/// Gives a window the size of its contents, as far as its screen has room for it. Call it when it is shown
-/// first: the toolkit leaves a third of the screen free.
+/// Gives a window the size of its contents when it is shown first, as far as its screen has room for it: the
+/// toolkit leaves a third of the screen free.
 void FitToScreen(QWidget &window);

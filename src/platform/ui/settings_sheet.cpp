@@ -5,7 +5,6 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
-#include <QShowEvent>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -27,6 +26,7 @@ CSettingsSheet::CSettingsSheet(const QString &title, QWidget *parent, Buttons ki
     }
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    FitToScreen(*this);
 }
 
 void CSettingsSheet::AddPage(QWidget *page, const QString &title)
@@ -54,12 +54,4 @@ void CSettingsSheet::accept()
 {
     Store();
     QDialog::accept();
-}
-
-void CSettingsSheet::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous()) {
-        FitToScreen(*this);
-    }
-    QDialog::showEvent(event);
 }

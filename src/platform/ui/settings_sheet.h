@@ -29,7 +29,6 @@ protected:
     /// Puts other pages in place of all, and shows the one at the same place. Call it from the event loop, not
     /// from what a page's control does.
     void ReplacePages(const std::function<void()> &addPages);
-    void showEvent(QShowEvent *event) override;
 
 private:
     QTabWidget *m_pages;

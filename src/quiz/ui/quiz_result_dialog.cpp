@@ -4,6 +4,7 @@
 #include "platform/plain_text.h"
 #include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
+#include "platform/ui/row_table.h"
 #include "platform/ui/wait_cursor.h"
 #include "quiz/quiz_session.h"
 #include "quiz/text_numbers.h"
@@ -98,17 +99,9 @@ void CQuizResultDialog::makeList()
     m_list->sortByColumn(-1, Qt::AscendingOrder);
     m_list->setSortingEnabled(true);
     m_list->horizontalHeader()->setSortIndicatorClearable(true); // Back to the session's order.
-    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    ShowRows(*m_list);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_list->setShowGrid(false);
     m_list->setAlternatingRowColors(true);
-    m_list->setWordWrap(false);
-    m_list->setTabKeyNavigation(false);
-    m_list->setCornerButtonEnabled(false);
-    m_list->verticalHeader()->hide();
-    m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_list->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    m_list->horizontalHeader()->setHighlightSections(false);
     m_list->horizontalHeader()->setTextElideMode(Qt::ElideRight);
     m_list->horizontalHeader()->setStretchLastSection(true);
     m_list->setMinimumHeight(fontMetrics().lineSpacing() * 6);

@@ -2,6 +2,7 @@
 #include "shell/ui/file_tools_commands.h"
 
 #include "document/file_commands.h"
+#include "settings/settings_changes.h"
 #include "shell/commands.h"
 #include "shell/ui/command_actions.h"
 #include "tools/ui/file_search_window.h"
@@ -9,12 +10,17 @@
 
 #include <QEvent>
 
-CFileToolsCommands::CFileToolsCommands(
-    CCommandActions &actions, CFileCommands &files, FileToolServices services, QWidget &frame)
+CFileToolsCommands::CFileToolsCommands(CCommandActions &actions, CFileCommands &files,
+    FileToolServices services, const CSettingsChanges &settingsChanges, QWidget &frame)
     : QObject(&frame), m_actions(actions), m_files(files), m_services(std::move(services)), m_frame(frame)
 {
     actions.SetHandler(CommandId::Import, [this] { OpenImport({}); });
     actions.SetHandler(CommandId::FileSearch, [this] { OpenSearch(); });
+    connect(&settingsChanges, &CSettingsChanges::Changed, this, [this](SettingsSection section) {
+        if (section == SettingsSection::FileSearch && m_search != nullptr) {
+            m_search->ShowSettings();
+        }
+    });
     frame.installEventFilter(this);
 }
 

@@ -10,6 +10,7 @@ class CCommandActions;
 class CFileCommands;
 class CFileSearchWindow;
 class CImportDialog;
+class CSettingsChanges;
 class QWidget;
 
 /// The commands that import files and look for them, and their windows. The window of the search is hidden and
@@ -20,8 +21,8 @@ class CFileToolsCommands : public QObject
 
 public:
     /// Nothing is owned. `frame` becomes the owner of the windows.
-    CFileToolsCommands(
-        CCommandActions &actions, CFileCommands &files, FileToolServices services, QWidget &frame);
+    CFileToolsCommands(CCommandActions &actions, CFileCommands &files, FileToolServices services,
+        const CSettingsChanges &settingsChanges, QWidget &frame);
 
     /// Stops an import and waits for it: what was imported is in the list then.
     void FinishQuietly();

@@ -250,7 +250,7 @@ void CMainFrame::ConnectCommands()
             .prompt = m_services.prompt,
             .chooser = m_services.chooser,
             .openHelp = m_services.openHelp},
-        *this);
+        m_services.settingsChanges, *this);
     m_actions->SetPreparation([this](const Command &command) { PrepareCommand(command); });
     new CCommandRefresh({*m_actions, *m_editCommands, m_services.document, m_services.settingsChanges,
                             m_services.specialCharacters, *this},

@@ -8,6 +8,7 @@
 #include "platform/ui/elided_label.h"
 #include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
+#include "platform/ui/row_table.h"
 #include "platform/ui/scrolling_page.h"
 #include "platform/ui/setting_controls.h"
 #include "platform/ui/spoken_text.h"
@@ -28,19 +29,19 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 CFileSearchWindow::CFileSearchWindow(const FileToolServices &services, Purpose purpose, QWidget *owner)
     : QDialog(owner), m_services(services), m_purpose(purpose),
-      m_searching(services.fileSearch, services.texts, services.prompt), m_list(new QTableView(this)),
-      m_start(nullptr), m_count(MakeLabel({}, this)), m_line(new CElidedLabel(this)),
-      m_spoken(new CSpokenText(this))
+      m_searching(services.fileSearch, services.texts, services.prompt),
+      m_fields(new CScrollingPage(MakeFields(), this)), m_list(new QTableView(this)), m_start(nullptr),
+      m_count(MakeLabel({}, this)), m_line(new CElidedLabel(this)), m_spoken(new CSpokenText(this))
 {
     const CTexts &texts = services.texts;
     setObjectName(QStringLiteral("fileSearchWindow"));
     setWindowTitle(texts.Get(Text::SearchTitle));
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
-    QWidget *const fields = MakeFields();
     m_start = MakeButton(Text::SearchStart, "search");
     m_start->setDefault(true);
     if (purpose == Purpose::OpenOrImport) {
@@ -63,7 +64,7 @@ CFileSearchWindow::CFileSearchWindow(const FileToolServices &services, Purpose p
     }
     buttons->addStretch(1);
     auto *const top = new QHBoxLayout;
-    top->addWidget(new CScrollingPage(fields, this), 1);
+    top->addWidget(m_fields, 1);
     top->addLayout(buttons);
     auto *const status = new QHBoxLayout;
     status->addWidget(m_count);
@@ -85,6 +86,7 @@ CFileSearchWindow::CFileSearchWindow(const FileToolServices &services, Purpose p
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
         [this] { m_services.openHelp(QStringLiteral("filesearch")); });
     m_folder->setFocus();
+    FitToScreen(*this);
     NoticeHeldKeys(*this); // The key that starts the search shall not stop it.
     ShowState();
 }
@@ -100,6 +102,19 @@ void CFileSearchWindow::Present()
     show();
     raise();
     activateWindow();
+}
+
+void CFileSearchWindow::ShowSettings()
+{
+    m_searching.TakeSettings();
+    auto *const fields = new CScrollingPage(MakeFields(), this);
+    const bool hadFocus = m_fields->isAncestorOf(focusWidget());
+    delete layout()->replaceWidget(m_fields, fields);
+    delete std::exchange(m_fields, fields);
+    fields->show();
+    if (hadFocus) {
+        m_folder->setFocus();
+    }
 }
 
 QPushButton *CFileSearchWindow::MakeButton(int text, const char *name)
@@ -162,17 +177,8 @@ void CFileSearchWindow::MakeList()
     m_list->setObjectName(QStringLiteral("foundFiles"));
     m_list->setAccessibleName(m_services.texts.Get(Text::SearchFileList));
     m_list->setModel(&m_searching.Found());
-    m_list->setSelectionBehavior(QTableView::SelectRows);
-    m_list->setShowGrid(false);
-    m_list->setWordWrap(false);
-    m_list->setTabKeyNavigation(false);
-    m_list->setCornerButtonEnabled(false);
-    m_list->verticalHeader()->hide();
-    m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_list->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    ShowRows(*m_list);
     QHeaderView *const header = m_list->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     constexpr std::array Widths = {22, 20, 14, 24, 8, 34, 12}; // In characters.
     const int character = fontMetrics().averageCharWidth();
     for (int column = 0; column < int(Widths.size()); ++column) {
@@ -293,12 +299,4 @@ QSize CFileSearchWindow::sizeHint() const
 {
     return QDialog::sizeHint().expandedTo(
         {fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 42});
-}
-
-void CFileSearchWindow::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous()) {
-        FitToScreen(*this);
-    }
-    QDialog::showEvent(event);
 }

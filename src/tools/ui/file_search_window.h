@@ -7,6 +7,7 @@
 #include <QDialog>
 
 class CElidedLabel;
+class CScrollingPage;
 class CSpokenText;
 class QCheckBox;
 class QComboBox;
@@ -30,6 +31,8 @@ public:
 
     /// Shows it, or brings it to the front.
     void Present();
+    /// Shows the settings as they are now.
+    void ShowSettings();
 
     QSize sizeHint() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -39,15 +42,11 @@ Q_SIGNALS:
     /// To be imported, or added to the import: the selected files, or all if none is.
     void FilesChosen(const QStringList &paths);
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
     QPushButton *MakeButton(int text, const char *name);
     QWidget *MakeFields();
     void MakeList();
     QLayout *MakeOrderLine();
-    void Browse();
     void StartOrStop();
     void OpenCurrent();
     void ChooseFiles();
@@ -58,6 +57,7 @@ private:
     Purpose m_purpose;
     CFileSearch m_searching;
     QLineEdit *m_folder = nullptr;
+    CScrollingPage *m_fields;
     QTableView *m_list;
     QPushButton *m_start;
     QPushButton *m_open = nullptr;

@@ -7,6 +7,7 @@
 #include "platform/ui/elided_label.h"
 #include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
+#include "platform/ui/row_table.h"
 #include "platform/ui/scrolling_page.h"
 #include "platform/ui/setting_controls.h"
 #include "platform/ui/spoken_text.h"
@@ -77,10 +78,12 @@ CImportDialog::CImportDialog(const FileToolServices &services, QWidget *owner)
     connect(m_import, &QPushButton::clicked, this, &CImportDialog::Start);
     connect(m_cancel, &QPushButton::clicked, this, &CImportDialog::reject);
     connect(&m_importing, &CImporting::Changed, this, &CImportDialog::ShowState);
+    connect(&m_importing, &CImporting::FilesAdded, this, [this] { m_spoken->Say(m_importing.FileCount()); });
     connect(&m_importing, &CImporting::Ended, this, &CImportDialog::ShowEnd);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
         [this] { m_services.openHelp(QStringLiteral("import")); });
     m_choose->setFocus();
+    FitToScreen(*this);
     NoticeHeldKeys(*this); // The key that starts the import shall not stop it.
     ShowState();
 }
@@ -105,17 +108,8 @@ void CImportDialog::MakeList()
     m_list->setAccessibleName(m_services.texts.Get(Text::ImportFileList));
     m_list->setModel(&m_importing.Files());
     m_list->setItemDelegateForColumn(CImportFilesModel::Status, new CFileStatusDelegate(m_list));
-    m_list->setSelectionBehavior(QTableView::SelectRows);
-    m_list->setShowGrid(false);
-    m_list->setWordWrap(false);
-    m_list->setTabKeyNavigation(false);
-    m_list->setCornerButtonEnabled(false);
-    m_list->verticalHeader()->hide();
-    m_list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_list->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    ShowRows(*m_list);
     QHeaderView *const header = m_list->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setSectionResizeMode(CImportFilesModel::Folder, QHeaderView::Stretch);
     const int character = fontMetrics().averageCharWidth();
     constexpr int UnitsPerCharacter = 4; // Widths of columns are given in such units.
@@ -277,14 +271,6 @@ QSize CImportDialog::sizeHint() const
 {
     return QDialog::sizeHint().expandedTo(
         {fontMetrics().averageCharWidth() * 120, fontMetrics().lineSpacing() * 34});
-}
-
-void CImportDialog::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous()) {
-        FitToScreen(*this);
-    }
-    QDialog::showEvent(event);
 }
 
 void CImportDialog::dragEnterEvent(QDragEnterEvent *event)

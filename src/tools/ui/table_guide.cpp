@@ -47,6 +47,7 @@ CTableGuide::CTableGuide(const TableGuideServices &services, std::vector<int> se
     help->setAutoRepeat(false);
     connect(help, &QShortcut::activated, this, services.showHelp);
     ShowPage(0);
+    FitToScreen(*this);
     NoticeHeldKeys(*this);
 }
 
@@ -149,7 +150,6 @@ void CTableGuide::closeEvent(QCloseEvent *event)
 void CTableGuide::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous()) {
-        FitToScreen(*this);
         FocusPage();
     }
     QDialog::showEvent(event);

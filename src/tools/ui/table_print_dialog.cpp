@@ -62,6 +62,7 @@ CTablePrintDialog::CTablePrintDialog(
     }
     UpdateEnabled();
     (m_print->isEnabled() ? m_print : m_next)->setFocus();
+    FitToScreen(*this);
     NoticeHeldKeys(*this);
 }
 
@@ -242,12 +243,4 @@ void CTablePrintDialog::keyPressEvent(QKeyEvent *event)
     default:
         QDialog::keyPressEvent(event);
     }
-}
-
-void CTablePrintDialog::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous()) {
-        FitToScreen(*this);
-    }
-    QDialog::showEvent(event);
 }
