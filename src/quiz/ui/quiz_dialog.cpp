@@ -229,8 +229,7 @@ void CQuizDialog::changeEntry()
     openHelpOnF1(*dialog, m_services);
     connect(dialog, &QDialog::finished, this, [this] {
         m_form.entriesChanged();
-        showCurrentWord();
-        updateStatistics();
+        showNextWord(); // It may be asked in other words.
     });
     dialog->open();
 }

@@ -55,7 +55,9 @@ CWholeRoundDialog::CWholeRoundDialog(
             m_table->showRow(*found);
         }
     });
-    connect(m_table, &CRoundTable::reachedByTab, this, [this] { speak(currentRowText()); });
+    // Spoken behind the name of the table.
+    const auto speakRow = [this] { speak(currentRowText()); };
+    connect(m_table, &CRoundTable::reachedByTab, this, speakRow, Qt::QueuedConnection);
 }
 
 CWholeRoundDialog::~CWholeRoundDialog()
