@@ -45,7 +45,10 @@ void CPairTable::startDrag(Qt::DropActions /*supportedActions*/)
     drag->setMimeData(new QMimeData); // Nothing that another window could use.
     drag->setPixmap(viewport()->grab(row));
     drag->setHotSpot(viewport()->mapFromGlobal(QCursor::pos()) - row.topLeft());
+    constexpr int Interval = 60; // In milliseconds.
+    m_dragScroll.start(Interval);
     drag->exec(Qt::MoveAction);
+    m_dragScroll.stop();
     m_draggedRow = -1;
     setDropRow(-1);
 }
@@ -57,12 +60,7 @@ void CPairTable::dragEnterEvent(QDragEnterEvent *event)
 
 void CPairTable::dragMoveEvent(QDragMoveEvent *event)
 {
-    m_dropPlace = event->position().toPoint();
-    setDropRow(m_draggedRow >= 0 ? rowAt(m_dropPlace.y()) : -1);
-    constexpr int Interval = 60; // In milliseconds.
-    if (!m_dragScroll.isActive() && dragScrollStep() != 0) {
-        m_dragScroll.start(Interval);
-    }
+    setDropRow(m_draggedRow >= 0 ? rowAt(event->position().toPoint().y()) : -1);
     event->setDropAction(Qt::MoveAction);
     event->setAccepted(m_draggedRow >= 0 && m_dropRow >= 0);
 }
@@ -72,20 +70,19 @@ void CPairTable::dragLeaveEvent(QDragLeaveEvent * /*event*/)
     setDropRow(-1);
 }
 
-int CPairTable::dragScrollStep() const
-{
-    const int step = verticalHeader()->defaultSectionSize();
-    return m_dropPlace.y() < step / 2 ? -step : m_dropPlace.y() > viewport()->height() - step / 2 ? step : 0;
-}
-
 void CPairTable::scrollBelowDrag()
 {
-    // The toolkit's own scrolling ends while the pointer rests.
-    if (m_dropRow < 0 || dragScrollStep() == 0) {
-        m_dragScroll.stop();
-    } else {
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + dragScrollStep());
-        setDropRow(rowAt(m_dropPlace.y()));
+    // The toolkit's own scrolling ends while the pointer rests, and where it leaves the table.
+    const QPoint place = viewport()->mapFromGlobal(QCursor::pos());
+    const int step = verticalHeader()->defaultSectionSize();
+    const bool isAbove = place.y() < step / 2;
+    const bool isBelow = place.y() > viewport()->height() - step / 2;
+    if (isAbove == isBelow || place.x() < 0 || place.x() >= viewport()->width()) {
+        return;
+    }
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + (isAbove ? -step : step));
+    if (m_dropRow >= 0) {
+        setDropRow(rowAt(place.y()));
     }
 }
 

@@ -33,13 +33,11 @@ protected:
 
 private:
     void setDropRow(int row);
-    /// How far the table is to scroll for what is dragged to its edge.
-    int dragScrollStep() const;
+    /// Scrolls a row on while something is dragged to an edge or beyond it.
     void scrollBelowDrag();
 
     bool m_mayMove = true;
     int m_draggedRow = -1;
     int m_dropRow = -1; // That under the cursor, while a row is dragged.
-    QPoint m_dropPlace;
     QTimer m_dragScroll;
 };
