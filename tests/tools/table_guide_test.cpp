@@ -177,6 +177,8 @@ void TableGuideTest::optionsByFormat()
     QVERIFY(!look->isEnabled() && run.Part<QCheckBox>("showTitle")->isEnabled());
     run.Click("back");
     QVERIFY(!bold->isEnabled());
+    run.Click("next");
+    QCOMPARE(run.guide->focusWidget(), run.Part<QRadioButton>("asText"));
     QVERIFY(!run.options.htmlFormat && run.options.specialDoChange);
 }
 

@@ -111,9 +111,10 @@ void CTableGuide::FocusPage()
     QWidget *const page = m_pages->currentWidget();
     for (QWidget *next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
         const auto *const radio = qobject_cast<QRadioButton *>(next);
-        const bool takesFocus = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabledTo(this)
-            && next->isVisibleTo(page) && (radio == nullptr || radio->isChecked());
-        if (takesFocus && page->isAncestorOf(next)) {
+        // Tab leads to the one of a group that had the focus last.
+        const bool takesFocus =
+            radio != nullptr ? radio->isChecked() : (next->focusPolicy() & Qt::TabFocus) != 0;
+        if (takesFocus && next->isEnabledTo(this) && next->isVisibleTo(page) && page->isAncestorOf(next)) {
             next->setFocus();
             return;
         }

@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QPageLayout>
+#include <QRect>
 
 #include <vector>
 
