@@ -131,9 +131,6 @@ void CSuggestionList::MoveChoice(int step)
 {
     // Above the first one none is chosen.
     setCurrentRow(std::clamp(currentRow() + step, -1, count() - 1));
-    if (const QListWidgetItem *const chosen = currentItem()) {
-        m_spoken->Say(chosen->text());
-    }
 }
 
 void CSuggestionList::Take(const QListWidgetItem &item)
