@@ -35,6 +35,7 @@ check_files() {
     {
         cat <<END
 bin/ordelin
+lib/ordelin/ordelin_window.so
 share/applications/$id.desktop
 share/bash-completion/completions/ordelin
 share/doc/ordelin/copyright

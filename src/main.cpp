@@ -8,9 +8,13 @@
 #include "settings/ini_store.h"
 #include "shell/command_line.h"
 #include "shell/start_up.h"
-#include "shell/ui/ordelin_app.h"
+#include "window_part.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
+#include <QFileInfo>
+#include <QLibrary>
+#include <QLocale>
 
 #include <cstdio>
 
@@ -31,6 +35,24 @@ struct Surroundings
         LoadLanguage(settings, texts);
     }
 };
+
+/// Null when the module is missing, which is told.
+const WindowPart *LoadWindowPart()
+{
+    const QString program = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
+    // Beside the program in the tree of a build.
+    QString error;
+    for (const char *const folder : {"", ORDELIN_MODULE_FOLDER "/"}) {
+        QLibrary module(program + u'/' + QLatin1StringView(folder) + QStringLiteral("ordelin_window.so"));
+        const QFunctionPointer function = module.resolve(WindowPartFunction);
+        if (function != nullptr) {
+            return reinterpret_cast<decltype(&OrdelinWindowPart)>(function)();
+        }
+        error = module.errorString();
+    }
+    std::fprintf(stderr, "ordelin: %s\n", error.toLocal8Bit().constData());
+    return nullptr;
+}
 
 /// Answers without a window, which needs no display. Returns the exit code.
 int Answer(const Surroundings &surroundings, const CommandLine &commandLine)
@@ -74,6 +96,6 @@ int main(int argc, char *argv[])
     if (commandLine.error != 0 || commandLine.action != CommandLine::Action::Run) {
         return Answer(Surroundings(argc, argv), commandLine);
     }
-    COrdelinApp app(argc, argv);
-    return app.Run(commandLine.file, commandLine.newList);
+    const WindowPart *const windows = LoadWindowPart();
+    return windows == nullptr ? 1 : windows->run(argc, argv, commandLine.file, commandLine.newList);
 }

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class CTableCells;
+class CTexts;
+class QString;
+
+/// What the program does with the libraries of windows. It is a module of its own, which is loaded when it is
+/// needed: without them a verb of the command line begins in half the time.
+struct WindowPart
+{
+    /// Opens the main window, and ends with the program. Returns the exit code.
+    int (*run)(int &argc, char **argv, const QString &file, bool newList);
+};
+
+inline constexpr const char *WindowPartFunction = "OrdelinWindowPart";
+/// The one thing that the module gives to others.
+extern "C" __attribute__((visibility("default"))) const WindowPart *OrdelinWindowPart();
