@@ -78,7 +78,11 @@ int Run(const Verb &verb, const QStringList &arguments, const Surroundings &surr
             .console = console,
             .settings = surroundings.store,
             .today = QDate::currentDate(),
-            .seed = quint32(QDateTime::currentMSecsSinceEpoch())}));
+            .seed = quint32(QDateTime::currentMSecsSinceEpoch()),
+            .writePdf = [&texts = surroundings.texts](const TablePdfOrder &order) {
+                const WindowPart *const windows = LoadWindowPart();
+                return windows != nullptr && windows->writePdf(order, texts);
+            }}));
 }
 
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window_part.h"
 
+#include "commandline/ui/table_pdf_file.h"
 #include "shell/ui/ordelin_app.h"
 
 namespace {
@@ -15,6 +16,6 @@ int RunWindow(int &argc, char **argv, const QString &file, bool newList)
 
 const WindowPart *OrdelinWindowPart()
 {
-    static constexpr WindowPart part = {.run = RunWindow};
+    static constexpr WindowPart part = {.run = RunWindow, .writePdf = WriteTablePdf};
     return &part;
 }

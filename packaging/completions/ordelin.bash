@@ -23,7 +23,7 @@ _ordelin() {
     sort) options="--by= --descending --by-length --flagged-together --from= --to= --unicode --force --help" ;;
     shuffle) options="--seed= --from= --to= --unicode --force --help" ;;
     select) options="--flagged --not-flagged --find= --in= --match-case --whole-words --wildcards --number= --from= --to= --unicode --force --help" ;;
-    table) options="--format= --columns= --title= --full-width --border= --bold= --special= --special-color= --table-color= --page-color= --text-color= --comments= --alternatives= --from= --force --help" ;;
+    table) options="--format= --columns= --title= --full-width --border= --bold= --special= --special-color= --table-color= --page-color= --text-color= --comments= --alternatives= --paper= --landscape --from= --force --help" ;;
     quiz) options="--ask= --order= --rounds= --words= --flagged= --wrong= --check= --ignore-case --save-flags --seed= --help" ;;
     words) options="--beginning --dictionaries= --output= --to= --unicode --force --help" ;;
     *) return ;;
@@ -44,6 +44,7 @@ _ordelin() {
     "table --bold") values="flagged not-flagged all number term1 term2 none" ;;
     "table --special") values="flagged not-flagged number term1 term2" ;;
     "table --comments") values="keep italic italic-in-parentheses delete" ;;
+    "table --paper") values="a3 a4 a5 letter legal" ;;
     "quiz --ask") values="1 2" ;;
     "quiz --order") values="list backwards random" ;;
     "quiz --flagged") values="never always sometimes" ;;

@@ -134,6 +134,8 @@ table)
         '--text-color=[the colour of the text]:value:' \
         '--comments=[what becomes of comments]:value:(keep italic italic-in-parentheses delete)' \
         '--alternatives=[what stands in place of *]:value:' \
+        '--paper=[the paper of a PDF file]:value:(a3 a4 a5 letter legal)' \
+        '--landscape[paper across]' \
         '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz anki separated kvtml text)' \
         '--force[replaces a file that is there already]' \
         '--help[shows a help]' '*:file:_files'

@@ -5,6 +5,8 @@
 #include "commandline/options.h"
 #include "commandline/separated_options.h"
 
+#include <QFileInfo>
+
 namespace {
 
 constexpr Option Options[] = {FromOption,
@@ -68,9 +70,13 @@ VerbResult RunConvert(const CArguments &arguments, const VerbServices &services)
 {
     FormatReadOptions reading;
     FormatWriteOptions writing;
-    if (!ReadSeparatedOptions(arguments, services, reading, writing)) {
+    const auto layout = GivenLayoutOf("from-", arguments, services);
+    const auto layoutToWrite = GivenLayoutOf("to-", arguments, services);
+    if (!layout || !layoutToWrite) {
         return VerbResult::Failed;
     }
+    const QString &outputName = arguments.Files().constLast();
+    writing.separated = LayoutToWrite(*layoutToWrite, QFileInfo(outputName).suffix().toLower());
     if (const auto languages = arguments.Text("languages")) {
         const auto parsed = ParseLanguages(*languages);
         if (!parsed) {
@@ -86,10 +92,10 @@ VerbResult RunConvert(const CArguments &arguments, const VerbServices &services)
     writing.plainText = PlainTextTerms(arguments.Choice("terms").value_or(0));
     writing.alternatives = AlternativeMark(arguments.Choice("alternatives").value_or(0));
 
-    const CListOutput output(arguments.Files().constLast(), arguments, services);
+    const CListOutput output(outputName, arguments, services);
     if (!output.MayWrite()) {
         return VerbResult::Failed;
     }
-    const auto read = ReadListOf(arguments.Files().constFirst(), arguments, services, reading);
+    const auto read = ReadListOf(arguments.Files().constFirst(), arguments, services, reading, *layout);
     return read && output.Write(read->list, writing) ? VerbResult::Done : VerbResult::Failed;
 }

@@ -7,9 +7,11 @@
 #include "fileformats/text_file_reader.h"
 #include "platform/file_descriptor.h"
 #include "platform/file_name.h"
+#include "platform/regular_file.h"
 #include "platform/safe_file.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -27,14 +29,47 @@ bool OpenPipe(QFile &file, const QString &name)
         && file.open(descriptor.Release(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
 }
 
-FormatReading Read(
-    CWordList &list, const QString &name, const FormatReadOptions &options, const VerbServices &services)
+/// All that a device gives, or so much of it that it is refused.
+QByteArray ReadToEnd(QIODevice &device)
 {
-    if (name == StandardStream) {
-        return ReadListDevice(list, services.console.Input(), options);
+    constexpr qint64 PieceSize = 1024 * 1024;
+    QByteArray bytes;
+    while (bytes.size() <= FileLimits::MostBytes) {
+        const QByteArray piece = device.read(PieceSize);
+        if (piece.isEmpty()) {
+            break;
+        }
+        bytes += piece;
     }
+    return bytes;
+}
+
+FormatReading Read(CWordList &list, const QString &name, FormatReadOptions options, const GivenLayout &layout,
+    const VerbServices &services)
+{
     QFile pipe;
-    return OpenPipe(pipe, name) ? ReadListDevice(list, pipe, options) : ReadListFile(list, name, options);
+    QIODevice *device = nullptr;
+    if (name == StandardStream) {
+        device = &services.console.Input();
+    } else if (OpenPipe(pipe, name)) {
+        device = &pipe;
+    }
+    if (layout.IsEmpty()) {
+        return device != nullptr ? ReadListDevice(list, *device, options) : ReadListFile(list, name, options);
+    }
+    // What is not said is found out, for which all must be there.
+    QBuffer content;
+    QFile file;
+    if (device != nullptr) {
+        content.setData(ReadToEnd(*device));
+        content.open(QIODevice::ReadOnly);
+    } else if (!OpenRegularFile(file, name)) {
+        return {};
+    }
+    QIODevice &source = device != nullptr ? static_cast<QIODevice &>(content) : file;
+    options.separated = LayoutToRead(layout, source, QFileInfo(name).suffix().toLower());
+    options.format = options.format != nullptr ? options.format : &FormatOf(FormatId::SeparatedText);
+    return ReadListDevice(list, source, options);
 }
 
 /// The name of a file for a sentence.
@@ -86,8 +121,8 @@ QString BackupFolder()
     return hasHome ? CRecovery::UserFolder() : QString();
 }
 
-std::optional<ReadList> ReadListOf(
-    const QString &name, const CArguments &arguments, const VerbServices &services, FormatReadOptions options)
+std::optional<ReadList> ReadListOf(const QString &name, const CArguments &arguments,
+    const VerbServices &services, FormatReadOptions options, const GivenLayout &layout)
 {
     if (const auto key = arguments.Text("from")) {
         options.format = FindFormat(*key);
@@ -97,7 +132,7 @@ std::optional<ReadList> ReadListOf(
         }
     }
     ReadList read;
-    const FormatReading reading = Read(read.list, name, options, services);
+    const FormatReading reading = Read(read.list, name, options, layout, services);
     const QString shown = Named(name, services, Text::StandardInput);
     if (IsRefused(reading.result)) {
         Tell(services, ReadMessage(reading.result), {shown});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "commandline/verb.h"
+#include "commandline/separated_options.h"
 #include "fileformats/formats.h"
 #include "model/word_list.h"
 
@@ -18,9 +18,9 @@ struct ReadList
     const Format *format = nullptr;
 };
 /// Reads a list of any format from a file, a pipe or standard input, and tells what the reader left out.
-/// `options` is what the command line says of it beside "--from".
+/// `options` and `layout` are what the command line says of it beside "--from".
 std::optional<ReadList> ReadListOf(const QString &name, const CArguments &arguments,
-    const VerbServices &services, FormatReadOptions options = {});
+    const VerbServices &services, FormatReadOptions options = {}, const GivenLayout &layout = {});
 
 /// Where a verb writes a list: a file, which is replaced as a whole, or standard output.
 class CListOutput

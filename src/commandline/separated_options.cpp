@@ -2,6 +2,11 @@
 #include "commandline/separated_options.h"
 
 #include "commandline/text_numbers.h"
+#include "fileformats/formats.h"
+#include "fileformats/separated_text_guess.h"
+#include "fileformats/text_detection.h"
+
+#include <QIODevice>
 
 #include <algorithm>
 
@@ -9,7 +14,7 @@ namespace {
 
 constexpr char16_t Separators[] = {u',', u';', u'\t', u'|'};
 constexpr char16_t Quotes[] = {u'"', u'\'', 0};
-constexpr int Yes = 0; ///< Of the choices "yes|no".
+constexpr bool YesOrNo[] = {true, false};
 
 /// In the order of the enumeration.
 constexpr const char *Columns[] = {"-", "term1", "term2", "note", "flag1", "flag2"};
@@ -29,70 +34,68 @@ std::vector<TextColumn> ColumnsOf(const QString &names)
     return columns;
 }
 
-/// What the options of one direction say of the layout; `prefix` begins their names.
-class CLayout
+/// What the choice stands for.
+template<class Value, size_t count>
+std::optional<Value> Chosen(const std::optional<int> &choice, const Value (&values)[count])
 {
-public:
-    CLayout(const CArguments &arguments, const char *prefix) : m_arguments(arguments), m_prefix(prefix) { }
-
-    bool IsGiven() const { return m_isGiven; }
-    template<class Take>
-    void Choice(const char *name, Take take)
-    {
-        if (const auto choice = m_arguments.Choice(Full(name).constData())) {
-            m_isGiven = true;
-            take(*choice);
-        }
-    }
-    /// False for columns that are none.
-    bool TakeColumns(SeparatedTextOptions &layout, const VerbServices &services)
-    {
-        const auto names = m_arguments.Text(Full("columns").constData());
-        if (!names) {
-            return true;
-        }
-        m_isGiven = true;
-        layout.columns = ColumnsOf(*names);
-        if (layout.columns.empty()) {
-            Tell(services, Text::WrongValue,
-                {*names, QStringLiteral("--") + QString::fromLatin1(Full("columns"))});
-            return false;
-        }
-        return true;
-    }
-
-private:
-    QByteArray Full(const char *name) const { return QByteArray(m_prefix) + name; }
-
-    const CArguments &m_arguments;
-    const char *m_prefix;
-    bool m_isGiven = false;
-};
-
-bool TakeLayout(const CArguments &arguments, const VerbServices &services, const char *prefix,
-    std::optional<SeparatedTextOptions> &layout)
-{
-    SeparatedTextOptions given;
-    CLayout options(arguments, prefix);
-    options.Choice("separator", [&given](int choice) { given.separator = Separators[choice]; });
-    options.Choice("heading", [&given](int choice) { given.hasHeading = choice == Yes; });
-    options.Choice("quote", [&given](int choice) { given.quote = Quotes[choice]; });
-    options.Choice("encoding", [&given](int choice) { given.encoding = TextEncoding(choice); });
-    options.Choice("mark", [&given](int choice) { given.writesMark = choice == Yes; });
-    if (!options.TakeColumns(given, services)) {
-        return false;
-    }
-    if (options.IsGiven()) {
-        layout = given;
-    }
-    return true;
+    return choice ? std::optional(values[*choice]) : std::nullopt;
 }
 
 }
 
-bool ReadSeparatedOptions(const CArguments &arguments, const VerbServices &services, FormatReadOptions &reading,
-    FormatWriteOptions &writing)
+std::optional<GivenLayout> GivenLayoutOf(
+    const char *prefix, const CArguments &arguments, const VerbServices &services)
 {
-    return TakeLayout(arguments, services, "from-", reading.separated)
-        && TakeLayout(arguments, services, "to-", writing.separated);
+    const auto full = [prefix](const char *name) { return QByteArray(prefix) + name; };
+    const auto choice = [&](const char *name) { return arguments.Choice(full(name).constData()); };
+    GivenLayout given = {.separator = Chosen(choice("separator"), Separators),
+        .quote = Chosen(choice("quote"), Quotes),
+        .writesMark = Chosen(choice("mark"), YesOrNo),
+        .hasHeading = Chosen(choice("heading"), YesOrNo)};
+    if (const auto encoding = choice("encoding")) {
+        given.encoding = TextEncoding(*encoding);
+    }
+    if (const auto names = arguments.Text(full("columns").constData())) {
+        given.columns = ColumnsOf(*names);
+        if (given.columns.empty()) {
+            Tell(services, Text::WrongValue, {*names, QString::fromLatin1("--" + full("columns"))});
+            return std::nullopt;
+        }
+    }
+    return given;
+}
+
+SeparatedTextOptions LayoutToRead(const GivenLayout &given, QIODevice &device, const QString &suffix)
+{
+    SeparatedTextOptions layout = CompletedOptions(device, std::nullopt, suffix);
+    layout.separator = given.separator.value_or(layout.separator);
+    layout.quote = given.quote.value_or(layout.quote);
+    layout.encoding = given.encoding.has_value() ? given.encoding : layout.encoding;
+    layout.columns = given.columns; // Without any they are found out by the rest.
+    if (given.hasHeading) {
+        layout.hasHeading = *given.hasHeading;
+    } else if (given.separator || given.quote) {
+        const QByteArray head = device.read(FormatSample::SampleSize);
+        device.seek(0);
+        const bool isWhole = head.size() == device.size();
+        layout.hasHeading =
+            GuessHeading(TakeSampleRows(DecodeHead(head), isWhole, layout.separator, layout.quote).rows);
+    }
+    return layout;
+}
+
+std::optional<SeparatedTextOptions> LayoutToWrite(const GivenLayout &given, const QString &suffix)
+{
+    if (given.IsEmpty()) {
+        return std::nullopt;
+    }
+    SeparatedTextOptions layout;
+    const char16_t usual = SeparatorOfSuffix(suffix);
+    layout.separator = given.separator.value_or(usual != 0 ? usual : layout.separator);
+    layout.quote = given.quote.value_or(layout.quote);
+    layout.encoding = given.encoding;
+    layout.writesMark = given.writesMark.value_or(layout.writesMark);
+    layout.hasHeading = given.hasHeading.value_or(layout.hasHeading);
+    layout.columns = given.columns;
+    return layout;
 }

@@ -2,9 +2,9 @@
 #include "commandline/table_options.h"
 
 #include "commandline/options.h"
+#include "commandline/table_pdf_order.h"
 #include "commandline/table_verb.h"
 #include "resources/texts.h"
-#include "settings/text_numbers.h"
 #include "tools/table_cells.h"
 
 #include <algorithm>
@@ -33,8 +33,9 @@ constexpr Option Options[] = {
         .kind = Option::Kind::Choice,
         .help = Text::OptionTableComments,
         .choices = "keep|italic|italic-in-parentheses|delete"},
-    {.name = "alternatives", .kind = Option::Kind::Text, .help = Text::OptionTableAlternatives}, FromOption,
-    ForceOption};
+    {.name = "alternatives", .kind = Option::Kind::Text, .help = Text::OptionTableAlternatives},
+    {.name = "paper", .kind = Option::Kind::Choice, .help = Text::OptionPaper, .choices = PaperChoices},
+    {.name = "landscape", .kind = Option::Kind::Flag, .help = Text::OptionLandscape}, FromOption, ForceOption};
 
 constexpr int CommentsDeleted = 3; ///< Of the choices of "comments".
 

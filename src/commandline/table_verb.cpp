@@ -4,8 +4,10 @@
 #include "commandline/list_files.h"
 #include "commandline/options.h"
 #include "commandline/table_options.h"
-#include "fileformats/text_file_writer.h"
-#include "platform/safe_file.h"
+#include "commandline/table_pdf_order.h"
+#include "document/text_numbers.h"
+#include "fileformats/text_output.h"
+#include "platform/plain_text.h"
 #include "resources/texts.h"
 #include "tools/table_writer.h"
 
@@ -32,35 +34,42 @@ std::optional<TableFormat> FormatOf(const QString &name, const CArguments &argum
     return suffix == QStringLiteral("pdf") ? std::optional(TableFormat::Pdf) : std::nullopt;
 }
 
-/// Where the pages go to a file first, since their writer knows no other place.
-bool WritePdf(const CTableCells &cells, const QString &name, const VerbServices &services)
+/// By way of another file for standard output, since the writer of pages knows files alone.
+VerbResult WritePdf(TablePdfOrder order, const VerbServices &services)
 {
-    if (name != StandardStream) {
-        return services.writePdf(cells, name);
+    if (order.file != StandardStream) {
+        if (!services.writePdf(order)) {
+            Tell(services, Text::CannotSave, {order.file});
+            return VerbResult::Failed;
+        }
+        return VerbResult::Done;
+    }
+    if (services.console.IsOutputATerminal()) {
+        Tell(services, Text::NotToTerminal);
+        return VerbResult::Failed;
     }
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("table.pdf"));
-    QFile file(path);
-    return services.writePdf(cells, path) && file.open(QIODevice::ReadOnly)
-        && WriteResult(name, services, [&file](QIODevice &device) {
-               const QByteArray bytes = file.readAll();
-               return device.write(bytes) == bytes.size();
-           });
+    order.file = folder.filePath(QStringLiteral("table.pdf"));
+    QFile file(order.file);
+    const bool written = WriteResult(StandardStream.toString(), services, [&](QIODevice &device) {
+        if (!services.writePdf(order) || !file.open(QIODevice::ReadOnly)) {
+            return false;
+        }
+        const QByteArray bytes = file.readAll();
+        return device.write(bytes) == bytes.size();
+    });
+    return written ? VerbResult::Done : VerbResult::Failed;
 }
 
 bool WriteRows(const ITableWriter &writer, QIODevice &device, TextEncoding encoding)
 {
-    CTextFileWriter file;
-    file.Open(device, encoding);
+    CTextOutput output(device, encoding, false);
     const std::atomic<bool> keepRunning = true;
-    return WriteTable(
-               writer,
-               [&file](const QString &piece) {
-                   file.Write(piece);
-                   return true;
-               },
-               keepRunning)
-        && file.Close();
+    const auto write = [&output](const QString &piece) {
+        output.Write(piece);
+        return true;
+    };
+    return WriteTable(writer, write, keepRunning) && output.Finish();
 }
 
 }
@@ -85,15 +94,14 @@ VerbResult RunTable(const CArguments &arguments, const VerbServices &services)
     settings.htmlFormat = *format != TableFormat::Text;
     CTableCells cells(read->list, {}, settings, services.texts, services.today);
     if (*format == TableFormat::Pdf) {
-        if (services.console.IsOutputATerminal() && output == StandardStream) {
-            Tell(services, Text::NotToTerminal);
-            return VerbResult::Failed;
-        }
-        if (!WritePdf(cells, output, services)) {
-            Tell(services, Text::CannotSave, {output});
-            return VerbResult::Failed;
-        }
-        return VerbResult::Done;
+        const QString title =
+            settings.showTitle ? settings.title : QFileInfo(arguments.Files().constFirst()).completeBaseName();
+        return WritePdf({.cells = cells,
+                            .file = output,
+                            .title = OneLine(title),
+                            .paper = arguments.Choice("paper"),
+                            .isLandscape = arguments.Has("landscape")},
+            services);
     }
     const bool isPage = *format == TableFormat::Html;
     const std::unique_ptr<ITableWriter> writer =

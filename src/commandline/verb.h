@@ -9,9 +9,9 @@
 #include <functional>
 #include <span>
 
-class CTableCells;
 class CTexts;
 class ISettingsStore;
+struct TablePdfOrder;
 
 /// The exit status of a verb.
 enum class VerbResult {
@@ -28,8 +28,8 @@ struct VerbServices
     const ISettingsStore &settings;
     QDate today = {};
     quint32 seed = 0; ///< Of chance, where the command line names none.
-    /// Lays a table out on pages and writes them to a PDF file. Returns false when that failed.
-    std::function<bool(const CTableCells &cells, const QString &file)> writePdf = {};
+    /// Writes a PDF file. Returns false when that failed.
+    std::function<bool(const TablePdfOrder &order)> writePdf = {};
 };
 
 /// A verb of the command line, as a row of the table of all of them.

@@ -5,6 +5,7 @@
 #include "commandline/info_verb.h"
 #include "commandline/merge_verb.h"
 #include "commandline/quiz_verb.h"
+#include "commandline/table_verb.h"
 #include "commandline/text_numbers.h"
 #include "commandline/verb.h"
 #include "commandline/words_verb.h"
@@ -44,6 +45,11 @@ std::span<const Verb> Verbs()
             .options = SelectOptions(),
             .run = RunSelect,
             .fewestFiles = 2,
+            .mostFiles = 2},
+        Verb{.name = "table",
+            .help = Text::HelpTable,
+            .options = TableOptions(),
+            .run = RunTable,
             .mostFiles = 2},
         Verb{.name = "quiz", .help = Text::HelpQuiz, .options = QuizOptions(), .run = RunQuiz, .mostFiles = 1},
         Verb{.name = "words",

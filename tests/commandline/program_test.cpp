@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commandline/verb.h"
 #include "fileformats/formats.h"
+#include "support/dictionary_files.h"
 #include "support/files.h"
 #include "support/list_files.h"
 
@@ -182,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(files.Path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 
         const QString output = files.Path(u"output"_s);
-        const QList<QStringList> verbs = {{u"convert"_s, in, u"-"_s}, {u"info"_s, in},
+        const QList<QStringList> verbs = {{u"convert"_s, in, u"-"_s}, {u"info"_s, in}, {u"table"_s, in},
             {u"check"_s, u"--json"_s, in}, {u"info"_s, u"--help"_s}};
         for (const QStringList &arguments : verbs) {
             for (const Around &around : {Around{.outputFile = output, .trouble = Trouble::FullDisk},
@@ -214,6 +215,8 @@ private Q_SLOTS:
             {{u"sort"_s, in, u"-"_s, u"--by"_s, u"4"_s}, u"\"4\" won’t do for --by=term1|term2|note"_s},
             {{u"select"_s, u"--number=0"_s, in, u"-"_s},
                 u"\"0\" won’t do for --number=N: it must be a number from 1"_s},
+            {{u"table"_s, u"--text-color=12345G"_s, in}, u"\"12345G\" won’t do"_s},
+            {{u"table"_s, u"--columns=term1,x"_s, in}, u"\"term1,x\" won’t do"_s},
             {{u"convert"_s, in, u"out.xyz"_s}, u"out.xyz: the name tells no format"_s},
             {{u"convert"_s, u"--languages=1,1"_s, in, u"-"_s}, u"\"1,1\" won’t do"_s},
             {{u"quiz"_s, u"-"_s}, u"The file "_s},
@@ -323,6 +326,77 @@ private Q_SLOTS:
         const QString one = RunProgram({u"shuffle"_s, u"--seed=1"_s, in, u"-"_s}).output;
         QVERIFY(one.size() == Flagged.size() && one.toUtf8() != Flagged);
         QCOMPARE(RunProgram({u"shuffle"_s, u"--seed=1"_s, in, u"-"_s}).output, one);
+    }
+
+    void separatedText()
+    {
+        const CListFiles files;
+        const QString out = files.Path(u"out.gls"_s);
+        const struct
+        {
+            QString arguments;
+            QByteArray input;
+            QString entries;
+        } rows[] = {
+            {{}, "Svenska;Engelska\nen;\"one; 1\"\ntv\xC3\xA5;two\n", u"en|one; 1,två|two"_s},
+            {u"--from-columns=term2,-,term1"_s, "a;b;c\nd;e;f\n", u"c|a,f|d"_s},
+            {u"--from-separator=pipe --from-heading=no"_s, "a|b,c\nd|e\n", u"a|b,c,d|e"_s},
+            {u"--from-encoding=windows-1252 --from-heading=no"_s, "\xE5;b\nc;d\n", u"å|b,c|d"_s},
+            {u"--from=separated --split-semicolons --comments-in-parentheses"_s, "a\tb (c); d\ne\tf\n",
+                u"a|b [c] * d,e|f"_s},
+        };
+        for (const auto &[arguments, input, entries] : rows) {
+            const Outcome outcome = RunProgram(QStringList{u"convert"_s, u"--force"_s, u"-"_s, out}
+                    + arguments.split(u' ', Qt::SkipEmptyParts),
+                {.input = input});
+            QVERIFY2(outcome.status == 0, qPrintable(arguments + Words(outcome)));
+            QCOMPARE(Entries(out), entries);
+        }
+        const QString in = files.AddFile(u"a.gls"_s, Flagged);
+        const QString tabs = files.Path(u"a.tsv"_s);
+        QCOMPARE(
+            RunProgram({u"convert"_s, in, tabs, u"--to-columns=term2,term1"_s, u"--to-mark=no"_s}).status, 0);
+        QVERIFY2(
+            Content(tabs).startsWith("Engelska\tSvenska\r\ncat * puss\tkatt\r\n"), Content(tabs).constData());
+    }
+
+    void table()
+    {
+        const CListFiles files;
+        const QString in = files.AddFile(u"a.gls"_s, Flagged);
+        const Outcome page = RunProgram({u"table"_s, in, u"--special=flagged"_s, u"--special-color=FF8001"_s});
+        QVERIFY2(
+            page.status == 0 && page.output.contains(u" <td nowrap bgcolor=\"FF8001\"><b>katt</b></td>\r\n"_s),
+            qPrintable(Words(page)));
+        const Outcome text = RunProgram({u"table"_s, in, u"-"_s, u"--format=text"_s,
+            u"--columns=term2,empty-term1"_s, u"--alternatives= / "_s});
+        QVERIFY2(text.output.startsWith(u"Engelska\tSvenska\r\ncat / puss\t"_s), qPrintable(Words(text)));
+        const QString pdf = files.Path(u"a.pdf"_s);
+        QCOMPARE(Words(RunProgram({u"table"_s, in, pdf})), u"0: "_s);
+        QVERIFY(Content(pdf).startsWith("%PDF-"));
+        QVERIFY(RunProgram({u"table"_s, in, u"--format=pdf"_s}).output.startsWith(u"%PDF-"_s));
+    }
+
+    void words()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(WriteDictionary(folder, u"freedict-swe-eng"_s,
+            {{"hund", "hund <n>\n1. dog, hound\n"}, {"katt", "katt\ncat\n"},
+                {"kattunge", "kattunge\nkitten\n"}}));
+        const QStringList start = {u"words"_s, u"--dictionaries"_s, folder.path()};
+        const Outcome found = RunProgram(start + QStringList{u"Svenska"_s, u"en"_s, u"hund"_s, u"x"_s});
+        QCOMPARE(Words(found), u"0: hund = dog * hound\nordelin: x: not in the dictionary\n"_s);
+        QCOMPARE(RunProgram(start + QStringList{u"sv"_s, u"eng"_s}, {.input = "katt\n\nhund\n"}).output,
+            u"katt = cat\nhund = dog * hound\n"_s);
+        QCOMPARE(RunProgram(start + QStringList{u"sv"_s, u"eng"_s, u"y"_s}).status, 1);
+        QVERIFY(RunProgram(start + QStringList{u"sv"_s, u"tyska"_s, u"y"_s})
+                    .errors.contains(u"freedict-swe-eng"_s));
+        const QString out = folder.filePath(u"out.gls"_s);
+        QCOMPARE(RunProgram(start
+                     + QStringList{u"--beginning"_s, u"--output"_s, out, u"swedish"_s, u"english"_s, u"katt"_s})
+                     .status,
+            0);
+        QCOMPARE(Entries(out), u"katt|cat,kattunge|kitten"_s);
     }
 
     void quiz()
