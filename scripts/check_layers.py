@@ -15,7 +15,7 @@ ALLOWED = {
     "resources": {"platform"},
     "settings": {"platform", "resources"},
     "model": {"platform"},
-    "fileformats": {"model", "platform"},
+    "fileformats": {"dictionaries", "model", "platform"},
     "dictionaries": {"model", "platform"},
     "document": DOCUMENT,
     "quiz": DOCUMENT,

@@ -66,8 +66,18 @@ QStringList CDictionary::Translate(const QString &term)
 
 std::vector<DictionaryEntry> CDictionary::TranslateBeginning(const QString &start, int most)
 {
+    return EntriesAt(m_index.FindBeginning(start, most));
+}
+
+std::vector<DictionaryEntry> CDictionary::TranslateAll(int most)
+{
+    return EntriesAt(m_index.All(most));
+}
+
+std::vector<DictionaryEntry> CDictionary::EntriesAt(const std::vector<ArticlePlace> &places)
+{
     std::vector<DictionaryEntry> entries;
-    for (const ArticlePlace &place : m_index.FindBeginning(start, most)) {
+    for (const ArticlePlace &place : places) {
         const std::optional<QByteArray> article = m_text.Read(place.offset, place.length);
         if (!article) {
             continue;

@@ -26,8 +26,11 @@ public:
     QStringList Translate(const QString &term);
     /// The entries whose headwords begin with a text, which must not be empty, from at most `most` articles.
     std::vector<DictionaryEntry> TranslateBeginning(const QString &start, int most);
+    /// Those of all headwords, from at most `most` articles.
+    std::vector<DictionaryEntry> TranslateAll(int most);
 
 private:
+    std::vector<DictionaryEntry> EntriesAt(const std::vector<ArticlePlace> &places);
     void AddTranslations(
         const std::vector<ArticlePlace> &places, const QString &headword, QStringList &translations);
 

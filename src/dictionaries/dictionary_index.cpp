@@ -21,6 +21,12 @@ QByteArrayView HeadwordOf(QByteArrayView line)
     return end < 0 ? line : line.first(end);
 }
 
+bool IsOwn(QByteArrayView headword)
+{
+    return std::ranges::any_of(
+        OwnHeadwords, [headword](QByteArrayView own) { return headword.startsWith(own); });
+}
+
 std::optional<qint64> NumberOf(QByteArrayView digits)
 {
     constexpr QByteArrayView Alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
@@ -154,9 +160,7 @@ std::vector<ArticlePlace> CDictionaryIndex::Search(const QString &text, bool who
             if (whole ? found != key : !found.startsWith(key)) {
                 break;
             }
-            const bool isOwn = std::ranges::any_of(
-                OwnHeadwords, [&found](QByteArrayView own) { return found.startsWith(own); });
-            if (!isOwn || whole) {
+            if (!IsOwn(found) || whole) {
                 places.push_back(*PlaceIn(LineAt(*line)));
             }
         }
@@ -172,4 +176,15 @@ std::vector<ArticlePlace> CDictionaryIndex::Find(const QString &headword, int mo
 std::vector<ArticlePlace> CDictionaryIndex::FindBeginning(const QString &start, int most) const
 {
     return Search(start, false, most);
+}
+
+std::vector<ArticlePlace> CDictionaryIndex::All(int most) const
+{
+    std::vector<ArticlePlace> places;
+    for (auto line = m_starts.begin(); line != m_starts.end() && int(places.size()) < most; ++line) {
+        if (!IsOwn(HeadwordOf(LineAt(*line)))) {
+            places.push_back(*PlaceIn(LineAt(*line)));
+        }
+    }
+    return places;
 }

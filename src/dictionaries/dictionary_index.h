@@ -30,6 +30,8 @@ public:
     std::vector<ArticlePlace> Find(const QString &headword, int most) const;
     /// Those of all headwords that begin with a text; it must not be empty.
     std::vector<ArticlePlace> FindBeginning(const QString &start, int most) const;
+    /// Those of all headwords, at most `most`.
+    std::vector<ArticlePlace> All(int most) const;
 
 private:
     QByteArrayView LineAt(qint64 start) const;

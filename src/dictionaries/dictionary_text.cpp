@@ -45,6 +45,7 @@ bool CDictionaryText::Open(const QString &path)
 {
     m_pieces.clear();
     m_pieceSize = 0;
+    m_lastPiece = -1;
     m_file.close();
     return OpenRegularFile(m_file, path)
         && (!path.endsWith(QLatin1StringView(".dz"), Qt::CaseInsensitive) || ReadHeader());
@@ -113,6 +114,9 @@ bool CDictionaryText::ReadPieces(const QByteArray &extra)
 
 std::optional<QByteArray> CDictionaryText::ReadPiece(qint64 piece)
 {
+    if (piece == m_lastPiece) {
+        return m_lastText; // Articles that follow one another stand in the same one.
+    }
     if (piece + 1 >= qint64(m_pieces.size())) {
         return {};
     }
@@ -121,7 +125,11 @@ std::optional<QByteArray> CDictionaryText::ReadPiece(qint64 piece)
         return {};
     }
     const QByteArray compressed = m_file.read(size);
-    return compressed.size() == size ? Inflated(compressed, m_pieceSize) : std::nullopt;
+    std::optional<QByteArray> text =
+        compressed.size() == size ? Inflated(compressed, m_pieceSize) : std::nullopt;
+    m_lastPiece = text ? piece : -1;
+    m_lastText = text.value_or(QByteArray());
+    return text;
 }
 
 std::optional<QByteArray> CDictionaryText::Read(qint64 offset, qint64 length)

@@ -26,5 +26,7 @@ private:
 
     QFile m_file;
     int m_pieceSize = 0; // In bytes of text; 0 for a plain file.
+    qint64 m_lastPiece = -1; // The one that was read last; -1 for none.
+    QByteArray m_lastText;
     std::vector<qint64> m_pieces; // Where they begin in the file, and where the last ends.
 };

@@ -2,6 +2,8 @@
 #include "fileformats/formats.h"
 
 #include "fileformats/anki_text.h"
+#include "fileformats/dictionary_format.h"
+#include "fileformats/kvtml.h"
 #include "fileformats/plain_formats.h"
 #include "fileformats/separated_text.h"
 #include "fileformats/separated_text_guess.h"
@@ -24,6 +26,9 @@
 namespace {
 
 constexpr std::array GlossarySuffixes = {QLatin1StringView("gls")};
+constexpr std::array KvtmlSuffixes = {QLatin1StringView("kvtml")};
+constexpr std::array DictionarySuffixes = {
+    QLatin1StringView("index"), QLatin1StringView("dict"), QLatin1StringView("dz")};
 constexpr std::array SeparatedTextSuffixes = {
     QLatin1StringView("csv"), QLatin1StringView("tsv"), QLatin1StringView("tab"), QLatin1StringView("psv")};
 constexpr std::array PlainTextSuffixes = {QLatin1StringView("txt")};
@@ -44,6 +49,21 @@ constexpr std::array Table = {
         .suffixes = {},
         .recognises = WordQuizFormat::Recognises,
         .read = WordQuizFormat::Read},
+    Format{.id = FormatId::Kvtml,
+        .key = QLatin1StringView("kvtml"),
+        .name = Text::FormatKvtml,
+        .suffixes = KvtmlSuffixes,
+        .recognises = KvtmlFormat::Recognises,
+        .read = KvtmlFormat::Read,
+        .count = KvtmlFormat::Count,
+        .write = KvtmlFormat::Write},
+    Format{.id = FormatId::Dictionary,
+        .key = QLatin1StringView("dictionary"),
+        .name = Text::FormatDictionary,
+        .suffixes = DictionarySuffixes,
+        .isWordList = false,
+        .recognises = DictionaryFormat::Recognises,
+        .read = DictionaryFormat::Read},
     Format{.id = FormatId::AnkiText,
         .key = QLatin1StringView("anki"),
         .name = Text::FormatAnkiText,

@@ -45,3 +45,24 @@ QString CLanguageNames::CodeOf(const QString &name) const
     }
     return m_codes.value(simple.first(end));
 }
+
+QString CLanguageNames::NameOf(const QString &code)
+{
+    constexpr int Longest = 100;
+    std::array<UChar, Longest> name = {};
+    UErrorCode status = U_ZERO_ERROR;
+    const QByteArray bytes = code.toLatin1();
+    const int length =
+        uloc_getDisplayLanguage(bytes.constData(), bytes.constData(), name.data(), Longest, &status);
+    // A warning tells of a code that has no name.
+    return status == U_ZERO_ERROR && length > 0 ? QString::fromUtf16(name.data(), length) : code;
+}
+
+QString CLanguageNames::ShortCodeOf(const QString &code)
+{
+    constexpr int Longest = 20;
+    std::array<char, Longest> shorter = {};
+    UErrorCode status = U_ZERO_ERROR;
+    const int length = uloc_getLanguage(code.toLatin1().constData(), shorter.data(), Longest, &status);
+    return U_SUCCESS(status) ? QString::fromLatin1(shorter.data(), length) : code;
+}

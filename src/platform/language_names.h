@@ -14,6 +14,12 @@ public:
     /// which the first word may be enough ("engelska (brittisk)"), or a code of two or three letters.
     QString CodeOf(const QString &name) const;
 
+    /// The name of a language in itself, by a code of two or three letters, a country behind it or not; the
+    /// code where it is none.
+    static QString NameOf(const QString &code);
+    /// The code of two letters for one of three; the same where there is none.
+    static QString ShortCodeOf(const QString &code);
+
 private:
     QHash<QString, QString> m_codes; // By names in small letters.
 };

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "fileformats/formats.h"
+
+/// Dictionaries of the DICT servers, by the path of either of their two files. What is chosen of them becomes a
+/// list: headwords, and their translations as alternatives.
+namespace DictionaryFormat {
+
+bool Recognises(const FormatSample &sample, FormatSource &source);
+ReadResult Read(CWordList &list, FormatSource &source, const FormatReadOptions &options, CLossCounter &losses);
+
+}
