@@ -115,10 +115,12 @@ if grep -qsx application/x-ordelin "$prefix/share/mime/types"; then
     fail "The type of file is still known after uninstalling"
 fi
 
-# has_hardening WHAT PATTERN READELF-OPTION: the program in the package was built with it. All is read: who stops at
-# the first hit breaks the pipe.
+# has_hardening WHAT PATTERN READELF-OPTION: the program in the package and its module were built with it. All is read:
+# who stops at the first hit breaks the pipe.
 has_hardening() {
-    readelf "$3" --wide "$work/extracted/usr/bin/ordelin" | grep -E "$2" >/dev/null || fail "The program is built without $1"
+    for file in bin/ordelin lib/ordelin/ordelin_window.so; do
+        readelf "$3" --wide "$work/extracted/usr/$file" | grep -E "$2" >/dev/null || fail "$file is built without $1"
+    done
 }
 has_hardening "position-independent code" 'Type: +DYN' --file-header
 has_hardening "stack protector" '__stack_chk_fail' --dyn-syms

@@ -4,7 +4,9 @@
 #include "platform/plain_text.h"
 
 #include <csignal>
+#include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -13,6 +15,15 @@ bool TurnsDirection(QChar unit)
 {
     return (unit >= u'\u202A' && unit <= u'\u202E') || (unit >= u'\u2066' && unit <= u'\u2069')
         || unit == u'\u200E' || unit == u'\u200F' || unit == u'\u061C';
+}
+
+/// Puts something in the place of a stream that is closed, so that no file takes it. It can't be used the way
+/// that the stream is: that fails as it does without a stream.
+void FillPlace(int stream, int flags)
+{
+    if (::fcntl(stream, F_GETFD) < 0) {
+        (void)::open("/dev/null", flags); // Takes the lowest number that is free.
+    }
 }
 
 }
@@ -51,7 +62,9 @@ CConsole::CConsole()
 {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
-    // A stream that is closed stays so, and what is read from it or written to it fails.
+    FillPlace(STDIN_FILENO, O_WRONLY);
+    FillPlace(STDOUT_FILENO, O_RDONLY);
+    FillPlace(STDERR_FILENO, O_RDONLY);
     (void)m_input.open(STDIN_FILENO, QIODevice::ReadOnly);
     (void)m_output.open(STDOUT_FILENO, QIODevice::WriteOnly);
     (void)m_error.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
@@ -71,6 +84,11 @@ void CConsole::Tell(const QString &message)
         line.chop(1);
     }
     m_error.write((QStringLiteral("ordelin: ") + line + u'\n').toUtf8());
+}
+
+QFile *CConsole::TakeInput()
+{
+    return std::exchange(m_isInputTaken, true) ? nullptr : &m_input;
 }
 
 std::optional<QString> CConsole::ReadLine()

@@ -26,7 +26,8 @@ public:
 
     /// For bytes that are no text for a reader.
     QIODevice &Output() { return m_output; }
-    QIODevice &Input() { return m_input; }
+    /// All of standard input; null from the second time on, when nothing is left of it.
+    QFile *TakeInput();
     bool IsInputATerminal() const;
     bool IsOutputATerminal() const;
 
@@ -39,6 +40,7 @@ private:
     QFile m_input;
     QFile m_output;
     QFile m_error;
+    bool m_isInputTaken = false;
     bool m_failed = false;
 };
 

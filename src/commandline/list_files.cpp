@@ -44,32 +44,48 @@ QByteArray ReadToEnd(QIODevice &device)
     return bytes;
 }
 
-FormatReading Read(CWordList &list, const QString &name, FormatReadOptions options, const GivenLayout &layout,
-    const VerbServices &services)
+/// `source` has random access.
+FormatReading ReadAs(CWordList &list, QIODevice &source, const QString &suffix, const GivenLayout &layout,
+    FormatReadOptions options)
 {
-    QFile pipe;
-    QIODevice *device = nullptr;
-    if (name == StandardStream) {
-        device = &services.console.Input();
-    } else if (OpenPipe(pipe, name)) {
-        device = &pipe;
-    }
-    if (layout.IsEmpty()) {
-        return device != nullptr ? ReadListDevice(list, *device, options) : ReadListFile(list, name, options);
-    }
-    // What is not said is found out, for which all must be there.
-    QBuffer content;
-    QFile file;
-    if (device != nullptr) {
-        content.setData(ReadToEnd(*device));
-        content.open(QIODevice::ReadOnly);
-    } else if (!OpenRegularFile(file, name)) {
-        return {};
-    }
-    QIODevice &source = device != nullptr ? static_cast<QIODevice &>(content) : file;
-    options.separated = LayoutToRead(layout, source, QFileInfo(name).suffix().toLower());
+    options.separated = LayoutToRead(layout, source, suffix);
     options.format = options.format != nullptr ? options.format : &FormatOf(FormatId::SeparatedText);
     return ReadListDevice(list, source, options);
+}
+
+FormatReading ReadStream(
+    CWordList &list, QFile &stream, const FormatReadOptions &options, const GivenLayout &layout)
+{
+    FormatReading reading;
+    if (layout.IsEmpty()) {
+        reading = ReadListDevice(list, stream, options);
+    } else {
+        // What is not said is found out, for which all must be there.
+        QBuffer content;
+        content.setData(ReadToEnd(stream));
+        content.open(QIODevice::ReadOnly);
+        reading = ReadAs(list, content, {}, layout, options);
+    }
+    // Half a list is not taken for a whole one.
+    return stream.error() == QFileDevice::NoError ? reading : FormatReading();
+}
+
+FormatReading Read(CWordList &list, const QString &name, const FormatReadOptions &options,
+    const GivenLayout &layout, const VerbServices &services)
+{
+    if (name == StandardStream) {
+        QFile *const input = services.console.TakeInput();
+        return input == nullptr ? FormatReading() : ReadStream(list, *input, options, layout);
+    }
+    QFile file;
+    if (OpenPipe(file, name)) {
+        return ReadStream(list, file, options, layout);
+    }
+    if (layout.IsEmpty()) {
+        return ReadListFile(list, name, options);
+    }
+    return OpenRegularFile(file, name) ? ReadAs(list, file, QFileInfo(name).suffix().toLower(), layout, options)
+                                       : FormatReading();
 }
 
 /// The name of a file for a sentence.

@@ -24,7 +24,8 @@ namespace {
 enum class Trouble {
     None,
     FullDisk, ///< No file may grow beyond some bytes.
-    ClosedPipe ///< Nobody reads the output.
+    ClosedPipe, ///< Nobody reads the output.
+    ClosedStreams ///< There are neither input nor output.
 };
 
 struct Around
@@ -54,6 +55,9 @@ void Prepare(Trouble trouble)
             close(ends[0]);
             dup2(ends[1], STDOUT_FILENO);
         }
+    } else if (trouble == Trouble::ClosedStreams) {
+        close(STDIN_FILENO);
+        close(STDOUT_FILENO);
     }
 }
 
@@ -144,6 +148,10 @@ private Q_SLOTS:
             QCOMPARE(json.value(u"languages"_s).toArray().at(1), u"Engelska"_s);
         }
         QCOMPARE(RunProgram({u"info"_s, u"-"_s}, {.input = QByteArray(1000, '\x01')}).status, 2);
+        // Nothing is left of it for a second time, and a stream that is closed has nothing.
+        QCOMPARE(RunProgram({u"info"_s, u"-"_s, u"-"_s}, {.input = Flagged}).status, 2);
+        QCOMPARE(RunProgram({u"info"_s, u"-"_s}, {.trouble = Trouble::ClosedStreams}).status, 2);
+        QCOMPARE(RunProgram({u"info"_s, list}, {.trouble = Trouble::ClosedStreams}).status, 2);
     }
 
     void convert()
