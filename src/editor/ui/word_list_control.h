@@ -196,6 +196,7 @@ private:
     bool m_layingOut = false;
     std::set<int> m_userColumns; // Those that the user gave a width.
     mutable std::optional<std::vector<std::pair<int, int>>> m_ranges; // Until the selection changes.
+    bool m_wasPressed = false; // Since it has the focus.
     QPersistentModelIndex m_pressedFlag;
     QPoint m_pressedCell; // Where it stood; the list may have moved until the button is released.
     std::function<std::unique_ptr<QMimeData>()> m_dragData;

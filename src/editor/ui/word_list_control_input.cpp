@@ -146,6 +146,7 @@ QModelIndex CWordListControl::FlagAt(const QPoint &place) const
 
 void CWordListControl::mousePressEvent(QMouseEvent *event)
 {
+    m_wasPressed = true;
     m_pressedFlag = event->button() == Qt::LeftButton ? FlagAt(event->pos()) : QModelIndex();
     m_pressedCell = visualRect(m_pressedFlag).topLeft();
     const QModelIndex pressed = indexAt(event->pos());
@@ -182,7 +183,9 @@ void CWordListControl::mouseDoubleClickEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton || !index.isValid()) {
         return;
     }
-    if (FlagAt(event->pos()).isValid()) {
+    if (!m_wasPressed) {
+        mousePressEvent(event); // The first click closed a window that stood in front of the list.
+    } else if (FlagAt(event->pos()).isValid()) {
         Q_EMIT FlagClicked(index); // Two quick clicks on a flag are two clicks.
     } else {
         Q_EMIT CellDoubleClicked(
@@ -220,5 +223,6 @@ void CWordListControl::focusInEvent(QFocusEvent *event)
 void CWordListControl::focusOutEvent(QFocusEvent *event)
 {
     QTableView::focusOutEvent(event);
+    m_wasPressed = false;
     viewport()->update();
 }
