@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QTimer>
 
 CFindCommands::CFindCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document,
     FindSettings &settings, const CSettingsChanges &settingsChanges, const CTexts &texts, IUserPrompt &prompt,
@@ -80,11 +81,22 @@ bool CFindCommands::StoreEdit()
 bool CFindCommands::eventFilter(QObject *watched, QEvent *event)
 {
     // A quiz hides the main window.
-    if (watched == &m_frame && m_window != nullptr
-        && (event->type() == QEvent::Hide || event->type() == QEvent::Show) && !event->spontaneous()) {
-        m_window->setAttribute(Qt::WA_ShowWithoutActivating); // Who comes back from a quiz is in the list.
-        m_window->setVisible(event->type() == QEvent::Show);
-        m_window->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    if (watched == &m_frame && m_window != nullptr && !event->spontaneous()) {
+        if (event->type() == QEvent::Hide) {
+            m_window->hide();
+        } else if (event->type() == QEvent::Show) {
+            // Once the main window is on the screen: it would be put in front of what was there before it.
+            QTimer::singleShot(0, m_window, [this] { ShowAgain(); });
+        }
     }
     return QObject::eventFilter(watched, event);
+}
+
+void CFindCommands::ShowAgain()
+{
+    if (m_frame.isVisible()) {
+        m_window->setAttribute(Qt::WA_ShowWithoutActivating); // Who comes back from a quiz is in the list.
+        m_window->show();
+        m_window->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    }
 }

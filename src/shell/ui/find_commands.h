@@ -29,6 +29,8 @@ private:
     void FindNext();
     /// Stores an open edit; false when that made another list of what was found.
     bool StoreEdit();
+    /// The window, with the main window.
+    void ShowAgain();
 
     CWin32View &m_view;
     CWin32Doc &m_document;
