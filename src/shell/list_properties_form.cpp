@@ -51,8 +51,8 @@ QString CListPropertiesForm::FactoryQuestion() const
 
 QString CListPropertiesForm::AdaptCaption(int direction) const
 {
-    return FillCaption(
-        m_texts.Get(Text::AdaptQuestion), languages[size_t(direction)], languages[size_t(1 - direction)]);
+    return FillCaption(m_texts.Get(direction == 0 ? Text::AdaptQuestion : Text::AdaptOtherQuestion),
+        languages[size_t(direction)], languages[size_t(1 - direction)]);
 }
 
 QString CListPropertiesForm::Example(int direction) const
