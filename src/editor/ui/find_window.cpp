@@ -8,6 +8,7 @@
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
 #include "platform/ui/row_table.h"
+#include "platform/ui/scrolling_page.h"
 #include "platform/ui/spoken_text.h"
 #include "platform/ui/window_placing.h"
 #include "resources/texts.h"
@@ -161,7 +162,7 @@ QWidget *CFindWindow::MakeAdvanced()
 {
     m_direction = MakeChoice("direction");
     m_column = MakeChoice("column");
-    auto *const part = new QWidget(this);
+    auto *const part = new QWidget;
     auto *const layout = new QFormLayout(part);
     layout->setContentsMargins({});
     AddLabelledRow(*layout, m_services.texts.Get(Text::FindDirection), m_direction);
@@ -173,7 +174,9 @@ QWidget *CFindWindow::MakeAdvanced()
         m_flagLabels[i] = AddLabelledRow(*flags, QString(), m_flags[i]);
     }
     layout->addRow(group);
-    return part;
+    auto *const page = new CScrollingPage(part, this); // On a low screen the results need room too.
+    page->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    return page;
 }
 
 QWidget *CFindWindow::MakeResults()
