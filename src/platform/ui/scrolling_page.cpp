@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/ui/scrolling_page.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -37,10 +38,17 @@ CScrollingPage::CScrollingPage(QWidget *page, QWidget *parent) : QScrollArea(par
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus); // Its controls have it, and bring themselves into sight.
+    setFocusPolicy(Qt::NoFocus); // Its controls have it.
     // The page keeps the background of what it stands in.
     viewport()->setAutoFillBackground(false);
     page->setAutoFillBackground(false);
+    // The toolkit does it for Tab alone, not for a control that is chosen by its letter.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget * /*before*/, QWidget *now) {
+        if (widget() != nullptr && widget()->isAncestorOf(now)
+            && QGuiApplication::mouseButtons() == Qt::NoButton) { // A click goes to what is under the pointer.
+            ensureWidgetVisible(now);
+        }
+    });
 }
 
 QSize CScrollingPage::sizeHint() const
