@@ -2,9 +2,20 @@
 #include "games/contest_setup.h"
 
 #include "platform/collation.h"
+#include "platform/plain_text.h"
 #include "settings/quiz_settings.h"
 
 #include <algorithm>
+
+namespace {
+
+/// A name as it is kept: line breaks, which a field takes from the clipboard, would make several of it.
+QString tidied(const QString &typed)
+{
+    return OneLine(typed).trimmed();
+}
+
+}
 
 CContestSetup::CContestSetup(const QuizChallengeSettings &settings) : m_time(Times.Clamped(settings.time))
 {
@@ -15,7 +26,7 @@ CContestSetup::CContestSetup(const QuizChallengeSettings &settings) : m_time(Tim
 
 CContestSetup::Name CContestSetup::check(const QString &typed) const
 {
-    const QString name = typed.trimmed();
+    const QString name = tidied(typed);
     const auto isSame = [&](const QString &player) {
         return CSwedishCollator::ForThisThread().Equal(player, name);
     };
@@ -36,7 +47,7 @@ bool CContestSetup::add(const QString &typed)
     if (check(typed) != Name::Free) {
         return false;
     }
-    m_players.append(typed.trimmed());
+    m_players.append(tidied(typed));
     return true;
 }
 

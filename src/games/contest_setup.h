@@ -27,7 +27,7 @@ public:
     enum class Name { Free, Empty, TooLong, Taken, OneTooMany };
     /// What would become of a typed name.
     Name check(const QString &typed) const;
-    /// Adds it without the blanks around it; false when it isn't free.
+    /// Adds it on one line, without the blanks around it; false when it isn't free.
     bool add(const QString &typed);
     void remove(int player);
     /// Lets a player change places with the one before or after; false where there is none.

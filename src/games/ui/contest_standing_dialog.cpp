@@ -66,6 +66,8 @@ QTreeWidget *CContestStandingDialog::makeList(
     list->setUniformRowHeights(true);
     list->setAlternatingRowColors(true);
     list->setItemDelegateForColumn(4, new CShareDelegate(list));
+    list->header()->setDefaultAlignment(Qt::AlignCenter);
+    list->headerItem()->setTextAlignment(1, Qt::AlignLeft | Qt::AlignVCenter);
     list->header()->setStretchLastSection(false);
     list->header()->setSectionsMovable(false);
     list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

@@ -40,7 +40,7 @@ CMemoryCard::CMemoryCard(QWidget *parent) : QAbstractButton(parent)
 
 QSize CMemoryCard::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 20, fontMetrics().lineSpacing() * 6};
+    return {fontMetrics().averageCharWidth() * 24, fontMetrics().lineSpacing() * 7};
 }
 
 QSize CMemoryCard::minimumSizeHint() const

@@ -40,7 +40,7 @@ CPlayField::CPlayField(const QString &pausedText, QWidget *parent) : QWidget(par
 
 QSize CPlayField::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 88, fontMetrics().lineSpacing() * UsualLines};
+    return {fontMetrics().averageCharWidth() * 96, fontMetrics().lineSpacing() * 34};
 }
 
 QSize CPlayField::minimumSizeHint() const

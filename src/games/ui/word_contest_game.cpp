@@ -62,8 +62,8 @@ QLayout *CWordContestGame::makeTop()
     column->addWidget(m_timeText);
     column->addStretch(1);
     auto *line = new QHBoxLayout;
-    line->addWidget(m_scores, 1);
-    line->addLayout(column, 1);
+    line->addWidget(m_scores, 3);
+    line->addLayout(column, 2);
     auto *top = new QVBoxLayout;
     top->addWidget(m_turn);
     top->addLayout(line);
@@ -99,6 +99,8 @@ void CWordContestGame::showCurrentWord()
     m_clock->run(m_form->isThinking());
     button(QuizPart::Answer)->setEnabled(!isHandOver);
     button(QuizPart::Skip)->setEnabled(!isHandOver);
+    // There is nothing to correct before the first question is shown.
+    button(QuizPart::Change)->setEnabled(m_form->mayChangeEntries() && (!isHandOver || m_form->hasAnswers()));
     (isHandOver ? m_begin : button(QuizPart::Answer))->setDefault(true);
 }
 
