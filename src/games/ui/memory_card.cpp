@@ -3,7 +3,6 @@
 
 #include "platform/plain_text.h"
 #include "platform/ui/contrast.h"
-#include "platform/ui/fitted_text.h"
 #include "platform/ui/reduced_motion.h"
 
 #include <QIcon>
@@ -19,7 +18,9 @@ namespace {
 constexpr int TurningTime = 220; // Milliseconds.
 constexpr int Margin = 4; // For the frame of the focus.
 constexpr int Corner = 9;
-constexpr double LargestText = 1.75; // Of the window's letters.
+constexpr int UsualLines = 7;
+constexpr double LargestText = 1.75; // Of the window's letters, on a card of usual height.
+constexpr double LargestTextOfAll = 3;
 
 /// Black or white, whatever can be read better on a colour.
 QColor inkOn(const QColor &colour)
@@ -40,7 +41,7 @@ CMemoryCard::CMemoryCard(QWidget *parent) : QAbstractButton(parent)
 
 QSize CMemoryCard::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 24, fontMetrics().lineSpacing() * 7};
+    return {fontMetrics().averageCharWidth() * 24, fontMetrics().lineSpacing() * UsualLines};
 }
 
 QSize CMemoryCard::minimumSizeHint() const
@@ -52,7 +53,7 @@ void CMemoryCard::showLook(const Look &look, bool isNew)
 {
     const bool turns = !isNew && look.isUp != m_look.isUp && isVisible() && !WantsReducedMotion(*this);
     m_look = look;
-    updateToolTip();
+    fitText();
     m_turning.stop();
     if (turns) {
         m_turning.start();
@@ -66,16 +67,26 @@ QRect CMemoryCard::faceText() const
     return rect().adjusted(space, Margin + 3, -space, -Margin - 3);
 }
 
-void CMemoryCard::updateToolTip()
+void CMemoryCard::fitText()
 {
-    const bool isCut = m_look.isUp && !FitText(m_look.text, font(), LargestText, faceText().size()).isWhole;
-    setToolTip(isCut ? ShownShort(m_look.text) : QString());
+    const double usual = double(height()) / (fontMetrics().lineSpacing() * UsualLines);
+    const double largest = std::clamp(LargestText * usual, LargestText, LargestTextOfAll);
+    m_fitted = FitText(m_look.text, font(), largest, faceText().size());
+    setToolTip(m_fitted.isWhole ? QString() : ShownShort(m_look.text));
 }
 
 void CMemoryCard::resizeEvent(QResizeEvent *event)
 {
     QAbstractButton::resizeEvent(event);
-    updateToolTip();
+    fitText();
+}
+
+void CMemoryCard::changeEvent(QEvent *event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        fitText();
+    }
 }
 
 QColor CMemoryCard::backColour() const
@@ -112,7 +123,8 @@ void CMemoryCard::paintBack(QPainter &painter, const QRect &card) const
     }
     QFont large = font();
     large.setBold(true);
-    large.setPixelSize(std::clamp(sign.height() * 3 / 4, fontMetrics().height() * 2 / 3, 72));
+    large.setPixelSize(
+        std::clamp(sign.height() * 3 / 4, fontMetrics().height() * 2 / 3, fontMetrics().height() * 6));
     painter.setFont(large);
     painter.drawText(sign, Qt::AlignCenter, m_look.sign);
 }
@@ -136,8 +148,7 @@ void CMemoryCard::paintFace(QPainter &painter, const QRect &card) const
         paintMark(painter, m_look.isSolved ? ":/pictures/right.svg" : ":/pictures/wrong.svg");
     }
     painter.setPen(text);
-    const QRect room = faceText();
-    DrawFitted(painter, FitText(m_look.text, font(), LargestText, room.size()), room);
+    DrawFitted(painter, m_fitted, faceText());
 }
 
 void CMemoryCard::paintEvent(QPaintEvent * /*event*/)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/ui/fitted_text.h"
+
 #include <QAbstractButton>
 #include <QVariantAnimation>
 
@@ -34,15 +36,17 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     QRect faceText() const;
     QColor backColour() const;
-    void updateToolTip();
+    void fitText();
     void paintBack(QPainter &painter, const QRect &card) const;
     void paintFace(QPainter &painter, const QRect &card) const;
     void paintMark(QPainter &painter, const char *picture) const;
 
     Look m_look;
+    FittedText m_fitted; // The text in the room of the face.
     QVariantAnimation m_turning; // From 0 to 1.
 };

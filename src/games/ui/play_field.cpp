@@ -17,6 +17,7 @@ namespace {
 constexpr double LargestWord = 1.75; // Of the window's letters, in a field of usual height.
 constexpr double LargestWordOfAll = 3;
 constexpr int UsualLines = 24;
+constexpr double LargestLine = 1.25;
 constexpr double WidestWord = 0.6; // Of the field's width.
 constexpr double HighestWord = 0.5; // Of the field's height.
 constexpr int Padding = 10; // Around the word on its tile.
@@ -140,7 +141,7 @@ void CPlayField::layOutLine()
     m_linePlace = {};
     if (!m_line.isEmpty()) {
         const QSize room(width() - 4 * Padding, height() / 2);
-        m_fittedLine = FitText(m_line, font(), 1, room);
+        m_fittedLine = FitText(m_line, font(), LargestLine, room);
         const int hintWidth = m_hint.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_hint);
         const int hintHeight = m_hint.isEmpty() ? 0 : fontMetrics().lineSpacing();
         const QSize text = SizeOf(m_fittedLine, room);

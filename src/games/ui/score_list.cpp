@@ -3,6 +3,7 @@
 
 #include "games/text_numbers.h"
 #include "platform/plain_text.h"
+#include "platform/ui/contrast.h"
 #include "resources/texts.h"
 
 #include <QEvent>
@@ -12,8 +13,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int MostRows = 6; // Without a scroll bar, where there is room.
 
 /// A mark beside the name, so that colour alone doesn't tell whose turn it is.
 QIcon turnMark(const QColor &colour, int size)
@@ -72,7 +71,11 @@ void CScoreList::showPlayers(const std::vector<ContestPlayer> &players, int onTu
 
 void CScoreList::markTurn()
 {
-    const QIcon mark = turnMark(palette().color(QPalette::HighlightedText), fontMetrics().height());
+    const QColor base = palette().color(QPalette::Base);
+    const QColor text = palette().color(QPalette::Text);
+    const QColor tint = Mixed(base, palette().color(QPalette::Highlight), 0.25); // Text stays readable on it.
+    const QIcon mark =
+        turnMark(MarkColour(palette().color(QPalette::Highlight), text, tint), fontMetrics().height());
     QFont bold = font();
     bold.setBold(true);
     for (int player = 0; player < topLevelItemCount(); ++player) {
@@ -80,8 +83,7 @@ void CScoreList::markTurn()
         const bool isOn = player == m_onTurn;
         row->setIcon(0, isOn ? mark : QIcon());
         for (int column = 0; column < columnCount(); ++column) {
-            row->setBackground(column, isOn ? palette().brush(QPalette::Highlight) : QBrush());
-            row->setForeground(column, isOn ? palette().brush(QPalette::HighlightedText) : QBrush());
+            row->setBackground(column, isOn ? QBrush(tint) : QBrush());
             row->setFont(column, isOn ? bold : font());
         }
     }
@@ -103,7 +105,7 @@ int CScoreList::heightOf(int rows) const
 
 QSize CScoreList::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 40, heightOf(std::min(topLevelItemCount(), MostRows))};
+    return {fontMetrics().averageCharWidth() * 56, heightOf(topLevelItemCount())};
 }
 
 QSize CScoreList::minimumSizeHint() const

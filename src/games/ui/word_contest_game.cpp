@@ -113,7 +113,7 @@ void CWordContestGame::showTime()
 {
     m_timeBar->setValue(int(m_form->timeLeft().count()));
     m_timeText->setText(m_form->timeLeftText());
-    QFont textFont = font();
+    QFont textFont = largeFont();
     textFont.setBold(m_form->isThinking() && m_form->timeLeft() <= LastSeconds);
     m_timeText->setFont(textFont);
 }
