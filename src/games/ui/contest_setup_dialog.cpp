@@ -7,6 +7,7 @@
 #include "platform/ui/held_keys.h"
 #include "platform/ui/label.h"
 #include "platform/ui/number_field.h"
+#include "platform/ui/spoken_text.h"
 #include "quiz/ui/quiz_dialog.h"
 #include "resources/texts.h"
 
@@ -25,7 +26,7 @@ using Name = CContestSetup::Name;
 CContestSetupDialog::CContestSetupDialog(
     CContestSetup &setup, const QuizWindowServices &services, QWidget *parent)
     : QDialog(parent), m_setup(setup), m_texts(services.texts), m_list(new QListWidget(this)),
-      m_name(new QLineEdit(this)), m_hint(new CElidedLabel(this)),
+      m_name(new QLineEdit(this)), m_hint(new CElidedLabel(this)), m_spoken(new CSpokenText(this)),
       m_add(makeButton(Text::AddPlayer, "addButton")), m_remove(makeButton(Text::RemovePlayer, "removeButton")),
       m_up(makeButton(Text::MovePlayerUp, "upButton")), m_down(makeButton(Text::MovePlayerDown, "downButton"))
 {
@@ -182,8 +183,13 @@ void CContestSetupDialog::refresh()
     // Enter adds what was typed; one more begins.
     QPushButton *const next = m_name->text().trimmed().isEmpty() ? m_start : m_add;
     next->setDefault(true);
-    m_hint->ShowText(hint());
-    m_name->setAccessibleDescription(m_hint->text());
+    if (const QString text = hint(); text != m_hint->text()) {
+        m_hint->ShowText(text);
+        m_name->setAccessibleDescription(text);
+        if (isVisible() && !text.isEmpty()) {
+            m_spoken->Say(text);
+        }
+    }
 }
 
 void CContestSetupDialog::accept()

@@ -6,6 +6,7 @@
 #include <QDialog>
 
 class CElidedLabel;
+class CSpokenText;
 class CTexts;
 class QLineEdit;
 class QListWidget;
@@ -41,6 +42,7 @@ private:
     QListWidget *m_list;
     QLineEdit *m_name;
     CElidedLabel *m_hint;
+    CSpokenText *m_spoken;
     QPushButton *m_add;
     QPushButton *m_remove;
     QPushButton *m_up;

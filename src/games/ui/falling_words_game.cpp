@@ -77,7 +77,7 @@ CFallingWordsGame::CFallingWordsGame(
         m_pause->setText(texts().Get(m_isOnPause ? Text::ContinueGame : Text::PauseButton));
         updatePause();
         focusInput();
-        speak(spokenQuestion());
+        speak(m_isOnPause ? texts().Get(Text::FallingPaused) : spokenQuestion());
     });
     connect(m_clock, &CGameClock::passed, this, &CFallingWordsGame::timePassed);
     connect(m_field, &CPlayField::resized, this, &CFallingWordsGame::place);
@@ -131,6 +131,9 @@ void CFallingWordsGame::updatePause()
     m_field->showWord(m_form->fallingText(), m_form->isPaused());
     place();
     m_clock->run(!m_form->isPaused());
+    if (!isActiveWindow() && isVisible()) {
+        speak(spokenQuestion()); // When the window is active again, and the word comes back.
+    }
 }
 
 bool CFallingWordsGame::event(QEvent *event)
@@ -231,7 +234,8 @@ void CFallingWordsGame::waitForReader()
     }
     m_field->setFocusPolicy(Qt::StrongFocus);
     focusInput();
-    speak(m_unspokenLine);
+    const QString hint = texts().Get(Text::AnyKeyGoesOn);
+    speak(m_unspokenLine.isEmpty() ? hint : m_unspokenLine + QStringLiteral(". ") + hint);
 }
 
 void CFallingWordsGame::endReading()

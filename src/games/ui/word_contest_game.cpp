@@ -27,7 +27,7 @@ constexpr QuizParts Parts = QuizPart::Skip | QuizPart::Answer | QuizPart::Change
     | QuizPart::WordLine | QuizPart::RightLine;
 
 constexpr milliseconds ClockInterval{50};
-constexpr milliseconds LastSeconds{5000}; // In which the time left stands out.
+constexpr milliseconds LastSeconds{5000}; // In which the time left stands out; it is read out once.
 
 }
 
@@ -158,8 +158,12 @@ void CWordContestGame::timePassed(milliseconds time)
     if (clockStands()) {
         return;
     }
+    const bool hadTime = m_form->timeLeft() > LastSeconds;
     const bool isUp = m_form->timePassed(time);
     showTime();
+    if (hadTime && m_form->timeLeft() <= LastSeconds && !isUp) {
+        speak(m_form->timeLeftText());
+    }
     if (isUp) {
         takeAnswer(m_form->timeOut());
     }
