@@ -44,12 +44,20 @@ games() {
     local pid=$! game
     pids+=("$pid")
     find_window "vardagsord"
-    for game in 2-table 3-selftest 4-alternatives 5-hangman 6-pairs; do
+    for game in 2-table 3-selftest 4-alternatives 5-hangman 6-pairs 7-contest 8-falling 9-memory; do
         xdotool key "ctrl+alt+${game%%-*}" sleep 1
         case $game in
         2-*) xdotool type --delay 50 "house" && xdotool key Return type --delay 50 "flat" && xdotool key Return sleep 0.5 ;;
         3-*) xdotool key Return sleep 0.5 ;;
         5-*) xdotool type --delay 50 "he" && xdotool key Return sleep 0.5 ;; # Letters of "house".
+        7-*) # Two players, the first of whom begins.
+            for player in Anna Bo; do
+                xdotool type --delay 50 "$player" && xdotool key Return sleep 0.3
+            done
+            xdotool key Return sleep 1 key Return sleep 0.5
+            ;;
+        8-*) sleep 1 ;; # Until the word is on its way.
+        9-*) xdotool key Return sleep 0.5 ;; # A card.
         esac
         shot "$1-${game#*-}" "$quiz"
         xdotool key Escape sleep 0.5 key "alt+$yes" sleep 0.5
