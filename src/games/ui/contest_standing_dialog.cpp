@@ -65,6 +65,7 @@ QTreeWidget *CContestStandingDialog::makeList(
     list->setRootIsDecorated(false);
     list->setUniformRowHeights(true);
     list->setAlternatingRowColors(true);
+    list->setSelectionMode(QAbstractItemView::NoSelection); // There is nothing to do with a row.
     list->setItemDelegateForColumn(4, new CShareDelegate(list));
     list->header()->setDefaultAlignment(Qt::AlignCenter);
     list->headerItem()->setTextAlignment(1, Qt::AlignLeft | Qt::AlignVCenter);
