@@ -2,6 +2,7 @@
 #include "document/file_commands.h"
 
 #include "document/file_filters.h"
+#include "document/format_dialogs.h"
 #include "document/pending_work.h"
 #include "document/recent_files.h"
 #include "document/text_numbers.h"
@@ -32,9 +33,10 @@ bool IsWebAddress(const QString &path)
 
 }
 
-CFileCommands::CFileCommands(
-    CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser, CRecentFiles &recent)
-    : m_document(document), m_texts(texts), m_prompt(prompt), m_chooser(chooser), m_recent(recent)
+CFileCommands::CFileCommands(CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt,
+    IFileChooser &chooser, IFormatDialogs &formatDialogs, CRecentFiles &recent)
+    : m_document(document), m_texts(texts), m_prompt(prompt), m_chooser(chooser),
+      m_formatDialogs(formatDialogs), m_recent(recent)
 {
 }
 
@@ -127,11 +129,34 @@ bool CFileCommands::HasUnsaved() const
 bool CFileCommands::OpenNow(const QString &path)
 {
     m_lastFolder = QFileInfo(AbsoluteFilePath(path)).path();
-    if (!m_document.OpenDocument(path)) {
+    CImportPreview preview;
+    FormatReadOptions options;
+    const Format *const format = RecogniseFile(path);
+    // One that the preview refuses the document refuses too, and tells why.
+    if (format != nullptr && format->id == FormatId::SeparatedText
+        && preview.OpenFile(path) == ReadResult::Read) {
+        if (!ChooseImport(preview)) {
+            return false;
+        }
+        options = preview.ReadOptions();
+    }
+    if (!m_document.OpenDocument(path, options, preview.Losses())) {
         m_recent.Remove(AbsoluteFilePath(path));
         return false;
     }
     m_recent.Add(path);
+    return true;
+}
+
+bool CFileCommands::ChooseImport(CImportPreview &preview)
+{
+    if (const auto before = m_importChoices.Of(m_lastFolder)) {
+        preview.Adopt(*before);
+    }
+    if (!m_formatDialogs.ChooseImport(preview)) {
+        return false;
+    }
+    m_importChoices.Remember(m_lastFolder, preview.Choices());
     return true;
 }
 

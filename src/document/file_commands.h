@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "fileformats/import_preview.h"
+
 #include <QString>
 
 class CRecentFiles;
 class CTexts;
 class CWin32Doc;
 class IFileChooser;
+class IFormatDialogs;
 class IPendingWork;
 class IUserPrompt;
 
@@ -17,7 +20,7 @@ class CFileCommands
 public:
     /// Nothing is owned.
     CFileCommands(CWin32Doc &document, const CTexts &texts, IUserPrompt &prompt, IFileChooser &chooser,
-        CRecentFiles &recent);
+        IFormatDialogs &formatDialogs, CRecentFiles &recent);
 
     /// What is typed and not yet in the list; null for none. It is stored before the list is saved or given up.
     void SetPendingWork(IPendingWork *pending) { m_pending = pending; }
@@ -51,12 +54,16 @@ private:
     void StorePending();
     QString StartFolder() const;
     bool OpenNow(const QString &path);
+    /// Has the user choose how a separated text is read; false when that is cancelled.
+    bool ChooseImport(CImportPreview &preview);
 
     CWin32Doc &m_document;
     const CTexts &m_texts;
     IUserPrompt &m_prompt;
     IFileChooser &m_chooser;
+    IFormatDialogs &m_formatDialogs;
     CRecentFiles &m_recent;
     QString m_lastFolder;
+    CRememberedChoices m_importChoices;
     IPendingWork *m_pending = nullptr;
 };

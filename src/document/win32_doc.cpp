@@ -2,6 +2,7 @@
 #include "document/win32_doc.h"
 
 #include "document/list_placeholders.h"
+#include "document/loss_texts.h"
 #include "document/read_message.h"
 #include "document/text_numbers.h"
 #include "fileformats/formats.h"
@@ -17,6 +18,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -163,40 +165,49 @@ void CWin32Doc::Replace(CWordList list, const QString &path, const FileStamp &st
 void CWin32Doc::OnNewDocument()
 {
     DeleteContents();
-    const CTexts &texts = m_services.texts;
     const EditorSettings &settings = m_services.settings;
     CWordList list = List();
     list.SetComments(CleanProperty(ExpandPlaceholders(settings.standardComments)));
-    const auto fill = [](const QString &given, const QString &standard) {
-        return CleanProperty(FirstGiven(given, standard));
-    };
-    list.SetProperties(
-        {.language1 = fill(list.GetLanguage(0), FirstGiven(settings.language1, texts.Get(Text::Language1))),
-            .language2 = fill(list.GetLanguage(1), FirstGiven(settings.language2, texts.Get(Text::Language2))),
-            .author = fill(list.GetAuthor(), settings.author)});
+    NameLanguages(list);
+    list.SetProperties({.author = CleanProperty(FirstGiven(list.GetAuthor(), settings.author))});
     list.SetSaved(true);
     ReplaceList(std::move(list));
 }
 
-bool CWin32Doc::OpenDocument(const QString &path)
+void CWin32Doc::NameLanguages(CWordList &list) const
 {
-    return Open(path, false);
+    const EditorSettings &settings = m_services.settings;
+    const std::array names = {FirstGiven(settings.language1, m_services.texts.Get(Text::Language1)),
+        FirstGiven(settings.language2, m_services.texts.Get(Text::Language2))};
+    for (const int language : {0, 1}) {
+        list.SetLanguage(
+            language, CleanProperty(FirstGiven(list.GetLanguage(language), names[size_t(language)])));
+    }
+}
+
+bool CWin32Doc::OpenDocument(const QString &path, const FormatReadOptions &options, const FormatLosses &known)
+{
+    return Open(path, false, options, known);
 }
 
 bool CWin32Doc::OpenCopy(const QString &path)
 {
-    return Open(path, true);
+    return Open(path, true, {}, {});
 }
 
-bool CWin32Doc::Open(const QString &file, bool asCopy)
+bool CWin32Doc::Open(
+    const QString &file, bool asCopy, const FormatReadOptions &options, const FormatLosses &known)
 {
     // Absolute, since the path outlives the folder that the program was started in.
     const QString path = AbsoluteFilePath(file);
     const FileStamp stamp = FileStamp::Of(path); // Before it is read, so that a change meanwhile is one.
     DeleteContents();
     CWordList list = List();
-    const FormatReading reading = ReadListFile(list, path);
+    const FormatReading reading = ReadListFile(list, path, options);
     const bool own = reading.MayBeSavedOver();
+    if (!own) {
+        NameLanguages(list);
+    }
     // Without a path, saving asks for a name: a newer file is not overwritten by an older layout, nor one of a
     // format that holds less.
     const bool hasFile = own && !asCopy;
@@ -206,8 +217,17 @@ bool CWin32Doc::Open(const QString &file, bool asCopy)
         m_services.prompt.Tell(m_services.texts.Prompt(message, {path}), PromptIcon::Error);
         return false;
     }
+    PromptText told;
     if (message != 0) {
-        m_services.prompt.Tell(m_services.texts.Prompt(message), PromptIcon::Warning);
+        told = m_services.texts.Prompt(message);
+    }
+    if (!reading.losses.empty() && reading.losses != known) {
+        const PromptText lost = m_services.texts.Prompt(
+            Text::NotAllRead, {path, LossesAsText(reading.losses, m_services.texts, u"\n")});
+        told = message == 0 ? lost : PromptText{message, told.text + QStringLiteral("\n\n") + lost.text};
+    }
+    if (!told.text.isEmpty()) {
+        m_services.prompt.Tell(told, PromptIcon::Warning);
     }
     return true;
 }
@@ -261,6 +281,17 @@ void CWin32Doc::TellOfLostEntries(CWordList &saved)
 bool CWin32Doc::SaveCopy(const QString &path)
 {
     return Write(List(), path);
+}
+
+bool CWin32Doc::SaveCopyAs(const QString &path, const Format &format, FormatWriteOptions options)
+{
+    options.file = {
+        .forceUnicode = m_services.settings.alwaysSaveInUnicode, .backupFolder = m_services.backupFolder};
+    if (!WriteListFile(List(), AbsoluteFilePath(path), format, options)) {
+        m_services.prompt.Tell(m_services.texts.Prompt(Text::CannotSave, {path}), PromptIcon::Warning);
+        return false;
+    }
+    return true;
 }
 
 bool CWin32Doc::SaveEntries(const QString &path, CWordList::Selection entries)

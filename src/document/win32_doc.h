@@ -3,6 +3,8 @@
 
 #include "document/list_change.h"
 #include "document/undo_history.h"
+#include "fileformats/format_loss.h"
+#include "fileformats/format_options.h"
 #include "model/word_list.h"
 #include "platform/file_stamp.h"
 
@@ -80,9 +82,10 @@ public:
     void OnNewDocument();
     /// Puts a list that has no file in place of the one before; its saved mark says whether it is worth saving.
     void ReplaceList(CWordList list) { Replace(std::move(list), {}, {}); }
-    /// Reads a file of any kind in place of the list. On failure, which the user is told, an empty list is left
-    /// and the result is false.
-    bool OpenDocument(const QString &path);
+    /// Reads a file of any kind in place of the list. The user is told what could not be taken, unless that is
+    /// all `known` already. On failure, which the user is told, an empty list is left and the result is false.
+    bool OpenDocument(
+        const QString &path, const FormatReadOptions &options = {}, const FormatLosses &known = {});
     /// The same, as a list that has no file: saving it asks for a name.
     bool OpenCopy(const QString &path);
     /// Takes a list kept for recovery as the changed content of the file `path`, which may be empty and which
@@ -96,6 +99,8 @@ public:
     bool SaveCopy(const QString &path);
     /// The same with these entries alone.
     bool SaveEntries(const QString &path, CWordList::Selection entries);
+    /// Writes the list as a copy in any format. On failure, which the user is told, the result is false.
+    bool SaveCopyAs(const QString &path, const Format &format, FormatWriteOptions options);
     /// Hands a copy of the list to the e-mail program; path and saved mark stay as they are.
     void OnFileSendMail();
 
@@ -117,7 +122,9 @@ Q_SIGNALS:
 
 private:
     void DeleteContents();
-    bool Open(const QString &file, bool asCopy);
+    /// Gives languages without a name the standard ones.
+    void NameLanguages(CWordList &list) const;
+    bool Open(const QString &file, bool asCopy, const FormatReadOptions &options, const FormatLosses &known);
     /// Tells TitleChanged() when the title is another than at the call before.
     void UpdateTitleMark();
     /// Goes to another state of the history, and tells what that changed.

@@ -297,6 +297,16 @@ FormatReading ReadListBytes(CWordList &list, const QByteArray &bytes, const Form
     return Read(list, source, options);
 }
 
+const Format *RecogniseFile(const QString &path)
+{
+    QFile file;
+    if (!OpenRegularFile(file, path)) {
+        return nullptr;
+    }
+    FormatSource source = {.device = file, .path = path};
+    return Recognise(source, HeadOf(file));
+}
+
 FormatReading ReadListSummary(WordListSummary &summary, const QString &path, const FormatReadOptions &options)
 {
     summary = {};

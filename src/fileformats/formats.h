@@ -98,6 +98,9 @@ struct FormatReading
 [[nodiscard]] FormatReading ReadListBytes(
     CWordList &list, const QByteArray &bytes, const FormatReadOptions &options = {});
 
+/// What ReadListFile() would read a file as; null when no format recognises it, or when it can't be opened.
+const Format *RecogniseFile(const QString &path);
+
 /// What a file says of itself, and how many entries ReadListFile() would read.
 [[nodiscard]] FormatReading ReadListSummary(
     WordListSummary &summary, const QString &path, const FormatReadOptions &options = {});

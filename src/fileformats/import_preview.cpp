@@ -190,12 +190,16 @@ void CImportPreview::Refresh()
     m_losses = losses.Losses();
 }
 
+FormatReadOptions CImportPreview::ReadOptions() const
+{
+    return {
+        .format = &FormatOf(FormatId::SeparatedText), .separated = m_choices.layout, .terms = m_choices.terms};
+}
+
 FormatReading CImportPreview::Read(CWordList &list, const KeepGoing *keepGoing) const
 {
-    const FormatReadOptions options = {.format = &FormatOf(FormatId::SeparatedText),
-        .separated = m_choices.layout,
-        .terms = m_choices.terms,
-        .keepGoing = keepGoing};
+    FormatReadOptions options = ReadOptions();
+    options.keepGoing = keepGoing;
     return m_path.isEmpty() ? ReadListBytes(list, m_bytes, options) : ReadListFile(list, m_path, options);
 }
 

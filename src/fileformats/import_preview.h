@@ -64,9 +64,13 @@ public:
     bool HasMore() const { return m_hasMore; }
     /// What could not be taken of the rows that are shown.
     const FormatLosses &Losses() const { return m_losses; }
+    /// Whether it is a file: a text that is none has no encoding.
+    bool IsFile() const { return !m_path.isEmpty(); }
     /// Whether a term is chosen, so that there would be entries.
     bool CanRead() const;
 
+    /// How a file is read as chosen.
+    FormatReadOptions ReadOptions() const;
     /// Reads the whole text as chosen.
     [[nodiscard]] FormatReading Read(CWordList &list, const KeepGoing *keepGoing = nullptr) const;
 

@@ -7,6 +7,7 @@
 #include "platform/file_name.h"
 #include "settings/settings_store.h"
 #include "support/files.h"
+#include "support/scripted_format_dialogs.h"
 #include "support/test_document.h"
 
 #include <cstdio>
@@ -26,9 +27,10 @@ struct Files
     QTemporaryDir folder;
     TestDocument test;
     CScriptedChooser chooser;
+    CScriptedFormatDialogs formatDialogs;
     CMemoryStore store;
     CRecentFiles recent{store, u"root"_s};
-    CFileCommands files{test.document, test.texts, test.prompt, chooser, recent};
+    CFileCommands files{test.document, test.texts, test.prompt, chooser, formatDialogs, recent};
 };
 
 }
@@ -218,6 +220,50 @@ private Q_SLOTS:
         QCOMPARE(run.recent.Paths().first(), path);
         QVERIFY(run.files.Save() && run.files.OpenRecent(path));
         QVERIFY(IsSameFile(path, run.folder.path() + u"/./"_s + path.section(u'/', -1)));
+    }
+
+    void separatedText()
+    {
+        Files run;
+        run.Flag();
+        const QString path = run.Path(u"a.csv"_s);
+        WriteFile(path, "Svenska;Engelska;Extra\nhund [1;dog;x\n");
+        run.test.prompt.answers = {PromptAnswer::No, PromptAnswer::No};
+        // Cancelled: the list is as it was.
+        QVERIFY(!run.files.OpenFile(path));
+        QCOMPARE(run.test.Entries(), u"a|b||1"_s);
+        QVERIFY(run.recent.Paths().isEmpty());
+
+        // What the preview told of is not told again. Saving asks for a name.
+        run.formatDialogs.onImport = [](CImportPreview &preview) {
+            preview.SetColumn(2, TextColumn::Note);
+            return true;
+        };
+        QVERIFY(run.files.OpenFile(path));
+        QCOMPARE(run.test.Entries(), u"hund [1|dog|x"_s);
+        QVERIFY(run.test.document.Path().isEmpty() && run.test.document.IsModified());
+        QCOMPARE(run.test.document.List().GetLanguage(0), u"Svenska"_s);
+        QCOMPARE(run.test.prompt.numbers, QList<int>(2, Text::SaveChanges));
+        QCOMPARE(run.recent.Paths(), QStringList{path});
+        QVERIFY(!run.files.Save());
+        QCOMPARE(run.chooser.asked.size(), 1);
+
+        // The next one in the folder begins with the same choices; what lies behind the preview is told.
+        const QString next = run.Path(u"b.csv"_s);
+        WriteFile(next, "Svenska;Engelska;Extra\n" + QByteArray("a;b;c\n").repeated(300) + "[x;y;z\n");
+        run.formatDialogs.onImport = [](CImportPreview &preview) {
+            return preview.Column(2) == TextColumn::Note && preview.Losses().empty();
+        };
+        run.test.prompt.answers = {PromptAnswer::No, PromptAnswer::No};
+        QVERIFY(run.files.OpenFile(next));
+        QCOMPARE(run.test.document.List().Count(), 301);
+        QCOMPARE(run.test.prompt.numbers.last(), Text::NotAllRead);
+        QVERIFY(run.test.prompt.texts.last().endsWith(u"Termer med klamrar, som omger kommentarer: 1"_s));
+
+        const QString picture = run.Path(u"c.csv"_s);
+        WriteFile(picture, QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
+        QVERIFY(!run.files.OpenFile(picture));
+        QCOMPARE(run.test.prompt.numbers.last(), Text::NoText);
     }
 
     void filters()

@@ -15,6 +15,7 @@
 #include "shell/ui/command_actions.h"
 #include "shell/ui/main_frame.h"
 #include "shell/ui/special_character_keys.h"
+#include "support/scripted_format_dialogs.h"
 #include "support/silent_sounds.h"
 #include "support/test_document.h"
 #include "support/widgets.h"
@@ -31,12 +32,13 @@ struct Frame
 {
     TestDocument test;
     CScriptedChooser chooser;
+    CScriptedFormatDialogs formatDialogs;
     CSilentSounds sounds;
     QuizSettings &quizSettings = test.allSettings.quiz;
     CRandom random{1};
     CMemoryStore store;
     CRecentFiles recent{store, u"root"_s};
-    CFileCommands files{test.document, test.texts, test.prompt, chooser, recent};
+    CFileCommands files{test.document, test.texts, test.prompt, chooser, formatDialogs, recent};
     EasyKeySettings easyKey;
     CSpecialCharacterKeys specialCharacters{easyKey, test.texts, nullptr};
     int helpOpened = 0;

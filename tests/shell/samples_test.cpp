@@ -6,6 +6,7 @@
 #include "settings/settings_store.h"
 #include "shell/samples.h"
 #include "support/files.h"
+#include "support/scripted_format_dialogs.h"
 #include "support/test_document.h"
 
 #include <QBuffer>
@@ -59,9 +60,10 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         TestDocument test;
         CScriptedChooser chooser;
+        CScriptedFormatDialogs formatDialogs;
         CMemoryStore store;
         CRecentFiles recent(store, u"root"_s);
-        CFileCommands files(test.document, test.texts, test.prompt, chooser, recent);
+        CFileCommands files(test.document, test.texts, test.prompt, chooser, formatDialogs, recent);
         QVERIFY(files.OpenCopy(path));
         QVERIFY(!test.document.IsModified() && test.document.Path().isEmpty());
         QVERIFY(recent.Paths().isEmpty());

@@ -38,6 +38,8 @@ inline const QList<PromptForm> &PromptForms()
         {Text::OneFileAtATime, Information},
         {Text::CannotOpen, Error},
         {Text::ReadAsPlainText, Warning},
+        {Text::NotAllRead, Warning},
+        {Text::NoText, Error},
         {Text::NewerVersion, Warning},
         {Text::FlagLimitsContradict, Information},
         {Text::TimeIsUp, Information},

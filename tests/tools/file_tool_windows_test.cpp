@@ -5,6 +5,7 @@
 #include "shell/ui/command_actions.h"
 #include "shell/ui/file_tools_commands.h"
 #include "support/list_files.h"
+#include "support/scripted_format_dialogs.h"
 #include "support/test_document.h"
 #include "support/widgets.h"
 #include "tools/ui/file_search_window.h"
@@ -23,9 +24,10 @@ struct Window
     TestDocument test{QStringList{u"a|A"_s, u"b|B"_s}};
     CListFiles files;
     CScriptedChooser chooser;
+    CScriptedFormatDialogs formatDialogs;
     CMemoryStore store;
     CRecentFiles recent{store, QString()};
-    CFileCommands fileCommands{test.document, test.texts, test.prompt, chooser, recent};
+    CFileCommands fileCommands{test.document, test.texts, test.prompt, chooser, formatDialogs, recent};
     QWidget frame;
     CCommandActions actions{test.texts, &frame};
     QStringList help;

@@ -87,7 +87,8 @@ bool COrdelinApp::InitInstance(const QString &file, bool newList)
     m_startUp.Prepare();
     m_document.ApplyUndoSize();
     m_recent = std::make_unique<CRecentFiles>(m_store, CAppSettings::RootPath());
-    m_files = std::make_unique<CFileCommands>(m_document, m_texts, m_prompt, m_chooser, *m_recent);
+    m_files =
+        std::make_unique<CFileCommands>(m_document, m_texts, m_prompt, m_chooser, m_formatDialogs, *m_recent);
     MakeMainWindow();
     const QString reopened = newList ? QString() : m_startUp.FileToReopen(file, *m_recent);
     m_document.OnNewDocument();

@@ -4,6 +4,7 @@
 #include "document/file_commands.h"
 #include "document/recent_files.h"
 #include "document/recovery.h"
+#include "document/ui/format_dialogs.h"
 #include "document/win32_doc.h"
 #include "platform/exit_signals.h"
 #include "platform/random.h"
@@ -74,6 +75,7 @@ private:
     CRandom m_random;
     CMessageBoxPrompt m_prompt;
     CFileDialogChooser m_chooser;
+    CFormatDialogs m_formatDialogs{m_texts, [this](const QString &section) { OpenHelp(section); }};
     CSoundThread m_sounds{OpenDesktopSounds};
     CWin32Doc m_document;
     std::unique_ptr<CRecentFiles> m_recent;

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "document/ui/import_preview_dialog.h"
+#include "resources/texts.h"
+#include "support/widgets.h"
+
+#include <QHeaderView>
+#include <QMenu>
+
+namespace {
+
+/// The texts of a row of a table.
+QString Row(const QTableView *table, int row)
+{
+    QStringList cells;
+    for (int column = 0; column < table->model()->columnCount(); ++column) {
+        cells.append(table->model()->index(row, column).data().toString());
+    }
+    return cells.join(u'|');
+}
+
+}
+
+class FormatWindowsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void preview()
+    {
+        const CTexts texts;
+        CImportPreview preview;
+        preview.OpenText(u"Svenska\tEngelska\tTags\nhund; vovve\tdog\t<b>\n\t\tx\n"_s);
+        CImportPreviewDialog dialog(preview, texts, nullptr);
+        dialog.show();
+        VerifyAccessibleNames(&dialog);
+        auto *const rows = Find<QTableView>(&dialog, "rows");
+        const auto *const entries = Find<QTableView>(&dialog, "entries");
+        auto *const kind = Find<QComboBox>(&dialog, "kind");
+        const auto *const import = Find<QPushButton>(&dialog, "import");
+        QCOMPARE(Row(rows, 0), u"hund; vovve|dog|<b>"_s);
+        QCOMPARE(Row(entries, 0), u"hund * vovve|dog"_s);
+        QCOMPARE(rows->model()->headerData(2, Qt::Horizontal), u"Kolumn 3: Tags\nUtelämnas"_s);
+        QVERIFY(rows->model()->index(1, 0).data(CImportModel::LeftOutRole).toBool());
+        QVERIFY(dialog.focusWidget() == rows && import->isEnabled());
+        QVERIFY(!Find<QComboBox>(&dialog, "encoding")->isEnabled()); // A text that is no file.
+
+        // The choice of a kind follows the table's current column, which stays.
+        QTest::keyClick(rows, Qt::Key_Right);
+        QTest::keyClick(rows, Qt::Key_Right);
+        QCOMPARE(Find<QLabel>(&dialog, "kindLabel")->text(), u"K&olumn 3 är:"_s);
+        QCOMPARE(kind->currentIndex(), int(TextColumn::LeftOut));
+        kind->setCurrentIndex(int(TextColumn::Note));
+        QCOMPARE(Row(entries, 0), u"hund * vovve|dog|<b>"_s);
+        QCOMPARE(rows->currentIndex().column(), 2);
+        Q_EMIT rows->horizontalHeader()->sectionClicked(0);
+        auto *const menu = dialog.findChild<QMenu *>();
+        QVERIFY(menu->actions().at(int(TextColumn::Term1))->isChecked());
+        menu->actions().at(int(TextColumn::LeftOut))->trigger();
+        menu->close();
+        QCOMPARE(kind->currentIndex(), int(TextColumn::LeftOut));
+        QCOMPARE(Row(entries, 0), u"|dog|<b>"_s);
+
+        // With another separator there are other columns, and perhaps none with terms.
+        Find<QCheckBox>(&dialog, "semicolons")->click();
+        Find<QCheckBox>(&dialog, "heading")->click();
+        QCOMPARE(rows->model()->rowCount(), 3);
+        Find<QComboBox>(&dialog, "separator")->setCurrentIndex(3);
+        QCOMPARE(rows->model()->columnCount(), 1);
+        QCOMPARE(Find<QLabel>(&dialog, "kindLabel")->text(), u"K&olumn 1 är:"_s);
+        kind->setCurrentIndex(int(TextColumn::LeftOut));
+        QVERIFY(!import->isEnabled());
+        QVERIFY(Find<QLabel>(&dialog, "summary")->text().endsWith(u"Välj vilken kolumn som har termer."_s));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QVERIFY(dialog.isVisible());
+    }
+};
+
+QTEST_MAIN(FormatWindowsTest)
+#include "format_windows_test.moc"

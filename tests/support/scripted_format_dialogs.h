@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "document/format_dialogs.h"
+
+#include <functional>
+
+/// Stands for the windows of formats: what is not scripted is cancelled.
+class CScriptedFormatDialogs : public IFormatDialogs
+{
+public:
+    bool ChooseImport(CImportPreview &preview) override { return onImport(preview); }
+
+    std::function<bool(CImportPreview &)> onImport = [](CImportPreview &) { return false; };
+};
