@@ -3,6 +3,7 @@
 
 #include "document/win32_doc.h"
 #include "editor/editor_view.h"
+#include "editor/word_list_model.h"
 #include "settings/shell_settings.h"
 
 #include <algorithm>
@@ -69,7 +70,7 @@ void CArranging::MoveRows(bool up, MovedPart part, bool goesOn)
     const int field = part == MovedPart::Entry ? WholeEntry : m_view.CursorField();
     const bool atEnd =
         entries.empty() || (up ? entries.front() == 0 : entries.back() + 1 == m_document.List().Count());
-    if (atEnd || (part == MovedPart::Field && field < 0)) {
+    if (atEnd || (part == MovedPart::Field && field == CWordListModel::NumberColumn)) {
         return;
     }
     m_document.Change(

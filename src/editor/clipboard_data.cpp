@@ -91,7 +91,7 @@ std::unique_ptr<QMimeData> ClipboardDataOf(const CWordList &list, CWordList::Sel
     const QByteArray richText = EntriesAsRichText(list, entries, column);
     SetForm(*data, RichText, richText, zero);
     data->setData(RichTextOlderKind, richText);
-    if (column < 0) {
+    if (column == AllColumns) {
         const QString records = EntriesAsRecords(list, entries);
         SetForm(*data, Records, ToUtf16(records), zero + zero);
         SetForm(*data, Records8Bit, To8Bit(records), zero);

@@ -18,7 +18,7 @@ constexpr QStringView LineEnd = u"\r\n";
 /// The first and the last field that a column stands for.
 std::pair<int, int> FieldsOf(int column)
 {
-    return column < 0 ? std::pair(0, CWordEntry::NoteField) : std::pair(column, column);
+    return column == AllColumns ? std::pair(0, CWordEntry::NoteField) : std::pair(column, column);
 }
 
 /// The code units of a column, so that a million entries are written without growing the text again and again.

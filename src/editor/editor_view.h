@@ -26,7 +26,8 @@ public:
     virtual int RowCount() const = 0;
     /// NoRow without a cell cursor.
     virtual int CursorRow() const = 0;
-    /// The field of the cell cursor: 0 and 1 are the languages, 2 the note.
+    /// The field of the cell cursor: 0 and 1 are the languages, 2 the note; CWordListModel::NumberColumn on the
+    /// numbers.
     virtual int CursorField() const = 0;
     /// The last field that is shown.
     virtual int LastField() const = 0;

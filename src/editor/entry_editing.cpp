@@ -73,14 +73,14 @@ QString CEntryEditing::Corrected(const QString &term)
 
 int CEntryEditing::AskAboutSimilar(int similar)
 {
-    if (!m_services.settings.duplicateVarning || similar < 0 || !m_asking) {
-        return CRowModel::NoEntry;
+    if (!m_services.settings.duplicateVarning || similar == NoEntry || !m_asking) {
+        return NoEntry;
     }
     m_view.MarkEntry(similar);
     const bool accepted = ConfirmTyped(
         m_services.texts.Prompt(Text::SelectSimilar, {QString::number(similar + 1)}), PromptIcon::Question);
-    m_view.MarkEntry(CRowModel::NoEntry);
-    return accepted ? similar : CRowModel::NoEntry;
+    m_view.MarkEntry(NoEntry);
+    return accepted ? similar : NoEntry;
 }
 
 int CEntryEditing::Add(const EntryTexts &texts)
@@ -90,7 +90,7 @@ int CEntryEditing::Add(const EntryTexts &texts)
         .position = m_services.rows.InsertionPoint(),
         .sortAfter = settings.sortNewWords,
         .sort = SortOptionsOf(m_services.arrange)};
-    int similar = CRowModel::NoEntry;
+    int similar = NoEntry;
     m_services.document.Change([&](CWordList &list) {
         similar = list.Insert(
             CWordEntry(texts[0], texts[1], texts[2], settings.newwordflag, settings.newwordflag), options);
@@ -113,7 +113,7 @@ EditStep CEntryEditing::FromFields(const EntryTexts &texts, int entry)
     }
     const bool adds = entry < 0 || entry >= m_services.document.List().Count();
     const int similar = AddOrChange(std::move(wanted), entry);
-    if (similar >= 0) {
+    if (similar != NoEntry) {
         return SelectSimilar(similar);
     }
     if (adds) {
@@ -135,7 +135,7 @@ int CEntryEditing::AddOrChange(EntryTexts texts, int entry)
     if (entry < 0 || entry >= m_services.document.List().Count()) {
         return Add(texts);
     }
-    int similar = CRowModel::NoEntry;
+    int similar = NoEntry;
     m_services.document.Change([&](CWordList &list) {
         similar = list.ReplaceEntry(entry, texts[0], texts[1], texts[2], m_services.settings.duplicateVarning);
     });
@@ -149,7 +149,7 @@ EditStep CEntryEditing::StoreFields(const EntryTexts &texts, int entry)
         return {};
     }
     const int similar = AddOrChange(std::move(wanted), entry);
-    return similar >= 0 ? SelectSimilar(similar) : EditStep{};
+    return similar != NoEntry ? SelectSimilar(similar) : EditStep{};
 }
 
 void CEntryEditing::ClearPending(int field)
@@ -205,12 +205,12 @@ EditStep CEntryEditing::CellEdited(int row, int field, const QString &text)
     if (isTerm && wanted.isEmpty()) {
         return {};
     }
-    int similar = CRowModel::NoEntry;
+    int similar = NoEntry;
     m_services.document.Change([&](CWordList &list) {
         similar = list.SetEntryField(wanted, field, entry, m_services.settings.duplicateVarning);
     });
     const int accepted = AskAboutSimilar(similar);
-    return accepted >= 0 ? SelectSimilar(accepted) : EditStep{};
+    return accepted != NoEntry ? SelectSimilar(accepted) : EditStep{};
 }
 
 EditStep CEntryEditing::NewEntryCellEdited(int field, const QString &text)
@@ -238,7 +238,7 @@ EditStep CEntryEditing::AddPending()
     }
     m_services.rows.pending = {};
     const int similar = Add(texts);
-    return similar >= 0 ? SelectSimilar(similar) : EditStep{Action::EditNewEntry, NextField()};
+    return similar != NoEntry ? SelectSimilar(similar) : EditStep{Action::EditNewEntry, NextField()};
 }
 
 int CEntryEditing::NextField() const

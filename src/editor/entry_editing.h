@@ -87,7 +87,7 @@ class CEntryEditing
 public:
     CEntryEditing(EntryEditingServices services, IEntryView &view);
 
-    /// The add-or-change button. `entry` is the one to change, CRowModel::NoEntry to add one.
+    /// The add-or-change button. `entry` is the one to change, NoEntry to add one.
     EditStep FromFields(const EntryTexts &texts, int entry);
     /// The same without going on to another entry: the step is SelectEntry or None. Does nothing without two
     /// terms.

@@ -44,7 +44,7 @@ void CFindResults::Search(int count)
 
 TextMatch CFindResults::MatchIn(int row, int column) const
 {
-    if (m_search.text.isEmpty() || (m_search.column >= 0 && m_search.column != column)) {
+    if (m_search.text.isEmpty() || (m_search.column != AllColumns && m_search.column != column)) {
         return {};
     }
     const int entry = m_entries[size_t(row)];

@@ -2,6 +2,7 @@
 #include "editor/list_steps.h"
 
 #include "editor/editor_view.h"
+#include "editor/row_model.h"
 
 void StepSelection(IEditorView &view, int step)
 {
@@ -12,7 +13,7 @@ void StepSelection(IEditorView &view, int step)
 
 void PlaceInsertionPoint(IEditorView &view)
 {
-    if (view.CursorRow() >= 0) {
+    if (view.CursorRow() != NoRow) {
         view.SetInsertionPoint(view.CursorRow());
     }
 }

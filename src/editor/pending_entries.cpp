@@ -12,7 +12,7 @@ namespace {
 /// What the fields hold when they add an entry; nothing when they change one.
 EntryTexts Added(const FieldTexts &fields)
 {
-    return fields.entry == CRowModel::NoEntry ? fields.typed : EntryTexts();
+    return fields.entry == NoEntry ? fields.typed : EntryTexts();
 }
 
 /// The texts that an entry gets from the fields. A term that was emptied stays as it was.
@@ -30,8 +30,7 @@ EntryTexts Changed(const FieldTexts &fields)
 /// Whether the fields hold another text than they were given.
 bool HasChanges(const FieldTexts &fields)
 {
-    return fields.entry != CRowModel::NoEntry && fields.typed != fields.given
-        && Changed(fields) != fields.given;
+    return fields.entry != NoEntry && fields.typed != fields.given && Changed(fields) != fields.given;
 }
 
 EntryTexts InNormalForm(EntryTexts texts)
@@ -70,7 +69,7 @@ void CPendingEntries::StoreWhole()
     store(m_view.StoreEdit());
     const EntryTexts added = InNormalForm(Added(fields));
     if (HasBothTerms(added)) {
-        store(m_editing.StoreFields(added, CRowModel::NoEntry));
+        store(m_editing.StoreFields(added, NoEntry));
         m_view.EmptyFields();
     }
     if (HasBothTerms(m_rows.pending)) {

@@ -20,7 +20,7 @@ struct FieldTexts
     /// The texts that they were given.
     EntryTexts given;
     /// The entry that they change; NoEntry to add one.
-    int entry = CRowModel::NoEntry;
+    int entry = NoEntry;
 };
 
 /// Where things are typed, as far as they are no entry yet.

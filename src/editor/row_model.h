@@ -13,8 +13,6 @@ inline constexpr int NoRow = -1;
 class CRowModel
 {
 public:
-    static constexpr int NoEntry = -1;
-
     int EntryCount() const { return m_entryCount; }
     int RowCount() const { return m_entryCount + 1; }
     /// Also keeps the insertion point inside the rows.

@@ -23,7 +23,7 @@ private Q_SLOTS:
     {
         Editor editor;
         const auto field = [&](const char *term1, const char *term2) {
-            const EditStep step = editor.editing.FromFields(Texts(term1, term2, "n"), CRowModel::NoEntry);
+            const EditStep step = editor.editing.FromFields(Texts(term1, term2, "n"), NoEntry);
             return step.action == Action::FocusField ? step.index : -1;
         };
         QCOMPARE(field("katt", ""), 1);
@@ -41,8 +41,7 @@ private Q_SLOTS:
         editor.SetInsertionPoint(1);
         editor.test.settings.newwordflag = true;
         editor.test.settings.showNotes = false;
-        const EditStep step =
-            editor.editing.FromFields(Texts(" hund ", "dog*hound", " note "), CRowModel::NoEntry);
+        const EditStep step = editor.editing.FromFields(Texts(" hund ", "dog*hound", " note "), NoEntry);
         QCOMPARE(step, EditStep{Action::ClearFields});
         QCOMPARE(editor.Entries(), u"a|b,hund|dog * hound|note|12,c|d"_s);
         QCOMPARE(editor.rows.InsertionPoint(), 2);
@@ -50,7 +49,7 @@ private Q_SLOTS:
         QCOMPARE(editor.test.document.UndoCount(), 1);
         editor.test.settings.sortNewWords = true;
         editor.arrange.descending = false;
-        editor.editing.FromFields(Texts("b", "3"), CRowModel::NoEntry);
+        editor.editing.FromFields(Texts("b", "3"), NoEntry);
         QCOMPARE(editor.Entries(), u"b|3||12,hund|dog * hound|note|12,a|b,c|d"_s);
         QCOMPARE(editor.rows.InsertionPoint(), 3);
     }
@@ -82,14 +81,14 @@ private Q_SLOTS:
         for (const auto &[typed, answers, stored] : rows) {
             Editor editor;
             editor.test.prompt.answers = answers;
-            editor.editing.FromFields(Texts(typed, "x"), CRowModel::NoEntry);
+            editor.editing.FromFields(Texts(typed, "x"), NoEntry);
             QCOMPARE(editor.test.prompt.numbers, QList<int>(answers.size(), Text::ProposeCorrection));
             QVERIFY(answers.isEmpty() || editor.test.prompt.texts.first().contains(u"\"a * b\""));
             QCOMPARE(editor.test.document.List().Entry(0).GetText(0), stored);
         }
         Editor silent;
         silent.test.settings.synonymWarning = false;
-        silent.editing.FromFields(Texts("a, b", "x"), CRowModel::NoEntry);
+        silent.editing.FromFields(Texts("a, b", "x"), NoEntry);
         QVERIFY(silent.test.prompt.numbers.isEmpty());
     }
 
@@ -98,8 +97,7 @@ private Q_SLOTS:
         Editor editor(u"a|b,c|d,e|f"_s);
         editor.SetInsertionPoint(0);
         editor.test.prompt.answers = {PromptAnswer::Yes, PromptAnswer::No, PromptAnswer::Yes};
-        QCOMPARE(editor.editing.FromFields(Texts("c * x", "y"), CRowModel::NoEntry),
-            (EditStep{Action::SelectEntry, 2}));
+        QCOMPARE(editor.editing.FromFields(Texts("c * x", "y"), NoEntry), (EditStep{Action::SelectEntry, 2}));
         QCOMPARE(editor.test.prompt.texts.last(),
             u"Glosa nummer 3 liknar den du nyss skrev. Vill du att denna ska markeras?"_s);
         QCOMPARE(editor.shown, (QStringList{u"mark 2"_s, u"mark -1"_s}));
@@ -109,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(editor.editing.CellEdited(editor.rows.RowOfEntry(3), 0, u"a"_s),
             (EditStep{Action::SelectEntry, 1}));
         editor.test.settings.duplicateVarning = false;
-        editor.editing.FromFields(Texts("a", "b"), CRowModel::NoEntry);
+        editor.editing.FromFields(Texts("a", "b"), NoEntry);
         QCOMPARE(editor.test.prompt.numbers, QList<int>(3, Text::SelectSimilar));
     }
 

@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(editor.Entries(), changed);
         QCOMPARE(editor.stored, (EditStep{Action::SelectEntry, 2}));
         // But not over words that wait in the fields.
-        editor.fields.entry = CRowModel::NoEntry;
+        editor.fields.entry = NoEntry;
         editor.fields.typed = {u"half"_s, {}, {}};
         editor.edit = {1, 1, u"f"_s};
         editor.test.prompt.answers = {PromptAnswer::Yes};
@@ -109,7 +109,7 @@ private Q_SLOTS:
         editor.pending.KeepLeft(fields); // The entry is another meanwhile.
         QCOMPARE(editor.Entries(), u"a|b,c2|d|n"_s);
 
-        fields = {.typed = {u" x "_s, {}, {}}, .given = {}, .entry = CRowModel::NoEntry};
+        fields = {.typed = {u" x "_s, {}, {}}, .given = {}, .entry = NoEntry};
         editor.pending.KeepLeft(fields);
         QCOMPARE(editor.rows.pending[0], u"x"_s);
         fields.typed = {u"y"_s, {}, {}};
@@ -125,7 +125,7 @@ private Q_SLOTS:
         editor.fields = {{u" a "_s, {}, {}}, {u"a"_s, u"b"_s, {}}, 0};
         QVERIFY(editor.pending.ListWithAll().IsSaved());
         editor.pending.StoreWhole();
-        editor.fields = {{u" "_s, u"[ ]"_s, {}}, {}, CRowModel::NoEntry};
+        editor.fields = {{u" "_s, u"[ ]"_s, {}}, {}, NoEntry};
         editor.pending.StoreWhole();
         QVERIFY(!editor.pending.HasRest() && editor.pending.ListWithAll().IsSaved());
         QCOMPARE(editor.test.document.UndoCount(), 0);

@@ -18,7 +18,7 @@ private Q_SLOTS:
                 for (int entry = 0; entry < count; ++entry) {
                     rows.append(entry);
                 }
-                rows.insert(std::clamp(point, 0, count), CRowModel::NoEntry);
+                rows.insert(std::clamp(point, 0, count), NoEntry);
 
                 CRowModel model;
                 model.SetEntryCount(9);
@@ -26,7 +26,7 @@ private Q_SLOTS:
                 model.SetEntryCount(count);
                 QCOMPARE(model.RowCount(), rows.size());
                 for (int row = -1; row <= rows.size(); ++row) {
-                    QCOMPARE(model.EntryOfRow(row), rows.value(row, CRowModel::NoEntry));
+                    QCOMPARE(model.EntryOfRow(row), rows.value(row, NoEntry));
                     QCOMPARE(model.IsNewEntryRow(row), row >= 0 && row < rows.size() && rows.at(row) < 0);
                 }
                 for (int entry = 0; entry < count; ++entry) {

@@ -117,7 +117,7 @@ void CWin32View::ConnectList()
     connect(m_list, &CWordListControl::RowMenuRequested, this, &CWin32View::RowMenuRequested);
     connect(m_list, &CWordListControl::HeaderMenuRequested, this, &CWin32View::ColumnMenuRequested);
     connect(m_list, &CWordListControl::HeaderClicked, this, [this](int field) {
-        if (field >= 0) { // The numbers are the order itself.
+        if (field != CWordListModel::NumberColumn) { // The numbers are the order itself.
             Q_EMIT SortRequested(field);
         }
     });
@@ -194,7 +194,7 @@ void CWin32View::KeepSelection(const std::function<void()> &show)
     if (reset) {
         m_list->SelectRanges(RangesUpTo(ranges, m_model->rowCount() - 1));
     }
-    if (reset || m_list->CursorRow() < 0) {
+    if (reset || m_list->CursorRow() == NoRow) {
         PlaceCursor(row, field);
     }
     m_suppressSelectionSync = false;
@@ -204,8 +204,8 @@ void CWin32View::KeepSelection(const std::function<void()> &show)
 void CWin32View::PlaceCursor(int row, int field)
 {
     // Without a cursor no key would have a cell to go to.
-    const int wanted = row < 0 ? int(!m_services.settings.editor.lang1first) : std::max(field, 0);
-    m_list->SetCursor(row < 0 ? m_model->Rows().InsertionPoint() : std::min(row, m_model->rowCount() - 1),
+    const int wanted = row == NoRow ? int(!m_services.settings.editor.lang1first) : std::max(field, 0);
+    m_list->SetCursor(row == NoRow ? m_model->Rows().InsertionPoint() : std::min(row, m_model->rowCount() - 1),
         std::min(wanted, LastField()));
 }
 

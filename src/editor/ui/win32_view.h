@@ -48,7 +48,7 @@ public:
     std::vector<int> SelectedEntries() const override;
     int SelectedEntryCount() const;
     int SelectedRowCount() const;
-    /// CRowModel::NoEntry when no entry is selected.
+    /// NoEntry when no entry is selected.
     int FirstSelectedEntry() const override;
     int FirstSelectedRow() const override;
     int RowCount() const override;
@@ -167,7 +167,7 @@ private:
     CPendingEntries m_pending;
     bool m_suppressSelectionSync = false;
     // What the fields were given last: they are given it anew only when it is another.
-    int m_loadedEntry = CRowModel::NoEntry;
+    int m_loadedEntry = NoEntry;
     EntryTexts m_loadedTexts;
     /// While an edit is stored and not followed: what would follow.
     std::optional<EditStep> m_storedStep;

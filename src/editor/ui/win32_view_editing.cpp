@@ -62,9 +62,9 @@ void CWin32View::CellEdited(const CellEdit &edit)
 void CWin32View::FieldsEntered()
 {
     EndEditing(true);
-    const int entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : CRowModel::NoEntry;
+    const int entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : NoEntry;
     const EditStep step = m_editing.FromFields(m_fields->Texts(), entry);
-    if (entry == CRowModel::NoEntry && step.Selects()) {
+    if (entry == NoEntry && step.Selects()) {
         EmptyFields(); // They were added.
     }
     Follow(step, true);
@@ -154,10 +154,10 @@ void CWin32View::ShowNotes()
 
 void CWin32View::MarkEntry(int entry)
 {
-    if (entry >= 0) {
+    if (entry != NoEntry) {
         ShowEntry(entry);
     }
-    m_list->SetHotRow(entry < 0 ? NoRow : m_model->Rows().RowOfEntry(entry));
+    m_list->SetHotRow(entry == NoEntry ? NoRow : m_model->Rows().RowOfEntry(entry));
 }
 
 std::optional<OpenEdit> CWin32View::EditedCell() const
@@ -169,7 +169,7 @@ FieldTexts CWin32View::Fields() const
 {
     return {.typed = m_fields->Texts(),
         .given = m_loadedTexts,
-        .entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : CRowModel::NoEntry};
+        .entry = m_fields->IsChangeMode() ? FirstSelectedEntry() : NoEntry};
 }
 
 EditStep CWin32View::StoreEdit()
@@ -182,7 +182,7 @@ EditStep CWin32View::StoreEdit()
 void CWin32View::EmptyFields()
 {
     m_fields->SetTexts({});
-    m_loadedEntry = CRowModel::NoEntry;
+    m_loadedEntry = NoEntry;
     m_loadedTexts = {};
     m_fields->SetChangeMode(false);
     Q_EMIT TypedChanged();
@@ -202,7 +202,8 @@ void CWin32View::Stored(const EditStep &step)
 
 bool CWin32View::IsOnPendingText() const
 {
-    return m_list->CursorRow() == InsertionPoint() && SelectedEntryCount() == 0 && CursorField() >= 0
+    return m_list->CursorRow() == InsertionPoint() && SelectedEntryCount() == 0
+        && CursorField() != CWordListModel::NumberColumn
         && !m_model->Rows().pending[size_t(CursorField())].isEmpty();
 }
 
@@ -246,7 +247,7 @@ void CWin32View::SearchTyped(const QString &start, int row)
     const int from = std::max(rows.EntryOfRow(rows.IsNewEntryRow(row) ? row + 1 : row), 0);
     const int column = CursorField() == 0 || CursorField() == 1 ? CursorField() : AllColumns;
     const int found = m_services.document.List().FindPrefix(start, column, from);
-    if (found >= 0) {
+    if (found != NoEntry) {
         SelectEntry(found);
     }
 }

@@ -47,7 +47,7 @@ int CWin32View::FirstSelectedEntry() const
             }
         }
     }
-    return CRowModel::NoEntry;
+    return NoEntry;
 }
 
 int CWin32View::FirstSelectedRow() const
@@ -88,7 +88,7 @@ int CWin32View::CursorField() const
 
 void CWin32View::SelectEntry(int entry)
 {
-    m_list->SelectRow(entry < 0 ? NoRow : m_model->Rows().RowOfEntry(entry), true);
+    m_list->SelectRow(entry == NoEntry ? NoRow : m_model->Rows().RowOfEntry(entry), true);
 }
 
 void CWin32View::SelectEntries(const std::vector<int> &entries)
@@ -203,9 +203,9 @@ void CWin32View::LoadFields(int entry)
     if (m_fieldsStandAlone) {
         return;
     }
-    m_fields->SetChangeMode(entry >= 0);
+    m_fields->SetChangeMode(entry != NoEntry);
     EntryTexts texts;
-    if (entry >= 0) {
+    if (entry != NoEntry) {
         const CWordEntry &shown = m_services.document.List().Entry(entry);
         texts = {shown.GetText(0), shown.GetText(1), shown.GetNote()};
     }
@@ -230,8 +230,8 @@ void CWin32View::SetInsertionPoint(int row)
 
 std::optional<std::pair<int, int>> CWin32View::FlagOf(const QModelIndex &cell) const
 {
-    const int entry = cell.isValid() ? m_model->Rows().EntryOfRow(cell.row()) : CRowModel::NoEntry;
-    return entry < 0 ? std::nullopt : std::optional(std::pair(entry, m_model->FieldOf(cell.column())));
+    const int entry = cell.isValid() ? m_model->Rows().EntryOfRow(cell.row()) : NoEntry;
+    return entry == NoEntry ? std::nullopt : std::optional(std::pair(entry, m_model->FieldOf(cell.column())));
 }
 
 void CWin32View::ShowOrder(std::optional<int> field, bool ascending)

@@ -236,7 +236,7 @@ void CWordListControl::SelectRanges(const std::vector<std::pair<int, int>> &rang
 
 void CWordListControl::SelectRow(int row, bool ensureVisible)
 {
-    if (row < 0) {
+    if (row == NoRow) {
         clearSelection();
         return;
     }

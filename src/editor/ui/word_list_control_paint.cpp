@@ -32,7 +32,7 @@ void CWordListControl::paintEvent(QPaintEvent *event)
             }
         }
     }
-    if (m_dropRow >= 0) {
+    if (m_dropRow != NoRow) {
         constexpr int Thickness = 3;
         const int last = m_model->rowCount() - 1;
         const int y =
