@@ -46,8 +46,10 @@ private Q_SLOTS:
             const SortOptions options = {round % 2 == 0, round % 4 < 2, round % 8 < 4};
             CWordList list;
             for (int i = 0; i < 60; ++i) {
+                // Where it differs, from the first letter on or behind a long beginning, and what script it is.
+                const QString start = round % 16 < 8 ? u"som alla"_s : QString();
                 list.Insert(
-                    CWordEntry(u"som alla"_s + RandomText(random, u"aAåb", 2), RandomText(random, u"aAb", 2),
+                    CWordEntry(start + RandomText(random, u"aAåbzωж語", 3), RandomText(random, u"aAb", 2),
                         RandomText(random, u"aé", 1), random.Next() % 2 == 0, random.Next() % 2 == 0));
             }
             list.Sort(key, options, random);
