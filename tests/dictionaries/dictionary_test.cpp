@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "dictionaries/dictionary.h"
-
 #include "dictionaries/article.h"
+#include "dictionaries/dictionary.h"
 #include "dictionaries/installed_dictionaries.h"
 #include "platform/language_names.h"
 #include "support/dictionary_files.h"
 
-#include <QTest>
-
 #include <zlib.h>
 
 #include <tuple>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -113,29 +108,24 @@ private Q_SLOTS:
         QVERIFY(TranslationsIn("a\n" + QByteArray("b,", 20000).repeated(10)).size() <= 30);
     }
 
-    void lookedUp_data()
-    {
-        QTest::addColumn<int>("pieceSize");
-        QTest::newRow("plain") << 0;
-        QTest::newRow("articles cut in pieces") << 7;
-        QTest::newRow("one piece") << 60000;
-    }
     void lookedUp()
     {
-        QFETCH(int, pieceSize);
-        CDictionaryFiles files(Animals, pieceSize);
-        CDictionary dictionary;
-        QVERIFY(files.OpenIn(dictionary));
-        QCOMPARE(dictionary.Translate(u"HORSE [animal] * Österut"_s),
-            QStringList({u"häst"_s, u"hingst"_s, u"bock"_s, u"rida"_s, u"eastwards"_s}));
-        QCOMPARE(dictionary.Translate(u"horse"_s), QStringList({u"rida"_s, u"häst"_s, u"hingst"_s, u"bock"_s}));
-        QCOMPARE(dictionary.Translate(u"a horse-fly"_s), QStringList(u"broms"_s));
-        QVERIFY(dictionary.Translate(u"hors"_s).isEmpty() && dictionary.Translate(u"ox"_s).isEmpty());
-        QVERIFY(dictionary.Translate({}).isEmpty() && dictionary.Translate(u"zz"_s).isEmpty());
-        QCOMPARE(Headwords(dictionary.TranslateBeginning(u"hor"_s, 10)),
-            QStringList({u"Horse=häst/hingst/bock"_s, u"horse=rida/häst"_s, u"horse-fly=broms"_s}));
-        QCOMPARE(dictionary.TranslateBeginning(u"hor"_s, 1).size(), size_t(1));
-        QVERIFY(dictionary.TranslateBeginning(u"00"_s, 10).empty());
+        for (const int pieceSize : {0, 7, 60000}) { // Plain, articles cut in pieces, one piece.
+            CDictionaryFiles files(Animals, pieceSize);
+            CDictionary dictionary;
+            QVERIFY(files.OpenIn(dictionary));
+            QCOMPARE(dictionary.Translate(u"HORSE [animal] * Österut"_s),
+                QStringList({u"häst"_s, u"hingst"_s, u"bock"_s, u"rida"_s, u"eastwards"_s}));
+            QCOMPARE(
+                dictionary.Translate(u"horse"_s), QStringList({u"rida"_s, u"häst"_s, u"hingst"_s, u"bock"_s}));
+            QCOMPARE(dictionary.Translate(u"a horse-fly"_s), QStringList(u"broms"_s));
+            QVERIFY(dictionary.Translate(u"hors"_s).isEmpty() && dictionary.Translate(u"ox"_s).isEmpty());
+            QVERIFY(dictionary.Translate({}).isEmpty() && dictionary.Translate(u"zz"_s).isEmpty());
+            QCOMPARE(Headwords(dictionary.TranslateBeginning(u"hor"_s, 10)),
+                QStringList({u"Horse=häst/hingst/bock"_s, u"horse=rida/häst"_s, u"horse-fly=broms"_s}));
+            QCOMPARE(dictionary.TranslateBeginning(u"hor"_s, 1).size(), size_t(1));
+            QVERIFY(dictionary.TranslateBeginning(u"00"_s, 10).empty());
+        }
     }
 
     void anotherOrder()

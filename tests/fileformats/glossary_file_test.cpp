@@ -7,8 +7,6 @@
 #include <QBuffer>
 #include <QTemporaryDir>
 
-Q_DECLARE_METATYPE(ReadResult)
-
 namespace {
 
 QByteArray CrLf(QByteArray text)

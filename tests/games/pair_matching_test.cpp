@@ -40,7 +40,7 @@ private Q_SLOTS:
     void rounds()
     {
         TestDocument test(Letters + QStringList{u"d|v * w"_s});
-        QuizSettings settings = InOrder(Requiz::AfterRound, 1);
+        QuizSettings settings = InOrder(Requiz::AfterRound);
         TestForm<CPairMatchingForm> game(test, settings);
         CPairMatchingForm &form = game.form;
         QCOMPARE(form.columnTitle(0) + form.columnTitle(1), u"EngelskaSvenska"_s);

@@ -4,8 +4,6 @@
 #include "settings/quiz_settings.h"
 #include "support/lists.h"
 
-Q_DECLARE_METATYPE(AnswerVerdict)
-
 class AnswerCheckTest : public QObject
 {
     Q_OBJECT
