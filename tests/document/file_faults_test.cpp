@@ -7,7 +7,6 @@
 #include "support/test_document.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 

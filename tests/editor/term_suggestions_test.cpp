@@ -2,13 +2,9 @@
 #include "editor/ui/term_suggestions.h"
 
 #include "dictionaries/dictionary_choices.h"
-#include "document/win32_doc.h"
 #include "editor/ui/suggestion_list.h"
 #include "support/dictionary_files.h"
 #include "support/test_view.h"
-
-#include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

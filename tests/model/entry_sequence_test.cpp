@@ -3,7 +3,6 @@
 #include "platform/random.h"
 #include "support/test.h"
 
-#include <algorithm>
 #include <numeric>
 #include <thread>
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/collation.h"
 #include "platform/letters.h"
+#include "platform/plain_text.h"
 #include "platform/random.h"
 #include "platform/windows_1252.h"
 #include "support/test.h"
 
 #include <algorithm>
 #include <cstring>
-#include <numeric>
-#include <set>
 
 class TextServicesTest : public QObject
 {
@@ -66,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(CaseFolding()[0xD801], char16_t(0xD801));
     }
 
-    void codePageByBytes()
+    void codePage()
     {
         QByteArray all;
         for (int byte = 0; byte < 256; ++byte) {
@@ -83,10 +82,6 @@ private Q_SLOTS:
         QByteArray back;
         QVERIFY(AppendWindows1252(decoded, back));
         QCOMPARE(back, all);
-    }
-
-    void codePageRefusesLookAlikes()
-    {
         QByteArray bytes;
         // U+0080 is not the euro, full-width a is not a, a surrogate pair is one character.
         QVERIFY(!AppendWindows1252(u"a\u0080\uFF41\U0001F600\xD83Dz", bytes));
@@ -94,6 +89,41 @@ private Q_SLOTS:
         bytes.clear();
         QVERIFY(!AppendWindows1252(u"e\u0301α", bytes));
         QCOMPARE(bytes, QByteArray("e??"));
+    }
+
+    void boundedAndInCaptions()
+    {
+        QCOMPARE(ShownShort(u"abcd"_s, 4), u"abcd"_s);
+        QCOMPARE(ShownShort(u"abcde"_s, 4), u"abc…"_s);
+        // No half of a character is left.
+        QCOMPARE(ShownShort(u"ab\U00010428de"_s, 4), u"ab…"_s);
+        QCOMPARE(ShownInCaption(u"A&B\tc\n d"_s), u"A&&B c d"_s);
+        const QString endless = ShownInCaption(QString(1000000, u'x'));
+        QCOMPARE(endless, QString(39, u'x') + u'…');
+        QCOMPARE(CaptionReadOut(u"&Namn på A&&B:"_s), u"Namn på A&B"_s);
+    }
+
+    void isolated()
+    {
+        const std::pair<QString, QString> rows[] = {
+            {u"vad? 1 + 2 åäö Ж"_s, u"vad? 1 + 2 åäö Ж"_s}, // left to right stays as it is
+            {u"aאb"_s, u"[aאb)"_s}, // right to left
+            {u"\U00010840"_s, u"[\U00010840)"_s}, // outside the basic plane
+            {u"a<b"_s, u"[a<b)"_s}, // open override
+            {u"a(b(("_s, u"[a(b(())))"_s}, // open isolate
+            {u"a))<b"_s, u"[a<b)"_s}, // closes nothing of ours
+            {u"(a)b"_s, u"[(a)b)"_s}, // balanced
+            {u"א(\nb"_s, u"[א())\n[b)"_s}, // several lines
+        };
+        for (const auto &[text, shown] : rows) {
+            const auto withMarks = [](QString letters) {
+                return letters.replace(u'(', u'\u2066')
+                    .replace(u')', u'\u2069')
+                    .replace(u'[', u'\u2068')
+                    .replace(u'<', u'\u202E');
+            };
+            QCOMPARE(Isolated(withMarks(text)), withMarks(shown));
+        }
     }
 };
 

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "platform/sound_thread.h"
 #include "platform/thread.h"
 #include "support/test.h"
 
 #include <QSemaphore>
+#include <QStringList>
 
+#include <atomic>
 #include <functional>
+#include <memory>
+#include <semaphore>
 #include <stdexcept>
 
 namespace {
@@ -22,6 +27,25 @@ protected:
 
 private:
     std::function<void(const std::atomic<bool> &)> m_work;
+};
+
+/// A sound system that lets wait until a test lets it go on.
+struct SlowSounds
+{
+    std::binary_semaphore opens{0};
+    std::counting_semaphore<> plays{0};
+    std::counting_semaphore<> begun{0};
+    QStringList played;
+
+    SoundOutput Open()
+    {
+        opens.acquire();
+        return [this](const QString &file) {
+            played.append(file);
+            begun.release();
+            plays.acquire();
+        };
+    }
 };
 
 }
@@ -76,6 +100,45 @@ private Q_SLOTS:
         QVERIFY(sawStop && !worker.IsStarted());
         mayEnd.release();
         worker.Start(); // And its destructor ends it.
+    }
+
+    void nobodyWaits()
+    {
+        const auto sounds = std::make_shared<SlowSounds>();
+        const auto ended = std::make_shared<std::binary_semaphore>(0);
+        {
+            CSoundThread player([sounds, ended] {
+                const SoundOutput output = sounds->Open();
+                ended->release();
+                return output;
+            });
+            player.Play(u"a"_s);
+            player.Play(u"b"_s);
+        }
+        sounds->opens.release();
+        ended->acquire();
+        QVERIFY(sounds->played.isEmpty()); // The program was about to end.
+    }
+
+    void theLatestCounts()
+    {
+        SlowSounds sounds;
+        sounds.opens.release();
+        std::atomic<std::chrono::milliseconds> now{};
+        CSoundThread player([&sounds] { return sounds.Open(); }, [&now] { return now.load(); });
+        player.Play(u"a"_s);
+        sounds.begun.acquire();
+        player.Play(u"b"_s);
+        player.Play(u"c"_s);
+        sounds.plays.release();
+        sounds.begun.acquire();
+        player.Play(u"too late"_s);
+        now = std::chrono::seconds(2);
+        sounds.plays.release();
+        player.Play(u"d"_s);
+        sounds.plays.release();
+        sounds.begun.acquire();
+        QCOMPARE(sounds.played, (QStringList{u"a"_s, u"c"_s, u"d"_s}));
     }
 };
 

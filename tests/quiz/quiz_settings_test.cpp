@@ -19,11 +19,6 @@ struct Window
 
     explicit Window(QuizSettings &stored) : settings(stored) { dialog.open(); }
 
-    template<class Control>
-    Control *Find(const char *name) const
-    {
-        return dialog.findChild<Control *>(QLatin1StringView(name));
-    }
     /// The names of the controls that can't be used.
     QStringList Disabled() const
     {
@@ -69,8 +64,8 @@ private Q_SLOTS:
         {
             Window shown(settings);
             VerifyAccessibleNames(&shown.dialog);
-            QCOMPARE(shown.Find<QRadioButton>("fromLanguage1")->text(), u"&Från A&&B till Engelska"_s);
-            QCOMPARE(shown.Find<QRadioButton>("fromLanguage2")->text(), u"F&rån Engelska till A&&B"_s);
+            QCOMPARE(Find<QRadioButton>(&shown.dialog, "fromLanguage1")->text(), u"&Från A&&B till Engelska"_s);
+            QCOMPARE(Find<QRadioButton>(&shown.dialog, "fromLanguage2")->text(), u"F&rån Engelska till A&&B"_s);
             shown.dialog.accept();
             QCOMPARE(Describe(settings), factory);
         }
@@ -86,10 +81,10 @@ private Q_SLOTS:
                 choice->setCurrentIndex(1);
             }
             for (const char *button : {"fromLanguage2", "noRequiz"}) {
-                changed.Find<QRadioButton>(button)->click();
+                Find<QRadioButton>(&changed.dialog, button)->click();
             }
-            changed.Find<QLineEdit>("fileRight")->setText(u"a.wav"_s);
-            changed.Find<QLineEdit>("fileWrong")->clear();
+            Find<QLineEdit>(&changed.dialog, "fileRight")->setText(u"a.wav"_s);
+            Find<QLineEdit>(&changed.dialog, "fileWrong")->clear();
             QCOMPARE(Describe(settings), factory);
             changed.dialog.accept();
         }
@@ -106,12 +101,13 @@ private Q_SLOTS:
         for (const auto &[button, requiz] : {std::pair("noRequiz", Requiz::None), {"askAgain", Requiz::AtOnce},
                  {"requizAfter", Requiz::AfterRound}}) {
             Window window(settings);
-            window.Find<QRadioButton>(button)->click();
+            Find<QRadioButton>(&window.dialog, button)->click();
             QTest::keyClick(&window.dialog, Qt::Key_Escape);
             QVERIFY(!window.dialog.isVisible() && settings.requiz != requiz);
             window.dialog.accept();
             QCOMPARE(settings.requiz, requiz);
-            QVERIFY2(Window(settings).Find<QRadioButton>(button)->isChecked(), button);
+            const Window again(settings);
+            QVERIFY2(Find<QRadioButton>(&again.dialog, button)->isChecked(), button);
         }
     }
 
@@ -120,10 +116,10 @@ private Q_SLOTS:
         QuizSettings settings;
         const Window window(settings);
         const auto choose = [&](int words, int flagged, const char *requiz, bool limit) {
-            window.Find<QComboBox>("wordsToQuiz")->setCurrentIndex(words);
-            window.Find<QComboBox>("includeFlaggedWords")->setCurrentIndex(flagged);
-            window.Find<QRadioButton>(requiz)->click();
-            window.Find<QCheckBox>("requizMax")->setChecked(limit);
+            Find<QComboBox>(&window.dialog, "wordsToQuiz")->setCurrentIndex(words);
+            Find<QComboBox>(&window.dialog, "includeFlaggedWords")->setCurrentIndex(flagged);
+            Find<QRadioButton>(&window.dialog, requiz)->click();
+            Find<QCheckBox>(&window.dialog, "requizMax")->setChecked(limit);
             return window.Disabled().join(u' ');
         };
         QCOMPARE(window.Disabled().join(u' '), u"numberOfWords partOfWords requizMax requizNumber"_s);
@@ -137,15 +133,15 @@ private Q_SLOTS:
         QuizSettings settings;
         Window window(settings);
         window.chooser.paths = {QString(), u"/x/ding.wav"_s};
-        auto *const file = window.Find<QLineEdit>("fileWrong");
-        window.Find<QPushButton>("fileWrongBrowse")->click();
+        auto *const file = Find<QLineEdit>(&window.dialog, "fileWrong");
+        Find<QPushButton>(&window.dialog, "fileWrongBrowse")->click();
         QCOMPARE(file->text(), u"wrong.wav"_s);
         QCOMPARE(window.chooser.asked.first().start, QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/wrong.wav"));
         QCOMPARE(window.chooser.asked.first().filters, (QStringList{u"Ljud (*.wav)"_s, u"Alla filer (*)"_s}));
-        window.Find<QPushButton>("fileWrongBrowse")->click();
+        Find<QPushButton>(&window.dialog, "fileWrongBrowse")->click();
         QCOMPARE(file->text(), u"/x/ding.wav"_s);
-        window.Find<QPushButton>("fileWrongPlay")->click(); // There is no such file.
-        window.Find<QPushButton>("fileRightPlay")->click();
+        Find<QPushButton>(&window.dialog, "fileWrongPlay")->click(); // There is no such file.
+        Find<QPushButton>(&window.dialog, "fileRightPlay")->click();
         QCOMPARE(window.sounds.played, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/sounds/right.wav")});
         window.dialog.accept();
         QCOMPARE(settings.wrongSoundFile, u"/x/ding.wav"_s);

@@ -6,8 +6,6 @@
 #include "shell/text_numbers.h"
 #include "support/test.h"
 
-#include <QFile>
-
 #include <set>
 
 class CommandsTest : public QObject

@@ -3,11 +3,9 @@
 #include "shell/ui/help_text.h"
 #include "shell/ui/help_window.h"
 #include "support/scripted_prompt.h"
+#include "support/widgets.h"
 
 #include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTreeWidget>
 
@@ -24,13 +22,8 @@ struct Help
         : window(texts, {folder}, prompt, [this](const QString &file) { opened.append(file); })
     {
     }
-    template<class Widget>
-    Widget *Part(const char *name) const
-    {
-        return window.findChild<Widget *>(QLatin1StringView(name));
-    }
-    CHelpText &Shown() const { return *Part<CHelpText>("helpText"); }
-    QString Chapter() const { return Part<QTreeWidget>("contents")->currentItem()->text(0); }
+    CHelpText &Shown() const { return *Find<CHelpText>(&window, "helpText"); }
+    QString Chapter() const { return Find<QTreeWidget>(&window, "contents")->currentItem()->text(0); }
 };
 
 }
@@ -58,10 +51,10 @@ private Q_SLOTS:
         QVERIFY(place > 0);
         help.window.ShowSection(u"keys"_s);
         QVERIFY(help.Shown().verticalScrollBar()->value() > place);
-        help.Part<QPushButton>("back")->click();
+        Find<QPushButton>(&help.window, "back")->click();
         QCOMPARE(help.Chapter(), u"Förhör"_s);
         QCOMPARE(help.Shown().verticalScrollBar()->value(), place);
-        help.Part<QPushButton>("inBrowser")->click();
+        Find<QPushButton>(&help.window, "inBrowser")->click();
         QCOMPARE(help.opened, QStringList{QStringLiteral(ORDELIN_SOURCE_DIR "/help/se.html")});
         QTest::keyClick(&help.window, Qt::Key_Escape);
         QVERIFY(!help.window.isVisible());
@@ -71,8 +64,8 @@ private Q_SLOTS:
     {
         Help help;
         help.window.ShowSection({});
-        auto *const search = help.Part<QLineEdit>("search");
-        auto *const hits = help.Part<QLabel>("hits");
+        auto *const search = Find<QLineEdit>(&help.window, "search");
+        auto *const hits = Find<QLabel>(&help.window, "hits");
         QTest::keyClick(&help.window, Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(search, u"asterisk"_s);
         QVERIFY(hits->text().section(u' ', 0, 0).toInt() > 2);
@@ -95,7 +88,7 @@ private Q_SLOTS:
         Help help;
         help.window.ShowSection(u"quizzes"_s);
         QVERIFY(QTest::qWaitForWindowActive(&help.window));
-        QTest::mouseClick(help.Part<QPushButton>("inBrowser"), Qt::LeftButton);
+        QTest::mouseClick(Find<QPushButton>(&help.window, "inBrowser"), Qt::LeftButton);
         QCOMPARE(help.opened.size(), 1);
     }
 };

@@ -12,8 +12,6 @@
 #include "tools/ui/import_dialog.h"
 
 #include <QAction>
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QUrl>
 
 namespace {
