@@ -26,10 +26,11 @@ QString Icon(const char *name)
 void AddQuizzes(QList<Command> &table)
 {
     for (const QuizKindRow &row : quizKinds()) {
-        // Ctrl+Alt+F1 to F9 never arrive where they switch the virtual console, so the digit is shown.
-        const QString digit = QString::number(int(row.kind) + 1);
+        // Ctrl+Alt+F1 and so on never arrive where they switch the virtual console, so the digit is shown.
+        const int place = int(row.kind) + 1;
         table.append({.id = row.command,
-            .shortcuts = {QStringLiteral("Ctrl+Alt+") + digit, QStringLiteral("Ctrl+Alt+F") + digit},
+            .shortcuts = {QStringLiteral("Ctrl+Alt+%1").arg(place % 10),
+                QStringLiteral("Ctrl+Alt+F%1").arg(place)},
             .icon = Icon(row.icon),
             .minimumEntries = row.minimumEntries});
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "games/contest_setup.h"
+#include "games/text_numbers.h"
 #include "games/word_contest_form.h"
 #include "support/test_form.h"
 

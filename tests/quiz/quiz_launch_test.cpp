@@ -63,6 +63,9 @@ private Q_SLOTS:
         TestQuiz empty{QString()};
         empty.launch.startQuiz(QuizKind::Standard);
         QVERIFY(!empty.launch.isRunning() && empty.host.calls.isEmpty());
+        for (const QuizKindRow &row : quizKinds()) {
+            QVERIFY2(empty.launch.hasWindow(row.kind), row.icon); // Else its command can't be chosen.
+        }
         TestQuiz withoutAnswers(u"hund|,katt|"_s);
         withoutAnswers.launch.startQuiz(QuizKind::Standard);
         QCOMPARE(withoutAnswers.test.prompt.numbers, QList<int>{Text::NothingToAnswer});
