@@ -38,13 +38,11 @@ QString Printable(QStringView text)
         if (pair) {
             printable += unit;
             printable += text.at(++i);
-        } else if (unit == u'\n') {
-            printable += unit;
         } else if (unit == u'\r' || TurnsDirection(unit)) {
             continue;
         } else if (unit == u'\t' || unit == QChar::LineSeparator || unit == QChar::ParagraphSeparator) {
             printable += u' ';
-        } else if (unit.category() == QChar::Other_Control || unit.isSurrogate()) {
+        } else if ((unit.category() == QChar::Other_Control && unit != u'\n') || unit.isSurrogate()) {
             printable += QChar(QChar::ReplacementCharacter);
         } else {
             printable += unit;

@@ -32,7 +32,7 @@ bool OpenPipe(QFile &file, const QString &name)
 /// All that a device gives, or so much of it that it is refused.
 QByteArray ReadToEnd(QIODevice &device)
 {
-    constexpr qint64 PieceSize = 1024 * 1024;
+    constexpr qint64 PieceSize = qint64(1024) * 1024;
     QByteArray bytes;
     while (bytes.size() <= FileLimits::MostBytes) {
         const QByteArray piece = device.read(PieceSize);
