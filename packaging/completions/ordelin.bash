@@ -29,8 +29,8 @@ _ordelin() {
     *) return ;;
     esac
     case "${COMP_WORDS[1]} $option" in
-    *" --from") values="glossary wordquiz anki separated kvtml text" ;;
-    *" --to") values="glossary anki separated kvtml text" ;;
+    *" --from") values="glossary wordquiz kvtml dictionary anki separated text" ;;
+    *" --to") values="glossary kvtml anki separated text" ;;
     "convert --from-separator" | "convert --to-separator") values="comma semicolon tab pipe" ;;
     "convert --from-heading" | "convert --to-heading" | "convert --to-mark") values="yes no" ;;
     "convert --from-quote") values="double single none" ;;
