@@ -39,6 +39,7 @@ CContestSetupDialog::CContestSetupDialog(
     makeList();
     m_name->setObjectName(QStringLiteral("name"));
     m_hint->setObjectName(QStringLiteral("hint"));
+    m_spoken->hide(); // Until there is something to say.
     auto *const time = new CNumberField(CContestSetup::Times, setup.time(), this);
     time->setObjectName(QStringLiteral("time"));
     connect(time, &CNumberField::NumberEntered, this, [this](int seconds) { m_setup.setTime(seconds); });
