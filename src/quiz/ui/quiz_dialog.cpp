@@ -139,6 +139,12 @@ void CQuizDialog::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous() && !std::exchange(m_wasShown, true)) {
         showNextWord();
+        layout()->activate(); // It has not seen the texts yet.
+        if (layout()->hasHeightForWidth()) {
+            // A layout leaves out that labels need more lines where there is little room.
+            const int narrowest = layout()->totalMinimumSize().width();
+            setMinimumHeight(layout()->totalMinimumHeightForWidth(narrowest));
+        }
     }
     QDialog::showEvent(event);
 }
