@@ -105,7 +105,9 @@ ReadResult WordQuizFormat::Read(
 
 bool PlainTextFormat::Recognises(const FormatSample &sample, FormatSource &source)
 {
-    return !LooksBinary(sample.head) && IsUnmarkedUtf8(source.device);
+    // What is too large to be read is not looked through either.
+    return source.device.size() <= FileLimits::MostBytes && !LooksBinary(sample.head)
+        && IsUnmarkedUtf8(source.device);
 }
 
 ReadResult PlainTextFormat::Read(

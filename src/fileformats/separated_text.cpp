@@ -14,6 +14,16 @@
 #include <algorithm>
 #include <array>
 
+namespace {
+
+/// Nothing is left of such a cell in a list; blanks of other kinds are text there.
+bool IsBlank(QStringView cell)
+{
+    return std::ranges::all_of(cell, [](QChar unit) { return unit <= u' '; });
+}
+
+}
+
 CSeparatedTextReader::CSeparatedTextReader(
     QIODevice &device, const SeparatedTextOptions &options, const TermOptions &terms, CLossCounter &losses)
     : m_options(options), m_input(device, options.encoding.value_or(TextEncoding::Utf8)),
@@ -26,8 +36,7 @@ bool CSeparatedTextReader::ReadFilledRow()
     while (m_rows.ReadRow()) {
         const bool isFirst = m_isStart;
         m_isStart = false;
-        if (!(isFirst && SaysSeparator(Cells()))
-            && !std::ranges::all_of(Cells(), [](QStringView cell) { return cell.trimmed().isEmpty(); })) {
+        if (!(isFirst && SaysSeparator(Cells())) && !std::ranges::all_of(Cells(), IsBlank)) {
             return true;
         }
     }

@@ -37,7 +37,8 @@ QString HeadingOf(const CWordList &list, TextColumn column)
     const QString name = column == TextColumn::Term1 ? list.GetLanguage(0)
         : column == TextColumn::Term2                ? list.GetLanguage(1)
                                                      : QString();
-    return name.isEmpty() ? NameOfColumn(column) : name;
+    // A row of blanks would be none.
+    return name.trimmed().isEmpty() ? NameOfColumn(column) : name;
 }
 
 QString CellOf(const CWordEntry &entry, TextColumn column, AlternativeMark mark)

@@ -188,6 +188,11 @@ void SeparatedTextTest::written()
 
 void SeparatedTextTest::roundTrips()
 {
+    CWordList blank = MakeList(QStringList{u"\u00A0|\u3000"_s, u"a|b"_s});
+    blank.SetLanguage(0, u" "_s);
+    CWordList read;
+    QVERIFY(!IsRefused(ReadListBytes(read, Written(blank, FormatId::SeparatedText)).result));
+    QCOMPARE(Describe(read), Describe(blank));
     CRandom random(17);
     for (int i = 0; i < 30; ++i) {
         const CWordList list = RandomList(random);
