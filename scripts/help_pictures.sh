@@ -95,6 +95,26 @@ imports() {
     wait "$pid" 2>/dev/null || true
 }
 
+# formats NAME MODULE: the preview of a separated text.
+formats() {
+    local texts=$2 list="$work/glosor.csv" preview
+    preview=$(sed -n 's/^249000=//p' "$texts")
+    settings "languageFile=$texts\\nplugInUse=1\\n"
+    if [ "$1" = en ]; then
+        printf 'Swedish;English;Example;No.\n' >"$list"
+    else
+        printf 'Svenska;Engelska;Exempel;Nr\n' >"$list"
+    fi
+    printf '%s\n' 'hus;house;;1' '"lägenhet; våning";flat / apartment;;2' 'kök;kitchen;Vi äter i köket.;3' \
+        ';;Kapitel 2;' 'trappa;stairs (pl.);;4' >>"$list"
+    "$program" -- "$list" >"$work/program.log" 2>&1 &
+    local pid=$! window=
+    pids+=("$pid")
+    shot "$1-preview" "$preview"
+    kill "$pid"
+    wait "$pid" 2>/dev/null || true
+}
+
 # language NAME MODULE: all pictures in one language; the titles of its windows come from its own texts.
 language() {
     local texts=$2 list="$work/vardagsord.gls" find properties quiz result settings settings_key special table tools yes
@@ -140,6 +160,7 @@ language() {
     wait "$pid" 2>/dev/null || true
     games "$@"
     imports "$@"
+    formats "$@"
 }
 
 language sv "$PWD/src/resources/swedish.ordmod"

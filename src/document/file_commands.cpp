@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/file_commands.h"
 
+#include "document/export_form.h"
 #include "document/file_filters.h"
 #include "document/format_dialogs.h"
 #include "document/pending_work.h"
@@ -19,6 +20,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace {
 
 /// How much of a web address a message shows, in code units.
@@ -29,6 +32,18 @@ bool IsWebAddress(const QString &path)
     const QUrl url(path);
     return !url.scheme().isEmpty() && !url.isLocalFile() && path.contains(QStringLiteral("://"))
         && !FileExists(path);
+}
+
+/// That of the filter, unless the name says another.
+const Format &ChosenFormat(const std::vector<const Format *> &formats, const ChosenFile &chosen)
+{
+    const Format &byFilter =
+        *formats[size_t(std::clamp<qsizetype>(chosen.filter, 0, qsizetype(formats.size()) - 1))];
+    const Format *const named = FindFormatForWriting(chosen.path);
+    const QString suffix = QFileInfo(chosen.path).suffix().toLower();
+    const bool fits =
+        std::ranges::any_of(byFilter.suffixes, [&suffix](QLatin1StringView own) { return own == suffix; });
+    return named == nullptr || fits ? byFilter : *named;
 }
 
 }
@@ -179,20 +194,13 @@ void CFileCommands::Send()
 bool CFileCommands::DoSave(const QString &path, bool replace)
 {
     StorePending();
-    QString target = path;
+    const auto [target, format] =
+        path.isEmpty() ? ChooseTarget(replace) : Target{path, &FormatOf(FormatId::Glossary)};
     if (target.isEmpty()) {
-        const QString name = m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls")
-                                                         : m_document.Name();
-        target = m_chooser
-                     .ChooseFileToSave({.title = m_texts.Get(replace ? Text::SaveAsTitle : Text::SaveCopyTitle),
-                         .filters = FormatFilters(FormatsToStayIn(), m_texts),
-                         .start = QDir(StartFolder()).filePath(name),
-                         .defaultSuffix = QStringLiteral("gls")})
-                     .path;
-        if (target.isEmpty()) {
-            return false;
-        }
-        m_lastFolder = QFileInfo(AbsoluteFilePath(target)).path();
+        return false;
+    }
+    if (!format->holdsEverything) {
+        return Export({target, format}) && !replace;
     }
     if (!replace) {
         return m_document.SaveCopy(target);
@@ -213,6 +221,34 @@ bool CFileCommands::DoSave(const QString &path, bool replace)
     }
     m_recent.Add(target);
     return true;
+}
+
+CFileCommands::Target CFileCommands::ChooseTarget(bool replace)
+{
+    const std::vector<const Format *> formats = FormatsToSave();
+    const QString name =
+        m_document.Path().isEmpty() ? m_document.SuggestFileName() + QStringLiteral(".gls") : m_document.Name();
+    const ChosenFile chosen =
+        m_chooser.ChooseFileToSave({.title = m_texts.Get(replace ? Text::SaveAsTitle : Text::SaveCopyTitle),
+            .filters = FormatFilters(formats, m_texts),
+            .start = QDir(StartFolder()).filePath(name),
+            .defaultSuffix = QStringLiteral("gls")});
+    if (chosen.path.isEmpty()) {
+        return {};
+    }
+    m_lastFolder = QFileInfo(AbsoluteFilePath(chosen.path)).path();
+    // The list's own file never becomes one that holds less.
+    if (!m_document.Path().isEmpty() && IsSameFile(chosen.path, m_document.Path())) {
+        return {chosen.path, &FormatOf(FormatId::Glossary)};
+    }
+    return {chosen.path, &ChosenFormat(formats, chosen)};
+}
+
+bool CFileCommands::Export(const Target &target)
+{
+    CExportForm form(m_document.List(), *target.format, target.path, m_texts);
+    return m_formatDialogs.ChooseExport(form)
+        && m_document.SaveCopyAs(target.path, *target.format, form.Options());
 }
 
 QString CFileCommands::StartFolder() const

@@ -12,6 +12,7 @@ class IFileChooser;
 class IFormatDialogs;
 class IPendingWork;
 class IUserPrompt;
+struct Format;
 
 /// The commands New, Open, Save, Save as and Send, with the question before unsaved changes would be lost. Each
 /// returns false when it was cancelled or failed; nothing is lost then.
@@ -45,7 +46,8 @@ public:
     void Send();
     /// Saves to `path`, and asks for a name where it is empty. Asks before it overwrites what another program
     /// wrote to the list's own file. With `replace` the file becomes the list's own;
-    /// without it a copy is saved.
+    /// without it a copy is saved. In a format that can't hold all of a list only a copy is saved: with
+    /// `replace` the list is not saved then, and the result is false.
     bool DoSave(const QString &path, bool replace);
     /// Asks what to do with unsaved changes. True when the list may be given up.
     bool MayDiscard();
@@ -54,6 +56,14 @@ private:
     void StorePending();
     QString StartFolder() const;
     bool OpenNow(const QString &path);
+    struct Target
+    {
+        QString path; ///< Empty when none was chosen.
+        const Format *format = nullptr;
+    };
+    Target ChooseTarget(bool replace);
+    /// Writes a copy, once the user has seen what it would not have.
+    bool Export(const Target &target);
     /// Has the user choose how a separated text is read; false when that is cancelled.
     bool ChooseImport(CImportPreview &preview);
 

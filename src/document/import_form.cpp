@@ -3,6 +3,7 @@
 
 #include "document/list_placeholders.h"
 #include "document/loss_texts.h"
+#include "document/separators.h"
 #include "document/text_numbers.h"
 #include "platform/local_formats.h"
 #include "platform/plain_text.h"
@@ -14,19 +15,22 @@
 namespace {
 
 // In the order of their texts.
-constexpr QStringView UsualSeparators = u",;\t|";
 constexpr std::array Quotes = {u'\0', u'"', u'\''};
 
 constexpr qsizetype LongestName = 60; // Of a column, in code units.
 
 }
 
+CImportForm::CImportForm(CImportPreview &preview, const CTexts &texts)
+    : m_preview(preview), m_texts(texts), m_firstSeparator(preview.Choices().layout.separator)
+{
+}
+
 QStringList CImportForm::Separators() const
 {
-    QStringList separators = m_texts.Get(Text::PreviewSeparators).split(u'\n');
-    const QChar own = m_preview.Choices().layout.separator;
-    if (!UsualSeparators.contains(own)) {
-        separators.append(QString(own));
+    QStringList separators = m_texts.Get(Text::Separators).split(u'\n');
+    if (!UsualSeparators.contains(QChar(m_firstSeparator))) {
+        separators.append(QString(QChar(m_firstSeparator)));
     }
     return separators;
 }
@@ -41,6 +45,8 @@ void CImportForm::ChooseSeparator(int index)
 {
     if (index >= 0 && index < UsualSeparators.size()) {
         m_preview.SetSeparator(UsualSeparators.at(index).unicode());
+    } else {
+        m_preview.SetSeparator(m_firstSeparator);
     }
 }
 

@@ -13,12 +13,12 @@ class CImportForm
 {
 public:
     /// Neither is owned.
-    CImportForm(CImportPreview &preview, const CTexts &texts) : m_preview(preview), m_texts(texts) { }
+    CImportForm(CImportPreview &preview, const CTexts &texts);
 
     const CTexts &Texts() const { return m_texts; }
     const CImportPreview &Preview() const { return m_preview; }
 
-    /// The last one is that of the text where it is an unusual one.
+    /// The last one is that of the text where that is an unusual one.
     QStringList Separators() const;
     int Separator() const;
     void ChooseSeparator(int index);
@@ -49,4 +49,5 @@ private:
 
     CImportPreview &m_preview;
     const CTexts &m_texts;
+    char16_t m_firstSeparator; // As it was guessed.
 };

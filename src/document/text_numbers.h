@@ -33,7 +33,7 @@ inline constexpr int NothingChosenOfFile = 70189;
 inline constexpr int NotAllRead = 70190;
 inline constexpr int PreviewTitle = 249000;
 inline constexpr int PreviewSeparator = 249001;
-inline constexpr int PreviewSeparators = 249002;
+inline constexpr int Separators = 249002;
 inline constexpr int PreviewQuote = 249003;
 inline constexpr int PreviewQuotes = 249004;
 inline constexpr int PreviewEncoding = 249005;
@@ -56,5 +56,18 @@ inline constexpr int PreviewLosses = 249021;
 inline constexpr int PreviewNoTerm = 249022;
 inline constexpr int PreviewImport = 249023;
 inline constexpr int PreviewRowLeftOut = 249024;
+inline constexpr int ExportTitle = 250000;
+inline constexpr int ExportLosses = 250001;
+inline constexpr int ExportWithoutLosses = 250002;
+inline constexpr int ExportIsCopy = 250003;
+inline constexpr int ExportSeparator = 250004;
+inline constexpr int ExportEncoding = 250005;
+inline constexpr int ExportHeading = 250006;
+inline constexpr int ExportMark = 250007;
+inline constexpr int ExportTerms = 250008;
+inline constexpr int ExportTermChoices = 250009;
+inline constexpr int ExportAlternatives = 250010;
+inline constexpr int ExportAlternativeMarks = 250011;
+inline constexpr int ExportSave = 250012;
 
 }

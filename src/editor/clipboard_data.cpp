@@ -109,6 +109,16 @@ bool MayHoldEntries(const QMimeData &data)
     return data.hasText() || HasForm(data, Records) || HasForm(data, Records8Bit) || data.hasFormat(Text8Bit);
 }
 
+bool HoldsText(const QMimeData &data)
+{
+    return !data.hasUrls() && (data.hasText() || data.hasFormat(Text8Bit));
+}
+
+QString TextFromData(const QMimeData &data)
+{
+    return data.hasText() ? data.text() : DecodeWindows1252(data.data(Text8Bit));
+}
+
 CWordList EntriesFromData(const QMimeData &data)
 {
     if (HasForm(data, Records)) {
@@ -117,5 +127,5 @@ CWordList EntriesFromData(const QMimeData &data)
     if (HasForm(data, Records8Bit)) {
         return EntriesFromRecords(FormText(data, Records8Bit, From8Bit));
     }
-    return EntriesFromText(data.hasText() ? data.text() : DecodeWindows1252(data.data(Text8Bit)));
+    return EntriesFromText(TextFromData(data));
 }

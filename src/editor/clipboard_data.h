@@ -17,5 +17,9 @@ std::unique_ptr<QMimeData> ClipboardDataOf(const CWordList &list, CWordList::Sel
 QStringList FilesFromData(const QMimeData &data);
 /// Whether there is a form that entries can be read from; reads none of it.
 bool MayHoldEntries(const QMimeData &data);
+/// Whether there is a text that is no list of files; reads none of it.
+bool HoldsText(const QMimeData &data);
+/// That text.
+QString TextFromData(const QMimeData &data);
 /// The entries of the best form that is there: records before text.
 CWordList EntriesFromData(const QMimeData &data);

@@ -19,6 +19,7 @@ inline constexpr int SelectSimilar = 70005;
 inline constexpr int ReallyDelete = 70006;
 inline constexpr int NothingPasted = 70007;
 inline constexpr int EntriesPasted = 70008;
+inline constexpr int NotAllPasted = 70191;
 inline constexpr int EntriesFound = 70009;
 inline constexpr int NothingFound = 70010;
 inline constexpr int NoDuplicates = 70011;

@@ -58,6 +58,7 @@ QList<Command> MakeTable()
         {CopyLanguage2, Keys("Ctrl+Alt+C"), {}, EntriesSelected},
         {CopyNotes, {}, {}, EntriesSelected},
         {Paste, Keys("Ctrl+V"), Icon("edit-paste"), CanPaste, Plain, LeftInEditBox},
+        {PasteSpecial, {}, {}, CanPasteSpecial},
         // Not the toolkit's standard key for deleting, which includes Ctrl+D.
         {Delete, Keys("Del"), Icon("edit-delete"), CanDelete, Plain, LeftInEditBox},
         {SelectAll, Keys("Ctrl+A"), Icon("edit-select-all"), TextOrEntries, Plain, LeftInEditBox},

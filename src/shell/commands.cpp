@@ -35,6 +35,8 @@ bool Holds(EnabledRule rule, const CommandState &state)
         return state.inEditBox;
     case EnabledRule::CanPaste:
         return state.canPaste;
+    case EnabledRule::CanPasteSpecial:
+        return state.canPasteSpecial;
     case EnabledRule::CanUndo:
         return state.canUndo;
     case EnabledRule::CanRedo:
@@ -66,9 +68,9 @@ const QList<CommandMenu> &CommandMenus()
             {NewFile, OpenFile, Text::SamplesMenu, SaveFile, SaveFileAs, Separator, Properties, SendMail,
                 Separator, RecentFiles, Separator, Exit}},
         {Text::EditMenu,
-            {Undo, Redo, Separator, Cut, Copy, Text::CopySpecialMenu, Paste, Delete, SelectAll, Separator,
-                Text::FlagsMenu, Separator, InsertSynonym, InsertComment, PlaceInsertionPoint, Separator,
-                Previous, Next, Separator, Find, FindNext}},
+            {Undo, Redo, Separator, Cut, Copy, Text::CopySpecialMenu, Paste, PasteSpecial, Delete, SelectAll,
+                Separator, Text::FlagsMenu, Separator, InsertSynonym, InsertComment, PlaceInsertionPoint,
+                Separator, Previous, Next, Separator, Find, FindNext}},
         {Text::ArrangeMenu, {Text::SortMenu, Shuffle, Separator, Text::MoveMenu}},
         {Text::QuizMenu,
             QuizCommands()

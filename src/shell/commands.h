@@ -60,6 +60,7 @@ enum : int {
     Cut = 57635,
     Find = 57636,
     Paste = 57637,
+    PasteSpecial = 57639,
     SelectAll = 57642,
     Undo = 57643,
     Redo = 57644,
@@ -90,6 +91,7 @@ enum class EnabledRule {
     TextOrEntries,
     InEditBox,
     CanPaste,
+    CanPasteSpecial,
     CanUndo,
     CanRedo
 };
@@ -108,6 +110,7 @@ struct CommandState
     bool inEditBox = false;
     bool textSelected = false;
     bool canPaste = false;
+    bool canPasteSpecial = false;
     /// In the edit box that has the focus, where one has; else in the list.
     bool canUndo = false;
     bool canRedo = false;

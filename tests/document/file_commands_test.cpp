@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "document/export_form.h"
 #include "document/file_commands.h"
 #include "document/file_filters.h"
 #include "document/file_watch.h"
@@ -10,6 +11,7 @@
 #include "support/scripted_format_dialogs.h"
 #include "support/test_document.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -111,7 +113,7 @@ private Q_SLOTS:
         run.chooser.paths = {path, QString()};
         QVERIFY(run.files.Save());
         QCOMPARE(run.chooser.asked.size(), 1);
-        QCOMPARE(run.chooser.asked[0].filters, QStringList{u"Glosfil (*.gls)"_s});
+        QCOMPARE(run.chooser.asked[0].filters.first(), u"Glosfil (*.gls)"_s);
         QCOMPARE(run.chooser.asked[0].defaultSuffix, u"gls"_s);
         QVERIFY(run.chooser.asked[0].start.endsWith(u"/Engelska av mig.gls"_s));
         run.Flag();
@@ -264,6 +266,58 @@ private Q_SLOTS:
         WriteFile(picture, QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
         QVERIFY(!run.files.OpenFile(picture));
         QCOMPARE(run.test.prompt.numbers.last(), Text::NoText);
+    }
+
+    void copiesInOtherFormats()
+    {
+        Files run(u"a * b|c|note|1"_s);
+        const QString own = run.Path(u"own.txt"_s);
+        QVERIFY(run.files.DoSave(own, true));
+        run.Flag();
+        QString losses;
+        run.formatDialogs.onExport = [&](CExportForm &form) {
+            losses = form.Losses();
+            if (form.HasLayout()) {
+                form.ChooseSeparator(1);
+                form.ChooseAlternatives(int(AlternativeMark::Semicolon));
+                form.ChooseMark(false);
+            } else if (form.HasTerms()) {
+                form.ChooseTerms(int(PlainTextTerms::Term2));
+                losses = form.Losses();
+            }
+            return true;
+        };
+        const auto filterOf = [&](FormatId id) {
+            const auto formats = FormatsToSave();
+            return std::ranges::find(formats, &FormatOf(id)) - formats.begin();
+        };
+        // The name tells the format where the filter is another; saving a copy saves no list.
+        const QString separated = run.Path(u"x.csv"_s);
+        run.chooser.paths = {separated};
+        run.chooser.filter = filterOf(FormatId::Glossary);
+        QVERIFY(!run.files.SaveAs());
+        QCOMPARE(Content(separated), QByteArray("Svenska;Engelska;note\r\n\"a; b\";c;note\r\n"));
+        QVERIFY(losses.contains(u"Kommentarer till listan: 1"_s));
+        QVERIFY(run.test.document.IsModified() && run.test.document.Path() == own);
+
+        // Where several formats have a suffix, the filter tells.
+        const QString plain = run.Path(u"y.txt"_s);
+        run.chooser.paths = {plain};
+        run.chooser.filter = filterOf(FormatId::PlainText);
+        QVERIFY(run.files.DoSave({}, false));
+        QCOMPARE(Content(plain), QByteArray("c\r\n"));
+        QVERIFY(losses.contains(u"Termer: 1"_s) && losses.contains(u"Anteckningar: 1"_s));
+
+        // The list's own file stays one that holds all.
+        run.chooser.paths = {own};
+        QVERIFY(run.files.SaveAs());
+        QVERIFY(Content(own).startsWith("Ordelin") && !run.test.document.IsModified());
+
+        run.chooser.paths = {run.Path(u"no/folder/z.csv"_s), run.Path(u"z.csv"_s)};
+        QVERIFY(!run.files.DoSave({}, false));
+        QCOMPARE(run.test.prompt.numbers, QList<int>{Text::CannotSave});
+        run.formatDialogs.onExport = [](CExportForm &) { return false; };
+        QVERIFY(!run.files.DoSave({}, false) && !QFile::exists(run.Path(u"z.csv"_s)));
     }
 
     void filters()

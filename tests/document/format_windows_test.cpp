@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "document/ui/export_dialog.h"
 #include "document/ui/import_preview_dialog.h"
+#include "model/word_list.h"
 #include "resources/texts.h"
+#include "support/lists.h"
 #include "support/widgets.h"
 
 #include <QHeaderView>
@@ -72,6 +75,34 @@ private Q_SLOTS:
         QVERIFY(Find<QLabel>(&dialog, "summary")->text().endsWith(u"Välj vilken kolumn som har termer."_s));
         QTest::keyClick(&dialog, Qt::Key_Return);
         QVERIFY(dialog.isVisible());
+    }
+
+    void exporting()
+    {
+        const CTexts texts;
+        CWordList list = MakeList("a|b|note,в");
+        list.SetProperties({.language1 = u"Svenska"_s, .language2 = u"<b>"_s});
+        CExportForm separated(list, FormatOf(FormatId::SeparatedText), u"x.tsv"_s, texts);
+        CExportDialog dialog(separated, nullptr);
+        dialog.show();
+        VerifyAccessibleNames(&dialog);
+        const auto *const losses = Find<QLabel>(&dialog, "losses");
+        QCOMPARE(losses->text(), u"Separerad text rymmer allt i listan."_s);
+        auto *const encoding = Find<QComboBox>(&dialog, "encoding");
+        encoding->setCurrentIndex(int(TextEncoding::Ansi));
+        QVERIFY(losses->text().endsWith(u"får inte med:\nTexter med tecken som kodningen saknar: 1"_s));
+        QVERIFY(!Find<QCheckBox>(&dialog, "mark")->isEnabled());
+        Find<QCheckBox>(&dialog, "heading")->click();
+        QVERIFY(losses->text().contains(u"Namn på språk: 2"_s));
+        QCOMPARE(separated.Options().separated->separator, u'\t');
+        Find<QPushButton>(&dialog, "save")->click();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+
+        CExportForm plain(list, FormatOf(FormatId::PlainText), u"x.txt"_s, texts);
+        CExportDialog plainDialog(plain, nullptr);
+        const auto *const terms = Find<QComboBox>(&plainDialog, "terms");
+        QVERIFY(terms->itemText(2).contains(u"<b>"_s));
+        QVERIFY(Find<QComboBox>(&plainDialog, "separator") == nullptr);
     }
 };
 

@@ -2,7 +2,9 @@
 #include "editor/clipboard_data.h"
 #include "editor/clipboard_text.h"
 #include "editor/list_clipboard.h"
+#include "fileformats/import_preview.h"
 #include "support/files.h"
+#include "support/scripted_format_dialogs.h"
 #include "support/test_editor_view.h"
 
 #include <QUrl>
@@ -27,8 +29,9 @@ struct Clipboard : TestEditor
 
     CTestClipboard system;
     QStringList opened;
-    CListClipboard clipboard{
-        view, test.document, system, test.texts, [this](const QString &path) { opened.append(path); }};
+    CScriptedFormatDialogs formatDialogs;
+    CListClipboard clipboard{view, test.document, system, test.texts, test.prompt, formatDialogs,
+        [this](const QString &path) { opened.append(path); }};
 };
 
 }
@@ -189,6 +192,34 @@ private Q_SLOTS:
         run.test.document.Undo();
         QCOMPARE(run.Entries(), before);
         QCOMPARE(run.view.InsertionPoint(), 3);
+    }
+
+    void pasteSpecial()
+    {
+        Clipboard run(u"a|1,b|2"_s);
+        QVERIFY(!run.clipboard.CanPasteSpecial());
+        run.view.SetInsertionPoint(1);
+        // More columns than plain pasting takes, and a row behind those that the preview shows.
+        run.system.SetText(QStringLiteral("x;c;y;d\n").repeated(250) + u"x;[e;y;f\n"_s);
+        QVERIFY(run.clipboard.CanPasteSpecial());
+        run.clipboard.PasteSpecial(); // Cancelled.
+        QCOMPARE(run.test.document.UndoCount(), 0);
+        run.formatDialogs.onImport = [](CImportPreview &preview) {
+            for (const int column : {0, 2}) {
+                preview.SetColumn(column, TextColumn::LeftOut);
+            }
+            preview.SetColumn(1, TextColumn::Term1);
+            preview.SetColumn(3, TextColumn::Term2);
+            return true;
+        };
+        run.clipboard.PasteSpecial();
+        QCOMPARE(run.test.document.List().Count(), 253);
+        QVERIFY(run.Entries().startsWith(u"a|1,c|d,"_s) && run.Entries().endsWith(u",[e|f,b|2"_s));
+        QCOMPARE(run.test.document.UndoCount(), 1);
+        QCOMPARE(run.view.InsertionPoint(), 252);
+        QCOMPARE(run.view.selected.size(), size_t(251));
+        QCOMPARE(run.view.status, u"251 glosor klistrades in."_s);
+        QCOMPARE(run.test.prompt.numbers, QList<int>{Text::NotAllPasted});
     }
 
     void pasteNothing()

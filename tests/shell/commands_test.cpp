@@ -73,6 +73,7 @@ private Q_SLOTS:
         QVERIFY(box.contains(InsertSynonym) && box.contains(SelectAll) && !box.contains(Cut)
             && !box.contains(Delete));
         QVERIFY(enabled({.inEditBox = true, .textSelected = true}).contains(Cut));
+        QVERIFY(enabled({.canPasteSpecial = true}).contains(PasteSpecial) && !none.contains(PasteSpecial));
     }
 
     void commandLines()

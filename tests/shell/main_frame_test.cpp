@@ -50,6 +50,7 @@ struct Frame
         .settingsChanges = test.settingsChanges,
         .prompt = test.prompt,
         .chooser = chooser,
+        .formatDialogs = formatDialogs,
         .sounds = sounds,
         .random = random,
         .store = store,

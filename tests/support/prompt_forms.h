@@ -39,6 +39,7 @@ inline const QList<PromptForm> &PromptForms()
         {Text::CannotOpen, Error},
         {Text::ReadAsPlainText, Warning},
         {Text::NotAllRead, Warning},
+        {Text::NotAllPasted, Warning},
         {Text::NoText, Error},
         {Text::NewerVersion, Warning},
         {Text::FlagLimitsContradict, Information},

@@ -10,6 +10,8 @@ class CScriptedFormatDialogs : public IFormatDialogs
 {
 public:
     bool ChooseImport(CImportPreview &preview) override { return onImport(preview); }
+    bool ChooseExport(CExportForm &form) override { return onExport(form); }
 
     std::function<bool(CImportPreview &)> onImport = [](CImportPreview &) { return false; };
+    std::function<bool(CExportForm &)> onExport = [](CExportForm &) { return false; };
 };

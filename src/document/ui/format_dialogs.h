@@ -19,6 +19,7 @@ public:
     CFormatDialogs(const CTexts &texts, OpenHelp openHelp);
 
     bool ChooseImport(CImportPreview &preview) override;
+    bool ChooseExport(CExportForm &form) override;
 
 private:
     const CTexts &m_texts;

@@ -109,8 +109,10 @@ QWidget *CImportPreviewDialog::MakeOptions()
     return page;
 }
 
-QTableView *CImportPreviewDialog::MakeTable(const char *name, int caption, CImportModel &model, QWidget *part)
+QTableView *CImportPreviewDialog::MakeTable(
+    const char *name, int caption, CImportModel &model, QVBoxLayout &layout)
 {
+    QWidget *const part = layout.parentWidget();
     auto *const table = new QTableView(part);
     table->setObjectName(QLatin1StringView(name));
     QLabel *const label = MakeLabel(m_form.Texts().Get(caption), part);
@@ -131,10 +133,9 @@ QTableView *CImportPreviewDialog::MakeTable(const char *name, int caption, CImpo
     header->setDefaultSectionSize(fontMetrics().averageCharWidth() * 24);
     header->setStretchLastSection(true);
     table->setMinimumHeight(header->sizeHint().height() + fontMetrics().height() * 4);
-    auto *const layout = new QVBoxLayout(part);
-    layout->setContentsMargins({});
-    layout->addWidget(label);
-    layout->addWidget(table, 1);
+    layout.setContentsMargins({});
+    layout.addWidget(label);
+    layout.addWidget(table, 1);
     return table;
 }
 
@@ -144,7 +145,8 @@ QWidget *CImportPreviewDialog::MakeTables()
     tables->setObjectName(QStringLiteral("tables"));
     tables->setChildrenCollapsible(false);
     auto *const rowPart = new QWidget(tables);
-    m_rowTable = MakeTable("rows", Text::PreviewRows, m_rows, rowPart);
+    auto *const rowLayout = new QVBoxLayout(rowPart);
+    m_rowTable = MakeTable("rows", Text::PreviewRows, m_rows, *rowLayout);
     m_rowTable->setItemDelegate(new CImportRowDelegate(m_rowTable));
     QHeaderView *const header = m_rowTable->horizontalHeader();
     header->setSectionsClickable(true);
@@ -166,10 +168,10 @@ QWidget *CImportPreviewDialog::MakeTables()
     line->addWidget(m_kindLabel);
     line->addWidget(m_kind);
     line->addStretch(1);
-    static_cast<QVBoxLayout *>(rowPart->layout())->addLayout(line);
+    rowLayout->addLayout(line);
 
     auto *const entryPart = new QWidget(tables);
-    MakeTable("entries", Text::PreviewEntries, m_entries, entryPart);
+    MakeTable("entries", Text::PreviewEntries, m_entries, *new QVBoxLayout(entryPart));
     tables->addWidget(rowPart);
     tables->addWidget(entryPart);
     return tables;

@@ -13,6 +13,7 @@ class QGridLayout;
 class QLabel;
 class QPushButton;
 class QTableView;
+class QVBoxLayout;
 
 /// Shows how a separated text would be read: its rows, the entries that they become, and what may be chosen.
 class CImportPreviewDialog : public QDialog
@@ -31,7 +32,7 @@ protected:
 private:
     QWidget *MakeOptions();
     QWidget *MakeTables();
-    QTableView *MakeTable(const char *name, int caption, CImportModel &model, QWidget *part);
+    QTableView *MakeTable(const char *name, int caption, CImportModel &model, QVBoxLayout &layout);
     QWidget *MakeButtons();
     void AddChoice(QGridLayout &rows, int row, int caption, QComboBox *choice);
     void AddTermOption(QGridLayout &rows, const char *name, int caption, bool TermOptions::*option);

@@ -5,6 +5,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -16,6 +17,14 @@ struct Chosen
     qsizetype filter = 0;
 };
 
+/// The usual suffix of files that a filter shows, without a dot: "csv" of "Text (*.csv *.tsv)". Empty where it
+/// shows all.
+QString SuffixOfFilter(const QString &filter)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\(\\*\\.([^ )*]+)[^()]*\\)$"));
+    return pattern.match(filter).captured(1);
+}
+
 Chosen Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialog::FileMode fileMode)
 {
     QFileDialog dialog(OwnerWindow(), choice.title);
@@ -25,6 +34,12 @@ Chosen Choose(const FileChoice &choice, QFileDialog::AcceptMode mode, QFileDialo
     dialog.setOption(QFileDialog::ShowDirsOnly, fileMode == QFileDialog::Directory);
     dialog.setNameFilters(choice.filters);
     dialog.setDefaultSuffix(choice.defaultSuffix);
+    if (!choice.defaultSuffix.isEmpty()) {
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString &filter) {
+            const QString suffix = SuffixOfFilter(filter);
+            dialog.setDefaultSuffix(suffix.isEmpty() ? choice.defaultSuffix : suffix);
+        });
+    }
     const QFileInfo start(choice.start);
     if (start.isDir()) {
         dialog.setDirectory(choice.start);

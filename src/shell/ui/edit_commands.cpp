@@ -19,10 +19,11 @@
 using namespace CommandId;
 
 CEditCommands::CEditCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document,
-    CArranging &arranging, const CTexts &texts, QObject *parent)
+    CArranging &arranging, const CTexts &texts, IUserPrompt &prompt, IFormatDialogs &formatDialogs,
+    QObject *parent)
     : QObject(parent), m_actions(actions), m_view(view), m_document(document), m_arranging(arranging),
-      m_clipboard(
-          view, document, m_systemClipboard, texts, [this](const QString &path) { Q_EMIT FilePasted(path); })
+      m_clipboard(view, document, m_systemClipboard, texts, prompt, formatDialogs,
+          [this](const QString &path) { Q_EMIT FilePasted(path); })
 {
     ConnectText();
     ConnectList();
@@ -53,6 +54,7 @@ CommandState CEditCommands::State() const
         .inEditBox = box != nullptr,
         .textSelected = box != nullptr && m_selected.second > 0,
         .canPaste = m_canPaste,
+        .canPasteSpecial = m_canPasteSpecial,
         .canUndo = box != nullptr ? box->isUndoAvailable() : m_document.UndoCount() > 0,
         .canRedo = box == nullptr && m_document.RedoCount() > 0};
 }
@@ -87,6 +89,7 @@ void CEditCommands::NoteSelection()
 void CEditCommands::ClipboardChanged()
 {
     m_canPaste = m_clipboard.CanPaste();
+    m_canPasteSpecial = m_clipboard.CanPasteSpecial();
     Q_EMIT StateChanged();
 }
 
@@ -136,6 +139,10 @@ void CEditCommands::ConnectList()
             m_clipboard.Copy(command - CopyLanguage1);
         });
     }
+    m_actions.SetHandler(PasteSpecial, [this] {
+        const CWaitCursor wait;
+        m_clipboard.PasteSpecial();
+    });
     m_actions.SetHandler(CommandId::PlaceInsertionPoint, [this] { ::PlaceInsertionPoint(m_view); });
     connect(&m_view, &CWin32View::DataDropped, this, [this](const QMimeData &data, int row) {
         const CWaitCursor wait;

@@ -13,6 +13,8 @@ class CArranging;
 class CCommandActions;
 class CTexts;
 class CWin32View;
+class IFormatDialogs;
+class IUserPrompt;
 class QLineEdit;
 class QWidget;
 struct CommandState;
@@ -26,7 +28,7 @@ class CEditCommands : public QObject
 public:
     /// Nothing is owned.
     CEditCommands(CCommandActions &actions, CWin32View &view, CWin32Doc &document, CArranging &arranging,
-        const CTexts &texts, QObject *parent);
+        const CTexts &texts, IUserPrompt &prompt, IFormatDialogs &formatDialogs, QObject *parent);
 
     /// What the enabled rules look at in view, document and edit box.
     CommandState State() const;
@@ -58,4 +60,5 @@ private:
     QPointer<QLineEdit> m_editBox;
     std::pair<int, int> m_selected; // Start and length in the edit box.
     bool m_canPaste = false;
+    bool m_canPasteSpecial = false;
 };

@@ -65,8 +65,8 @@ CMainFrame::CMainFrame(const FrameServices &services)
           this)),
       m_arranging(*m_view, services.document, services.settings.arrange, services.random),
       m_fileWatch(services.document, services.files, services.texts, services.prompt),
-      m_editCommands(
-          new CEditCommands(*m_actions, *m_view, services.document, m_arranging, services.texts, this)),
+      m_editCommands(new CEditCommands(*m_actions, *m_view, services.document, m_arranging, services.texts,
+          services.prompt, services.formatDialogs, this)),
       m_statusText(new CElidedLabel(this)),
       m_quizLaunch(
           new CQuizLaunch({.document = services.document,

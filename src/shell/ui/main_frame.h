@@ -28,6 +28,7 @@ class CWin32Doc;
 class CWin32View;
 class CWordList;
 class IFileChooser;
+class IFormatDialogs;
 class ISoundPlayer;
 class IUserPrompt;
 struct Command;
@@ -44,6 +45,7 @@ struct FrameServices
     CSettingsChanges &settingsChanges;
     IUserPrompt &prompt;
     IFileChooser &chooser;
+    IFormatDialogs &formatDialogs;
     ISoundPlayer &sounds;
     CRandom &random;
     /// Where the window's place is kept, below the path of sections `root`.

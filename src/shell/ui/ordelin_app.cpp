@@ -115,6 +115,7 @@ void COrdelinApp::MakeMainWindow()
         .settingsChanges = m_settingsChanges,
         .prompt = m_prompt,
         .chooser = m_chooser,
+        .formatDialogs = m_formatDialogs,
         .sounds = m_sounds,
         .random = m_random,
         .store = m_store,

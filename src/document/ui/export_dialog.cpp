@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "document/ui/export_dialog.h"
+
+#include "document/text_numbers.h"
+#include "platform/plain_text.h"
+#include "platform/ui/held_keys.h"
+#include "platform/ui/label.h"
+#include "platform/ui/scrolling_page.h"
+#include "platform/ui/setting_controls.h"
+#include "platform/ui/spoken_text.h"
+#include "platform/ui/wait_cursor.h"
+#include "resources/texts.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+
+CExportDialog::CExportDialog(CExportForm &form, QWidget *owner)
+    : QDialog(owner), m_form(form), m_spoken(new CSpokenText(this))
+{
+    const CTexts &texts = form.Texts();
+    setObjectName(QStringLiteral("export"));
+    setWindowTitle(texts.Get(Text::ExportTitle));
+    auto *const save = new QPushButton(texts.Get(Text::ExportSave), this);
+    save->setObjectName(QStringLiteral("save"));
+    save->setDefault(true);
+    auto *const cancel = new QPushButton(texts.Get(Text::Cancel), this);
+    cancel->setObjectName(QStringLiteral("cancel"));
+    cancel->setAutoDefault(false);
+    connect(save, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto *const buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(save);
+    buttons->addWidget(cancel);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(new CScrollingPage(MakePage(), this), 1);
+    layout->addLayout(buttons);
+    Refresh();
+    NoticeHeldKeys(*this); // The key that chose the file shall not write it unread.
+}
+
+QWidget *CExportDialog::MakePage()
+{
+    const CTexts &texts = m_form.Texts();
+    auto *const page = new QWidget;
+    m_losses = MakeWrappedLabel({}, page);
+    m_losses->setObjectName(QStringLiteral("losses"));
+    auto *const rows = new QFormLayout;
+    if (m_form.HasLayout()) {
+        AddLayout(*rows);
+    }
+    if (m_form.HasTerms()) {
+        AddChoice(*rows, Text::ExportTerms,
+            MakeChoice(page, "terms", m_form.TermChoices(), m_form.Terms(),
+                [this](int index) { m_form.ChooseTerms(index); }));
+    }
+    if (m_form.HasAlternatives()) {
+        AddChoice(*rows, Text::ExportAlternatives,
+            MakeChoice(page, "alternatives", texts.Get(Text::ExportAlternativeMarks), m_form.Alternatives(),
+                [this](int index) { m_form.ChooseAlternatives(index); }));
+    }
+    auto *const layout = new QVBoxLayout(page);
+    layout->setContentsMargins({});
+    layout->addLayout(rows);
+    layout->addWidget(m_losses);
+    layout->addWidget(MakeWrappedLabel(texts.Get(Text::ExportIsCopy), page));
+    layout->addStretch(1);
+    return page;
+}
+
+void CExportDialog::AddChoice(QFormLayout &rows, int caption, QComboBox *choice)
+{
+    AddLabelledRow(rows, m_form.Texts().Get(caption), choice);
+    connect(choice, &QComboBox::currentIndexChanged, this, &CExportDialog::Refresh);
+}
+
+QCheckBox *CExportDialog::AddCheck(
+    QFormLayout &rows, const char *name, int caption, bool checked, const std::function<void(bool)> &choose)
+{
+    auto *const box = new QCheckBox(m_form.Texts().Get(caption), this);
+    box->setObjectName(QLatin1StringView(name));
+    box->setAccessibleName(CaptionReadOut(box->text()));
+    box->setChecked(checked);
+    rows.addRow(box);
+    connect(box, &QCheckBox::toggled, this, [this, choose](bool isChecked) {
+        choose(isChecked);
+        Refresh();
+    });
+    return box;
+}
+
+void CExportDialog::AddLayout(QFormLayout &rows)
+{
+    AddChoice(rows, Text::ExportSeparator,
+        MakeChoice(this, "separator", m_form.Separators(), m_form.Separator(),
+            [this](int index) { m_form.ChooseSeparator(index); }));
+    AddChoice(rows, Text::ExportEncoding,
+        MakeChoice(this, "encoding", m_form.Texts().Get(Text::Encodings), m_form.Encoding(),
+            [this](int index) { m_form.ChooseEncoding(index); }));
+    AddCheck(rows, "heading", Text::ExportHeading, m_form.HasHeading(),
+        [this](bool checked) { m_form.ChooseHeading(checked); });
+    m_mark = AddCheck(rows, "mark", Text::ExportMark, m_form.WritesMark(),
+        [this](bool checked) { m_form.ChooseMark(checked); });
+}
+
+void CExportDialog::Refresh()
+{
+    const CWaitCursor wait; // All entries are looked at.
+    if (m_mark != nullptr) {
+        m_mark->setEnabled(m_form.CanHaveMark());
+    }
+    const QString losses = m_form.Losses();
+    if (isVisible() && losses != m_losses->text()) {
+        m_spoken->Say(losses);
+    }
+    m_losses->setText(losses);
+    setAccessibleDescription(losses);
+}
+
+QSize CExportDialog::sizeHint() const
+{
+    // With room for what another choice would lose.
+    return QDialog::sizeHint().expandedTo(
+        {fontMetrics().averageCharWidth() * 64, fontMetrics().lineSpacing() * 17});
+}
+
+void CExportDialog::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous()) {
+        FitToScreen(*this);
+    }
+    QDialog::showEvent(event);
+}
