@@ -16,6 +16,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShowEvent>
 
 CExportDialog::CExportDialog(CExportForm &form, QWidget *owner)
     : QDialog(owner), m_form(form), m_spoken(new CSpokenText(this))
