@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds everything and runs all tests; with "asan" or "tsan" under those sanitizers.
+# Installs what is missing, builds everything and runs all tests; with "asan" under that sanitizer, with "tsan" those
+# that start threads.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -15,5 +16,11 @@ esac
 
 scripts/setup.sh program
 cmake --preset "$preset" -DORDELIN_WERROR="${ORDELIN_WERROR:-OFF}" >/dev/null
-cmake --build --preset "$preset"
-ctest --preset "$preset" --parallel "$(nproc)"
+built=()
+run=()
+if [ "$preset" = tsan ]; then
+    built=(--target threaded_tests)
+    run=(--label-regex '^threads$')
+fi
+cmake --build --preset "$preset" "${built[@]}"
+ctest --preset "$preset" --parallel "$(nproc)" "${run[@]}"
