@@ -227,10 +227,8 @@ private Q_SLOTS:
         QCOMPARE(window->findChild<QLabel *>(u"moves"_s)->text(), u"1 drag"_s);
         QVERIFY(Spoken(window).startsWith(u"Rätt. "_s));
         game.wait(2s);
-        QTRY_VERIFY(!window->isVisible());
-        auto *result = FindWindow<CQuizResultDialog>();
-        QVERIFY(result != nullptr);
-        result->reject();
+        QTRY_VERIFY(FindWindow<CQuizResultDialog>() != nullptr); // The game's own window is gone by then.
+        FindWindow<CQuizResultDialog>()->reject();
     }
 };
 

@@ -5,6 +5,8 @@
 #include "editor/ui/suggestion_list.h"
 #include "editor/ui/win32_view.h"
 
+#include <QLineEdit>
+
 CTermSuggestions::CTermSuggestions(
     CWin32View &view, CWin32Doc &document, const DictionarySettings &settings, const CTexts &texts)
     : QObject(&view), m_suggestions(settings)

@@ -15,6 +15,7 @@
 
 #include <QAccessible>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QMimeData>
 
 namespace {

@@ -10,6 +10,7 @@
 #include <QAccessible>
 #include <QEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
