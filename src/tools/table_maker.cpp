@@ -46,7 +46,9 @@ protected:
             WriteFile(result);
         }
         m_writer.reset();
-        Q_EMIT m_maker.WorkerEnded(m_run, result, {});
+        if (m_maker.m_results.Post({m_run, std::move(result)}, true)) {
+            Q_EMIT m_maker.WorkerEnded({});
+        }
     }
 
 private:
@@ -90,15 +92,17 @@ private:
 
 CTableMaker::CTableMaker(QObject *parent) : QObject(parent), m_worker(std::make_unique<CWorker>(*this))
 {
-    connect(
-        this, &CTableMaker::WorkerEnded, this,
-        [this](int run, const TableResult &result) {
-            if (m_isWorking && run == m_run) {
-                m_isWorking = false;
-                Q_EMIT Ended(result);
-            }
-        },
-        Qt::QueuedConnection);
+    connect(this, &CTableMaker::WorkerEnded, this, &CTableMaker::TakeResults, Qt::QueuedConnection);
+}
+
+void CTableMaker::TakeResults()
+{
+    for (const RunResult &ended : m_results.TakeAll()) {
+        if (m_isWorking && ended.run == m_run) {
+            m_isWorking = false;
+            Q_EMIT Ended(ended.result);
+        }
+    }
 }
 
 CTableMaker::~CTableMaker()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fileformats/text_encoding.h"
+#include "platform/thread_queue.h"
 #include "tools/table_writer.h"
 
 #include <QObject>
@@ -51,13 +52,21 @@ public:
 
 Q_SIGNALS:
     void Ended(const TableResult &result);
-    /// Emitted on the thread, for this object alone.
-    void WorkerEnded(int run, const TableResult &result, QPrivateSignal);
+    /// Emitted on the thread, for this object alone: there is a result to take.
+    void WorkerEnded(QPrivateSignal);
 
 private:
     class CWorker;
+    struct RunResult
+    {
+        int run = 0;
+        TableResult result;
+    };
 
-    std::unique_ptr<CWorker> m_worker;
+    void TakeResults();
+
+    CThreadQueue<RunResult> m_results;
+    std::unique_ptr<CWorker> m_worker; // Goes before what it reports to.
     int m_run = 0; // Tells what a former one reports from what the last one does.
     bool m_isWorking = false;
 };
