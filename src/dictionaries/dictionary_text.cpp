@@ -97,12 +97,12 @@ bool CDictionaryText::ReadPieces(const QByteArray &extra)
         if (extra.mid(place, 2) == "RA" && field.size() == size && size >= PiecesHeader
             && NumberAt(field, 0) == 1) {
             m_pieceSize = NumberAt(field, 2);
-            const int count = NumberAt(field, 4);
+            const qsizetype count = NumberAt(field, 4);
             if (m_pieceSize == 0 || size < PiecesHeader + 2 * count) {
                 return false;
             }
             m_pieces.push_back(m_file.pos());
-            for (int i = 0; i < count; ++i) {
+            for (qsizetype i = 0; i < count; ++i) {
                 m_pieces.push_back(m_pieces.back() + NumberAt(field, PiecesHeader + 2 * i));
             }
             return true;
