@@ -75,7 +75,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(run.files.Path(u"gone"_s), run.files.Path(u"broken.gls"_s)));
         // Glossary files of every kind; of the others only what is no plain text.
         QCOMPARE(run.Run(), u"b.gls,sub/link.gls,sub/.hidden/x.gls"_s);
-        QCOMPARE(run.search->CountLine(), u"Hittade filer: 3. Filer och mappar som inte kunde läsas: 3."_s);
+        QCOMPARE(run.search->CountLine(), u"3 filer hittade. Filer och mappar som inte kunde läsas: 3."_s);
         QCOMPARE(run.Run(u"*.txt;*.gls"_s), u"b.gls,foreign.txt,plain.txt,sub/link.gls,sub/.hidden/x.gls"_s);
         run.search->values.searchSubDirectories = false;
         QCOMPARE(run.Run(u"*.*"_s), u"b.gls,empty.gls,foreign.txt,no ending,plain.gls,plain.txt"_s);
