@@ -186,7 +186,7 @@ FormatReading Read(CWordList &list, FormatSource &source, const FormatReadOption
 /// Takes all that a device without random access gives, unless it fails or that is too much.
 ReadResult ReadToEnd(QIODevice &device, QByteArray &bytes)
 {
-    std::vector<char> piece(1024 * 1024);
+    std::vector<char> piece(size_t(1024) * 1024);
     while (true) {
         const qint64 read = device.read(piece.data(), qint64(piece.size()));
         if (read < 0) {

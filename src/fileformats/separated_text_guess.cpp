@@ -118,12 +118,10 @@ std::vector<TextColumn> ColumnsByContent(const std::vector<ColumnContent> &conte
     bool hasFlag = false;
     std::vector<TextColumn> columns;
     for (const ColumnContent &of : content) {
-        if (of.texts == 0) {
-            columns.push_back(TextColumn::LeftOut);
-        } else if (onlyWords && of.flagsOnly) {
+        if (onlyWords && of.flagsOnly && of.texts > 0) {
             columns.push_back(hasFlag ? TextColumn::Flag2 : TextColumn::Flag1);
             hasFlag = true;
-        } else if ((onlyWords && !isWords(of)) || next == Next.size()) {
+        } else if (of.texts == 0 || (onlyWords && !isWords(of)) || next == Next.size()) {
             columns.push_back(TextColumn::LeftOut);
         } else {
             columns.push_back(Next[next++]);

@@ -2,6 +2,7 @@
 #include "tools/import_thread.h"
 
 #include <new>
+#include <utility>
 
 void CImportThread::Import(
     CWordList target, int position, const QStringList &files, const ImportOptions &options)
@@ -21,7 +22,7 @@ CWordList CImportThread::TakeList()
 
 void CImportThread::Post(ImportMessage message, bool isLast)
 {
-    if (m_messages.Post(message, isLast)) {
+    if (m_messages.Post(std::move(message), isLast)) {
         Q_EMIT MessagesWaiting();
     }
 }

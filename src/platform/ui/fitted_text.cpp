@@ -8,10 +8,12 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
-constexpr double Step = 0.125;
+/// How finely sizes are tried: so many to the font's own.
+constexpr int StepsPerSize = 8;
 
 /// Whether no word of the text is broken for lack of room.
 bool KeepsWords(const QString &text, const QFont &font, int width)
@@ -28,10 +30,11 @@ FittedText FitText(const QString &text, const QFont &font, double factor, QSize 
 {
     const int width = std::max(room.width(), 1);
     FittedText fitted = {ShownShort(text), font};
-    for (double scale = factor; scale >= 1; scale -= Step) {
-        fitted.font.setPointSizeF(font.pointSizeF() * scale);
+    const int steps = int(std::floor((factor - 1) * StepsPerSize));
+    for (int step = 0; step <= steps; ++step) {
+        fitted.font.setPointSizeF(font.pointSizeF() * (factor - double(step) / StepsPerSize));
         const bool fits = WrappedHeight(fitted.text, fitted.font, width) <= room.height();
-        if (fits && (scale - Step < 1 || KeepsWords(fitted.text, fitted.font, width))) {
+        if (fits && (step == steps || KeepsWords(fitted.text, fitted.font, width))) {
             return fitted;
         }
     }
