@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dictionaries/article.h"
 #include "dictionaries/dictionary.h"
+#include "fileformats/formats.h"
+#include "model/word_list.h"
 #include "require.h"
 
 #include <QFile>
@@ -28,16 +30,27 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     Require(TranslationsIn(bytes).size() <= 30);
     static const QTemporaryDir folder;
     const QString index = folder.filePath(QStringLiteral("d.index"));
-    const QString text =
-        folder.filePath(data[0] % 2 == 0 ? QStringLiteral("d.dict.dz") : QStringLiteral("d.dict"));
+    const QString plain = folder.filePath(QStringLiteral("d.dict"));
+    const QString compressed = folder.filePath(QStringLiteral("d.dict.dz"));
+    const bool isCompressed = data[0] % 2 == 0;
+    const QString &text = isCompressed ? compressed : plain;
+    QFile::remove(isCompressed ? plain : compressed);
     Write(index, bytes.first(cut));
     Write(text, bytes.sliced(cut));
     CDictionary dictionary;
-    if (dictionary.Open(index, text)) {
+    const bool isOpen = dictionary.Open(index, text);
+    if (isOpen) {
         dictionary.Translate(QStringLiteral("a*b*horse*a horse"));
         for (const DictionaryEntry &entry : dictionary.TranslateBeginning(QStringLiteral("a"), 10)) {
             Require(entry.translations.size() <= 50);
         }
+    }
+    if (data[0] % 16 < 2) { // Seldom: the names of all languages are loaded for it.
+        CWordList list;
+        constexpr int Most = 20;
+        const FormatReadOptions options = {
+            .format = &FormatOf(FormatId::Dictionary), .dictionary = {.all = true, .most = Most}};
+        Require(IsRefused(ReadListFile(list, index, options).result) != isOpen && list.Count() <= Most);
     }
     return 0;
 }

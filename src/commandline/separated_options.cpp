@@ -2,6 +2,7 @@
 #include "commandline/separated_options.h"
 
 #include "commandline/text_numbers.h"
+#include "fileformats/column_guess.h"
 #include "fileformats/formats.h"
 #include "fileformats/separated_text_guess.h"
 #include "fileformats/text_detection.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/import_preview.h"
 
+#include "fileformats/column_guess.h"
 #include "fileformats/separated_text.h"
 #include "fileformats/separated_text_guess.h"
 #include "fileformats/text_detection.h"

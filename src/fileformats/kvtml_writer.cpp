@@ -32,37 +32,47 @@ public:
         m_output.Write(markup);
         m_output.Write(u"\n");
     }
-    /// An element with text in it; none for no text.
-    void Element(QStringView indent, QStringView name, const QString &text)
+    /// An element with text in it, between what begins and what ends it; none for no text.
+    void Element(QStringView start, const QString &text, QStringView end)
     {
-        if (text.isEmpty()) {
-            return;
+        if (!text.isEmpty()) {
+            m_output.Write(start);
+            Text(text);
+            Line(end);
         }
-        m_output.Write(indent);
-        m_output.Write(u"<");
-        m_output.Write(name);
-        m_output.Write(u">");
-        Text(text);
-        m_output.Write(u"</");
-        m_output.Write(name);
-        m_output.Write(u">\n");
     }
 
 private:
-    void Text(const QString &text)
+    void Text(QStringView text)
     {
-        for (const QChar unit : text) {
-            if (unit == u'&') {
-                m_output.Write(u"&amp;");
-            } else if (unit == u'<') {
-                m_output.Write(u"&lt;");
-            } else if (unit == u'>') {
-                m_output.Write(u"&gt;");
-            } else if (unit == u'\r') {
-                m_output.Write(u"&#13;");
-            } else {
-                m_output.Write(IsXmlUnit(unit) ? unit.unicode() : u'\uFFFD');
+        while (true) {
+            const auto special = std::ranges::find_if_not(text, IsPlainUnit);
+            const qsizetype plain = special - text.begin();
+            m_output.Write(text.first(plain));
+            if (plain == text.size()) {
+                return;
             }
+            m_output.Write(Escaped(*special));
+            text = text.sliced(plain + 1);
+        }
+    }
+    static bool IsPlainUnit(QChar unit)
+    {
+        return unit != u'&' && unit != u'<' && unit != u'>' && unit != u'\r' && IsXmlUnit(unit);
+    }
+    static QStringView Escaped(QChar unit)
+    {
+        switch (unit.unicode()) {
+        case u'&':
+            return u"&amp;";
+        case u'<':
+            return u"&lt;";
+        case u'>':
+            return u"&gt;";
+        case u'\r':
+            return u"&#13;";
+        default:
+            return u"\uFFFD";
         }
     }
 
@@ -74,9 +84,9 @@ void WriteComments(const QString &comments, CXml &xml)
 {
     const qsizetype colon = comments.indexOf(QStringLiteral(": "));
     const bool hasBoth = colon > 0 && colon + 2 < comments.size();
-    xml.Element(u"    ", u"title", hasBoth ? comments.first(colon) : comments);
+    xml.Element(u"    <title>", hasBoth ? comments.first(colon) : comments, u"</title>");
     if (hasBoth) {
-        xml.Element(u"    ", u"comment", comments.sliced(colon + 2));
+        xml.Element(u"    <comment>", comments.sliced(colon + 2), u"</comment>");
     }
 }
 
@@ -102,17 +112,19 @@ bool KvtmlFormat::Write(const CWordList &list, QIODevice &device, const FormatWr
     xml.Line(u"<!DOCTYPE kvtml PUBLIC \"kvtml2.dtd\" \"http://edu.kde.org/kvtml/kvtml2.dtd\">");
     xml.Line(u"<kvtml version=\"2.0\">");
     xml.Line(u"  <information>");
-    xml.Element(u"    ", u"generator", QStringLiteral("Ordelin"));
+    xml.Line(u"    <generator>Ordelin</generator>");
     WriteComments(list.GetComments(), xml);
-    xml.Element(u"    ", u"author", list.GetAuthor());
+    xml.Element(u"    <author>", list.GetAuthor(), u"</author>");
     xml.Line(u"  </information>");
     xml.Line(u"  <identifiers>");
-    const CLanguageNames names;
     for (const int language : {0, 1}) {
         xml.Line(language == 0 ? u"    <identifier id=\"0\">" : u"    <identifier id=\"1\">");
-        xml.Element(u"      ", u"name", list.GetLanguage(language));
-        xml.Element(
-            u"      ", u"locale", CLanguageNames::ShortCodeOf(names.CodeOf(list.GetLanguage(language))));
+        const QString &name = list.GetLanguage(language);
+        if (!name.isEmpty()) {
+            xml.Element(u"      <name>", name, u"</name>");
+            const QString code = CLanguageNames::ShortCodeOf(CLanguageNames().CodeOf(name));
+            xml.Element(u"      <locale>", code, u"</locale>");
+        }
         xml.Line(u"    </identifier>");
     }
     xml.Line(u"  </identifiers>");
@@ -122,17 +134,16 @@ bool KvtmlFormat::Write(const CWordList &list, QIODevice &device, const FormatWr
         if (!entry.HasTerm()) {
             return;
         }
-        xml.Line(QStringLiteral("    <entry id=\"%1\">").arg(id++));
-        for (const int language : {0, 1}) {
-            xml.Line(language == 0 ? u"      <translation id=\"0\">" : u"      <translation id=\"1\">");
-            xml.Element(
-                u"        ", u"text", WithAlternativeMark(entry.GetText(language), options.alternatives));
-            if (language == 0) {
-                xml.Element(u"        ", u"comment", entry.GetNote());
-            }
-            xml.Line(u"      </translation>");
-        }
-        xml.Line(u"    </entry>");
+        const auto term = [&](int language) {
+            return WithAlternativeMark(entry.GetText(language), options.alternatives);
+        };
+        xml.Element(u"    <entry id=\"", QString::number(id++), u"\">");
+        xml.Line(u"      <translation id=\"0\">");
+        xml.Element(u"        <text>", term(0), u"</text>");
+        xml.Element(u"        <comment>", entry.GetNote(), u"</comment>");
+        xml.Line(u"      </translation>\n      <translation id=\"1\">");
+        xml.Element(u"        <text>", term(1), u"</text>");
+        xml.Line(u"      </translation>\n    </entry>");
     });
     xml.Line(u"  </entries>");
     xml.Line(u"</kvtml>");

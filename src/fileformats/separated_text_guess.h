@@ -36,11 +36,6 @@ SampleRows TakeSampleRows(const QString &head, bool isWhole, char16_t separator,
 /// The encoding stays open.
 SeparatedTextGuess GuessSeparatedText(const QString &head, bool isWhole, QStringView suffix = {});
 
-/// Whether the first row names the columns, and what the columns are, by their names then and else by what is
-/// in them.
-bool GuessHeading(const std::vector<QStringList> &rows);
-std::vector<TextColumn> GuessColumns(const std::vector<QStringList> &rows, bool hasHeading);
-
 /// Options with nothing missing, by the content of the device where they are; it is back at its start
 /// afterwards.
 SeparatedTextOptions CompletedOptions(QIODevice &device, const std::optional<SeparatedTextOptions> &options,
