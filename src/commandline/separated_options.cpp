@@ -73,14 +73,13 @@ SeparatedTextOptions LayoutToRead(const GivenLayout &given, QIODevice &device, c
     layout.quote = given.quote.value_or(layout.quote);
     layout.encoding = given.encoding.has_value() ? given.encoding : layout.encoding;
     layout.columns = given.columns; // Without any they are found out by the rest.
-    if (given.hasHeading) {
-        layout.hasHeading = *given.hasHeading;
-    } else if (given.separator || given.quote) {
+    if (given.hasHeading || given.separator || given.quote) {
         const QByteArray head = device.read(FormatSample::SampleSize);
         device.seek(0);
         const bool isWhole = head.size() == device.size();
-        layout.hasHeading =
-            GuessHeading(TakeSampleRows(DecodeHead(head), isWhole, layout.separator, layout.quote).rows);
+        const SampleRows sample = TakeSampleRows(DecodeHead(head), isWhole, layout.separator, layout.quote);
+        layout.hasHeading = given.hasHeading.value_or(GuessHeading(sample.rows));
+        layout.titleRows = layout.hasHeading ? GuessTitleRows(sample.rows) : 0;
     }
     return layout;
 }

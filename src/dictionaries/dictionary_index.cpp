@@ -50,7 +50,8 @@ std::optional<ArticlePlace> PlaceIn(QByteArrayView line)
     const QByteArrayView headword = HeadwordOf(line);
     const QByteArrayView rest = line.sliced(std::min(headword.size() + 1, line.size()));
     const QByteArrayView first = HeadwordOf(rest);
-    const QByteArrayView second = HeadwordOf(rest.sliced(std::min(first.size() + 1, rest.size())));
+    QByteArrayView second = HeadwordOf(rest.sliced(std::min(first.size() + 1, rest.size())));
+    second.chop(qsizetype(second.endsWith('\r')));
     const std::optional<qint64> offset = NumberOf(first);
     const std::optional<qint64> length = NumberOf(second);
     if (!offset || !length) {
@@ -99,16 +100,24 @@ bool CDictionaryIndex::LookThrough()
 {
     QByteArrayView last;
     m_isInOrder = true;
+    size_t oddLines = 0; // Such as empty ones.
     for (qint64 start = 0; start < m_bytes.size();) {
         const QByteArrayView line = LineAt(start);
-        if (line.size() > LongestLine || !PlaceIn(line)) {
+        if (line.size() > LongestLine) {
             return false;
         }
-        const QByteArrayView headword = HeadwordOf(line);
-        m_isInOrder = m_isInOrder && last.compare(headword) <= 0;
-        last = headword;
-        m_starts.push_back(start);
+        if (PlaceIn(line)) {
+            const QByteArrayView headword = HeadwordOf(line);
+            m_isInOrder = m_isInOrder && last.compare(headword) <= 0;
+            last = headword;
+            m_starts.push_back(start);
+        } else {
+            ++oddLines;
+        }
         start += line.size() + 1;
+    }
+    if (m_starts.size() <= oddLines) {
+        return false;
     }
     if (!m_isInOrder) {
         // Made in an order of its own, which may have left out some characters.

@@ -9,11 +9,12 @@
 
 namespace {
 
+/// A number, a date or a time.
 bool IsNumber(const QString &cell)
 {
-    const QStringView text = QStringView(cell).trimmed();
-    return !text.isEmpty()
-        && std::ranges::all_of(text, [](QChar unit) { return unit.isDigit() || unit == u'.'; });
+    constexpr QStringView Marks = u".,:-+/% ";
+    return std::ranges::any_of(cell, [](QChar unit) { return unit.isDigit(); })
+        && std::ranges::all_of(cell, [&](QChar unit) { return unit.isDigit() || Marks.contains(unit); });
 }
 
 bool IsFlagCell(const QString &cell)
@@ -25,6 +26,11 @@ bool IsFlagCell(const QString &cell)
         Words, [text](QStringView word) { return text.compare(word, Qt::CaseInsensitive) == 0; });
 }
 
+bool HasOneText(const QStringList &row)
+{
+    return std::ranges::count_if(row, [](const QString &cell) { return !cell.trimmed().isEmpty(); }) == 1;
+}
+
 /// What is in a column, below the heading if there is one.
 struct ColumnContent
 {
@@ -33,7 +39,7 @@ struct ColumnContent
     bool flagsOnly = true;
 };
 
-std::vector<ColumnContent> ContentOf(const std::vector<QStringList> &rows, bool hasHeading)
+std::vector<ColumnContent> ContentOf(std::span<const QStringList> rows, bool hasHeading)
 {
     std::vector<ColumnContent> content;
     for (size_t row = hasHeading ? 1 : 0; row < rows.size(); ++row) {
@@ -84,8 +90,11 @@ std::vector<TextColumn> ColumnsByName(const QStringList &heading, const std::vec
         return column < content.size() && content[column].texts > 0
             && content[column].numbers < content[column].texts;
     };
+    const auto hasFlags = [&content](size_t column) {
+        return column < content.size() && content[column].texts > 0 && content[column].flagsOnly;
+    };
     for (size_t column = 0; column < known.size(); ++column) {
-        if (!known[column] && missing > 0 && (hasText(column) || content.empty())) {
+        if (!known[column] && missing > 0 && ((hasText(column) && !hasFlags(column)) || content.empty())) {
             known[column] = TextColumn::Term1;
             --missing;
         }
@@ -96,8 +105,9 @@ std::vector<TextColumn> ColumnsByName(const QStringList &heading, const std::vec
         return !isTaken(first) ? first : !isTaken(second) ? second : TextColumn::LeftOut;
     };
     for (size_t column = 0; column < known.size(); ++column) {
-        const TextColumn kind =
-            known[column].value_or(hasText(column) ? TextColumn::Note : TextColumn::LeftOut);
+        const TextColumn kind = known[column].value_or(hasFlags(column) ? TextColumn::Flag1
+                : hasText(column)                                       ? TextColumn::Note
+                                                                        : TextColumn::LeftOut);
         columns.push_back(kind == TextColumn::Term1 ? take(TextColumn::Term1, TextColumn::Term2)
                 : kind == TextColumn::Flag1         ? take(TextColumn::Flag1, TextColumn::Flag2)
                 : kind == TextColumn::Note          ? take(TextColumn::Note, TextColumn::LeftOut)
@@ -154,13 +164,36 @@ bool GuessHeading(const std::vector<QStringList> &rows)
     if (rows.empty()) {
         return false;
     }
-    const int known = KnownNames(rows[0]);
-    const int knownBelow = rows.size() > 1 ? KnownNames(rows[1]) : 0;
+    const auto below = BelowTitles(rows);
+    const int known = KnownNames(below[0]);
+    const int knownBelow = below.size() > 1 ? KnownNames(below[1]) : 0;
     return known > 0 ? known > knownBelow : HasCapitalsInFirstRow(rows);
+}
+
+int GuessTitleRows(const std::vector<QStringList> &rows)
+{
+    constexpr std::ptrdiff_t Most = 5;
+    constexpr int FewestNames = 2;
+    const auto heading = std::ranges::find_if_not(rows, HasOneText);
+    const std::ptrdiff_t titles = heading - rows.begin();
+    if (titles == 0 || titles > Most || heading == rows.end()) {
+        return 0;
+    }
+    const int known = KnownNames(*heading);
+    const int knownBelow = heading + 1 == rows.end() ? 0 : KnownNames(heading[1]);
+    return known >= FewestNames && known > knownBelow ? int(titles) : 0;
+}
+
+std::span<const QStringList> BelowTitles(const std::vector<QStringList> &rows)
+{
+    return std::span(rows).subspan(size_t(GuessTitleRows(rows)));
 }
 
 std::vector<TextColumn> GuessColumns(const std::vector<QStringList> &rows, bool hasHeading)
 {
-    const std::vector<ColumnContent> content = ContentOf(rows, hasHeading);
-    return hasHeading && !rows.empty() ? ColumnsByName(rows[0], content) : ColumnsByContent(content);
+    if (!hasHeading || rows.empty()) {
+        return ColumnsByContent(ContentOf(rows, false));
+    }
+    const auto below = BelowTitles(rows);
+    return ColumnsByName(below[0], ContentOf(below, true));
 }

@@ -26,6 +26,8 @@ struct SeparatedTextOptions
     bool writesMark = true;
     /// Whether the first row names the columns: those of the terms name the languages.
     bool hasHeading = true;
+    /// Rows with text in front of the heading, which are left out; none in writing.
+    int titleRows = 0;
     /// What the columns are, from the first on; those beyond are left out. Empty in writing: what the list has.
     std::vector<TextColumn> columns = {};
 

@@ -76,9 +76,10 @@ void CImportPreview::GuessAll()
 bool CImportPreview::Adopt(const ImportChoices &choices)
 {
     const ImportChoices before = m_choices;
-    const auto encoding = m_choices.layout.encoding; // That of each file is its own.
     m_choices = choices;
-    m_choices.layout.encoding = encoding;
+    // These of each file are its own.
+    m_choices.layout.encoding = before.layout.encoding;
+    m_choices.layout.titleRows = before.layout.titleRows;
     Refresh();
     if (m_columnCount == int(choices.layout.columns.size())) {
         return true;
@@ -117,6 +118,7 @@ void CImportPreview::GuessColumnsAnew(std::optional<bool> hasHeading)
         rows.push_back(row.cells);
     }
     m_choices.layout.hasHeading = hasHeading.value_or(GuessHeading(rows));
+    m_choices.layout.titleRows = m_choices.layout.hasHeading ? GuessTitleRows(rows) : 0;
     m_choices.layout.columns = GuessColumns(rows, m_choices.layout.hasHeading);
     Refresh();
 }

@@ -13,6 +13,8 @@ void CKvtmlReader::ReadBody1()
         if (Is(u"e")) {
             ReadEntry1();
         } else {
+            // The groups of the entries, which a list has not.
+            m_losses.Add(LossKind::Details, int(Is(u"lesson")));
             m_xml.skipCurrentElement();
         }
     }

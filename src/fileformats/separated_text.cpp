@@ -36,9 +36,14 @@ bool CSeparatedTextReader::ReadFilledRow()
     while (m_rows.ReadRow()) {
         const bool isFirst = m_isStart;
         m_isStart = false;
-        if (!(isFirst && SaysSeparator(Cells())) && !std::ranges::all_of(Cells(), IsBlank)) {
-            return true;
+        if ((isFirst && SaysSeparator(Cells())) || std::ranges::all_of(Cells(), IsBlank)) {
+            continue;
         }
+        if (m_options.columns.size() > 1 && IsComment(Cells())) {
+            m_losses.Add(LossKind::Rows);
+            continue;
+        }
+        return true;
     }
     return false;
 }
@@ -47,6 +52,9 @@ bool CSeparatedTextReader::ReadRow()
 {
     if (m_options.hasHeading && !m_hasReadHeading) {
         m_hasReadHeading = true;
+        for (int row = 0; row < m_options.titleRows && ReadFilledRow(); ++row) {
+            m_losses.Add(LossKind::Rows);
+        }
         if (!ReadFilledRow()) {
             return false;
         }

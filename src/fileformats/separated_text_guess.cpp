@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 
 namespace {
 
@@ -18,52 +19,60 @@ bool IsBlank(const QStringList &row)
     return std::ranges::all_of(row, [](const QString &cell) { return cell.trimmed().isEmpty(); });
 }
 
-/// How well a separator fits: the columns that most rows have, and which share of the rows has them.
+/// How well a separator fits.
 struct Fit
 {
-    qsizetype columns = 0;
-    double share = 0;
+    double pairs = 0; ///< The share of the rows that have two columns or more.
+    /// A blank stands behind no separator; in sentences one does.
+    bool isTight = true;
+    double share = 0; ///< That of the rows with as many columns as most have.
+    qsizetype columns = 0; ///< As most rows have.
+
+    bool IsBetterThan(const Fit &other) const
+    {
+        return std::tie(pairs, isTight, share) > std::tie(other.pairs, other.isTight, other.share);
+    }
 };
+
+bool IsTight(const QStringList &row)
+{
+    return std::none_of(row.begin() + 1, row.end(), [](const QString &cell) { return cell.startsWith(u' '); });
+}
 
 Fit FitOf(const SampleRows &sample)
 {
-    std::map<qsizetype, int> rowsByColumns;
-    int rows = 0;
-    for (const QStringList &row : sample.rows) {
-        if (!IsBlank(row)) {
-            ++rowsByColumns[row.size()];
-            ++rows;
-        }
-    }
     Fit fit;
+    std::map<qsizetype, int> rowsByColumns;
+    const auto rows = BelowTitles(sample.rows);
+    for (const QStringList &row : rows) {
+        ++rowsByColumns[row.size()];
+        fit.isTight = fit.isTight && IsTight(row);
+    }
     for (const auto &[columns, count] : rowsByColumns) {
-        const double share = double(count) / rows;
-        if (columns > 1 && share >= fit.share) {
-            fit = {columns, share};
+        const double share = double(count) / double(rows.size());
+        if (columns > 1) {
+            fit.pairs += share;
+            if (share >= fit.share) {
+                fit.share = share;
+                fit.columns = columns;
+            }
         }
     }
     return fit;
 }
 
-/// A comma with a blank behind it stands in a sentence.
-bool HasCommaOfSentence(const SampleRows &sample)
-{
-    return std::ranges::any_of(sample.rows, [](const QStringList &row) {
-        return std::any_of(
-            row.begin() + 1, row.end(), [](const QString &cell) { return cell.startsWith(u' '); });
-    });
-}
-
 bool LooksSeparated(const SampleRows &sample, const Fit &fit, char16_t separator)
 {
     constexpr qsizetype MostColumns = 30;
-    if (fit.share < 1 || fit.columns > MostColumns || sample.rows.size() < (separator == u'\t' ? 1 : 2)
-        || (separator == u',' && HasCommaOfSentence(sample))) {
+    const auto rows = BelowTitles(sample.rows);
+    const bool everyRowFits = std::ranges::all_of(rows, [](const QStringList &row) { return row.size() > 1; });
+    if (!everyRowFits || fit.columns > MostColumns || rows.size() < (separator == u'\t' ? 1 : 2)
+        || (separator == u',' && (fit.share < 1 || !fit.isTight))) {
         return false;
     }
     const auto pairs = std::ranges::count_if(
-        sample.rows, [](const QStringList &row) { return !row[0].isEmpty() && !row.value(1).isEmpty(); });
-    return 2 * size_t(pairs) >= sample.rows.size();
+        rows, [](const QStringList &row) { return !row[0].isEmpty() && !row.value(1).isEmpty(); });
+    return 2 * size_t(pairs) >= rows.size();
 }
 
 }
@@ -72,6 +81,11 @@ bool SaysSeparator(std::span<const QStringView> cells)
 {
     return (cells.size() == 1 && cells[0].size() == 5 && cells[0].startsWith(u"sep="))
         || (cells.size() == 2 && cells[0] == u"sep=" && cells[1].isEmpty());
+}
+
+bool IsComment(std::span<const QStringView> cells)
+{
+    return cells.size() == 1 && cells[0].startsWith(u'#');
 }
 
 SampleRows TakeSampleRows(const QString &head, bool isWhole, char16_t separator, char16_t quote)
@@ -95,7 +109,7 @@ SampleRows TakeSampleRows(const QString &head, bool isWhole, char16_t separator,
         for (const QStringView field : reader.Fields()) {
             row.append(field.toString());
         }
-        if (!IsBlank(row)) {
+        if (!IsBlank(row) && !IsComment(reader.Fields())) {
             sample.rows.push_back(row);
         }
     }
@@ -128,8 +142,8 @@ SeparatedTextGuess GuessSeparatedText(const QString &head, bool isWhole, QString
         }
         SampleRows sample = TakeSampleRows(head, isWhole, separator, u'"');
         const Fit fit = FitOf(sample);
-        if (best.rows.empty() || fit.share > bestFit.share) {
-            guess.options.separator = bestFit.share > 0 || fit.share > 0 ? separator : guess.options.separator;
+        if (best.rows.empty() || fit.IsBetterThan(bestFit)) {
+            guess.options.separator = fit.pairs > 0 ? separator : guess.options.separator;
             best = std::move(sample);
             bestFit = fit;
         }
@@ -141,6 +155,7 @@ SeparatedTextGuess GuessSeparatedText(const QString &head, bool isWhole, QString
     }
     guess.looksSeparated = LooksSeparated(best, bestFit, guess.options.separator);
     guess.options.hasHeading = GuessHeading(best.rows);
+    guess.options.titleRows = guess.options.hasHeading ? GuessTitleRows(best.rows) : 0;
     guess.options.columns = GuessColumns(best.rows, guess.options.hasHeading);
     return guess;
 }

@@ -12,13 +12,15 @@ class QIODevice;
 struct SeparatedTextGuess
 {
     SeparatedTextOptions options;
-    /// Every row has the same columns, two at least, so that a file without a telling name may be taken for
-    /// one.
+    /// Every row has two columns at least, so that a file without a telling name may be taken for one.
     bool looksSeparated = false;
 };
 
 /// Whether a first row is one by which spreadsheets say the separator, and no row: "sep=;".
 bool SaysSeparator(std::span<const QStringView> cells);
+
+/// Whether a row of a text with several columns is a remark on the file, and no entry: "# Chapter 3".
+bool IsComment(std::span<const QStringView> cells);
 
 /// Rows as they are at the start of a text.
 struct SampleRows

@@ -157,6 +157,15 @@ private Q_SLOTS:
             files.text = header;
             QVERIFY2(!files.OpenIn(dictionary), header.left(20).constData());
         }
+        // Lines that say no place are left out, and lines may end as on other systems or say more.
+        CDictionaryFiles odd(Animals);
+        odd.index.replace("\n", "\r\n")
+            .replace("horsefly\t", "\r\nhorsefly\t")
+            .replace("ox\t", "x\t!\t?\nox\t");
+        odd.index.chop(2);
+        odd.index += "\tmore\n\n";
+        QVERIFY(odd.OpenIn(dictionary));
+        QCOMPARE(dictionary.Translate(u"horse-fly*österut"_s), QStringList({u"broms"_s, u"eastwards"_s}));
         // Places outside the file, and articles as long as a file of terabytes.
         CDictionaryFiles wrong(Animals);
         wrong.index = "horse\t////////\tG\nhorse\tA\t////////\nox\tA\tB\n";

@@ -83,6 +83,14 @@ void ImportPreviewTest::guesses()
         {"Deutsch,Français,Kommentar\n\"der Hund\",\"le chien\",\"m.\"\n", ',', true, "123"},
         {"a,b,c,d,e,f\ng,h,i,j,k,l\n", ',', false, "123000"},
         {"", ',', false, ""},
+        // Blanks behind semicolons, and none behind the commas that separate.
+        {"hund; vovve,dog; doggy\nkatt; misse,cat; kitty\n", ',', false, "12"},
+        {"hund\tdog, x\nkatt\tcat, y\tdjur\nko, z\tcow\n", '\t', false, "123"},
+        // Titles in front of the heading, and remarks.
+        {"Vecka 12;;\n;;\nSvenska;Engelska;Notering\nhund;dog;djur\n", ';', true, "123"},
+        {"# Djur, husdjur\nhund,dog\n# Mer\nkatt,cat\n", ',', false, "12"},
+        {"Svenska,Engelska,Kan jag,Nästa,Pris\nhund,dog,1,2024-05-02 13:30,\"3,14\"\nkatt,cat,0,,\n", ',', true,
+            "12400"},
     };
     for (const auto &row : rows) {
         const SeparatedTextOptions options =

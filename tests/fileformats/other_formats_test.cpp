@@ -52,6 +52,15 @@ void OtherFormatsTest::kvtml()
     QCOMPARE(Describe(list), QStringList({u"hund (tam); vovve|dog|djur; pet"_s, u"|a<b>"_s, u"x * y"_s}));
     QCOMPARE(Properties(list), u"Swedish|English|A & B|Djur: first lines"_s);
     QCOMPARE(Described(reading.losses), u"9:1,14:1,15:1,16:1,21:2"_s);
+    // Without identifiers it is the place that counts.
+    QVERIFY(!IsRefused(ReadListBytes(list,
+        "<kvtml version=\"2.0\"><identifiers><identifier><name>A</name></identifier><identifier "
+        "id=\"x\"><name>B</name>"
+        "</identifier></identifiers><entries><entry><translation><text>a</text></translation><translation>"
+        "<text>b</text></translation></entry><entry><translation id=\"x\"><text>d</text></translation>"
+        "<translation id=\"0\"><text>c</text></translation></entry></entries></kvtml>")
+                           .result));
+    QCOMPARE(Joined(list) + list.GetLanguage(0) + list.GetLanguage(1), u"a|b,c|dAB"_s);
     const FormatReadOptions german = {
         .terms = {.semicolonsSeparate = true, .roundBracketsAreComments = true}, .languages = {2, 0}};
     QVERIFY(!IsRefused(ReadListBytes(list, DataFile(u"version2.kvtml"_s), german).result));
@@ -62,7 +71,7 @@ void OtherFormatsTest::kvtml()
     QCOMPARE(reading.result, ReadResult::Read);
     QCOMPARE(Describe(list), QStringList({u"hund|dog|djur"_s, u"katt|cat <3"_s}));
     QCOMPARE(Properties(list), u"svenska|English|A|Djur: R"_s);
-    QCOMPARE(Described(reading.losses), u"15:1,16:1,21:1"_s);
+    QCOMPARE(Described(reading.losses), u"15:1,16:1,21:2"_s);
 }
 
 void OtherFormatsTest::kvtmlOut()

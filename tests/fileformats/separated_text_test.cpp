@@ -51,6 +51,8 @@ void SeparatedTextTest::oddCorners()
         {"2*3,x * y\na[0],[]b\nc,**\n", "2 * 3|x * y,a[0]|b,c", "9:2,10:2,11:2"},
         {"sep=|\na|b,c\nd|e\n", "a|b,c,d|e"},
         {"a\tb\n\"q\tc\n", "a|b,\"q|c"},
+        // What stands above the heading and beside the rows is no entry, and is told.
+        {"Title;\n# x\nSvenska;Engelska\na;b\n# y\n#c;d\n", "a|b,#c|d", "14:3"},
     };
     for (const auto &row : rows) {
         CWordList list;
@@ -140,7 +142,7 @@ void SeparatedTextTest::recognisedByContent()
         {"a|b\nc|d\n", "separated"},
         // Plain text, also with commas in it.
         {"hund, vovve\ndog, doggy\n", "text"}, {"a,b\nc\n", "text"}, {"a;b\n", "text"}, {"a\nb\n", "text"},
-        {"a;;\nb;;\n", "text"},
+        {"a;;\nb;;\n", "text"}, {"a\tb\nc\td\te\n", "separated"}, {"a; b\nc\nd\n", "text"},
         // A long file, cut off in the middle of a row when it is looked at.
     };
     for (const auto &row : rows) {
