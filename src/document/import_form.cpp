@@ -116,6 +116,21 @@ QString CImportForm::EntryHeading(int field) const
     return FirstGiven(name, Kinds().value(field + 1));
 }
 
+QString CImportForm::HeadingInWords() const
+{
+    return m_texts.Get(HasHeading() ? Text::FirstRowIsHeading : Text::FirstRowIsNoHeading);
+}
+
+QString CImportForm::ColumnsInWords() const
+{
+    const QStringList kinds = Kinds();
+    QStringList words;
+    for (int column = 0; column < m_preview.ColumnCount(); ++column) {
+        words.append(kinds.value(Kind(column)));
+    }
+    return m_texts.Fill(Text::ColumnsAre, {ShownShort(words.join(QStringLiteral(", ")))});
+}
+
 QString CImportForm::Summary() const
 {
     const auto &rows = m_preview.Rows();

@@ -40,6 +40,9 @@ public:
     /// Of the entries' column: 0 and 1 are the languages, 2 the note, 3 and 4 the flags.
     QString EntryHeading(int field) const;
 
+    /// Whether the first row is a heading, and what all columns are, in words.
+    QString HeadingInWords() const;
+    QString ColumnsInWords() const;
     /// How many rows there are, how many entries they become, and what could not be taken.
     QString Summary() const;
     bool CanImport() const { return m_preview.CanRead(); }

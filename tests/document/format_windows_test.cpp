@@ -2,6 +2,7 @@
 #include "document/ui/export_dialog.h"
 #include "document/ui/import_preview_dialog.h"
 #include "model/word_list.h"
+#include "platform/ui/spoken_text.h"
 #include "resources/texts.h"
 #include "support/lists.h"
 #include "support/widgets.h"
@@ -69,6 +70,8 @@ private Q_SLOTS:
         QCOMPARE(rows->model()->rowCount(), 3);
         Find<QComboBox>(&dialog, "separator")->setCurrentIndex(3);
         QCOMPARE(rows->model()->columnCount(), 1);
+        QVERIFY(
+            dialog.findChild<CSpokenText *>()->accessibleName().startsWith(u"Kolumner: Språk 1. Rader: 3."_s));
         QCOMPARE(Find<QLabel>(&dialog, "kindLabel")->text(), u"K&olumn 1 är:"_s);
         kind->setCurrentIndex(int(TextColumn::LeftOut));
         QVERIFY(!import->isEnabled());

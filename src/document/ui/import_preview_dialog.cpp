@@ -245,19 +245,35 @@ void CImportPreviewDialog::Refresh()
     }
     m_rows.Renew();
     m_entries.Renew();
-    // Both follow from other choices.
-    const QSignalBlocker blocker(m_heading);
-    m_heading->setChecked(m_form.HasHeading());
     if (!m_rowTable->currentIndex().isValid()) {
         m_rowTable->setCurrentIndex(m_rows.index(0, 0));
     }
     GoToColumn(std::clamp(m_column, 0, std::max(m_form.Preview().ColumnCount() - 1, 0)));
     m_import->setEnabled(m_form.CanImport());
-    const QString summary = m_form.Summary();
-    if (isVisible() && summary != m_summary->text()) {
-        m_spoken->Say(summary);
+    ShowGuesses();
+}
+
+void CImportPreviewDialog::ShowGuesses()
+{
+    QStringList news;
+    if (m_heading->isChecked() != m_form.HasHeading()) {
+        const QSignalBlocker blocker(m_heading);
+        m_heading->setChecked(m_form.HasHeading());
+        news.append(m_form.HeadingInWords());
     }
-    m_summary->setText(summary);
+    const QString columns = m_form.ColumnsInWords();
+    if (columns != m_columns) {
+        m_columns = columns;
+        news.append(columns);
+    }
+    const QString summary = m_form.Summary();
+    if (summary != m_summary->text()) {
+        m_summary->setText(summary);
+        news.append(summary);
+    }
+    if (isVisible() && !news.isEmpty()) {
+        m_spoken->Say(news.join(u' '));
+    }
 }
 
 QSize CImportPreviewDialog::sizeHint() const

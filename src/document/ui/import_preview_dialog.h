@@ -41,6 +41,8 @@ private:
     void ChooseKind(int column, int kind);
     /// Shows what the form says after a choice.
     void Refresh();
+    /// Shows what follows from the choice that was made, and says what of it changed.
+    void ShowGuesses();
 
     CImportForm m_form;
     CImportRowsModel m_rows;
@@ -54,5 +56,6 @@ private:
     QComboBox *m_kind = nullptr;
     QLabel *m_summary = nullptr;
     QPushButton *m_import = nullptr;
+    QString m_columns; // What they are, as it was said last.
     int m_column = 0; // Which one the choice below the rows is about.
 };

@@ -2,6 +2,7 @@
 #include "platform/plain_text.h"
 #include "platform/ui/label.h"
 #include "platform/ui/setting_controls.h"
+#include "platform/ui/spoken_text.h"
 #include "resources/texts.h"
 #include "shell/commands.h"
 #include "shell/settings_form.h"
@@ -92,9 +93,15 @@ QWidget *MakeDictionarySettingsPage(CSettingsForm &sheet)
                 : texts.Fill(Text::DictionaryCount, {QString::number(form.InstalledCount())}));
         folder->setAccessibleDescription(count->text());
     };
-    QObject::connect(folder, &QLineEdit::textChanged, page, [&form, show] {
+    QObject::connect(folder, &QLineEdit::textChanged, page, [&form, show, page, count] {
+        const QString before = count->text();
         form.FindInstalled();
         show();
+        if (count->text() != before) {
+            auto *spoken = page->window()->findChild<CSpokenText *>();
+            spoken = spoken != nullptr ? spoken : new CSpokenText(page->window());
+            spoken->Say(count->text());
+        }
     });
     const auto updateEnabled = [&form, choices, folder = folder, browse = browse] {
         for (QComboBox *const choice : choices) {
