@@ -54,7 +54,6 @@ void CAlternativesGame::showCurrentWord()
         }
     }
     m_list->updateGeometry();
-    focusInput();
 }
 
 QFont CAlternativesGame::answerFont() const

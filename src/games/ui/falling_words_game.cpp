@@ -115,7 +115,6 @@ void CFallingWordsGame::showCurrentWord()
     updatePause();
     m_field->showWord(m_form->fallingText(), m_form->isPaused());
     place();
-    focusInput();
 }
 
 void CFallingWordsGame::place()

@@ -47,7 +47,6 @@ void CHangmanGame::showCurrentWord()
     m_form->startWord();
     m_guess->clear();
     showWord();
-    focusInput();
 }
 
 void CHangmanGame::showWord()

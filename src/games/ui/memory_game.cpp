@@ -51,7 +51,6 @@ void CMemoryGame::showCurrentWord()
 {
     m_table->refresh();
     m_clock->run(m_form->waits());
-    focusInput();
 }
 
 void CMemoryGame::updateStatistics()

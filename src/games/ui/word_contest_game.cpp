@@ -95,7 +95,6 @@ void CWordContestGame::showCurrentWord()
     m_turn->ShowText(m_form->turnText());
     m_answerField->clear();
     m_fields->setCurrentWidget(isHandOver ? static_cast<QWidget *>(m_begin) : m_answerField);
-    focusInput();
     m_clock->run(m_form->isThinking());
     button(QuizPart::Answer)->setEnabled(!isHandOver);
     button(QuizPart::Skip)->setEnabled(!isHandOver);

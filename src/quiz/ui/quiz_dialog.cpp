@@ -152,6 +152,7 @@ void CQuizDialog::showEvent(QShowEvent *event)
 void CQuizDialog::showNextWord()
 {
     showCurrentWord();
+    focusInput();
     updateStatistics();
     speak(spokenQuestion());
     m_guard->QuestionAppeared(*this, [this](const QKeyEvent &key) { return isHastyAnswer(key); });

@@ -86,7 +86,7 @@ protected:
     /// `form` must live as long as the window.
     CQuizDialog(const QuizWindowServices &services, CQuizForm &form, QuizParts parts);
 
-    /// Shows what is to be answered now; the statistics follow.
+    /// Shows what is to be answered now; the focus and the statistics follow.
     virtual void showCurrentWord() = 0;
     /// Gives the focus to where answers are given.
     virtual void focusInput() = 0;

@@ -31,7 +31,6 @@ void CStandardQuiz::showCurrentWord()
     CWordByWordDialog::showCurrentWord();
     m_answerField->setText(m_form->prefilledAnswer());
     m_answerField->selectAll();
-    focusInput();
 }
 
 void CStandardQuiz::updateStatistics()
