@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dictionaries/article.h"
-#include "dictionaries/dictionary.h"
+#include "dictionaries/dictionary_words.h"
 #include "fileformats/formats.h"
 #include "model/word_list.h"
 #include "require.h"
@@ -41,8 +41,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const bool isOpen = dictionary.Open(index, text);
     if (isOpen) {
         dictionary.Translate(QStringLiteral("a*b*horse*a horse"));
-        for (const DictionaryEntry &entry : dictionary.TranslateBeginning(QStringLiteral("a"), 10)) {
-            Require(entry.translations.size() <= 50);
+        for (const HeadwordMatch match : {HeadwordMatch::Beginning, HeadwordMatch::Part}) {
+            const DictionaryWords words =
+                LookUpWords(dictionary, {.texts = {QStringLiteral("a")}, .match = match, .most = 10});
+            Require(words.entries.size() <= 10);
+            for (const DictionaryEntry &entry : words.entries) {
+                Require(entry.translations.size() <= 50);
+            }
         }
     }
     if (data[0] % 16 < 2) { // Seldom: the names of all languages are loaded for it.

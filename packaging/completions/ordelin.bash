@@ -29,8 +29,8 @@ _ordelin() {
     *) return ;;
     esac
     case "${COMP_WORDS[1]} $option" in
-    *" --from") values="glossary wordquiz kvtml dictionary anki separated text" ;;
-    *" --to") values="glossary kvtml anki separated text" ;;
+    *" --from") values="glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt" ;;
+    *" --to") values="glossary gls kvtml anki separated csv tsv text txt" ;;
     "convert --from-separator" | "convert --to-separator") values="comma semicolon tab pipe" ;;
     "convert --from-heading" | "convert --to-heading" | "convert --to-mark") values="yes no" ;;
     "convert --from-quote") values="double single none" ;;

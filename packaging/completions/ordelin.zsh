@@ -32,12 +32,12 @@ case $verb in
 info)
     _arguments \
         '--json[writes JSON]' \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
         '--help[shows a help]' '*:file:_files'
     ;;
 convert)
     _arguments \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
         '--from-separator=[what separates the columns of the file that is read]:value:(comma semicolon tab pipe)' \
         '--from-columns=[the columns\: term1,term2,note,flag1,flag2 or -]:value:' \
         '--from-heading=[whether the first row is a heading]:value:(yes no)' \
@@ -48,7 +48,7 @@ convert)
         '--split-commas[commas separate alternatives]' \
         '--split-slashes[slashes separate alternatives]' \
         '--comments-in-parentheses[(...) become comments]' \
-        '--to=[the format that is written; otherwise by the name]:value:(glossary kvtml anki separated text)' \
+        '--to=[the format that is written; otherwise by the name]:value:(glossary gls kvtml anki separated csv tsv text txt)' \
         '--to-separator=[what separates the columns of the file that is written]:value:(comma semicolon tab pipe)' \
         '--to-columns=[the columns\: term1,term2,note,flag1,flag2]:value:' \
         '--to-heading=[whether the first row becomes a heading]:value:(yes no)' \
@@ -70,8 +70,8 @@ merge)
         '--comments=[files whose comments contain the text]:value:' \
         '--language1=[files whose language 1 contains the text]:value:' \
         '--language2=[files whose language 2 contains the text]:value:' \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
-        '--to=[the format that is written; otherwise by the name]:value:(glossary kvtml anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
+        '--to=[the format that is written; otherwise by the name]:value:(glossary gls kvtml anki separated csv tsv text txt)' \
         '--unicode[always writes word list files as Unicode]' \
         '--force[replaces a file that is there already]' \
         '--help[shows a help]' '*:file:_files'
@@ -79,7 +79,7 @@ merge)
 check)
     _arguments \
         '--json[writes JSON]' \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
         '--help[shows a help]' '*:file:_files'
     ;;
 sort)
@@ -88,8 +88,8 @@ sort)
         '--descending[descending order]' \
         '--by-length[short ones before long ones]' \
         '--flagged-together[flagged entries together]' \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
-        '--to=[the format that is written; otherwise by the name]:value:(glossary kvtml anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
+        '--to=[the format that is written; otherwise by the name]:value:(glossary gls kvtml anki separated csv tsv text txt)' \
         '--unicode[always writes word list files as Unicode]' \
         '--force[replaces a file that is there already]' \
         '--help[shows a help]' '*:file:_files'
@@ -97,8 +97,8 @@ sort)
 shuffle)
     _arguments \
         '--seed=[gives the same chance every time]:value:' \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
-        '--to=[the format that is written; otherwise by the name]:value:(glossary kvtml anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
+        '--to=[the format that is written; otherwise by the name]:value:(glossary gls kvtml anki separated csv tsv text txt)' \
         '--unicode[always writes word list files as Unicode]' \
         '--force[replaces a file that is there already]' \
         '--help[shows a help]' '*:file:_files'
@@ -113,8 +113,8 @@ select)
         '--whole-words[whole words only]' \
         '--wildcards[* is any characters, ? is any one]' \
         '--number=[at most so many entries, the first ones]:value:' \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
-        '--to=[the format that is written; otherwise by the name]:value:(glossary kvtml anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
+        '--to=[the format that is written; otherwise by the name]:value:(glossary gls kvtml anki separated csv tsv text txt)' \
         '--unicode[always writes word list files as Unicode]' \
         '--force[replaces a file that is there already]' \
         '--help[shows a help]' '*:file:_files'
@@ -136,7 +136,7 @@ table)
         '--alternatives=[what stands in place of *]:value:' \
         '--paper=[the paper of a PDF file]:value:(a3 a4 a5 letter legal)' \
         '--landscape[paper across]' \
-        '--from=[the format that is read; otherwise it is recognised]:value:(glossary wordquiz kvtml dictionary anki separated text)' \
+        '--from=[the format that is read; otherwise it is recognised]:value:(glossary gls wordquiz kvtml dictionary anki separated csv tsv text txt)' \
         '--force[replaces a file that is there already]' \
         '--help[shows a help]' '*:file:_files'
     ;;
@@ -159,7 +159,7 @@ words)
         '--beginning[all that begins so]' \
         '--dictionaries=[the folder of the dictionaries]:file:_files' \
         '--output=[the file that the entries are written to]:file:_files' \
-        '--to=[the format that is written; otherwise by the name]:value:(glossary kvtml anki separated text)' \
+        '--to=[the format that is written; otherwise by the name]:value:(glossary gls kvtml anki separated csv tsv text txt)' \
         '--unicode[always writes word list files as Unicode]' \
         '--force[replaces a file that is there already]' \
         '--help[shows a help]' '*:file:_files'

@@ -76,7 +76,10 @@ VerbResult RunConvert(const CArguments &arguments, const VerbServices &services)
         return VerbResult::Failed;
     }
     const QString &outputName = arguments.Files().constLast();
-    writing.separated = LayoutToWrite(*layoutToWrite, QFileInfo(outputName).suffix().toLower());
+    const auto key = arguments.Text("to");
+    const bool isSuffix = key && SuffixesNaming(FormatOf(FormatId::SeparatedText)).contains(*key);
+    writing.separated =
+        LayoutToWrite(*layoutToWrite, isSuffix ? *key : QFileInfo(outputName).suffix().toLower());
     if (const auto languages = arguments.Text("languages")) {
         const auto parsed = ParseLanguages(*languages);
         if (!parsed) {

@@ -125,7 +125,9 @@ QString FormatKeys(bool (Format::*can)() const)
     QStringList keys;
     for (const Format &format : Formats()) {
         if ((format.*can)()) {
-            keys.append(format.key);
+            const QStringList suffixes = SuffixesNaming(format);
+            keys.append(suffixes.isEmpty() ? QString(format.key)
+                                           : QStringLiteral("%1 (%2)").arg(format.key, suffixes.join(u' ')));
         }
     }
     return keys.join(QStringLiteral(", "));
@@ -219,6 +221,9 @@ bool CListOutput::MayWrite() const
 bool CListOutput::Write(const CWordList &list, FormatWriteOptions options) const
 {
     options.file.forceUnicode = m_forceUnicode;
+    if (m_key && !options.separated && SuffixesNaming(*m_format).contains(*m_key)) {
+        options.separated = SeparatedOptionsFor(u'.' + *m_key);
+    }
     TellOfLosses(LossesOf(list, *m_format, options), Named(m_name, m_services, Text::StandardOutput),
         Text::NotWritten, m_services);
     if (m_name == StandardStream) {

@@ -3,7 +3,7 @@
 
 #include "commandline/list_files.h"
 #include "commandline/options.h"
-#include "dictionaries/dictionary.h"
+#include "dictionaries/dictionary_words.h"
 #include "dictionaries/installed_dictionaries.h"
 #include "document/text_numbers.h"
 #include "model/term_syntax.h"
@@ -41,55 +41,6 @@ bool OpenDictionary(CDictionary &dictionary, const CArguments &arguments, const 
     return true;
 }
 
-/// Looks terms up and calls `take` with each entry that is found. Returns whether any was.
-class CLookUp
-{
-public:
-    using Take = std::function<void(const CWordEntry &)>;
-
-    CLookUp(CDictionary &dictionary, bool byBeginning, const VerbServices &services, Take take)
-        : m_dictionary(dictionary), m_byBeginning(byBeginning), m_services(services), m_take(std::move(take))
-    {
-    }
-
-    void LookUp(const QString &given)
-    {
-        const QString term = NormalizeTerm(given);
-        const bool anyBefore = std::exchange(m_anyFound, false);
-        if (term.isEmpty()) {
-            m_anyFound = anyBefore;
-            return;
-        }
-        if (m_byBeginning) {
-            for (const DictionaryEntry &entry : m_dictionary.TranslateBeginning(term, MostBeginnings)) {
-                TakeEntry(entry.headword, entry.translations);
-            }
-        } else {
-            TakeEntry(term, m_dictionary.Translate(term));
-        }
-        if (!m_anyFound) {
-            Tell(m_services, Text::NoTranslation, {term});
-        }
-        m_anyFound = m_anyFound || anyBefore;
-    }
-    bool AnyFound() const { return m_anyFound; }
-
-private:
-    void TakeEntry(const QString &term, const QStringList &translations)
-    {
-        if (!translations.isEmpty()) {
-            m_anyFound = true;
-            m_take(CWordEntry(term, translations.join(AlternativeJoint)));
-        }
-    }
-
-    CDictionary &m_dictionary;
-    bool m_byBeginning;
-    const VerbServices &m_services;
-    Take m_take;
-    bool m_anyFound = false;
-};
-
 }
 
 std::span<const Option> WordsOptions()
@@ -109,23 +60,35 @@ VerbResult RunWords(const CArguments &arguments, const VerbServices &services)
     list.SetLanguage(0, arguments.Files().at(0));
     list.SetLanguage(1, arguments.Files().at(1));
     CConsole &console = services.console;
-    CLookUp lookUp(dictionary, arguments.Has("beginning"), services, [&](const CWordEntry &entry) {
-        if (file) {
-            list.Insert(entry);
-        } else {
-            console.Print(
-                ShownInLine(entry.GetText(0)) + QStringLiteral(" = ") + ShownInLine(entry.GetText(1)) + u'\n');
+    bool anyFound = false;
+    const auto lookUp = [&](const QString &term) {
+        const DictionaryWords words = LookUpWords(dictionary,
+            {.texts = {term},
+                .match = arguments.Has("beginning") ? HeadwordMatch::Beginning : HeadwordMatch::Whole,
+                .most = MostBeginnings});
+        for (const DictionaryEntry &found : words.entries) {
+            const CWordEntry entry(found.headword, found.translations.join(AlternativeJoint));
+            if (file) {
+                list.Insert(entry);
+            } else {
+                console.Print(ShownInLine(entry.GetText(0)) + QStringLiteral(" = ")
+                    + ShownInLine(entry.GetText(1)) + u'\n');
+            }
         }
-    });
+        for (const QString &missing : words.notFound) {
+            Tell(services, Text::NoTranslation, {missing});
+        }
+        anyFound = anyFound || !words.entries.empty();
+    };
     for (const QString &term : arguments.Files().sliced(2)) {
-        lookUp.LookUp(term);
+        lookUp(term);
     }
     if (arguments.Files().size() == 2) {
         while (const auto line = console.ReadLine()) {
-            lookUp.LookUp(*line);
+            lookUp(*line);
         }
     }
-    if (!lookUp.AnyFound()) {
+    if (!anyFound) {
         return VerbResult::Found;
     }
     return !file || output.Write(list) ? VerbResult::Done : VerbResult::Failed;

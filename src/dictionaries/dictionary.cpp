@@ -16,7 +16,9 @@ constexpr qsizetype LongestAlternative = 200;
 /// Articles ("a", "the", "ett", "die", "att", "to") are no longer.
 constexpr qsizetype LongestArticleWord = 4;
 
-void AddNew(const QStringList &more, QStringList &translations)
+}
+
+void DictionaryEntry::Add(const QStringList &more)
 {
     for (const QString &translation : more) {
         if (translations.size() < MostTranslations && !translations.contains(translation)) {
@@ -25,28 +27,26 @@ void AddNew(const QStringList &more, QStringList &translations)
     }
 }
 
-}
-
 bool CDictionary::Open(const QString &index, const QString &text)
 {
     return m_index.Open(index) && m_text.Open(text);
 }
 
 void CDictionary::AddTranslations(
-    const std::vector<ArticlePlace> &places, const QString &headword, QStringList &translations)
+    const std::vector<ArticlePlace> &places, const QString &headword, DictionaryEntry &entry)
 {
-    QStringList ofOthers; // Such as of a noun that is written with a capital letter.
+    DictionaryEntry others; // Such as of a noun that is written with a capital letter.
     for (const ArticlePlace &place : places) {
-        if (const std::optional<QByteArray> article = m_text.Read(place.offset, place.length)) {
-            AddNew(TranslationsIn(*article), HeadwordOf(*article) == headword ? translations : ofOthers);
+        if (const std::optional<DictionaryEntry> found = EntryAt(place)) {
+            (found->headword == headword ? entry : others).Add(found->translations);
         }
     }
-    AddNew(ofOthers, translations);
+    entry.Add(others.translations);
 }
 
 QStringList CDictionary::Translate(const QString &term)
 {
-    QStringList translations;
+    DictionaryEntry entry;
     const QStringList alternatives = SplitAlternatives(StripComments(term));
     for (const QString &alternative : alternatives.first(std::min(alternatives.size(), MostAlternatives))) {
         if (alternative.size() > LongestAlternative) {
@@ -59,34 +59,27 @@ QStringList CDictionary::Translate(const QString &term)
             headword = alternative.sliced(blank + 1);
             places = m_index.Find(headword, MostArticles);
         }
-        AddTranslations(places, headword, translations);
+        AddTranslations(places, headword, entry);
     }
-    return translations;
+    return entry.translations;
 }
 
-std::vector<DictionaryEntry> CDictionary::TranslateBeginning(const QString &start, int most)
+std::vector<ArticlePlace> CDictionary::Articles(const QString &text, HeadwordMatch match, int most) const
 {
-    return EntriesAt(m_index.FindBeginning(start, most));
-}
-
-std::vector<DictionaryEntry> CDictionary::TranslateAll(int most)
-{
-    return EntriesAt(m_index.All(most));
-}
-
-std::vector<DictionaryEntry> CDictionary::EntriesAt(const std::vector<ArticlePlace> &places)
-{
-    std::vector<DictionaryEntry> entries;
-    for (const ArticlePlace &place : places) {
-        const std::optional<QByteArray> article = m_text.Read(place.offset, place.length);
-        if (!article) {
-            continue;
-        }
-        const QString headword = HeadwordOf(*article);
-        if (entries.empty() || entries.back().headword != headword) {
-            entries.push_back({headword, {}});
-        }
-        AddNew(TranslationsIn(*article), entries.back().translations);
+    switch (match) {
+    case HeadwordMatch::Whole:
+        return m_index.Find(text, most);
+    case HeadwordMatch::Beginning:
+        return m_index.FindBeginning(text, most);
+    case HeadwordMatch::Part:
+        break;
     }
-    return entries;
+    return m_index.FindPart(text, most);
+}
+
+std::optional<DictionaryEntry> CDictionary::EntryAt(const ArticlePlace &place)
+{
+    const std::optional<QByteArray> article = m_text.Read(place.offset, place.length);
+    return article ? std::optional(DictionaryEntry{HeadwordOf(*article), TranslationsIn(*article)})
+                   : std::nullopt;
 }

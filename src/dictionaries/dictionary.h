@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dictionaries/dictionary_filter.h"
 #include "dictionaries/dictionary_index.h"
 #include "dictionaries/dictionary_text.h"
 
@@ -10,7 +11,10 @@
 struct DictionaryEntry
 {
     QString headword;
-    QStringList translations; ///< May be empty: some articles only refer to others.
+    QStringList translations = {}; ///< May be empty: some articles only refer to others.
+
+    /// Adds those that it has not yet, up to a bounded number.
+    void Add(const QStringList &more);
 };
 
 /// A dictionary on the disk in which words are looked up. Belongs to one thread at a time.
@@ -24,15 +28,17 @@ public:
     /// are none of "ett hus", those of "hus". Each once, in the order in which the articles give them; a
     /// bounded number.
     QStringList Translate(const QString &term);
-    /// The entries whose headwords begin with a text, which must not be empty, from at most `most` articles.
-    std::vector<DictionaryEntry> TranslateBeginning(const QString &start, int most);
-    /// Those of all headwords, from at most `most` articles.
-    std::vector<DictionaryEntry> TranslateAll(int most);
+    /// The articles whose headwords begin with a text or hold it, at most `most`; none for a text without
+    /// letters and digits.
+    std::vector<ArticlePlace> Articles(const QString &text, HeadwordMatch match, int most) const;
+    /// Those of all headwords.
+    std::vector<ArticlePlace> AllArticles(int most) const { return m_index.All(most); }
+    /// What an article says; nothing where it can't be read.
+    std::optional<DictionaryEntry> EntryAt(const ArticlePlace &place);
 
 private:
-    std::vector<DictionaryEntry> EntriesAt(const std::vector<ArticlePlace> &places);
     void AddTranslations(
-        const std::vector<ArticlePlace> &places, const QString &headword, QStringList &translations);
+        const std::vector<ArticlePlace> &places, const QString &headword, DictionaryEntry &entry);
 
     CDictionaryIndex m_index;
     CDictionaryText m_text;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dictionaries/dictionary_index.h"
 
+#include "model/text_search.h"
 #include "platform/regular_file.h"
 
 #include <algorithm>
@@ -60,18 +61,32 @@ std::optional<ArticlePlace> PlaceIn(QByteArrayView line)
     return ArticlePlace{QString::fromUtf8(headword), *offset, *length};
 }
 
-/// The form in which most indexes hold their headwords: small letters, digits and blanks alone.
-QByteArray Folded(const QString &headword)
+/// The form in which most indexes hold their headwords: small letters, digits and blanks alone, and those of
+/// `others`.
+QString FoldedText(const QString &headword, QStringView others = {})
 {
     QString folded;
     for (const QChar unit : headword.toLower()) {
-        if (unit.isLetterOrNumber() || unit.isMark() || unit.isSurrogate()) {
+        if (unit.isLetterOrNumber() || unit.isMark() || unit.isSurrogate() || others.contains(unit)) {
             folded.append(unit);
         } else if (unit.isSpace()) {
             folded.append(u' ');
         }
     }
-    return folded.simplified().toUtf8();
+    return folded.simplified();
+}
+
+QByteArray Folded(const QString &headword)
+{
+    return FoldedText(headword).toUtf8();
+}
+
+/// The same of a headword in an index, most of which are in that form as they stand.
+QString FoldedHeadword(QByteArrayView headword)
+{
+    const bool isFolded = std::ranges::all_of(headword,
+        [](char byte) { return (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') || byte == ' '; });
+    return isFolded ? QString::fromLatin1(headword) : FoldedText(QString::fromUtf8(headword));
 }
 
 }
@@ -185,6 +200,22 @@ std::vector<ArticlePlace> CDictionaryIndex::Find(const QString &headword, int mo
 std::vector<ArticlePlace> CDictionaryIndex::FindBeginning(const QString &start, int most) const
 {
     return Search(start, false, most);
+}
+
+std::vector<ArticlePlace> CDictionaryIndex::FindPart(const QString &text, int most) const
+{
+    std::vector<ArticlePlace> places;
+    if (Folded(text).isEmpty()) {
+        return places;
+    }
+    const CTextMatcher matcher({.text = FoldedText(text, u"*?"), .matchCase = true, .wildcard = true});
+    for (auto line = m_starts.begin(); line != m_starts.end() && int(places.size()) < most; ++line) {
+        const QByteArrayView headword = HeadwordOf(LineAt(*line));
+        if (!IsOwn(headword) && matcher.Find(FoldedHeadword(headword))) {
+            places.push_back(*PlaceIn(LineAt(*line)));
+        }
+    }
+    return places;
 }
 
 std::vector<ArticlePlace> CDictionaryIndex::All(int most) const

@@ -28,8 +28,11 @@ public:
     /// The articles of a headword in the order of the index, at most `most`. Letter case, and all characters
     /// but letters, digits and blanks, count only where the index has them.
     std::vector<ArticlePlace> Find(const QString &headword, int most) const;
-    /// Those of all headwords that begin with a text; it must not be empty.
+    /// Those of all headwords that begin with a text; none for one without letters and digits.
     std::vector<ArticlePlace> FindBeginning(const QString &start, int most) const;
+    /// Those of all headwords that hold a text, in which "*" is any run of characters and "?" any one. All
+    /// headwords are looked through, and as above all but letters, digits and blanks is ignored.
+    std::vector<ArticlePlace> FindPart(const QString &text, int most) const;
     /// Those of all headwords, at most `most`.
     std::vector<ArticlePlace> All(int most) const;
 

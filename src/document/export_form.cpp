@@ -11,10 +11,12 @@
 #include <algorithm>
 
 CExportForm::CExportForm(const CWordList &list, const Format &format, const QString &path, const CTexts &texts)
-    : m_list(list), m_format(format), m_texts(texts)
+    : m_list(list), m_format(format), m_texts(texts), m_count(list, format)
 {
     m_options.separated = SeparatedOptionsFor(path);
     m_options.separated->encoding = TextEncoding::Utf8;
+    connect(&m_count, &CLossCount::Counted, this, &CExportForm::Counted);
+    Count();
 }
 
 QString CExportForm::Separators() const
@@ -31,22 +33,26 @@ void CExportForm::ChooseSeparator(int index)
 {
     if (index >= 0 && index < UsualSeparators.size()) {
         m_options.separated->separator = UsualSeparators.at(index).unicode();
+        Count();
     }
 }
 
 void CExportForm::ChooseEncoding(int index)
 {
     m_options.separated->encoding = TextEncoding(index);
+    Count();
 }
 
 void CExportForm::ChooseHeading(bool hasHeading)
 {
     m_options.separated->hasHeading = hasHeading;
+    Count();
 }
 
 void CExportForm::ChooseMark(bool writesMark)
 {
     m_options.separated->writesMark = writesMark;
+    Count();
 }
 
 QString CExportForm::TermChoices() const
@@ -61,16 +67,21 @@ QString CExportForm::TermChoices() const
 void CExportForm::ChooseTerms(int index)
 {
     m_options.plainText = PlainTextTerms(index);
+    Count();
 }
 
 void CExportForm::ChooseAlternatives(int index)
 {
     m_options.alternatives = AlternativeMark(index);
+    Count();
 }
 
 QString CExportForm::Losses() const
 {
-    const FormatLosses losses = LossesOf(m_list, m_format, m_options);
+    if (!m_count.IsCounted()) {
+        return m_texts.Get(Text::ExportCounting);
+    }
+    const FormatLosses &losses = m_count.Losses();
     const QString format = m_texts.Get(m_format.name);
     if (losses.empty()) {
         return m_texts.Fill(Text::ExportWithoutLosses, {format});

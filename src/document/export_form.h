@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "fileformats/formats.h"
+#include "document/loss_count.h"
 
 #include <QStringList>
 
@@ -9,8 +9,10 @@ class CTexts;
 
 /// What is chosen before a copy of a list is written in a format that can't hold all of it, and what the copy
 /// would not have. Choices are indices into lists of texts. Knows no window.
-class CExportForm
+class CExportForm : public QObject
 {
+    Q_OBJECT
+
 public:
     /// `list` and `texts` must outlive this. The path tells how a separated text is laid out at first.
     CExportForm(const CWordList &list, const Format &format, const QString &path, const CTexts &texts);
@@ -41,14 +43,23 @@ public:
     int Alternatives() const { return int(m_options.alternatives); }
     void ChooseAlternatives(int index);
 
-    /// What a copy would not have, a line each behind a line that introduces them; or that it would have all.
+    /// Whether it is known what a copy would not have; before that nobody should write one.
+    bool IsCounted() const { return m_count.IsCounted(); }
+    /// What it would not have, a line each behind a line that introduces them; or that it would have all; or
+    /// that this is being counted.
     QString Losses() const;
+
+Q_SIGNALS:
+    /// It is known now, some time after a choice.
+    void Counted();
 
 private:
     const SeparatedTextOptions &Layout() const { return *m_options.separated; }
+    void Count() { m_count.Count(m_options); }
 
     const CWordList &m_list;
     const Format &m_format;
     const CTexts &m_texts;
     FormatWriteOptions m_options;
+    CLossCount m_count;
 };

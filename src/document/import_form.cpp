@@ -138,7 +138,7 @@ QString CImportForm::Summary() const
     QString summary = m_texts.Fill(m_preview.HasMore() ? Text::PreviewFirstRows : Text::PreviewCounts,
         {FormatNumber(qint64(rows.size())), FormatNumber(entries)});
     if (!CanImport()) {
-        return summary + u' ' + m_texts.Get(Text::PreviewNoTerm);
+        return summary + u' ' + m_texts.Get(rows.empty() ? Text::PreviewNoRows : Text::PreviewNoTerm);
     }
     if (!m_preview.Losses().empty()) {
         summary += u' ' + m_texts.Fill(Text::PreviewLosses, {LossesAsText(m_preview.Losses(), m_texts, u"; ")});

@@ -45,7 +45,7 @@ public:
     QString ColumnsInWords() const;
     /// How many rows there are, how many entries they become, and what could not be taken.
     QString Summary() const;
-    bool CanImport() const { return m_preview.CanRead(); }
+    bool CanImport() const { return m_preview.CanRead() && !m_preview.Rows().empty(); }
 
 private:
     QString NameOfColumn(int column) const;

@@ -7,6 +7,7 @@
 #include "editor/clipboard_data.h"
 #include "editor/clipboard_text.h"
 #include "editor/editor_view.h"
+#include "editor/inserted_entries.h"
 #include "editor/text_numbers.h"
 #include "fileformats/import_preview.h"
 #include "platform/clipboard.h"
@@ -85,12 +86,7 @@ void CListClipboard::InsertEntries(const CWordList &entries, int row)
         m_view.UpdateStatusText(m_texts.Get(Text::NothingPasted));
         return;
     }
-    const int point = m_view.InsertionPoint();
-    const int first = row <= point ? row : row - 1;
-    m_document.Change([&entries, first](CWordList &list) { list.InsertAll(entries, first); });
-    m_view.SetInsertionPoint(row <= point ? point + count : point);
-    m_view.SelectEntryRange(first, first + count - 1);
-    m_view.ShowEntry(first + count - 1);
+    ::InsertEntries(entries, row, m_document, m_view);
     m_view.UpdateStatusText(m_texts.Fill(Text::EntriesPasted, {QString::number(count)}));
 }
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "fileformats/dictionary_format.h"
 
-#include "dictionaries/dictionary.h"
 #include "dictionaries/installed_dictionaries.h"
 #include "fileformats/foreign_entries.h"
-#include "fileformats/reading.h"
 #include "model/term_syntax.h"
 #include "model/word_list.h"
 
@@ -24,19 +22,6 @@ std::optional<InstalledDictionary> DictionaryOf(const QString &path)
         }
     }
     return std::nullopt;
-}
-
-std::vector<DictionaryEntry> Chosen(CDictionary &dictionary, const DictionaryFilter &filter)
-{
-    if (!filter.terms.isEmpty()) {
-        std::vector<DictionaryEntry> entries;
-        for (const QString &term : filter.terms.first(std::min<qsizetype>(filter.terms.size(), filter.most))) {
-            entries.push_back({term, dictionary.Translate(term)});
-        }
-        return entries;
-    }
-    return filter.prefix.isEmpty() ? dictionary.TranslateAll(filter.most)
-                                   : dictionary.TranslateBeginning(filter.prefix, filter.most);
 }
 
 }
@@ -67,17 +52,25 @@ ReadResult DictionaryFormat::Read(
         .language2 = CLanguageNames::NameOf(files->to),
         .author = QString(),
         .comments = files->name});
-    CForeignEntries entries(options.terms, losses);
-    for (const DictionaryEntry &entry : Chosen(dictionary, options.dictionary)) {
-        if (!MayGoOn(list, options.keepGoing)) {
-            break;
-        }
-        if (entry.translations.isEmpty()) {
-            losses.Add(LossKind::Rows); // Unknown, or an article that only refers to others.
+    const DictionaryWords words = LookUpWords(dictionary, options.dictionary,
+        [&options](int /*entries*/) { return options.keepGoing == nullptr || *options.keepGoing; });
+    losses.Add(LossKind::Rows, words.withoutTranslations);
+    Append(words, options.dictionary.match, options.terms, list, losses);
+    return ReadResult::Read;
+}
+
+void DictionaryFormat::Append(const DictionaryWords &words, HeadwordMatch match, const TermOptions &options,
+    CWordList &list, CLossCounter &losses)
+{
+    CForeignEntries entries(options, losses);
+    for (const DictionaryEntry &entry : words.entries) {
+        const QString translations = entry.translations.join(AlternativeJoint);
+        if (match == HeadwordMatch::Whole) {
+            CWordEntry made = entries.Make({.term1 = {}, .term2 = translations});
+            made.SetTerm(entry.headword, 0); // As it is in lists.
+            list.Insert(std::move(made));
         } else {
-            const QString translations = entry.translations.join(AlternativeJoint);
             list.Insert(entries.Make({.term1 = entry.headword, .term2 = translations}));
         }
     }
-    return ReadResult::Read;
 }

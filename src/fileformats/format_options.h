@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dictionaries/dictionary_filter.h"
 #include "fileformats/text_encoding.h"
 #include "fileformats/word_list_file.h"
 
@@ -43,18 +44,6 @@ struct TermOptions
     bool roundBracketsAreComments = false; ///< "(...)" becomes "[...]".
 
     bool operator==(const TermOptions &) const = default;
-};
-
-/// Which entries of a dictionary become entries of a list. With neither prefix nor terms, none does unless all
-/// are asked for: dictionaries have hundreds of thousands.
-struct DictionaryFilter
-{
-    QStringList terms = {}; ///< These headwords, letter case ignored.
-    QString prefix = {}; ///< Or those that begin with this.
-    bool all = false;
-    int most = 10'000; ///< No more entries than this.
-
-    bool IsEmpty() const { return terms.isEmpty() && prefix.isEmpty() && !all; }
 };
 
 struct FormatReadOptions

@@ -100,6 +100,16 @@ QString SuffixOf(const QString &path)
     return QFileInfo(path).suffix().toLower();
 }
 
+/// From the end: a special format may share the suffix of a general one.
+const Format *LastWithSuffix(QStringView suffix, bool (Format::*can)() const)
+{
+    const auto found = std::find_if(Table.rbegin(), Table.rend(), [&](const Format &format) {
+        return (format.*can)()
+            && std::ranges::any_of(format.suffixes, [&](QLatin1StringView own) { return own == suffix; });
+    });
+    return found == Table.rend() ? nullptr : &*found;
+}
+
 }
 
 std::span<const Format> Formats()
@@ -112,22 +122,27 @@ const Format &FormatOf(FormatId id)
     return *std::ranges::find(Table, id, &Format::id);
 }
 
-const Format *FindFormat(QStringView key)
+const Format *FindFormat(QStringView name)
 {
     const auto *const found =
-        std::ranges::find_if(Table, [key](const Format &format) { return format.key == key; });
-    return found == Table.end() ? nullptr : &*found;
+        std::ranges::find_if(Table, [name](const Format &format) { return format.key == name; });
+    return found != Table.end() ? &*found : LastWithSuffix(name, &Format::CanRead);
 }
 
 const Format *FindFormatForWriting(const QString &path)
 {
-    const QString suffix = SuffixOf(path);
-    // From the end: a special format may share the suffix of a general one.
-    const auto found = std::find_if(Table.rbegin(), Table.rend(), [&suffix](const Format &format) {
-        return format.CanWrite()
-            && std::ranges::any_of(format.suffixes, [&suffix](QLatin1StringView own) { return own == suffix; });
-    });
-    return found == Table.rend() ? nullptr : &*found;
+    return LastWithSuffix(SuffixOf(path), &Format::CanWrite);
+}
+
+QStringList SuffixesNaming(const Format &format)
+{
+    QStringList suffixes;
+    for (const QLatin1StringView suffix : format.suffixes) {
+        if (suffix != format.key && FindFormat(QString(suffix)) == &format) {
+            suffixes.append(suffix);
+        }
+    }
+    return suffixes;
 }
 
 std::vector<const Format *> FormatsToOpen()

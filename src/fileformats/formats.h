@@ -62,10 +62,12 @@ struct Format
 /// The table. What is recognised first stands first; general formats stand behind special ones.
 std::span<const Format> Formats();
 const Format &FormatOf(FormatId id);
-/// By key; null when there is none.
-const Format *FindFormat(QStringView key);
+/// By key or by suffix; null when there is none.
+const Format *FindFormat(QStringView name);
 /// By the suffix of a name or path, for writing; null when no format has it.
 const Format *FindFormatForWriting(const QString &path);
+/// The suffixes by which FindFormat() finds a format, beside its key.
+QStringList SuffixesNaming(const Format &format);
 /// Those whose files can be opened as a list, those that a copy can be saved in, and those that a list can stay
 /// bound to.
 std::vector<const Format *> FormatsToOpen();

@@ -103,6 +103,7 @@ QList<Command> MakeTable()
         {MakeOneEntry, Keys("Ctrl+Shift+D"), {}, EntriesSelected},
         {MergeDuplicates, {}, Icon("ordelin-merge"), ListHasTwoEntries},
         {Import, Keys("Ctrl+I"), Icon("ordelin-import")},
+        {DictionaryList, {}, Icon("accessories-dictionary")},
         {FileSearch, {}, Icon("ordelin-file-search")},
         {TableGuide, Keys("Ctrl+P"), Icon("ordelin-table")},
         {Settings, {}, Icon("preferences-system")},

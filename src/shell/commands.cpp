@@ -79,8 +79,8 @@ const QList<CommandMenu> &CommandMenus()
             {CommandId::StandardToolBar, QuizToolBar, StatusBar, Separator, ShowEditFields, ShowWordNumber,
                 ShowNotes, Separator, SpecialCharacters}},
         {Text::ToolsMenu,
-            {FindDuplicates, MakeOneEntry, MergeDuplicates, Separator, Import, FileSearch, TableGuide,
-                Separator, Settings}},
+            {FindDuplicates, MakeOneEntry, MergeDuplicates, Separator, Import, DictionaryList, FileSearch,
+                TableGuide, Separator, Settings}},
         {Text::HelpMenu, {Help, Separator, About}},
     };
     return menus;

@@ -51,6 +51,7 @@ enum : int {
     FileSearch = 33004,
     TableGuide = 33005,
     Settings = 33006,
+    DictionaryList = 33007,
     NewFile = 57600,
     OpenFile = 57601,
     SaveFile = 57603,

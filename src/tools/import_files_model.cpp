@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tools/import_files_model.h"
 
+#include "document/loss_texts.h"
 #include "document/read_message.h"
+#include "document/text_numbers.h"
 #include "platform/local_formats.h"
 #include "platform/plain_text.h"
 #include "resources/texts.h"
@@ -144,8 +146,10 @@ QString CImportFilesModel::CellText(const File &file, int column) const
         return ShownShort(QFileInfo(file.path).fileName());
     case Folder:
         return ShownShort(QFileInfo(file.path).path());
-    case Status:
-        return m_states.value(int(file.status));
+    case Status: {
+        const QString state = m_states.value(int(file.status));
+        return HasLosses(file) ? m_texts.Fill(Text::ImportedNotAll, {state}) : state;
+    }
     default:
         break;
     }
@@ -153,6 +157,11 @@ QString CImportFilesModel::CellText(const File &file, int column) const
         return {};
     }
     return FormatNumber(column == ImportedEntries ? file.outcome.importedEntries : file.outcome.ignoredEntries);
+}
+
+bool CImportFilesModel::HasLosses(const File &file)
+{
+    return file.status == ImportFileStatus::Imported && !file.outcome.losses.empty();
 }
 
 QString CImportFilesModel::Reason(const File &file) const
@@ -163,8 +172,19 @@ QString CImportFilesModel::Reason(const File &file) const
     if (file.outcome.fault != FileFault::None) {
         return m_texts.Get(Text::ImportFileFault + int(file.outcome.fault));
     }
-    const int message = ReadMessage(file.outcome.read);
-    return message == 0 ? QString() : m_texts.Fill(message, {ShownShort(QFileInfo(file.path).fileName())});
+    QStringList reasons;
+    if (const int message = ReadMessage(file.outcome.read); message != 0) {
+        reasons.append(m_texts.Fill(message, {ShownShort(QFileInfo(file.path).fileName())}));
+    }
+    if (HasLosses(file)) {
+        reasons.append(m_texts.Fill(Text::PreviewLosses, {LossesAsText(file.outcome.losses, m_texts, u"; ")}));
+    }
+    return reasons.join(u'\n');
+}
+
+QString CImportFilesModel::Reason(int file) const
+{
+    return file < 0 || file >= rowCount() ? QString() : Reason(m_files[size_t(file)]);
 }
 
 QVariant CImportFilesModel::data(const QModelIndex &index, int role) const

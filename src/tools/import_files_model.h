@@ -29,6 +29,8 @@ public:
     void Remove(const std::vector<int> &rows);
     QStringList Paths() const;
     QString NameOf(int file) const;
+    /// Why a file was not imported, or what of it was not; empty when there is nothing to say.
+    QString Reason(int file) const;
 
     void FileStarted(int file);
     void FileRead(const FileReadMessage &message);
@@ -50,7 +52,7 @@ private:
 
     void RowChanged(int row);
     QString CellText(const File &file, int column) const;
-    /// Why it was not imported, or not read as it might be; empty when there is nothing to say.
+    static bool HasLosses(const File &file);
     QString Reason(const File &file) const;
 
     const CTexts &m_texts;

@@ -42,6 +42,7 @@ inline constexpr int ImportedFiles = 70020;
 inline constexpr int FolderMissing = 70040;
 inline constexpr int FilesFound = 70041;
 inline constexpr int SearchingIn = 70042;
+inline constexpr int ImportedNotAll = 70196;
 inline constexpr int TableStep = 231001;
 inline constexpr int TableContentsPage = 231002;
 inline constexpr int TableTextPage = 231003;

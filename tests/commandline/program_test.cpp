@@ -366,6 +366,14 @@ private Q_SLOTS:
             RunProgram({u"convert"_s, in, tabs, u"--to-columns=term2,term1"_s, u"--to-mark=no"_s}).status, 0);
         QVERIFY2(
             Content(tabs).startsWith("Engelska\tSvenska\r\ncat * puss\tkatt\r\n"), Content(tabs).constData());
+
+        // A suffix names a format, and what separates its columns, whatever the file is called.
+        QCOMPARE(RunProgram({u"convert"_s, tabs, tabs, u"--to=csv"_s, u"--force"_s}).status, 0);
+        QVERIFY2(Content(tabs).contains("Engelska,Svenska\r\n"), Content(tabs).constData());
+        const Outcome written =
+            RunProgram({u"convert"_s, tabs, u"-"_s, u"--from=csv"_s, u"--to=tsv"_s, u"--to-mark=no"_s});
+        QVERIFY2(written.output.startsWith(u"Engelska\tSvenska\r\n"_s), qPrintable(Words(written)));
+        QVERIFY(RunProgram({u"merge"_s, u"-"_s, in, in, u"--to=tsv"_s}).output.contains(u"katt\tcat"_s));
     }
 
     void table()

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dictionaries/article.h"
-#include "dictionaries/dictionary.h"
+#include "dictionaries/dictionary_words.h"
 #include "dictionaries/installed_dictionaries.h"
 #include "platform/language_names.h"
 #include "support/dictionary_files.h"
@@ -79,13 +79,17 @@ const QList<Article> Animals = {{"00databaseshort", "00-database-short\n An anim
     {"horse", "horse /hɔːs/ <v>\n rida [ngt], häst\n"}, {"horsefly", "horse-fly /ˈhɔːsflaɪ/\nbroms (insekt)\n"},
     {"ox", "ox\n"}, {"österut", "österut\neastwards\n"}};
 
-QStringList Headwords(const std::vector<DictionaryEntry> &entries)
+/// The entries, behind them the texts that were not found, and dots where there is more.
+QString Described(const DictionaryWords &words)
 {
-    QStringList headwords;
-    for (const DictionaryEntry &entry : entries) {
-        headwords.append(entry.headword + u'=' + entry.translations.join(u'/'));
+    QStringList parts;
+    for (const DictionaryEntry &entry : words.entries) {
+        parts.append(entry.headword + u'=' + entry.translations.join(u'/'));
     }
-    return headwords;
+    for (const QString &text : words.notFound) {
+        parts.append(u'-' + text);
+    }
+    return parts.join(u' ') + (words.hasMore ? u" ..."_s : QString());
 }
 
 }
@@ -121,11 +125,42 @@ private Q_SLOTS:
             QCOMPARE(dictionary.Translate(u"a horse-fly"_s), QStringList(u"broms"_s));
             QVERIFY(dictionary.Translate(u"hors"_s).isEmpty() && dictionary.Translate(u"ox"_s).isEmpty());
             QVERIFY(dictionary.Translate({}).isEmpty() && dictionary.Translate(u"zz"_s).isEmpty());
-            QCOMPARE(Headwords(dictionary.TranslateBeginning(u"hor"_s, 10)),
-                QStringList({u"Horse=häst/hingst/bock"_s, u"horse=rida/häst"_s, u"horse-fly=broms"_s}));
-            QCOMPARE(dictionary.TranslateBeginning(u"hor"_s, 1).size(), size_t(1));
-            QVERIFY(dictionary.TranslateBeginning(u"00"_s, 10).empty());
+            const DictionaryWords words =
+                LookUpWords(dictionary, {.texts = {u"hor"_s, u"o"_s}, .match = HeadwordMatch::Beginning});
+            QCOMPARE(Described(words), u"Horse=häst/hingst/bock horse=rida/häst horse-fly=broms -o"_s);
         }
+    }
+
+    void words()
+    {
+        using enum HeadwordMatch;
+        // One headword has two articles with another between them, and one article two headwords.
+        CDictionaryFiles files({{"00databaseshort", "00-database-short\n o\n"}, {"colour", "colour\nfärg\n"},
+            {"horse", "horse\nhäst\n"}, {"horse", "Horse\nHäst\n"}, {"horse", "horse\nrida\n"}, {"ox", "ox\n"},
+            {"rocking horse", "rocking-horse\ngunghäst\n"}});
+        files.index.replace(
+            "colour", "color\t" + files.index.split('\n').at(1).split('\t').mid(1).join('\t') + "\ncolour");
+        CDictionary dictionary;
+        QVERIFY(files.OpenIn(dictionary));
+        const std::tuple<DictionaryFilter, QString> rows[] = {
+            {{.texts = {u" HORSE  [zoo]"_s, u"cow"_s, u"HORSE [zoo]"_s, u"ox"_s, {}}},
+                u"HORSE [zoo]=häst/Häst/rida -cow -ox"_s},
+            {{.texts = {u"cow"_s, u"ox"_s, u"horse"_s}, .most = 2}, u"-cow -ox ..."_s},
+            {{.texts = {u"h"_s, u"col"_s}, .match = Beginning}, u"horse=häst/rida Horse=Häst colour=färg"_s},
+            {{.texts = {u"h"_s}, .match = Beginning, .most = 2}, u"horse=häst Horse=Häst ..."_s},
+            {{.texts = {u"00"_s, u"-"_s}, .match = Beginning}, u"-00 --"_s},
+            {{.texts = {u"OR"_s, u"g-h"_s}, .match = Part},
+                u"colour=färg horse=häst/rida Horse=Häst rocking-horse=gunghäst -g-h"_s},
+            {{.texts = {u"r*g?h"_s, u"OX"_s}, .match = Part}, u"rocking-horse=gunghäst -OX"_s},
+            {{.texts = {u"?*"_s, u"data"_s}, .match = Part}, u"-?* -data"_s},
+            {{.all = true, .most = 2}, u"colour=färg horse=häst ..."_s},
+        };
+        for (const auto &[filter, expected] : rows) {
+            QCOMPARE(Described(LookUpWords(dictionary, filter)), expected);
+        }
+        int asked = 0;
+        LookUpWords(dictionary, {.all = true}, [&asked](int) { return ++asked < 2; });
+        QCOMPARE(asked, 2); // And not again.
     }
 
     void anotherOrder()

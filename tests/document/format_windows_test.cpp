@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "document/ui/export_dialog.h"
+#include "document/ui/format_dialogs.h"
 #include "document/ui/import_preview_dialog.h"
 #include "model/word_list.h"
+#include "platform/input_guard.h"
 #include "platform/ui/spoken_text.h"
 #include "resources/texts.h"
 #include "support/lists.h"
@@ -9,6 +11,7 @@
 
 #include <QHeaderView>
 #include <QMenu>
+#include <QTimer>
 
 namespace {
 
@@ -78,6 +81,13 @@ private Q_SLOTS:
         QVERIFY(Find<QLabel>(&dialog, "summary")->text().endsWith(u"Välj vilken kolumn som har termer."_s));
         QTest::keyClick(&dialog, Qt::Key_Return);
         QVERIFY(dialog.isVisible());
+
+        CImportPreview empty;
+        empty.OpenText(u"Svenska\tEngelska\n"_s);
+        CImportPreviewDialog emptyDialog(empty, texts, nullptr);
+        QVERIFY(!Find<QPushButton>(&emptyDialog, "import")->isEnabled());
+        QCOMPARE(Find<QLabel>(&emptyDialog, "summary")->text(),
+            u"Rader: 0. Glosor: 0. Det finns inga rader att importera."_s);
     }
 
     void exporting()
@@ -101,11 +111,46 @@ private Q_SLOTS:
         Find<QPushButton>(&dialog, "save")->click();
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
 
+        // What takes a while is counted beside the window, which can't be confirmed meanwhile.
+        CWordList longList;
+        for (int i = 0; i < 60'000; ++i) {
+            longList.Insert(CWordEntry(u"a"_s, u"b"_s, {}, true));
+        }
+        CExportForm longForm(longList, FormatOf(FormatId::Kvtml), u"x.kvtml"_s, texts);
+        CExportDialog longDialog(longForm, nullptr);
+        const auto *const save = Find<QPushButton>(&longDialog, "save");
+        const auto *const longLosses = Find<QLabel>(&longDialog, "losses");
+        QVERIFY(!save->isEnabled() && longLosses->text().startsWith(u"Räknar"_s));
+        Find<QComboBox>(&longDialog, "alternatives")->setCurrentIndex(1);
+        QTRY_VERIFY_WITH_TIMEOUT(save->isEnabled(), 20000);
+        QVERIFY2(longLosses->text().endsWith(u"Flaggor: 60,000"_s), qPrintable(longLosses->text()));
+
         CExportForm plain(list, FormatOf(FormatId::PlainText), u"x.txt"_s, texts);
         CExportDialog plainDialog(plain, nullptr);
         const auto *const terms = Find<QComboBox>(&plainDialog, "terms");
         QVERIFY(terms->itemText(2).contains(u"<b>"_s));
         QVERIFY(Find<QComboBox>(&plainDialog, "separator") == nullptr);
+    }
+
+    void hastyEnter()
+    {
+        const CTexts texts;
+        std::chrono::milliseconds now{0};
+        CFormatDialogs dialogs(
+            texts, [](const QString &) {}, [&now] { return now; });
+        const CWordList list = MakeList("a|b|note");
+        CExportForm form(list, FormatOf(FormatId::PlainText), u"x.txt"_s, texts);
+        bool wasKept = false;
+        QTimer::singleShot(0, [&] {
+            auto *const dialog = FindWindow<CExportDialog>();
+            QVERIFY(QTest::qWaitForWindowExposed(dialog));
+            QTest::keyClick(dialog, Qt::Key_Return);
+            wasKept = dialog->isVisible();
+            now += CInputGuard::Pause;
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        QVERIFY(dialogs.ChooseExport(form));
+        QVERIFY(wasKept);
     }
 };
 

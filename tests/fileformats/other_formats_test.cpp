@@ -202,13 +202,13 @@ void OtherFormatsTest::dictionary()
         QCOMPARE(list.Count(), 0);
     }
     FormatReadOptions options;
-    options.dictionary.prefix = u"k"_s;
+    options.dictionary = {.texts = {u"k"_s}, .match = HeadwordMatch::Beginning};
     QCOMPARE(ReadListFile(list, path, options).result, ReadResult::Read);
     QCOMPARE(Joined(list), u"katt|cat * pussy"_s);
     QCOMPARE(Properties(list), u"svenska|English||swe-eng"_s);
-    options.dictionary = {.terms = {u"Hund"_s, u"ko"_s}};
+    options.dictionary = {.texts = {u"Hund [djur]"_s, u"ko"_s}};
     QCOMPARE(Described(ReadListFile(list, text, options).losses), u"14:1"_s);
-    QCOMPARE(Joined(list), u"Hund|dog * hound"_s);
+    QCOMPARE(Joined(list), u"Hund [djur]|dog * hound"_s);
     options.dictionary = {.all = true, .most = 1};
     QVERIFY(!IsRefused(ReadListFile(list, path, options).result));
     QCOMPARE(list.Count(), 1);

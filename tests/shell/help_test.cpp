@@ -68,7 +68,8 @@ private Q_SLOTS:
                 anchors.append(section.anchor);
             }
             // Those that the program opens.
-            for (const char *opened : {"quick", "quizzes", "tables"}) {
+            for (const char *opened :
+                {"quick", "quizzes", "tables", "import", "preview", "export", "list-dictionary"}) {
                 QVERIFY2(anchors.contains(QLatin1StringView(opened)), opened);
             }
             QCOMPARE(anchors.removeDuplicates(), 0);

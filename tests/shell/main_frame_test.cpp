@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "document/file_commands.h"
 #include "document/recent_files.h"
+#include "editor/text_numbers.h"
 #include "editor/ui/win32_view.h"
 #include "editor/ui/word_list_control.h"
+#include "fileformats/import_preview.h"
 #include "fileformats/word_list_file.h"
 #include "quiz/quiz_kinds.h"
 #include "quiz/ui/quiz_settings_dialog.h"
@@ -15,6 +17,7 @@
 #include "shell/ui/command_actions.h"
 #include "shell/ui/main_frame.h"
 #include "shell/ui/special_character_keys.h"
+#include "support/files.h"
 #include "support/scripted_format_dialogs.h"
 #include "support/silent_sounds.h"
 #include "support/test_document.h"
@@ -125,13 +128,15 @@ private Q_SLOTS:
 
     void everyCommandOnAnEmptyList()
     {
+        const QTemporaryDir withoutDictionaries;
         Frame run;
+        run.test.allSettings.dictionaries.folder = withoutDictionaries.path();
         run.frame.show();
         for (const Command &command : CommandTable()) {
             run.Command(command.id)->trigger();
         }
         QVERIFY(FindWindow<CAboutDialog>() != nullptr && FindWindow<CStandardQuiz>() == nullptr);
-        QVERIFY(run.test.prompt.numbers.isEmpty());
+        QCOMPARE(run.test.prompt.numbers, QList<int>{Text::NoDictionaryInstalled});
     }
 
     void commandsAndTheirMarks()
@@ -293,6 +298,15 @@ private Q_SLOTS:
         QCOMPARE(run.test.document.Path(), QString());
         QVERIFY(drop({QUrl::fromLocalFile(path)}, field));
         QCOMPARE(run.test.document.Path(), path);
+
+        // A separated text is looked at first.
+        const QString text = WriteFile(folder.filePath(u"a.csv"_s), "Svenska;Engelska\nhund;dog\n");
+        run.formatDialogs.onImport = [](CImportPreview &preview) {
+            preview.SetColumn(0, TextColumn::Term2);
+            return true;
+        };
+        QVERIFY(drop({QUrl::fromLocalFile(text)}, rows));
+        QCOMPARE(Joined(run.test.document.List()), u"dog|hund"_s);
     }
 
     void barsAndPlaceComeBack()

@@ -37,6 +37,7 @@ inline const QList<PromptForm> &PromptForms()
         {Text::ProposeCorrection, Information, YesNo, Yes},
         {Text::OneFileAtATime, Information},
         {Text::CannotOpen, Error},
+        {Text::NoDictionaryInstalled, Information},
         {Text::ReadAsPlainText, Warning},
         {Text::NotAllRead, Warning},
         {Text::NotAllPasted, Warning},

@@ -98,11 +98,12 @@ private Q_SLOTS:
         run.importing->AddFiles({run.files.AddList(u"some.gls"_s, {u"a|A"_s, u"c|C"_s, u"c|C|n"_s}),
             run.files.Path(u"<b>missing.gls"_s), newer,
             run.files.AddList(u"long.gls"_s, ManyEntries(u"x"_s, 4)),
-            run.files.AddList(u"german.gls"_s, {}, u"Svenska|Tyska"_s)});
+            run.files.AddList(u"german.gls"_s, {}, u"Svenska|Tyska"_s),
+            run.files.AddFile(u"cards.csv"_s, "Engelska,Svenska,Ljud\na*,a,x.mp3\ne,\"f\ng\",\n")});
         run.importing->Remove({7, 4, 4, -1});
         run.importing->AddFiles({run.files.Path(u"german.gls"_s)});
         run.Run();
-        QCOMPARE(run.List(), u"a|A,c|C,c|C|n,b|B"_s);
+        QCOMPARE(run.List(), u"a|A,c|C,c|C|n,a|a,f g|e,b|B"_s);
         QCOMPARE(run.Row(0), u"some.gls Importerad 2 1"_s);
         QCOMPARE(run.Row(1), u"<b>missing.gls Felaktig 0 0"_s);
         QVERIFY(run.ToolTip(1).contains(u"Det gick inte att öppna filen <b>missing.gls."_s));
@@ -110,13 +111,20 @@ private Q_SLOTS:
         QVERIFY(run.ToolTip(2).contains(u"nyare version"_s));
         QCOMPARE(run.Row(3), u"long.gls Ignorerad 0 0"_s);
         QVERIFY(run.ToolTip(3).contains(u"för många"_s));
-        QCOMPARE(run.Row(4), u"german.gls Ignorerad 0 0"_s);
+        QCOMPARE(run.Row(5), u"german.gls Ignorerad 0 0"_s);
         QCOMPARE(run.importing->Totals(),
             (ImportTotals{.badFiles = 1,
                 .ignoredFiles = 2,
-                .importedFiles = 2,
-                .importedEntries = 2,
+                .importedFiles = 3,
+                .importedEntries = 4,
                 .ignoredEntries = 2}));
+        QCOMPARE(run.Row(4), u"cards.csv Importerad, inte allt 2 0"_s);
+        QVERIFY2(run.ToolTip(4).endsWith(
+                     u"Kommer inte med oförändrat: Termer med asterisk, som skiljer svarsalternativ åt: 1; "
+                     "Termer som förlorade asterisker eller tomma klamrar: 1; "
+                     "Texter på flera rader, som blev en: 1; Utelämnade kolumner: 1."_s),
+            qPrintable(run.ToolTip(4)));
+        QCOMPARE(run.importing->Files().Reason(0), QString());
     }
 
     void foldersAndLoops()

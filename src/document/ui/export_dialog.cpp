@@ -8,7 +8,6 @@
 #include "platform/ui/scrolling_page.h"
 #include "platform/ui/setting_controls.h"
 #include "platform/ui/spoken_text.h"
-#include "platform/ui/wait_cursor.h"
 #include "resources/texts.h"
 
 #include <QCheckBox>
@@ -19,26 +18,27 @@
 #include <QShowEvent>
 
 CExportDialog::CExportDialog(CExportForm &form, QWidget *owner)
-    : QDialog(owner), m_form(form), m_spoken(new CSpokenText(this))
+    : QDialog(owner), m_form(form), m_spoken(new CSpokenText(this)),
+      m_save(new QPushButton(form.Texts().Get(Text::ExportSave), this))
 {
     const CTexts &texts = form.Texts();
     setObjectName(QStringLiteral("export"));
     setWindowTitle(texts.Get(Text::ExportTitle));
-    auto *const save = new QPushButton(texts.Get(Text::ExportSave), this);
-    save->setObjectName(QStringLiteral("save"));
-    save->setDefault(true);
+    m_save->setObjectName(QStringLiteral("save"));
+    m_save->setDefault(true);
     auto *const cancel = new QPushButton(texts.Get(Text::Cancel), this);
     cancel->setObjectName(QStringLiteral("cancel"));
     cancel->setAutoDefault(false);
-    connect(save, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_save, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto *const buttons = new QHBoxLayout;
     buttons->addStretch(1);
-    buttons->addWidget(save);
+    buttons->addWidget(m_save);
     buttons->addWidget(cancel);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(new CScrollingPage(MakePage(), this), 1);
     layout->addLayout(buttons);
+    connect(&form, &CExportForm::Counted, this, &CExportDialog::Refresh);
     Refresh();
     NoticeHeldKeys(*this); // The key that chose the file shall not write it unread.
 }
@@ -109,12 +109,12 @@ void CExportDialog::AddLayout(QFormLayout &rows)
 
 void CExportDialog::Refresh()
 {
-    const CWaitCursor wait; // All entries are looked at.
+    m_save->setEnabled(m_form.IsCounted()); // Nobody knows before what would be lost.
     if (m_mark != nullptr) {
         m_mark->setEnabled(m_form.CanHaveMark());
     }
     const QString losses = m_form.Losses();
-    if (isVisible() && losses != m_losses->text()) {
+    if (isVisible() && m_form.IsCounted() && losses != m_losses->text()) {
         m_spoken->Say(losses);
     }
     m_losses->setText(losses);

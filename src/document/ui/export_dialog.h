@@ -12,6 +12,7 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLabel;
+class QPushButton;
 
 /// Shows what a copy in another format would not have, with what may be chosen for it.
 class CExportDialog : public QDialog
@@ -40,4 +41,5 @@ private:
     CSpokenText *m_spoken;
     QCheckBox *m_mark = nullptr; // Of separated text alone.
     QLabel *m_losses = nullptr;
+    QPushButton *m_save;
 };

@@ -20,6 +20,7 @@
 #include "shell/ui/command_actions.h"
 #include "shell/ui/command_menus.h"
 #include "shell/ui/command_refresh.h"
+#include "shell/ui/dictionary_list_command.h"
 #include "shell/ui/edit_commands.h"
 #include "shell/ui/file_menu_commands.h"
 #include "shell/ui/file_tools_commands.h"
@@ -240,6 +241,8 @@ void CMainFrame::ConnectCommands()
             .openFile = m_services.openFile,
             .showHelp = [this] { ShowHelp(QStringLiteral("tables")); }},
         *this);
+    new CDictionaryListCommand(*m_actions, *m_view, m_services.document, m_services.settings.dictionaries,
+        texts, m_services.prompt, m_services.openHelp, *this);
     new CFindCommands(*m_actions, *m_view, m_services.document, m_services.settings.find,
         m_services.settingsChanges, m_services.texts, m_services.prompt, *this);
     m_fileToolsCommands = new CFileToolsCommands(*m_actions, m_services.files,

@@ -223,7 +223,10 @@ void CImportDialog::ShowState()
     using Stage = CImporting::Stage;
     const bool choosing = m_importing.CurrentStage() == Stage::Choosing;
     m_count->setText(m_importing.FileCount());
-    m_line->ShowText(m_importing.StatusLine());
+    const QModelIndexList selected = m_list->selectionModel()->selectedRows();
+    const QString reason =
+        selected.size() == 1 ? m_importing.Files().Reason(selected.first().row()) : QString();
+    m_line->ShowText(reason.isEmpty() ? m_importing.StatusLine() : OneLine(reason));
     m_choose->setEnabled(choosing);
     m_search->setEnabled(choosing);
     m_remove->setEnabled(choosing && m_list->selectionModel()->hasSelection());
