@@ -15,7 +15,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShowEvent>
 
 CExportDialog::CExportDialog(CExportForm &form, QWidget *owner)
     : QDialog(owner), m_form(form), m_spoken(new CSpokenText(this)),
@@ -40,6 +39,7 @@ CExportDialog::CExportDialog(CExportForm &form, QWidget *owner)
     layout->addLayout(buttons);
     connect(&form, &CExportForm::Counted, this, &CExportDialog::Refresh);
     Refresh();
+    FitToScreen(*this);
     NoticeHeldKeys(*this); // The key that chose the file shall not write it unread.
 }
 
@@ -126,12 +126,4 @@ QSize CExportDialog::sizeHint() const
     // With room for what another choice would lose.
     return QDialog::sizeHint().expandedTo(
         {fontMetrics().averageCharWidth() * 64, fontMetrics().lineSpacing() * 17});
-}
-
-void CExportDialog::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous()) {
-        FitToScreen(*this);
-    }
-    QDialog::showEvent(event);
 }

@@ -25,9 +25,6 @@ public:
 
     QSize sizeHint() const override;
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
     QWidget *MakePage();
     void AddChoice(QFormLayout &rows, int caption, QComboBox *choice);

@@ -19,7 +19,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QShowEvent>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTableView>
@@ -39,6 +39,7 @@ CImportPreviewDialog::CImportPreviewDialog(CImportPreview &preview, const CTexts
     Refresh();
     m_rowTable->setCurrentIndex(m_rows.index(0, 0));
     m_rowTable->setFocus();
+    FitToScreen(*this);
     NoticeHeldKeys(*this); // The key that chose the file shall not import it unseen.
 }
 
@@ -107,6 +108,9 @@ QWidget *CImportPreviewDialog::MakeOptions()
     sides->addWidget(layoutPart, 0, Qt::AlignTop);
     sides->addSpacing(fontMetrics().averageCharWidth() * 4);
     sides->addWidget(termPart, 1, Qt::AlignTop);
+    if (page->sizeHint().width() > screen()->availableSize().width() * 9 / 10) {
+        sides->setDirection(QBoxLayout::TopToBottom); // No room for them beside each other.
+    }
     return page;
 }
 
@@ -133,7 +137,7 @@ QTableView *CImportPreviewDialog::MakeTable(
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setDefaultSectionSize(fontMetrics().averageCharWidth() * 24);
     header->setStretchLastSection(true);
-    table->setMinimumHeight(header->sizeHint().height() + fontMetrics().height() * 4);
+    table->setMinimumHeight(header->sizeHint().height() + fontMetrics().height() * 2);
     layout.setContentsMargins({});
     layout.addWidget(label);
     layout.addWidget(table, 1);
@@ -280,12 +284,4 @@ QSize CImportPreviewDialog::sizeHint() const
 {
     return QDialog::sizeHint().expandedTo(
         {fontMetrics().averageCharWidth() * 110, fontMetrics().lineSpacing() * 38});
-}
-
-void CImportPreviewDialog::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous()) {
-        FitToScreen(*this);
-    }
-    QDialog::showEvent(event);
 }

@@ -26,9 +26,6 @@ public:
 
     QSize sizeHint() const override;
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
     QWidget *MakeOptions();
     QWidget *MakeTables();

@@ -96,8 +96,10 @@ QWidget *CDictionaryListWindow::MakeWords()
     m_words = new QPlainTextEdit(part);
     m_words->setObjectName(QStringLiteral("words"));
     m_words->setTabChangesFocus(true);
+    // Where there is little room the choices above have theirs first.
+    m_words->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_words->setMinimumSize(
-        fontMetrics().averageCharWidth() * LeastCharacters, fontMetrics().lineSpacing() * 4);
+        fontMetrics().averageCharWidth() * LeastCharacters, fontMetrics().lineSpacing() * 3);
     QLabel *const label = MakeLabel(m_form->Texts().Get(Text::DictionaryListWords), part);
     label->setBuddy(m_words);
     m_words->setAccessibleName(CaptionReadOut(label->text()));
@@ -120,9 +122,10 @@ QWidget *CDictionaryListWindow::MakeResult()
     ShowRows(*m_entries);
     m_entries->setEditTriggers(QTableView::NoEditTriggers);
     m_entries->setSelectionMode(QTableView::SingleSelection);
+    m_entries->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_entries->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_entries->setMinimumHeight(
-        m_entries->horizontalHeader()->sizeHint().height() + fontMetrics().height() * 4);
+        m_entries->horizontalHeader()->sizeHint().height() + fontMetrics().height() * 3);
     QLabel *const label = MakeLabel(texts.Get(Text::PreviewEntries), part);
     label->setBuddy(m_entries);
     m_entries->setAccessibleName(CaptionReadOut(label->text()));

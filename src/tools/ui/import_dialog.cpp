@@ -113,8 +113,8 @@ void CImportDialog::MakeList()
     header->setSectionResizeMode(CImportFilesModel::Folder, QHeaderView::Stretch);
     const int character = fontMetrics().averageCharWidth();
     constexpr int UnitsPerCharacter = 4; // Widths of columns are given in such units.
-    m_list->setColumnWidth(CImportFilesModel::Name, character * 26);
-    m_list->setColumnWidth(CImportFilesModel::Status, character * 25);
+    m_list->setColumnWidth(CImportFilesModel::Name, character * 19);
+    m_list->setColumnWidth(CImportFilesModel::Status, character * 23);
     for (const int column : {CImportFilesModel::ImportedEntries, CImportFilesModel::IgnoredEntries}) {
         m_list->setColumnWidth(
             column, std::max(character * 45 / UnitsPerCharacter, header->sectionSizeHint(column)));
