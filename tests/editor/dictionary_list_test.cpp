@@ -120,6 +120,7 @@ private Q_SLOTS:
         other.Found(otherForm, u"dogma"_s);
         otherForm.ChooseSide(1);
         QCOMPARE(Joined(otherForm.Entries()), u"trossats|dogma"_s);
+        otherForm.ChooseText({}); // So that it isn't opened yet.
         otherForm.ChooseDictionary(1);
         QCOMPARE(otherForm.Side(), 1); // Its first language is that of the list's second.
         QVERIFY(QFile::remove(other.folder.filePath(u"b-swe-eng.dict"_s)));
