@@ -95,10 +95,11 @@ imports() {
     wait "$pid" 2>/dev/null || true
 }
 
-# formats NAME MODULE: the preview of a separated text.
+# formats NAME MODULE: the preview of a separated text, and what is asked before a list is written as one.
 formats() {
-    local texts=$2 list="$work/glosor.csv" preview
+    local texts=$2 list="$work/glosor.csv" preview export
     preview=$(sed -n 's/^249000=//p' "$texts")
+    export=$(sed -n 's/^250000=//p' "$texts")
     settings "languageFile=$texts\\nplugInUse=1\\n"
     if [ "$1" = en ]; then
         printf 'Swedish;English;Example;No.\n' >"$list"
@@ -111,6 +112,17 @@ formats() {
     local pid=$! window=
     pids+=("$pid")
     shot "$1-preview" "$preview"
+    kill "$pid"
+    wait "$pid" 2>/dev/null || true
+    list=$work/vardagsord.gls
+    cp samples/vardagsord.gls "$list"
+    "$program" -- "$list" >"$work/program.log" 2>&1 &
+    pid=$!
+    pids+=("$pid")
+    find_window "vardagsord"
+    xdotool key ctrl+shift+s sleep 1 key ctrl+a type --delay 20 "$work/copy.csv"
+    xdotool key Return sleep 1
+    shot "$1-export" "$export"
     kill "$pid"
     wait "$pid" 2>/dev/null || true
 }

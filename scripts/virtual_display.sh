@@ -30,9 +30,10 @@ for _ in $(seq 100); do # Until the window manager is there.
     sleep 0.1
 done
 
-# settings [TEXT]: the settings of the next start, with TEXT (with escapes) behind those that are needed.
+# settings [TEXT]: the settings of the next start, with TEXT (with escapes) behind those that are needed. It recovers
+# nothing.
 settings() {
-    rm -rf "$XDG_CONFIG_HOME"
+    rm -rf "$XDG_CONFIG_HOME" "$XDG_STATE_HOME"
     mkdir -p "$XDG_CONFIG_HOME/Ornbury Workshops"
     printf '[misc]\nautoOpen=1\n%b' "${1:-}" >"$XDG_CONFIG_HOME/Ornbury Workshops/Ordelin.ini"
 }

@@ -49,9 +49,12 @@ QWidget *CExportDialog::MakePage()
     auto *const page = new QWidget;
     m_losses = MakeWrappedLabel({}, page);
     m_losses->setObjectName(QStringLiteral("losses"));
+    auto *const layout = new QVBoxLayout(page);
+    layout->setContentsMargins({});
     auto *const rows = new QFormLayout;
+    layout->addLayout(rows);
     if (m_form.HasLayout()) {
-        AddLayout(*rows);
+        AddLayout(*rows, *page);
     }
     if (m_form.HasTerms()) {
         AddChoice(*rows, Text::ExportTerms,
@@ -63,9 +66,6 @@ QWidget *CExportDialog::MakePage()
             MakeChoice(page, "alternatives", texts.Get(Text::ExportAlternativeMarks), m_form.Alternatives(),
                 [this](int index) { m_form.ChooseAlternatives(index); }));
     }
-    auto *const layout = new QVBoxLayout(page);
-    layout->setContentsMargins({});
-    layout->addLayout(rows);
     layout->addWidget(m_losses);
     layout->addWidget(MakeWrappedLabel(texts.Get(Text::ExportIsCopy), page));
     layout->addStretch(1);
@@ -75,13 +75,13 @@ QWidget *CExportDialog::MakePage()
 void CExportDialog::AddChoice(QFormLayout &rows, int caption, QComboBox *choice)
 {
     AddLabelledRow(rows, m_form.Texts().Get(caption), choice);
-    connect(choice, &QComboBox::currentIndexChanged, this, &CExportDialog::Refresh);
+    connect(choice, &QComboBox::currentTextChanged, this, &CExportDialog::Refresh);
 }
 
 QCheckBox *CExportDialog::AddCheck(
     QFormLayout &rows, const char *name, int caption, bool checked, const std::function<void(bool)> &choose)
 {
-    auto *const box = new QCheckBox(m_form.Texts().Get(caption), this);
+    auto *const box = new QCheckBox(m_form.Texts().Get(caption), rows.parentWidget());
     box->setObjectName(QLatin1StringView(name));
     box->setAccessibleName(CaptionReadOut(box->text()));
     box->setChecked(checked);
@@ -93,13 +93,13 @@ QCheckBox *CExportDialog::AddCheck(
     return box;
 }
 
-void CExportDialog::AddLayout(QFormLayout &rows)
+void CExportDialog::AddLayout(QFormLayout &rows, QWidget &page)
 {
     AddChoice(rows, Text::ExportSeparator,
-        MakeChoice(this, "separator", m_form.Separators(), m_form.Separator(),
+        MakeChoice(&page, "separator", m_form.Separators(), m_form.Separator(),
             [this](int index) { m_form.ChooseSeparator(index); }));
     AddChoice(rows, Text::ExportEncoding,
-        MakeChoice(this, "encoding", m_form.Texts().Get(Text::Encodings), m_form.Encoding(),
+        MakeChoice(&page, "encoding", m_form.Texts().Get(Text::Encodings), m_form.Encoding(),
             [this](int index) { m_form.ChooseEncoding(index); }));
     AddCheck(rows, "heading", Text::ExportHeading, m_form.HasHeading(),
         [this](bool checked) { m_form.ChooseHeading(checked); });
@@ -107,15 +107,22 @@ void CExportDialog::AddLayout(QFormLayout &rows)
         [this](bool checked) { m_form.ChooseMark(checked); });
 }
 
-void CExportDialog::Refresh()
+void CExportDialog::Refresh(const QString &chosen)
 {
     m_save->setEnabled(m_form.IsCounted()); // Nobody knows before what would be lost.
     if (m_mark != nullptr) {
         m_mark->setEnabled(m_form.CanHaveMark());
     }
     const QString losses = m_form.Losses();
-    if (isVisible() && m_form.IsCounted() && losses != m_losses->text()) {
-        m_spoken->Say(losses);
+    QStringList news;
+    if (!chosen.isEmpty()) {
+        news.append(chosen + u'.');
+    }
+    if (m_form.IsCounted() && losses != m_losses->text()) {
+        news.append(losses);
+    }
+    if (isVisible() && !news.isEmpty()) {
+        m_spoken->Say(news.join(u' '));
     }
     m_losses->setText(losses);
     setAccessibleDescription(losses);

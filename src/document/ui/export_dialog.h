@@ -30,9 +30,9 @@ private:
     void AddChoice(QFormLayout &rows, int caption, QComboBox *choice);
     QCheckBox *AddCheck(QFormLayout &rows, const char *name, int caption, bool checked,
         const std::function<void(bool)> &choose);
-    void AddLayout(QFormLayout &rows);
-    /// Shows what the form says after a choice.
-    void Refresh();
+    void AddLayout(QFormLayout &rows, QWidget &page);
+    /// Shows what the form says after a choice. `chosen` is the item of a list that was chosen.
+    void Refresh(const QString &chosen = {});
 
     CExportForm &m_form;
     CSpokenText *m_spoken;

@@ -50,7 +50,7 @@ void CImportPreviewDialog::AddChoice(QGridLayout &rows, int row, int caption, QC
     choice->setAccessibleName(CaptionReadOut(label->text()));
     rows.addWidget(label, row, 0);
     rows.addWidget(choice, row, 1);
-    connect(choice, &QComboBox::currentIndexChanged, this, &CImportPreviewDialog::Refresh);
+    connect(choice, &QComboBox::currentTextChanged, this, &CImportPreviewDialog::Refresh);
 }
 
 void CImportPreviewDialog::AddTermOption(
@@ -213,6 +213,7 @@ void CImportPreviewDialog::GoToColumn(int column)
     m_kind->setAccessibleName(CaptionReadOut(m_kindLabel->text()));
     const QSignalBlocker blocker(m_kind);
     m_kind->setCurrentIndex(m_form.Kind(column));
+    ReadOutItem(*m_kind);
     m_kind->setEnabled(column < m_form.Preview().ColumnCount());
 }
 
@@ -242,7 +243,7 @@ void CImportPreviewDialog::ChooseKind(int column, int kind)
     Refresh();
 }
 
-void CImportPreviewDialog::Refresh()
+void CImportPreviewDialog::Refresh(const QString &chosen)
 {
     if (m_import == nullptr) {
         return; // While the window is made.
@@ -254,12 +255,15 @@ void CImportPreviewDialog::Refresh()
     }
     GoToColumn(std::clamp(m_column, 0, std::max(m_form.Preview().ColumnCount() - 1, 0)));
     m_import->setEnabled(m_form.CanImport());
-    ShowGuesses();
+    ShowGuesses(chosen);
 }
 
-void CImportPreviewDialog::ShowGuesses()
+void CImportPreviewDialog::ShowGuesses(const QString &chosen)
 {
     QStringList news;
+    if (!chosen.isEmpty()) {
+        news.append(chosen + u'.');
+    }
     if (m_heading->isChecked() != m_form.HasHeading()) {
         const QSignalBlocker blocker(m_heading);
         m_heading->setChecked(m_form.HasHeading());

@@ -36,10 +36,10 @@ private:
     void GoToColumn(int column);
     void ShowKindMenu(int column);
     void ChooseKind(int column, int kind);
-    /// Shows what the form says after a choice.
-    void Refresh();
+    /// Shows what the form says after a choice. `chosen` is the item of a list that was chosen.
+    void Refresh(const QString &chosen = {});
     /// Shows what follows from the choice that was made, and says what of it changed.
-    void ShowGuesses();
+    void ShowGuesses(const QString &chosen);
 
     CImportForm m_form;
     CImportRowsModel m_rows;

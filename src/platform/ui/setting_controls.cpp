@@ -25,6 +25,11 @@ QCheckBox *MakeCheckBox(QWidget *page, const char *name, const QString &caption,
     return box;
 }
 
+void ReadOutItem(QComboBox &choice)
+{
+    choice.setAccessibleDescription(choice.currentText());
+}
+
 QComboBox *MakeChoice(
     QWidget *page, const char *name, const QString &items, int current, const std::function<void(int)> &choose)
 {
@@ -32,7 +37,11 @@ QComboBox *MakeChoice(
     choice->setObjectName(QLatin1StringView(name));
     choice->addItems(items.split(u'\n'));
     choice->setCurrentIndex(current);
-    QObject::connect(choice, &QComboBox::currentIndexChanged, choice, choose);
+    ReadOutItem(*choice);
+    QObject::connect(choice, &QComboBox::currentIndexChanged, choice, [choice, choose](int index) {
+        ReadOutItem(*choice);
+        choose(index);
+    });
     return choice;
 }
 

@@ -22,6 +22,9 @@ class QWidget;
 // `name` is the control's object name. Explanations are made by MakeWrappedLabel().
 
 QCheckBox *MakeCheckBox(QWidget *page, const char *name, const QString &caption, bool &value);
+/// Has screen readers say the item chosen, which they don't find in a list that is closed. To be called anew
+/// where it changes without a signal.
+void ReadOutItem(QComboBox &choice);
 /// `items` are separated by line breaks; `choose` gets the index of the one chosen.
 QComboBox *MakeChoice(
     QWidget *page, const char *name, const QString &items, int current, const std::function<void(int)> &choose);

@@ -56,3 +56,10 @@ void CSpokenText::Tell()
     QAccessibleEvent shown(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
 }
+
+void SayInWindowOf(const QWidget &widget, const QString &text)
+{
+    auto *spoken = widget.window()->findChild<CSpokenText *>();
+    spoken = spoken != nullptr ? spoken : new CSpokenText(widget.window());
+    spoken->Say(text);
+}

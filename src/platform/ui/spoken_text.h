@@ -24,3 +24,6 @@ private:
 
     bool m_waits = false;
 };
+
+/// Says a text in the window of a widget, which gets a CSpokenText if it has none.
+void SayInWindowOf(const QWidget &widget, const QString &text);

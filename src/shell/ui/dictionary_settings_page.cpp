@@ -36,6 +36,7 @@ void ShowDictionaries(
         choice.addItem(ShownShort(name));
     }
     choice.setCurrentIndex(form.Choice(direction));
+    ReadOutItem(choice);
 }
 
 }
@@ -63,6 +64,8 @@ QWidget *MakeDictionarySettingsPage(CSettingsForm &sheet)
             FillCaption(
                 texts.Get(Text::DictionaryDirection1 + direction), form.From(direction), form.To(direction)),
             choice);
+        QObject::connect(choice, &QComboBox::currentTextChanged, page,
+            [page](const QString &item) { SayInWindowOf(*page, item); });
         choices.append(choice);
     }
     const auto [folder, browse] =
@@ -98,9 +101,7 @@ QWidget *MakeDictionarySettingsPage(CSettingsForm &sheet)
         form.FindInstalled();
         show();
         if (count->text() != before) {
-            auto *spoken = page->window()->findChild<CSpokenText *>();
-            spoken = spoken != nullptr ? spoken : new CSpokenText(page->window());
-            spoken->Say(count->text());
+            SayInWindowOf(*page, count->text());
         }
     });
     const auto updateEnabled = [&form, choices, folder = folder, browse = browse] {
