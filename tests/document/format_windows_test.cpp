@@ -73,8 +73,8 @@ private Q_SLOTS:
         QCOMPARE(rows->model()->rowCount(), 3);
         Find<QComboBox>(&dialog, "separator")->setCurrentIndex(3);
         QCOMPARE(rows->model()->columnCount(), 1);
-        QVERIFY(
-            dialog.findChild<CSpokenText *>()->accessibleName().startsWith(u"Kolumner: Språk 1. Rader: 3."_s));
+        QVERIFY(dialog.findChild<CSpokenText *>()->accessibleName().startsWith(
+            u"Lodstreck. Kolumner: Språk 1. Rader: 3."_s));
         QCOMPARE(Find<QLabel>(&dialog, "kindLabel")->text(), u"K&olumn 1 är:"_s);
         kind->setCurrentIndex(int(TextColumn::LeftOut));
         QVERIFY(!import->isEnabled());

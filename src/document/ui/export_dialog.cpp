@@ -37,7 +37,7 @@ CExportDialog::CExportDialog(CExportForm &form, QWidget *owner)
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(new CScrollingPage(MakePage(), this), 1);
     layout->addLayout(buttons);
-    connect(&form, &CExportForm::Counted, this, &CExportDialog::Refresh);
+    connect(&form, &CExportForm::Counted, this, [this] { Refresh(); });
     Refresh();
     FitToScreen(*this);
     NoticeHeldKeys(*this); // The key that chose the file shall not write it unread.
