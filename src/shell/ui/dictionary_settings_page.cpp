@@ -26,14 +26,22 @@ constexpr int LeastCharacters = 20;
 void ShowDictionaries(
     QComboBox &choice, const CDictionarySettingsForm &form, int direction, const CTexts &texts)
 {
-    const QSignalBlocker blocker(choice);
-    choice.clear();
     const QString guessed = form.Guessed(direction);
-    choice.addItem(guessed.isEmpty() ? texts.Get(Text::NoDictionaryFound)
-                                     : texts.Fill(Text::DictionaryFound, {ShownShort(guessed)}));
-    choice.addItem(texts.Get(Text::NoDictionary));
+    QStringList items = {guessed.isEmpty() ? texts.Get(Text::NoDictionaryFound)
+                                           : texts.Fill(Text::DictionaryFound, {ShownShort(guessed)}),
+        texts.Get(Text::NoDictionary)};
     for (const QString &name : form.Names()) {
-        choice.addItem(ShownShort(name));
+        items.append(ShownShort(name));
+    }
+    QStringList before;
+    for (int index = 0; index < choice.count(); ++index) {
+        before.append(choice.itemText(index));
+    }
+    const QSignalBlocker blocker(choice);
+    // Screen readers are told of each item, and would drown in them with every letter of a folder's name.
+    if (items != before) {
+        choice.clear();
+        choice.addItems(items);
     }
     choice.setCurrentIndex(form.Choice(direction));
     ReadOutItem(choice);
