@@ -46,9 +46,12 @@ bool EqualFolded(const char16_t *place, QStringView text, const char16_t *foldin
         [folding](char16_t folded, char16_t unit) { return folding[unit] == folded; });
 }
 
-/// The first place of `text`, which is folded, at or after `from`, where there is room for it; -1 without one.
+/// The first place of `text`, which is folded and not empty, at or after `from`; -1 without one.
 qsizetype IndexOfFolded(QStringView field, QStringView text, const char16_t *folding, qsizetype from)
 {
+    if (field.size() - from < text.size()) {
+        return -1;
+    }
     const auto isFirst = [folding, first = text.front().unicode()](
                              char16_t unit) { return folding[unit] == first; };
     const char16_t *const end = field.utf16() + field.size() - text.size() + 1;
@@ -80,6 +83,7 @@ CTextMatcher::CTextMatcher(const TextSearch &search)
     for (QChar &unit : m_text) {
         unit = QChar(Fold(unit));
     }
+    m_isPlain = m_folding != nullptr && !m_wholeWord && m_segments.empty() && !m_text.isEmpty();
 }
 
 TextMatch CTextMatcher::FindIn(const CWordEntry &entry, int index) const
@@ -90,7 +94,12 @@ TextMatch CTextMatcher::FindIn(const CWordEntry &entry, int index) const
     const bool all = m_column < 0;
     const int last = all ? CWordEntry::NoteField : std::min(m_column, CWordEntry::NoteField);
     for (int column = all ? 0 : m_column; column <= last; ++column) {
-        if (const auto range = Find(entry.GetField(column))) {
+        const QString &field = entry.GetField(column);
+        if (m_isPlain) { // In a long list nearly all time is spent here.
+            if (const qsizetype start = IndexOfFolded(field, m_text, m_folding, 0); start >= 0) {
+                return {index, column, int(start), int(start + m_text.size()) - 1};
+            }
+        } else if (const auto range = Find(field)) {
             return {index, column, int(range->start), int(range->start + range->length) - 1};
         }
     }
@@ -113,18 +122,17 @@ std::optional<CTextMatcher::Range> CTextMatcher::Find(QStringView field) const
     if (!m_segments.empty()) {
         return FindWildcard(field);
     }
-    for (qsizetype from = 0; from + length <= field.size();) {
+    for (qsizetype from = 0;;) {
         const qsizetype position =
             m_folding == nullptr ? field.indexOf(m_text, from) : IndexOfFolded(field, m_text, m_folding, from);
         if (position < 0) {
-            break;
+            return std::nullopt;
         }
         if (!m_wholeWord || (BoundaryBefore(field, position) && BoundaryAfter(field, position + length))) {
             return Range{position, length};
         }
         from = position + 1;
     }
-    return std::nullopt;
 }
 
 qsizetype CTextMatcher::EndOfSegment(const Segment &segment, QStringView field, qsizetype position) const

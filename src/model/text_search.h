@@ -83,4 +83,5 @@ private:
     FlagFilter m_flag2;
     QString m_text;
     std::vector<Segment> m_segments;
+    bool m_isPlain = false; // Neither case, nor words, nor wildcards count.
 };
