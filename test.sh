@@ -15,6 +15,9 @@ dev | asan | tsan) ;;
 esac
 
 scripts/setup.sh program
+if [ "$preset" = asan ]; then
+    scripts/setup.sh clang
+fi
 cmake --preset "$preset" -DORDELIN_WERROR="${ORDELIN_WERROR:-OFF}" >/dev/null
 built=()
 run=()

@@ -9,5 +9,5 @@ git ls-files -z --cached --others --exclude-standard -- '*.h' '*.cpp' | xargs -0
 cmake --preset tidy >/dev/null
 # The sources that the build makes.
 cmake --build build/tidy --target ordelin_core_autogen ordelin_ui_autogen ordelin_autogen >/dev/null
-git ls-files -z --cached --others --exclude-standard -- 'src/*.cpp' 'bench/*.cpp' | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/tidy --quiet 2>build/tidy/clang-tidy.log
+scripts/static_analysis.py build/tidy
 echo "Formatting and static analysis found nothing."

@@ -1,18 +1,19 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Installs what building and running need: "program" for build and tests, "display" for pictures of windows,
-# "package" for the Debian package, "checks" for formatting, static analysis, fuzzing and what is installed. Does
-# nothing when all of it is there.
+# "package" for the Debian package, "clang" for the other compiler with its sanitizers, "checks" for formatting, static
+# analysis and what is installed. Does nothing when all of it is there.
 set -euo pipefail
 
-program=(g++ cmake ninja-build ccache python3 pkg-config qt6-base-dev libqt6svg6 qt6-wayland libicu-dev zlib1g-dev
+program=(g++ cmake ninja-build ccache mold python3 pkg-config qt6-base-dev libqt6svg6 qt6-wayland libicu-dev zlib1g-dev
     libgl-dev libx11-dev libxtst-dev libcanberra-dev fonts-dejavu-core)
 display=(xvfb openbox imagemagick xdotool)
 package=(debhelper dpkg-dev)
-checks=(clang clang-format clang-tidy libclang-rt-dev git
+clang=(clang libclang-rt-dev)
+checks=(clang-format clang-tidy git
     desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base lintian mmdebstrap)
 
-declare -n packages=${1:?"usage: setup.sh program|display|package|checks"}
+declare -n packages=${1:?"usage: setup.sh program|display|package|clang|checks"}
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     cat >&2 <<EOF
