@@ -37,7 +37,7 @@ struct ViewServices
 
 /// The view of the document: author and comments, the word list below them, and the entry fields. Owns its
 /// widgets; hands every edit to CEntryEditing and shows what came of it. Commands work on it as an IEditorView.
-class CWin32View : public QWidget, public IEditorView, private IEntryView, private IPendingView
+class CWin32View final : public QWidget, public IEditorView, private IEntryView, private IPendingView
 {
     Q_OBJECT
 
