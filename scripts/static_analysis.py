@@ -88,7 +88,7 @@ def clang_tidy(unit, flags):
     command = ["clang-tidy", "--quiet", OWN_FILES, unit, "--", *flags]
     result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     if result.returncode != 0 and not result.stdout:
-        return result.stderr
+        return f"{unit}: clang-tidy ended with {result.returncode}\n{result.stderr}"
     return result.stdout
 
 
