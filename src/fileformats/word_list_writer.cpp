@@ -14,15 +14,26 @@ namespace {
 struct Needs
 {
     const GlossaryVersion &version; ///< The smallest one that holds the list.
-    qsizetype units; ///< The most code units that the records can take.
+    qsizetype units; ///< The most code units that the file can take.
 };
+
+/// As Needs::units, of the lines in front of the records.
+qsizetype HeaderUnits(const CWordList &list)
+{
+    constexpr qsizetype FormatCountsAndLineEnds = 100;
+    qsizetype units = FormatCountsAndLineEnds + list.GetAuthor().size() + list.GetComments().size();
+    for (const int language : {0, 1}) {
+        units += list.GetLanguage(language).size() + list.GetQuestionTemplate(language).size();
+    }
+    return units;
+}
 
 Needs NeedsOf(const CWordList &list)
 {
     constexpr qsizetype LineEndsAndFlags = 11;
     bool fitsOld = list.GetQuestionTemplate(0).isEmpty() && list.GetQuestionTemplate(1).isEmpty();
     bool anyFlag = false;
-    qsizetype units = 0;
+    qsizetype units = HeaderUnits(list);
     list.ForEach([&](int, const CWordEntry &entry) {
         fitsOld = fitsOld && entry.FitsOldFormat();
         anyFlag = anyFlag || entry.GetFlag(0) || entry.GetFlag(1);
